@@ -1,0 +1,67 @@
+# SPDX-License-Identifier: MIT
+# addFolder declares one folder of src/ as a static library, together with its tests.
+#
+#   addFolder(
+#       SOURCES      Renderer.cpp Renderer.h     files of this folder
+#       USES         platform                    folders seen in our headers (PUBLIC)
+#       USES_INSIDE  hal                         folders that only our sources include (PRIVATE)
+#       LIBRARIES    PkgConfig::PIPEWIRE         outside libraries, for our sources only
+#       OPTIONS      -ffp-contract=off           compile options of this folder alone
+#       TESTS        RendererTest.cpp            files of the same folder below tests/
+#       TESTS_USE    platform/simulated          further folders that only the tests include
+#   )
+#
+# A folder is named by its path below src/ ("platform/pipewire"); its target has underscores ("platform_pipewire").
+# Its headers are reached by that path, through an include root of its own in the build tree that holds links to them
+# and to nothing else: including a folder that is not named here does not compile.
+function(folderTarget path result)
+    string(REPLACE "/" "_" target ${path})
+    set(${result} ${target} PARENT_SCOPE)
+endfunction()
+
+function(addFolder)
+    cmake_parse_arguments(PARSE_ARGV 0 folder "" "" "SOURCES;USES;USES_INSIDE;LIBRARIES;OPTIONS;TESTS;TESTS_USE")
+    if(folder_UNPARSED_ARGUMENTS)
+        message(FATAL_ERROR "addFolder does not know ${folder_UNPARSED_ARGUMENTS}")
+    endif()
+    file(RELATIVE_PATH path ${CMAKE_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
+    folderTarget(${path} target)
+
+    set(includeRoot ${CMAKE_BINARY_DIR}/include/${target})
+    file(REMOVE_RECURSE ${includeRoot})
+    file(MAKE_DIRECTORY ${includeRoot}/${path})
+    foreach(source IN LISTS folder_SOURCES)
+        if(source MATCHES "\\.h$")
+            file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${source} ${includeRoot}/${path}/${source} SYMBOLIC)
+        endif()
+    endforeach()
+
+    add_library(${target} STATIC ${folder_SOURCES})
+    target_include_directories(${target} PUBLIC ${includeRoot})
+    target_compile_options(${target} PRIVATE ${folder_OPTIONS})
+    foreach(used IN LISTS folder_USES)
+        folderTarget(${used} usedTarget)
+        target_link_libraries(${target} PUBLIC ${usedTarget})
+    endforeach()
+    foreach(used IN LISTS folder_USES_INSIDE)
+        folderTarget(${used} usedTarget)
+        target_link_libraries(${target} PRIVATE ${usedTarget})
+    endforeach()
+    target_link_libraries(${target} PRIVATE ${folder_LIBRARIES})
+
+    if(FADELOOM_TESTS AND folder_TESTS)
+        list(TRANSFORM folder_TESTS PREPEND ${CMAKE_SOURCE_DIR}/tests/${path}/)
+        set(tests ${target}Tests)
+        add_executable(${tests} ${folder_TESTS})
+        target_include_directories(${tests} PRIVATE ${CMAKE_SOURCE_DIR})  # for "tests/support/..."
+        target_link_libraries(${tests} PRIVATE ${target} GTest::gtest GTest::gmock GTest::gtest_main ${folder_LIBRARIES})
+        target_compile_options(${tests} PRIVATE ${folder_OPTIONS})
+        # They are most of what a test source takes to compile.
+        target_precompile_headers(${tests} PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
+        foreach(used IN LISTS folder_TESTS_USE)
+            folderTarget(${used} usedTarget)
+            target_link_libraries(${tests} PRIVATE ${usedTarget})
+        endforeach()
+        gtest_discover_tests(${tests} TEST_PREFIX ${path}. DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${path})
+    endif()
+endfunction()

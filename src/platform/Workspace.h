@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// The applications of the user's session, as the desktop knows them.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace fadeloom {
+
+using ProcessID = std::int32_t;
+
+/// How an application takes part in the desktop. `prohibited`: background work that the user never sees.
+enum class ActivationPolicy { regular, accessory, prohibited };
+
+/// An application's picture, drawn only by the user interface. The first field that is set counts.
+struct AppIcon {
+    std::string themeName;  // A name of the desktop's icon theme.
+    std::filesystem::path file;
+
+    friend bool operator==(const AppIcon&, const AppIcon&) = default;
+};
+
+/// A running application at the moment it was asked for.
+struct RunningApplication {
+    ProcessID pid = -1;
+    std::optional<std::string> bundleID;
+    std::optional<std::filesystem::path> bundleLocation;
+    ActivationPolicy activationPolicy = ActivationPolicy::regular;
+    std::optional<std::string> localizedName;
+    std::optional<AppIcon> icon;
+    std::uint64_t launchMark = 0;  // Tells applications apart that had the same pid, one after the other.
+
+    friend bool operator==(const RunningApplication&, const RunningApplication&) = default;
+};
+
+/// Thread: main.
+class Workspace {
+public:
+    virtual ~Workspace() = default;
+
+    /// Our own process, which is never tapped, and our own bundle identifier.
+    [[nodiscard]] virtual ProcessID ownPid() const = 0;
+    [[nodiscard]] virtual std::string ownBundleID() const = 0;
+
+    /// Every running application; costly, so callers ask at most once for a piece of work.
+    [[nodiscard]] virtual std::vector<RunningApplication> runningApplications() const = 0;
+    /// The application that this very process is; absent for a helper of another one, and for no process.
+    [[nodiscard]] virtual std::optional<RunningApplication> runningApplication(ProcessID pid) const = 0;
+    /// Whether this application has ended since it was asked for.
+    [[nodiscard]] virtual bool isTerminated(const RunningApplication& application) const = 0;
+    /// The process that answers for this one (who launched a helper); absent when the system cannot tell.
+    [[nodiscard]] virtual std::optional<ProcessID> responsiblePid(ProcessID pid) const = 0;
+    /// Whether a bundle location is one of an application: an ".app" folder, a desktop entry, an executable.
+    [[nodiscard]] virtual bool isApplicationBundle(const std::filesystem::path& location) const = 0;
+};
+
+}  // namespace fadeloom

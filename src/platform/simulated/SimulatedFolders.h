@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// The user's folders of a simulated world: one real folder, given by whoever builds the world.
+#pragma once
+
+#include "platform/StandardFolders.h"
+
+#include <utility>
+
+namespace fadeloom {
+
+class SimulatedFolders final : public StandardFolders {
+public:
+    explicit SimulatedFolders(std::filesystem::path applicationSupport)
+        : applicationSupport_(std::move(applicationSupport))
+    {
+    }
+
+    std::filesystem::path applicationSupport() const override { return applicationSupport_; }
+
+private:
+    std::filesystem::path applicationSupport_;
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+// A whole world in memory: applications, audio, time, the user's consent.
+//
+// The program runs on it unchanged, in tests and in its simulation mode. The world speaks in the words of the domain,
+// and nothing in it moves by itself:
+//
+//      SimulatedPlatform world{folder};
+//      world.plug({.uid = "speakers", .name = "Speakers"});
+//      const auto music = world.launchApp("Music");
+//      world.startPlaying(music, SimulatedSignal::constant(0.5F));
+//      world.advance(5s);
+//      EXPECT_EQ(world.heard("speakers").peak(1), 0.5F);
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/simulated/SimulatedAudioHardware.h"
+#include "platform/simulated/SimulatedAudioSystem.h"
+#include "platform/simulated/SimulatedBackgroundQueue.h"
+#include "platform/simulated/SimulatedCapturePermission.h"
+#include "platform/simulated/SimulatedClock.h"
+#include "platform/simulated/SimulatedFolders.h"
+#include "platform/simulated/SimulatedMainLoop.h"
+#include "platform/simulated/SimulatedSystemLog.h"
+#include "platform/simulated/SimulatedText.h"
+#include "platform/simulated/SimulatedWorkspace.h"
+
+#include <chrono>
+#include <filesystem>
+#include <string>
+
+namespace fadeloom {
+
+/// Thread: the one that makes it, which is its main thread. A new world has no device, no application, and consent.
+class SimulatedPlatform {
+public:
+    /// `applicationSupport`: a real folder for the program's files. `text`: a real one in place of `SimulatedText`;
+    /// must outlive this.
+    explicit SimulatedPlatform(std::filesystem::path applicationSupport, Text* text = nullptr);
+    SimulatedPlatform(const SimulatedPlatform&) = delete;
+    SimulatedPlatform& operator=(const SimulatedPlatform&) = delete;
+
+    /// All parts, for the program.
+    [[nodiscard]] Platform platform();
+
+    // Time.
+    /// Moves the clock: timers, background work and IO cycles happen in their order.
+    void advance(SimulatedClock::Duration duration) { mainLoop_.advance(duration); }
+    /// Runs what is posted to the main loop, without moving the clock.
+    void runPosted() { mainLoop_.runPosted(); }
+    /// The date and time of the world: it began on 2 January 2030 at noon, UTC.
+    [[nodiscard]] std::chrono::system_clock::time_point date() const;
+
+    // Applications.
+    ProcessID launchApp(const std::string& name, const SimulatedAppTraits& traits = {});
+    /// Starts a process that is no application itself: a helper of `owner`, or a daemon when that is below 1.
+    ProcessID launchHelper(ProcessID owner, const std::string& bundleID);
+    /// Ends a process, its helpers and their audio.
+    void quitApp(ProcessID pid);
+
+    // Their sound.
+    /// The process opens audio without playing: a further audio object of it appears.
+    AudioObjectID openAudio(ProcessID pid);
+    /// All audio objects of the process go.
+    void closeAudio(ProcessID pid);
+    /// Plays through the process's first audio object, opening audio if it has none.
+    void startPlaying(ProcessID pid, SimulatedSignal signal = SimulatedSignal::constant(0.25F));
+    void stopPlaying(ProcessID pid);
+    void startUsingMic(ProcessID pid);
+    void stopUsingMic(ProcessID pid);
+
+    // Devices, by unique id.
+    AudioObjectID plug(const SimulatedDeviceTraits& traits) { return system_.plug(traits); }
+    void unplug(const std::string& uid) { system_.unplug(uid); }
+    void changeRate(const std::string& uid, double rate) { system_.changeRate(uid, rate); }
+    void setDefaultOutput(const std::string& uid) { system_.setDefaultOutput(uid); }
+    /// Runs one IO cycle now.
+    void runCycle(std::uint32_t frames) { system_.runCycle(frames); }
+    /// What a device got in the last cycle.
+    [[nodiscard]] HeardAudio heard(const std::string& uid) const { return system_.heard(uid); }
+
+    // The user's consent: `SimulatedCapturePermission::granted`, `denied`, `undecided`, or absent.
+    void setPermission(std::optional<int> preflight) { permission_.set(preflight); }
+
+    // Faults.
+    /// Refuses a call of the audio hardware, the next one or all of them.
+    void refuse(
+        AudioOperation operation, HowOften howOften, AudioStatus status = kAudioHardwareUnspecifiedError);
+    /// Refuses calls more precisely: of one property, of one object.
+    void refuse(const SimulatedFaults::Match& match, HowOften howOften,
+        AudioStatus status = kAudioHardwareUnspecifiedError);
+    void allow(AudioOperation operation) { audio_.faults().allow(operation); }
+
+    // The parts, for what has no word of its own here.
+    SimulatedAudioHardware& audio() { return audio_; }
+    SimulatedAudioSystem& audioSystem() { return system_; }
+    SimulatedWorkspace& workspace() { return workspace_; }
+    SimulatedCapturePermission& capturePermission() { return permission_; }
+    SimulatedMainLoop& mainLoop() { return mainLoop_; }
+    SimulatedBackgroundQueue& utilityQueue() { return utilityQueue_; }
+    SimulatedBackgroundQueue& logQueue() { return logQueue_; }
+    SimulatedSystemLog& systemLog() { return systemLog_; }
+
+private:
+    [[nodiscard]] std::string bundleIDOf(ProcessID pid) const;
+    AudioObjectID audioOf(ProcessID pid);
+
+    SimulatedClock clock_;
+    SimulatedMainLoop mainLoop_{clock_};
+    SimulatedBackgroundQueue utilityQueue_{clock_};
+    SimulatedBackgroundQueue logQueue_{clock_};
+    SimulatedAudioSystem system_{clock_, mainLoop_};
+    SimulatedAudioHardware audio_{system_};
+    SimulatedWorkspace workspace_;
+    SimulatedCapturePermission permission_;
+    SimulatedSystemLog systemLog_;
+    SimulatedFolders folders_;
+    SimulatedText simpleText_;
+    Text& text_;
+    std::map<ProcessID, std::string> helperBundleIDs_;
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// The processes and applications of a simulated session.
+#pragma once
+
+#include "platform/Workspace.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace fadeloom {
+
+/// What an application is to look like; what is left out is made up from its name.
+struct SimulatedAppTraits {
+    std::optional<std::string> bundleID{};  // "com.example." and the name in lower case without blanks.
+    std::optional<std::filesystem::path> bundleLocation{};  // "/Applications/<name>.app".
+    ActivationPolicy policy = ActivationPolicy::regular;
+    ProcessID responsible = -1;  // Who launched it.
+    ProcessID pid = -1;  // A free one.
+    std::optional<AppIcon> icon{};
+    bool hasName = true;
+};
+
+class SimulatedWorkspace final : public Workspace {
+public:
+    ProcessID ownPid() const override { return ownPid_; }
+    std::string ownBundleID() const override { return "com.fadeloom.app"; }
+    std::vector<RunningApplication> runningApplications() const override;
+    std::optional<RunningApplication> runningApplication(ProcessID pid) const override;
+    bool isTerminated(const RunningApplication& application) const override;
+    std::optional<ProcessID> responsiblePid(ProcessID pid) const override;
+    /// True for locations that end in ".app".
+    bool isApplicationBundle(const std::filesystem::path& location) const override;
+
+    /// Starts a process that is an application.
+    ProcessID launchApp(const std::string& name, const SimulatedAppTraits& traits);
+    /// Starts a process that is none; `responsible` below 1 when nobody launched it (a daemon).
+    ProcessID launchHelper(ProcessID responsible);
+    /// Ends a process and those it is responsible for; returns all their pids.
+    std::vector<ProcessID> quit(ProcessID pid);
+    [[nodiscard]] bool isRunning(ProcessID pid) const { return processes_.contains(pid); }
+
+    /// How often the list of running applications was asked for.
+    [[nodiscard]] int listCount() const { return listCount_; }
+
+private:
+    struct Process {
+        std::optional<RunningApplication> application;
+        ProcessID responsible = -1;
+    };
+
+    ProcessID add(ProcessID wantedPid, Process process);
+
+    static constexpr ProcessID ownPid_ = 900;
+    ProcessID lastPid_ = 1000;
+    std::uint64_t launchCount_ = 0;
+    std::map<ProcessID, Process> processes_;
+    mutable int listCount_ = 0;
+};
+
+}  // namespace fadeloom

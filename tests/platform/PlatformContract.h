@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+// What every implementation of the audio hardware promises, as tests over a world of its kind.
+//
+// A test program includes this in one source and names its world:
+//
+//      INSTANTIATE_TEST_SUITE_P(Simulated, PlatformContract, ::testing::Values(&makeSimulatedContractWorld));
+//      INSTANTIATE_TEST_SUITE_P(Simulated, TapContract, ::testing::Values(&makeSimulatedContractWorld));
+#pragma once
+
+#include "tests/platform/DeviceContract.h"
+#include "tests/platform/ProcessContract.h"
+#include "tests/platform/PropertyContract.h"
+#include "tests/platform/TapContract.h"

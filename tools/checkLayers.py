@@ -1,0 +1,71 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Holds every include of src/ against the order of the folders, and keeps foreign headers where they belong.
+
+The build already refuses an include of a folder that is not named in addFolder. This check refuses what it cannot see:
+an arrow drawn the wrong way, "../", an adapter named outside app, and Qt, PipeWire or Apple headers elsewhere than in
+their adapters.
+"""
+
+import pathlib
+import re
+import sys
+
+ORDER = ["platform", "hal", "engine", "settings", "log", "control", "shell", "ui", "app"]
+ADAPTERS = ["platform/simulated", "platform/linux", "platform/pipewire", "platform/qt", "platform/macos"]
+INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s+([<"])([^>"]+)[>"]')
+QT = re.compile(r"^(Q[A-Z]\w+|Qt\w+/.*|q[a-z]+\.h)$")
+FOREIGN = {
+    "Qt": (QT, ("platform/qt", "ui", "app")),
+    "PipeWire": (re.compile(r"^(pipewire|spa)/"), ("platform/pipewire",)),
+    "Apple": (re.compile(r"^(CoreAudio|AudioToolbox|CoreFoundation|Foundation|AppKit|Cocoa|os|dispatch)/"),
+              ("platform/macos",)),
+}
+
+
+def folderOf(path):
+    """The folder of src/ that a path below it belongs to."""
+    for adapter in ADAPTERS:
+        if path.startswith(adapter + "/"):
+            return adapter
+    return path.split("/")[0]
+
+
+def complaint(folder, bracket, included):
+    if ".." in included:
+        return "reaches out of its folder"
+    for name, (pattern, homes) in FOREIGN.items():
+        if pattern.match(included) and folder not in homes:
+            return f"{name} headers belong to {', '.join(homes)}"
+    if bracket == "<":
+        return None
+    target = folderOf(included)
+    if target == folder or target == "platform":
+        return None
+    if target in ADAPTERS:
+        return None if folder == "app" else "only app names an adapter"
+    if folder in ADAPTERS:
+        return None if target == "engine" else "an adapter uses platform, and engine types"
+    if target not in ORDER:
+        return f"no folder is called {target}"
+    return None if ORDER.index(target) < ORDER.index(folder) else f"{folder} may not use {target}"
+
+
+def main():
+    root = pathlib.Path(__file__).resolve().parent.parent / "src"
+    failures = []
+    for file in sorted(root.rglob("*")):
+        if file.suffix not in (".h", ".cpp", ".mm"):
+            continue
+        path = file.relative_to(root).as_posix()
+        for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
+            found = INCLUDE.match(line)
+            why = found and complaint(folderOf(path), found.group(1), found.group(2))
+            if why:
+                failures.append(f"src/{path}:{number}: {found.group(2)}: {why}")
+    print("\n".join(failures))
+    return 1 if failures else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
