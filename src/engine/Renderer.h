@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// One app's sound, from its tap to the stereo pair of its output device, in each IO cycle.
+#pragma once
+
+#include "engine/RenderPath.h"
+#include "engine/TapParameters.h"
+#include "hal/OutputDevices.h"
+#include "platform/AudioHardware.h"
+#include "platform/RealTime.h"
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <span>
+
+namespace fadeloom {
+
+/// How the buffers of a cycle are laid out.
+struct RenderLayout {
+    double sampleRate = 48000;  // Hertz; taken as at least 1.
+    StereoChannels output{};  // The same channel twice: both sides are mixed into it.
+    std::size_t tapBufferCount =
+        1;  // The tap's buffers are the last of the input; what comes before is not ours.
+    bool isTapInterleaved = true;
+};
+
+/// Made and destroyed on the main thread, run on the IO thread. Everything it needs in a cycle is part of it.
+/// Buffers that are missing or malformed give a silent cycle; nothing here fails.
+class Renderer final : public AudioIOProc {
+public:
+    /// A cycle goes no further than this many frames.
+    static constexpr std::size_t maximumFrames = 8192;
+
+    /// Starts at the gain that `parameters` asks for, without fading in. The block is shared: the next tap of this app
+    /// goes on with it, and an IO thread may still read it while the app's owner lets go.
+    Renderer(std::shared_ptr<TapParameters> parameters, const RenderLayout& layout);
+    Renderer(const Renderer&) = delete;
+    Renderer& operator=(const Renderer&) = delete;
+
+    void render(AudioBuffers input, AudioBuffers output) noexcept FADELOOM_NONBLOCKING override;
+
+private:
+    using Scratch = std::array<float, maximumFrames>;
+
+    /// Takes over the settings, unless they are being written at this very moment.
+    void takeSnapshot() noexcept FADELOOM_NONBLOCKING;
+    [[nodiscard]] float gainTarget() const noexcept FADELOOM_NONBLOCKING;
+    /// Copies the tap's sound into the scratch buffers; returns how many frames there were, `atMost` or fewer.
+    [[nodiscard]] std::size_t readTap(AudioBuffers input, std::size_t atMost) noexcept FADELOOM_NONBLOCKING;
+    [[nodiscard]] std::size_t readInterleaved(
+        const AudioBuffer& tap, std::size_t atMost) noexcept FADELOOM_NONBLOCKING;
+    [[nodiscard]] std::size_t readPlanar(
+        const AudioBuffer& left, const AudioBuffer& right, std::size_t atMost) noexcept FADELOOM_NONBLOCKING;
+    void noticeFirstAudio(std::size_t frames) noexcept FADELOOM_NONBLOCKING;
+    void handBackPeak(float blockPeak) noexcept FADELOOM_NONBLOCKING;
+    void writeOutput(AudioBuffers output, std::size_t frames) noexcept FADELOOM_NONBLOCKING;
+
+    const std::shared_ptr<TapParameters> parameters_;
+    const RenderLayout layout_;
+    TapParameters::Values snapshot_;
+    EQCoefficients sections_{};
+    RenderState state_;
+    Scratch left_{};
+    Scratch right_{};
+};
+
+}  // namespace fadeloom

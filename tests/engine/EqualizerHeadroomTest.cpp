@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "engine/EqualizerHeadroom.h"
+
+#include "engine/EQPresets.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace fadeloom {
+namespace {
+
+constexpr float tenthOfADecibel = 0.1F;
+
+float loudnessOf(const std::vector<float>& gains)
+{
+    return eqLoudnessGainDB(gains, 48000);
+}
+
+TEST(EqualizerHeadroom, flatCurveNeedsNone)
+{
+    EXPECT_EQ(loudnessOf(std::vector<float>(10, 0)), 0.0F);
+    EXPECT_EQ(loudnessOf({}), 0.0F);
+}
+
+TEST(EqualizerHeadroom, cutsAreNotGivenBack)
+{
+    EXPECT_EQ(loudnessOf(std::vector<float>(10, -12)), 0.0F);
+}
+
+TEST(EqualizerHeadroom, neighbouringBoostsAddUp)
+{
+    EXPECT_NEAR(loudnessOf(std::vector<float>(10, 12)), 15.5F, tenthOfADecibel);
+    EXPECT_NEAR(loudnessOf(std::vector<float>(10, 6)), 7.4F, tenthOfADecibel);
+}
+
+TEST(EqualizerHeadroom, oneBandWeighsAsMuchAsItSpans)
+{
+    EXPECT_NEAR(loudnessOf({0, 0, 0, 0, 0, 12}), 3.2F, tenthOfADecibel);
+}
+
+TEST(EqualizerHeadroom, growsWithEveryBoost)
+{
+    EXPECT_LT(loudnessOf({3}), loudnessOf({6}));
+    EXPECT_LT(loudnessOf({6}), loudnessOf({6, 3}));
+}
+
+TEST(EqualizerHeadroom, withoutASampleRateThereIsNone)
+{
+    EXPECT_EQ(eqLoudnessGainDB(std::vector<float>(10, 12), 0), 0.0F);
+}
+
+TEST(EqualizerHeadroom, everyPresetHasAFigureOfAFewDecibels)
+{
+    for (const auto& preset : EQPresets::all()) {
+        EXPECT_GE(loudnessOf(preset.gains), 0.0F) << preset.name;
+        EXPECT_LT(loudnessOf(preset.gains), 7.0F) << preset.name;
+    }
+}
+
+}  // namespace
+}  // namespace fadeloom
