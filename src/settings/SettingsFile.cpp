@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "settings/SettingsFile.h"
+
+#include "platform/StandardFolders.h"
+#include "platform/SystemLog.h"
+#include "settings/SettingsJson.h"
+#include "settings/WholeFile.h"
+
+#include <system_error>
+
+namespace fadeloom::SettingsFile {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Thousands of apps take a tenth of this. Whatever is larger is no settings file, and taking it apart would need many
+// times its size in memory.
+constexpr std::size_t maximumSize = std::size_t{16} * 1024 * 1024;
+
+std::expected<SettingsData, SettingsError> decode(
+    const std::expected<std::string, WholeFile::ReadError>& content)
+{
+    if (!content)
+        return std::unexpected(SettingsError{"larger than " + std::to_string(maximumSize) + " bytes"});
+    return decodeSettings(*content);
+}
+
+fs::path backupOf(const fs::path& file)
+{
+    return file.parent_path() / (file.stem().string() + ".broken.json");
+}
+
+}  // namespace
+
+fs::path defaultURL(const StandardFolders& folders)
+{
+    return folders.applicationSupport() / "Fadeloom" / "settings.json";
+}
+
+SettingsData load(const fs::path& file, SystemLog& log)
+{
+    const auto content = WholeFile::read(file, maximumSize);
+    if (!content && content.error() == WholeFile::ReadError::unreadable)
+        return {};
+    auto settings = decode(content);
+    if (settings)
+        return std::move(*settings);
+
+    const auto backup = backupOf(file);
+    std::error_code ignored;
+    fs::remove_all(backup, ignored);
+    fs::copy_file(file, backup, ignored);
+    log.write(SystemLog::Level::error,
+        "Fadeloom: settings unreadable (" + settings.error().description + "), backup at " + backup.string());
+    return {};
+}
+
+std::expected<void, SettingsError> save(const SettingsData& settings, const fs::path& file)
+{
+    const auto folder = file.parent_path();
+    std::error_code error;
+    if (!folder.empty())
+        fs::create_directories(folder, error);
+    if (error)
+        return std::unexpected(
+            SettingsError{"Cannot create the folder " + folder.string() + ": " + error.message()});
+    return WholeFile::replace(file, encodeSettings(settings));
+}
+
+}  // namespace fadeloom::SettingsFile

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "settings/WholeFile.h"
+
+#include "settings/FileDescriptor.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <optional>
+#include <system_error>
+
+namespace fadeloom::WholeFile {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// An error in the system's words, which `errno` still holds.
+std::unexpected<SettingsError> failed(const std::string& what, const fs::path& file, int code = errno)
+{
+    const auto reason = std::error_code(code, std::generic_category()).message();
+    return std::unexpected(SettingsError{what + " " + file.string() + ": " + reason});
+}
+
+std::optional<struct stat> statusOf(const fs::path& file)
+{
+    struct stat status{};
+    if (::stat(file.c_str(), &status) != 0)
+        return std::nullopt;
+    return status;
+}
+
+/// The file that a chain of symbolic links ends at; it need not exist.
+std::expected<fs::path, SettingsError> endOfLinks(fs::path file)
+{
+    constexpr int longestChain = 40;
+    std::error_code ignored;
+    for (int link = 0; link < longestChain; ++link) {
+        if (!fs::is_symlink(file, ignored))
+            return file;
+        const auto target = fs::read_symlink(file, ignored);
+        file = file.parent_path() / target;  // An absolute target replaces the left side.
+    }
+    return failed("Cannot follow", file, ELOOP);
+}
+
+bool writeAll(int descriptor, std::string_view content)
+{
+    while (!content.empty()) {
+        const auto written = ::write(descriptor, content.data(), content.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return false;
+        content.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+/// A new file in the folder of another one, gone again unless it takes that one's place.
+class Successor {
+public:
+    explicit Successor(const fs::path& file)
+        : target_(file)
+        , path_((file.parent_path() / ("." + file.filename().string() + ".XXXXXX")).string())
+        , descriptor_(::mkostemp(path_.data(), O_CLOEXEC))
+        , isLeft_(descriptor_.isOpen())
+    {
+    }
+    Successor(const Successor&) = delete;
+    Successor& operator=(const Successor&) = delete;
+    ~Successor()
+    {
+        if (isLeft_)
+            ::unlink(path_.c_str());
+    }
+
+    [[nodiscard]] bool isOpen() const { return descriptor_.isOpen(); }
+
+    /// Best effort: a file system without permissions cannot take them over, and is no reason to lose the content.
+    void takePermissions(mode_t mode) const { (void)::fchmod(descriptor_.get(), mode & 07777); }
+
+    /// On the disk before it gets its name: otherwise a crash could leave the name on an empty file.
+    [[nodiscard]] bool fill(std::string_view content)
+    {
+        return writeAll(descriptor_.get(), content) && ::fsync(descriptor_.get()) == 0 && descriptor_.close();
+    }
+
+    [[nodiscard]] bool takePlace()
+    {
+        if (::rename(path_.c_str(), target_.c_str()) != 0)
+            return false;
+        isLeft_ = false;
+        return true;
+    }
+
+private:
+    const fs::path target_;
+    std::string path_;
+    FileDescriptor descriptor_;
+    bool isLeft_;
+};
+
+/// Makes a rename outlive a crash. Not all file systems can; the new content is in place either way.
+void syncFolder(const fs::path& folder)
+{
+    const FileDescriptor descriptor(
+        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor.isOpen())
+        (void)::fsync(descriptor.get());
+}
+
+}  // namespace
+
+std::expected<std::string, ReadError> read(const fs::path& file, std::size_t maximumSize)
+{
+    // Without waiting: a pipe would wait for a writer that never comes.
+    const FileDescriptor descriptor(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status{};
+    if (!descriptor.isOpen() || ::fstat(descriptor.get(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::unexpected(ReadError::unreadable);
+
+    std::string content;
+    std::string block(std::size_t{64} * 1024, '\0');
+    while (content.size() <= maximumSize) {
+        const auto count = ::read(descriptor.get(), block.data(), block.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return std::unexpected(ReadError::unreadable);
+        if (count == 0)
+            return content;
+        content.append(block, 0, static_cast<std::size_t>(count));
+    }
+    return std::unexpected(ReadError::tooLarge);
+}
+
+std::expected<void, SettingsError> replace(const fs::path& file, std::string_view content)
+{
+    const auto target = endOfLinks(file);
+    if (!target)
+        return std::unexpected(target.error());
+    const auto old = statusOf(*target);
+    // A folder could not be replaced, but a device could: by a file, for everyone.
+    if (old && !S_ISREG(old->st_mode))
+        return failed("Cannot replace", *target, S_ISDIR(old->st_mode) ? EISDIR : EINVAL);
+
+    Successor successor(*target);
+    if (!successor.isOpen())
+        return failed("Cannot create a file beside", *target);
+    if (old)
+        successor.takePermissions(old->st_mode);
+    if (!successor.fill(content))
+        return failed("Cannot write", *target);
+    if (!successor.takePlace())
+        return failed("Cannot replace", *target);
+    syncFolder(target->parent_path());
+    return {};
+}
+
+}  // namespace fadeloom::WholeFile

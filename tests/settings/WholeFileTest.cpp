@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: MIT
+#include "settings/WholeFile.h"
+
+#include "tests/support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+#include <fstream>
+#include <sstream>
+#include <vector>
+
+namespace fadeloom {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using WholeFile::ReadError;
+
+/// While one lives, no file of this process can grow beyond `bytes`: the system refuses as it does on a full disk.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes)
+        : oldHandler_(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &oldLimit_);
+        const rlimit limit{bytes, oldLimit_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &oldLimit_);
+        std::signal(SIGXFSZ, oldHandler_);
+    }
+
+private:
+    rlimit oldLimit_{};
+    void (*oldHandler_)(int);
+};
+
+class WholeFileTest : public testing::Test {
+protected:
+    std::string contentOf(const fs::path& path) const
+    {
+        std::ostringstream content;
+        content << std::ifstream(path, std::ios::binary).rdbuf();
+        return content.str();
+    }
+    void put(const fs::path& path, const std::string& content) const
+    {
+        std::ofstream(path, std::ios::binary) << content;
+    }
+    static mode_t modeOf(const fs::path& path)
+    {
+        struct stat status{};
+        ::stat(path.c_str(), &status);
+        return status.st_mode & 07777;
+    }
+    std::vector<std::string> names() const
+    {
+        std::vector<std::string> result;
+        for (const auto& entry : fs::directory_iterator(folder.path()))
+            result.push_back(entry.path().filename().string());
+        std::ranges::sort(result);
+        return result;
+    }
+
+    TemporaryFolder folder;
+    fs::path file = folder.path() / "file.json";
+};
+
+TEST_F(WholeFileTest, isReadToItsEnd)
+{
+    const std::string content = std::string(100'000, 'x') + '\0' + "\r\n\xFF";
+    put(file, content);
+
+    EXPECT_EQ(WholeFile::read(file, 200'000), content);
+    put(file, "");
+    EXPECT_EQ(WholeFile::read(file, 200'000), "");
+}
+
+TEST_F(WholeFileTest, isReadUpToTheLargestSize)
+{
+    put(file, "12345");
+
+    EXPECT_EQ(WholeFile::read(file, 5), "12345");
+    EXPECT_EQ(WholeFile::read(file, 4), std::unexpected(ReadError::tooLarge));
+}
+
+TEST_F(WholeFileTest, whatIsNoFileIsUnreadableAndNotWaitedFor)
+{
+    const auto pipe = folder.path() / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+
+    for (const auto& path : {file, folder.path(), pipe, fs::path("/dev/zero"), fs::path()})
+        EXPECT_EQ(WholeFile::read(path, 100), std::unexpected(ReadError::unreadable)) << path;
+}
+
+TEST_F(WholeFileTest, newOneIsForItsOwnerAlone)
+{
+    const auto oldMask = ::umask(0);
+    ASSERT_TRUE(WholeFile::replace(file, "new"));
+    ::umask(oldMask);
+
+    EXPECT_EQ(contentOf(file), "new");
+    EXPECT_EQ(modeOf(file), mode_t{0600});
+    EXPECT_THAT(names(), ElementsAre("file.json"));
+}
+
+TEST_F(WholeFileTest, replacedOneKeepsItsPermissions)
+{
+    for (const mode_t mode : {0644U, 0640U, 0666U, 0600U}) {
+        put(file, "old");
+        ASSERT_EQ(::chmod(file.c_str(), mode), 0);
+
+        ASSERT_TRUE(WholeFile::replace(file, "new"));
+
+        EXPECT_EQ(modeOf(file), mode);
+        EXPECT_EQ(contentOf(file), "new");
+    }
+}
+
+TEST_F(WholeFileTest, whoeverHasTheOldOneOpenReadsTheOldOne)
+{
+    put(file, "old content");
+    std::ifstream reader(file);
+
+    ASSERT_TRUE(WholeFile::replace(file, "new"));
+
+    std::ostringstream read;
+    read << reader.rdbuf();
+    EXPECT_EQ(read.str(), "old content");
+}
+
+TEST_F(WholeFileTest, symbolicLinkStaysOneAndItsTargetIsReplaced)
+{
+    fs::create_directory(folder.path() / "elsewhere");
+    const auto target = folder.path() / "elsewhere" / "real.json";
+    put(target, "old");
+    fs::create_symlink("elsewhere/real.json", folder.path() / "middle");
+    fs::create_symlink(folder.path() / "middle", file);
+
+    ASSERT_TRUE(WholeFile::replace(file, "new"));
+
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_TRUE(fs::is_symlink(folder.path() / "middle"));
+    EXPECT_EQ(contentOf(target), "new");
+}
+
+TEST_F(WholeFileTest, symbolicLinkToNothingGetsItsTarget)
+{
+    fs::create_symlink("real.json", file);
+
+    ASSERT_TRUE(WholeFile::replace(file, "new"));
+
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_EQ(contentOf(folder.path() / "real.json"), "new");
+}
+
+TEST_F(WholeFileTest, symbolicLinksInACircleAreRefused)
+{
+    fs::create_symlink("file.json", folder.path() / "other");
+    fs::create_symlink("other", file);
+
+    const auto replaced = WholeFile::replace(file, "new");
+
+    ASSERT_FALSE(replaced);
+    EXPECT_THAT(replaced.error().description, HasSubstr("symbolic links"));
+}
+
+TEST_F(WholeFileTest, whatIsNoFileIsNotReplaced)
+{
+    fs::create_directory(file);
+    const auto pipe = folder.path() / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+
+    const auto replaced = WholeFile::replace(file, "new");
+    ASSERT_FALSE(replaced);
+    EXPECT_THAT(replaced.error().description, HasSubstr("Is a directory"));
+    EXPECT_FALSE(WholeFile::replace(pipe, "new"));
+    EXPECT_FALSE(WholeFile::replace("/dev/null", "new"));
+
+    EXPECT_THAT(names(), ElementsAre("file.json", "pipe"));
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+TEST_F(WholeFileTest, missingFolderIsToldInTheSystemsWords)
+{
+    const auto replaced = WholeFile::replace(folder.path() / "missing" / "file.json", "new");
+
+    ASSERT_FALSE(replaced);
+    EXPECT_THAT(replaced.error().description, HasSubstr("missing/file.json: No such file or directory"));
+}
+
+TEST_F(WholeFileTest, fullDiskLeavesTheOldContentAndNothingElse)
+{
+    put(file, "old");
+    const std::string large(100'000, 'x');
+
+    std::expected<void, SettingsError> replaced;
+    {
+        const FullDisk disk(4096);
+        replaced = WholeFile::replace(file, large);
+    }
+
+    ASSERT_FALSE(replaced);
+    EXPECT_THAT(replaced.error().description, HasSubstr("File too large"));
+    EXPECT_EQ(contentOf(file), "old");
+    EXPECT_THAT(names(), ElementsAre("file.json"));
+    EXPECT_TRUE(WholeFile::replace(file, large)) << "once there is room";
+}
+
+TEST_F(WholeFileTest, pathWithoutAFolderIsInTheCurrentOne)
+{
+    const auto old = fs::current_path();
+    fs::current_path(folder.path());
+    const auto replaced = WholeFile::replace("bare.json", "new");
+    fs::current_path(old);
+
+    ASSERT_TRUE(replaced);
+    EXPECT_EQ(contentOf(folder.path() / "bare.json"), "new");
+}
+
+}  // namespace
+}  // namespace fadeloom
