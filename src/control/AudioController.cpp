@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+// How the controller starts, is called, and ends.
+#include "control/AudioController.h"
+
+#include "platform/AudioHardware.h"
+#include "platform/MainLoop.h"
+#include "settings/SettingsFile.h"
+
+#include <utility>
+
+namespace fadeloom {
+
+AudioController::AudioController(const Platform& platform, EngineLog& engineLog, const std::string& version)
+    : platform_(platform)
+    , engineLog_(engineLog)
+    , state_{.permission = audioPermission_.current(),
+          .settings = SettingsFile::load(SettingsFile::defaultURL(platform.folders), platform.systemLog)}
+    , saver_(platform.utilityQueue, platform.mainLoop, SettingsFile::defaultURL(platform.folders),
+          [this](const std::string& description) {
+              state_.errorMessage.assign("Could not save settings: " + description);
+          })
+    , processListeners_(platform.audio, onMainThread(&AudioController::schedulePoll))
+{
+    refreshDevices();
+    engineLog_.notice("started " + (version.empty() ? "?" : version)
+        + ", permission: " + std::string(AudioPermission::name(*state_.permission))
+        + ", output: " + state_.defaultDeviceUID->value_or("none"));
+    listenToSystem();
+    poll();
+    timer_ = platform_.mainLoop.every(pollInterval, onMainThread(&AudioController::poll));
+}
+
+std::function<void()> AudioController::onMainThread(void (AudioController::*action)())
+{
+    return [this, action] {
+        platform_.mainLoop.requireCurrent();
+        (this->*action)();
+    };
+}
+
+void AudioController::listenToSystem()
+{
+    const auto listen = [this](AudioObjectPropertySelector selector, void (AudioController::*action)()) {
+        auto listener =
+            platform_.audio.listen(kAudioObjectSystemObject, {.selector = selector}, onMainThread(action));
+        if (listener)
+            systemListeners_.push_back(std::move(*listener));
+    };
+    listen(kAudioHardwarePropertyDevices, &AudioController::devicesChanged);
+    listen(kAudioHardwarePropertyDefaultOutputDevice, &AudioController::devicesChanged);
+    listen(kAudioHardwarePropertyProcessObjectList, &AudioController::schedulePoll);
+}
+
+void AudioController::schedulePoll()
+{
+    if (isPollScheduled_)
+        return;
+    isPollScheduled_ = true;
+    platform_.mainLoop.post(life_.whileAlive([this] {
+        platform_.mainLoop.requireCurrent();
+        isPollScheduled_ = false;
+        poll();
+    }));
+}
+
+void AudioController::requestPermission()
+{
+    if (!audioPermission_.canRequest()) {
+        poll();
+        return;
+    }
+    audioPermission_.requestAccess(life_.whileAlive([this](bool) {
+        platform_.mainLoop.requireCurrent();
+        poll();
+    }));
+}
+
+void AudioController::shutdown()
+{
+    timer_.reset();
+    // A poll after this point would make the taps again.
+    systemListeners_.clear();
+    processListeners_.sync({});
+    life_.end();
+
+    taps_.clear();
+    saver_.flush();
+}
+
+}  // namespace fadeloom

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// The one object that decides: which applications stand in the mixer, which are tapped, where each plays and how.
+//
+// It is driven from four sides: a timer, the audio system's announcements, changes of the settings, and the user's
+// operations. They end in a poll, which compares the world with what is wanted and repairs the difference.
+//
+// Its sources go by concern: AudioController.cpp (start, end, permission), …Settings.cpp (from settings to sound and
+// file), …Poll.cpp (from processes to rows), …Taps.cpp (from rows to taps), …Routing.cpp (devices and outputs).
+#pragma once
+
+#include "control/AppGroups.h"
+#include "control/AudioPermission.h"
+#include "control/ControllerState.h"
+#include "control/LifeToken.h"
+#include "control/ProcessListeners.h"
+#include "control/SettingsSaver.h"
+#include "engine/AppTap.h"
+#include "engine/TapParameters.h"
+#include "hal/AudioProcesses.h"
+#include "log/EngineLog.h"
+#include "platform/Platform.h"
+
+#include <chrono>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace fadeloom {
+
+/// Apps are named by their bundle identifiers. Thread: main; a callback that comes on another one stops the process.
+class AudioController {
+public:
+    static constexpr std::chrono::seconds pollInterval{5};
+
+    /// Loads the settings, begins to listen, polls once. `version` is for the log; "?" when empty.
+    AudioController(const Platform& platform, EngineLog& engineLog, const std::string& version);
+    AudioController(const AudioController&) = delete;
+    AudioController& operator=(const AudioController&) = delete;
+
+    /// What is published; it changes only through the operations below and through what happens.
+    [[nodiscard]] const ControllerState& state() const { return state_; }
+
+    /// Takes a new record. What differs from the last one is heard at once and saved half a second later.
+    void setSettings(SettingsData settings);
+    void dismissErrorMessage() { state_.errorMessage.assign(std::nullopt); }
+
+    /// Compares the world with what is wanted, now.
+    void poll();
+    /// Polls in a later turn of the main loop; any number of requests until then cost one poll.
+    void schedulePoll();
+    /// Asks the user for the permission to capture, then polls.
+    void requestPermission();
+
+    /// The device that the app plays through now: the chosen one when it is connected, else the system's default.
+    [[nodiscard]] std::optional<std::string> outputUID(const std::string& bundleID) const;
+    /// Whether the app has a chosen output that is not connected.
+    [[nodiscard]] bool isOutputMissing(const std::string& bundleID) const;
+    /// Makes the device the system's default output; says whether the system accepted it.
+    bool setSystemOutput(const OutputDevice& device);
+
+    /// The app's parameter block, or null: it comes with the app's first tap and goes with its last process.
+    [[nodiscard]] const TapParameters* parametersOf(const std::string& bundleID) const;
+    /// The app's tap, or null.
+    [[nodiscard]] const AppTap* tapOf(const std::string& bundleID) const;
+    /// Each app's highest output sample since the last call, linear.
+    [[nodiscard]] std::map<std::string, float> takePeaks();
+
+    /// Ends the work before the program does: no tap is left, and a save that waits is done when this returns.
+    void shutdown();
+
+private:
+    [[nodiscard]] std::function<void()> onMainThread(void (AudioController::*action)());
+    void listenToSystem();
+
+    void settingsChanged(const SettingsData& old);
+    void appSettingsChanged(const std::string& bundleID, const SettingsData& old);
+    void lowerVolumesToLimit();
+    void pushSettings(const std::string& bundleID, std::optional<double> sampleRate = std::nullopt);
+    void pushAllSettings();
+
+    void updatePermission();
+    void updateSeen(const AppGroups& groups);
+    void updateApps(const AppGroups& groups);
+    [[nodiscard]] AppEntry makeEntry(const std::string& bundleID, const AppGroup& group);
+    void rememberNames(const std::vector<AppEntry>& entries);
+    void forgetQuitApps(const AppGroups& groups);
+    void confirmAudio();
+
+    void ensureTaps();
+    void ensureTap(const AppEntry& entry);
+    [[nodiscard]] bool adaptTap(AppTap& tap, const AppEntry& entry, const OutputDevice& device);
+    void createTap(const AppEntry& entry, const OutputDevice& device);
+    void removeTapsOfQuitApps(const AppGroups& groups);
+
+    void devicesChanged();
+    void refreshDevices();
+    void updateMissingOutput();
+
+    Platform platform_;
+    EngineLog& engineLog_;
+    AudioPermission audioPermission_{platform_.capturePermission, platform_.mainLoop};
+    AudioProcesses processes_{platform_.audio};
+    AppGrouper grouper_{platform_.workspace};
+
+    ControllerState state_;
+    SettingsSaver saver_;
+
+    // A block is shared with the renderer of the app's tap and outlives it, so that the next tap sounds the same.
+    std::map<std::string, std::shared_ptr<TapParameters>> params_;
+    std::map<std::string, std::unique_ptr<AppTap>> taps_;
+    std::map<std::string, std::string> failed_;  // The key of the last failed attempt, by app.
+    std::set<std::string> audioConfirmed_;  // Taps through which audio was seen to flow.
+    std::set<std::string> seen_;  // Apps that have played while they were there.
+    std::map<std::string, AppIcon> icons_;
+    bool isPollScheduled_ = false;
+
+    // Last, so that they end first: no callback comes into an object that is going.
+    ProcessListeners processListeners_;
+    std::vector<Subscription> systemListeners_;
+    Subscription timer_;
+    LifeToken life_;
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+// The controller's regular look at the world: from audio processes to the mixer's rows.
+#include "control/AudioController.h"
+
+#include <iterator>
+#include <utility>
+
+namespace fadeloom {
+
+void AudioController::poll()
+{
+    updatePermission();
+    const auto processes = processes_.all(state_.settings->focus.enabled ? ReadMic::yes : ReadMic::no);
+    const auto groups = grouper_.group(processes);
+    std::set<AudioObjectID> objects;
+    for (const auto& process : processes)
+        objects.insert(process.objectID);
+    processListeners_.sync(objects);
+
+    updateSeen(groups);
+    updateApps(groups);
+    removeTapsOfQuitApps(groups);
+    forgetQuitApps(groups);
+    updateMissingOutput();
+    confirmAudio();
+    ensureTaps();
+}
+
+void AudioController::updatePermission()
+{
+    const auto state = audioPermission_.current();
+    if (state == *state_.permission)
+        return;
+    engineLog_.notice("permission: " + std::string(AudioPermission::name(state)));
+    state_.permission.assign(state);
+}
+
+void AudioController::updateSeen(const AppGroups& groups)
+{
+    for (const auto& [id, group] : groups) {
+        if (group.isPlaying())
+            seen_.insert(id);
+    }
+    std::erase_if(seen_, [&](const auto& id) { return !groups.contains(id); });
+}
+
+void AudioController::updateApps(const AppGroups& groups)
+{
+    std::vector<AppEntry> entries;
+    for (const auto& [id, group] : groups) {
+        if (seen_.contains(id))
+            entries.push_back(makeEntry(id, group));
+    }
+    rememberNames(entries);
+    if (state_.apps.assignIfDifferent(inDisplayOrder(std::move(entries), platform_.text)))
+        engineLog_.notice("apps: " + describe(*state_.apps));
+}
+
+AppEntry AudioController::makeEntry(const std::string& bundleID, const AppGroup& group)
+{
+    auto icon = icons_.find(bundleID);
+    if (icon == icons_.end())
+        icon = icons_.emplace(bundleID, group.owner.icon.value_or(AppIcon{})).first;
+    return {
+        .bundleID = bundleID,
+        .name = group.owner.localizedName.value_or(bundleID),
+        .icon = icon->second,
+        .isPlaying = group.isPlaying(),
+        .isUsingMic = group.isUsingMic(),
+        .processIDs = group.processIDs(),
+    };
+}
+
+void AudioController::rememberNames(const std::vector<AppEntry>& entries)
+{
+    // Together: one assignment for each of a thousand names would copy the whole record a thousand times.
+    std::optional<SettingsData> changed;
+    for (const auto& entry : entries) {
+        const auto known = state_.settings->knownAppNames.find(entry.bundleID);
+        if (known != state_.settings->knownAppNames.end() && known->second == entry.name)
+            continue;
+        if (!changed)
+            changed = *state_.settings;
+        changed->knownAppNames.insert_or_assign(entry.bundleID, entry.name);
+    }
+    if (changed)
+        setSettings(std::move(*changed));
+}
+
+void AudioController::forgetQuitApps(const AppGroups& groups)
+{
+    const auto hasQuit = [&](const auto& item) { return !groups.contains(item.first); };
+    std::erase_if(params_, [&](const auto& item) { return hasQuit(item) && !taps_.contains(item.first); });
+    std::erase_if(icons_, hasQuit);
+    std::erase_if(failed_, hasQuit);
+
+    auto errors = *state_.tapErrors;
+    if (std::erase_if(errors, hasQuit) > 0)
+        state_.tapErrors.assign(std::move(errors));
+}
+
+void AudioController::confirmAudio()
+{
+    for (const auto& [id, block] : params_) {
+        if (taps_.contains(id) && !audioConfirmed_.contains(id)
+            && block->audioSeen.load(std::memory_order_relaxed)) {
+            audioConfirmed_.insert(id);
+            engineLog_.notice("audio flowing through tap: " + id);
+        }
+    }
+}
+
+}  // namespace fadeloom

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+// The controller's devices: which there are, which one an app plays through, and which chosen ones are away.
+#include "control/AudioController.h"
+#include "control/OutputChoice.h"
+#include "hal/HAL.h"
+
+#include <utility>
+
+namespace fadeloom {
+
+void AudioController::devicesChanged()
+{
+    refreshDevices();
+    schedulePoll();
+}
+
+void AudioController::refreshDevices()
+{
+    state_.devices.assignIfDifferent(OutputDevices::all(platform_.audio));
+    state_.defaultDeviceUID.assignIfDifferent(OutputDevices::defaultOutputUID(platform_.audio));
+}
+
+std::optional<std::string> AudioController::outputUID(const std::string& bundleID) const
+{
+    auto chosen = chosenOutputUID(*state_.settings, bundleID);
+    if (chosen && findDevice(*state_.devices, *chosen))
+        return chosen;
+    return *state_.defaultDeviceUID;
+}
+
+bool AudioController::isOutputMissing(const std::string& bundleID) const
+{
+    return fadeloom::isOutputMissing(*state_.settings, *state_.devices, bundleID);
+}
+
+void AudioController::updateMissingOutput()
+{
+    std::set<std::string> missing;
+    for (const auto& entry : *state_.apps) {
+        if (isOutputMissing(entry.bundleID))
+            missing.insert(entry.bundleID);
+    }
+    if (missing == *state_.missingOutput)
+        return;
+    const auto changed = difference(*state_.missingOutput, missing);
+    state_.missingOutput.assign(missing);
+    for (const auto& id : changed) {
+        engineLog_.notice((missing.contains(id) ? "output missing, muting: " : "output back: ") + id);
+        pushSettings(id);
+    }
+}
+
+bool AudioController::setSystemOutput(const OutputDevice& device)
+{
+    const auto status = HAL::setValue(platform_.audio, kAudioObjectSystemObject,
+        {.selector = kAudioHardwarePropertyDefaultOutputDevice}, device.id);
+    if (status != kAudioHardwareNoError)
+        state_.errorMessage.assign("Could not switch output to " + device.name + ".");
+    poll();
+    return status == kAudioHardwareNoError;
+}
+
+}  // namespace fadeloom

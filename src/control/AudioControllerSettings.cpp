@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+// The controller's way from the settings to what is heard, and to their file.
+#include "control/AppSettings.h"
+#include "control/AudioController.h"
+#include "control/OutputChoice.h"
+#include "control/TapValues.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace fadeloom {
+
+void AudioController::setSettings(SettingsData settings)
+{
+    const SettingsData old = state_.settings.exchange(std::move(settings));
+    if (*state_.settings != old)
+        settingsChanged(old);
+}
+
+void AudioController::settingsChanged(const SettingsData& old)
+{
+    std::vector<std::string> ids;  // Of their own: whoever observes what follows may change the blocks.
+    for (const auto& [id, block] : params_)
+        ids.push_back(id);
+    for (const auto& id : ids)
+        appSettingsChanged(id, old);
+
+    if (state_.settings->volumeLimit < old.volumeLimit)
+        lowerVolumesToLimit();
+    if (state_.settings->volumeLimit != old.volumeLimit
+        || state_.settings->eqAutoHeadroom != old.eqAutoHeadroom)
+        pushAllSettings();
+    saver_.schedule(*state_.settings);
+}
+
+void AudioController::appSettingsChanged(const std::string& bundleID, const SettingsData& old)
+{
+    const auto entryIn = [&](const SettingsData& settings) {
+        const auto app = settings.apps.find(bundleID);
+        return app == settings.apps.end() ? std::nullopt : std::optional(app->second);
+    };
+    if (entryIn(old) == entryIn(*state_.settings))
+        return;
+    pushSettings(bundleID);
+    if (chosenOutputUID(old, bundleID) == chosenOutputUID(*state_.settings, bundleID))
+        return;
+
+    // Routed elsewhere: a tap that failed on the old output deserves another attempt.
+    failed_.erase(bundleID);
+    const auto entry = std::ranges::find(*state_.apps, bundleID, &AppEntry::bundleID);
+    if (entry != state_.apps->end())
+        ensureTap(AppEntry(*entry));
+    schedulePoll();
+}
+
+void AudioController::lowerVolumesToLimit()
+{
+    SettingsData lowered = *state_.settings;
+    for (auto& [id, app] : lowered.apps)
+        app.volume = std::min(app.volume, lowered.volumeLimit);
+    if (lowered != *state_.settings)
+        setSettings(std::move(lowered));
+}
+
+void AudioController::pushSettings(const std::string& bundleID, std::optional<double> sampleRate)
+{
+    const auto block = params_.find(bundleID);
+    if (block == params_.end())
+        return;
+    const auto app = appSettings(*state_.settings, bundleID);
+    store(tapValues(*state_.settings, app, isOutputMissing(bundleID)), *block->second);
+
+    const auto tap = taps_.find(bundleID);
+    if (!sampleRate && tap != taps_.end())
+        sampleRate = tap->second->sampleRate();
+    // Also while the equalizer is off, so that switching it on is a matter of one flag.
+    if (sampleRate)
+        block->second->setEQ(eqCoefficients(app.eqGains, *sampleRate));
+}
+
+void AudioController::pushAllSettings()
+{
+    for (const auto& [id, block] : params_)
+        pushSettings(id);
+}
+
+}  // namespace fadeloom

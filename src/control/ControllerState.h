@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// Everything about the controller that others may watch.
+#pragma once
+
+#include "control/AppEntry.h"
+#include "control/AudioPermission.h"
+#include "control/Published.h"
+#include "hal/OutputDevices.h"
+#include "settings/SettingsData.h"
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace fadeloom {
+
+/// Apps are named by their bundle identifiers. Thread: main.
+struct ControllerState {
+    /// The mixer's rows in display order: every app that has played and still has an audio process.
+    Published<std::vector<AppEntry>> apps{};
+    /// The output devices that are connected.
+    Published<std::vector<OutputDevice>> devices{};
+    /// Absent when the system has no default output.
+    Published<std::optional<std::string>> defaultDeviceUID{};
+    Published<AudioPermission::State> permission{};
+    /// Why the tap of an app could not be made, in words for the user.
+    Published<std::map<std::string, std::string>> tapErrors{};
+    /// The listed apps whose chosen output is not connected; they are muted.
+    Published<std::set<std::string>> missingOutput{};
+    /// A message for the user, until it is dismissed.
+    Published<std::optional<std::string>> errorMessage{};
+    Published<SettingsData> settings{};
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// Writes the settings half a second after the last change, off the main thread.
+//
+// A slider that is dragged changes the settings at every step; one write, of the last state, is enough.
+#pragma once
+
+#include "control/LifeToken.h"
+#include "platform/BackgroundQueue.h"
+#include "platform/MainLoop.h"
+#include "settings/SettingsData.h"
+
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace fadeloom {
+
+/// Thread: main.
+class SettingsSaver {
+public:
+    /// Gets a failed write's description, on the main loop, and only while the saver lives.
+    using Failed = std::function<void(const std::string& description)>;
+
+    static constexpr std::chrono::milliseconds delay{500};
+
+    SettingsSaver(BackgroundQueue& queue, MainLoop& mainLoop, std::filesystem::path file, Failed failed);
+
+    /// Writes `settings` as they are now after the delay, in place of a write that has not begun.
+    void schedule(const SettingsData& settings);
+    /// Sees to it that the last scheduled write is done when this returns.
+    void flush();
+
+private:
+    BackgroundQueue& queue_;
+    MainLoop& mainLoop_;
+    std::filesystem::path file_;
+    Failed failed_;
+    std::shared_ptr<BackgroundQueue::Work> saveWork_;  // Shared with the queue.
+    LifeToken life_;
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// What is said about taps: the log's lines, and the key by which a failed attempt is known again.
+#pragma once
+
+#include "engine/AppTap.h"
+#include "platform/AudioObject.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace fadeloom {
+
+/// Equal exactly for attempts with the same processes on the same output: "[412, 415]|uid".
+[[nodiscard]] std::string failureKey(std::span<const AudioObjectID> processIDs, std::string_view outputUID);
+
+[[nodiscard]] std::string tapReadyText(std::string_view bundleID, const AppTap& tap);
+[[nodiscard]] std::string tapUpdatedText(std::string_view bundleID, const AppTap& tap);
+
+/// The shortest decimal form that reads back the same, always with a fractional part: "48000.0". The same in every
+/// language of the interface.
+[[nodiscard]] std::string decimalText(double value);
+
+}  // namespace fadeloom

@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: MIT
+// Which applications stand in the mixer, and in which order.
+#include "tests/control/ControllerStory.h"
+
+namespace fadeloom {
+namespace {
+
+class PollStory : public ControllerStory {
+protected:
+    PollStory() { start(); }
+};
+
+TEST_F(PollStory, anAppIsListedOnceItHasPlayedAndUntilItsLastProcessGoes)
+{
+    const auto player = world.launchApp("Player");
+    world.openAudio(player);
+    world.runPosted();
+    EXPECT_EQ(mixer(), "");
+
+    world.startPlaying(player);
+    world.runPosted();
+    EXPECT_EQ(mixer(), "com.example.player▶");
+
+    world.stopPlaying(player);
+    world.advance(1min);
+    EXPECT_EQ(mixer(), "com.example.player");
+    EXPECT_NE(tapOf("com.example.player"), nullptr);
+
+    world.quitApp(player);
+    world.runPosted();
+    EXPECT_EQ(mixer(), "");
+    EXPECT_EQ(tapOf("com.example.player"), nullptr);
+    EXPECT_EQ(controller->parametersOf("com.example.player"), nullptr);
+    EXPECT_TRUE(hasLogged("tap removed (app quit): com.example.player"));
+}
+
+TEST_F(PollStory, anAppThatComesBackHasToPlayAgain)
+{
+    world.quitApp(launchPlaying("Player"));
+    world.runPosted();
+
+    world.openAudio(world.launchApp("Player"));
+    world.runPosted();
+
+    EXPECT_EQ(mixer(), "");
+}
+
+TEST_F(PollStory, playingAppsComeFirstAndLetterCaseDoesNotCount)
+{
+    const auto zeta = launchPlaying("zeta");
+    const auto alpha = launchPlaying("Alpha");
+    EXPECT_EQ(mixer(), "com.example.alpha▶, com.example.zeta▶");
+
+    world.stopPlaying(alpha);
+    world.runPosted();
+    EXPECT_EQ(mixer(), "com.example.zeta▶, com.example.alpha");
+
+    world.stopPlaying(zeta);
+    world.runPosted();
+    EXPECT_EQ(mixer(), "com.example.alpha, com.example.zeta");
+}
+
+TEST_F(PollStory, eachNewListIsLoggedOnce)
+{
+    launchPlaying("Player");
+    launchPlaying("Chat");
+    world.advance(1min);
+
+    EXPECT_EQ(logCount("apps: com.example.player▶"), 1);
+    EXPECT_EQ(logCount("apps: com.example.chat▶, com.example.player▶"), 1);
+}
+
+TEST_F(PollStory, observersAreToldOnlyOfChanges)
+{
+    int told = 0;
+    const auto watch = state().apps.whenAssigned([&] { ++told; });
+
+    launchPlaying("Player");
+    EXPECT_EQ(told, 1);
+
+    world.advance(1min);
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(PollStory, helpersCountForTheirApplication)
+{
+    const auto browser = world.launchApp("Browser");
+    const auto tab = world.launchHelper(browser, "com.example.browser.helper");
+    const auto service = world.launchHelper(-1, "com.example.browser.service");
+    world.startPlaying(service);
+    world.openAudio(tab);
+    world.runPosted();
+
+    ASSERT_EQ(mixer(), "com.example.browser▶");
+    const auto& entry = state().apps->front();
+    EXPECT_EQ(entry.processIDs,
+        (std::vector{world.audioSystem().audioObjectOf(service), world.audioSystem().audioObjectOf(tab)}));
+    EXPECT_TRUE(std::ranges::is_sorted(entry.processIDs));
+}
+
+TEST_F(PollStory, aDaemonIsNeverListed)
+{
+    world.startPlaying(world.launchHelper(-1, "com.example.daemon"));
+    world.runPosted();
+
+    EXPECT_EQ(mixer(), "");
+    EXPECT_EQ(tapAttempts(), 0);
+}
+
+TEST_F(PollStory, ourOwnProcessesAreNeverListed)
+{
+    world.launchApp("Fadeloom", {.bundleID = "com.fadeloom.app", .pid = world.workspace().ownPid()});
+    world.startPlaying(world.workspace().ownPid());
+    world.runPosted();
+
+    EXPECT_EQ(mixer(), "");
+}
+
+TEST_F(PollStory, whatAnEndedAppLeavesBehindIsNotListed)
+{
+    const auto browser = world.launchApp("Browser");
+    const auto service = world.launchHelper(-1, "com.example.browser.service");
+    world.startPlaying(service);
+    world.runPosted();
+    ASSERT_EQ(mixer(), "com.example.browser▶");
+
+    world.quitApp(browser);
+    world.advance(5s);
+
+    EXPECT_EQ(mixer(), "");
+    EXPECT_EQ(tapOf("com.example.browser"), nullptr);
+}
+
+TEST_F(PollStory, aProcessWithoutAPidIsNeverListed)
+{
+    world.launchApp("Player");
+    auto& audio = world.audioSystem();
+    audio.startPlaying(audio.openAudio(0, "com.example.player"), SimulatedSignal::constant(source));
+    world.refuse({AudioOperation::readProperty, kAudioProcessPropertyPID}, HowOften::always);
+    audio.startPlaying(audio.openAudio(1500, "com.example.player"), SimulatedSignal::constant(source));
+    world.runPosted();
+
+    EXPECT_EQ(mixer(), "");
+}
+
+TEST_F(PollStory, anAppWithoutANameIsCalledByItsIdentifier)
+{
+    const auto player = world.launchApp("Player", {.hasName = false});
+    world.startPlaying(player);
+    world.runPosted();
+
+    EXPECT_EQ(state().apps->front().name, "com.example.player");
+}
+
+TEST_F(PollStory, rowsCarryTheAppsIcon)
+{
+    const auto icon = AppIcon{.themeName = "multimedia-player", .file = {}};
+    world.startPlaying(world.launchApp("Player", {.icon = icon}));
+    world.startPlaying(world.launchApp("Chat"));
+    world.runPosted();
+
+    EXPECT_EQ(state().apps->at(0).icon, AppIcon{});
+    EXPECT_EQ(state().apps->at(1).icon, icon);
+}
+
+TEST_F(PollStory, aNewIconIsSeenWhenTheAppComesBack)
+{
+    const auto player = launchPlaying("Player");
+    world.quitApp(player);
+    world.runPosted();
+
+    const auto icon = AppIcon{.themeName = "multimedia-player", .file = {}};
+    world.startPlaying(world.launchApp("Player", {.icon = icon}));
+    world.runPosted();
+
+    EXPECT_EQ(state().apps->at(0).icon, icon);
+}
+
+TEST_F(PollStory, namesAreRememberedForLaterRuns)
+{
+    launchPlaying("Player");
+    launchPlaying("Chat");
+    world.advance(1s);
+
+    EXPECT_EQ(saved().knownAppNames,
+        (std::map<std::string, std::string>{{"com.example.player", "Player"}, {"com.example.chat", "Chat"}}));
+}
+
+TEST_F(PollStory, namesThatAreKnownAreNotSavedAgain)
+{
+    launchPlaying("Player");
+    world.advance(1s);
+    std::filesystem::remove(settingsFile());
+
+    world.advance(1min);
+
+    EXPECT_FALSE(std::filesystem::exists(settingsFile()));
+}
+
+TEST_F(PollStory, theMicrophoneIsReadOnlyWhileCallsAreLookedFor)
+{
+    const auto chat = launchPlaying("Chat");
+    world.startUsingMic(chat);
+    world.runPosted();
+    EXPECT_TRUE(state().apps->front().isUsingMic);
+
+    auto changed = settings();
+    changed.focus.enabled = false;
+    controller->setSettings(changed);
+    world.audio().clearReadCounts();
+    controller->poll();
+
+    EXPECT_EQ(world.audio().readCount(kAudioProcessPropertyIsRunningInput), 0);
+    EXPECT_FALSE(state().apps->front().isUsingMic);
+}
+
+TEST_F(PollStory, eachProcessIsListenedToWhileItIsThere)
+{
+    const auto before = world.audio().listenerCount();
+
+    const auto player = launchPlaying("Player");
+    EXPECT_EQ(world.audio().listenerCount(), before + 2);
+
+    world.quitApp(player);
+    world.runPosted();
+    EXPECT_EQ(world.audio().listenerCount(), before);
+}
+
+TEST_F(PollStory, aProcessThatCannotBeListenedToIsSeenByTheTimer)
+{
+    world.refuse(AudioOperation::listen, HowOften::always);
+    const auto player = world.launchApp("Player");
+    world.openAudio(player);
+    world.advance(5s);
+
+    world.startPlaying(player);
+    world.runPosted();
+    EXPECT_EQ(mixer(), "");
+
+    world.advance(5s);
+    EXPECT_EQ(mixer(), "com.example.player▶");
+}
+
+}  // namespace
+}  // namespace fadeloom

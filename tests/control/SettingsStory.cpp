@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: MIT
+// What happens when the settings change.
+#include "tests/control/ControllerStory.h"
+
+#include "engine/Equalizer.h"
+
+namespace fadeloom {
+namespace {
+
+constexpr std::array<float, 10> bassBoost = {6, 6, 4, 0, 0, 0, 0, 0, 0, 0};
+
+class SettingsStory : public ControllerStory {
+protected:
+    void startWithPlayer()
+    {
+        launchPlaying("Player");
+        start();
+        world.advance(1s);
+        std::filesystem::remove(settingsFile());  // The player's name was remembered.
+    }
+
+    const std::string player = "com.example.player";
+};
+
+TEST_F(SettingsStory, aChangedVolumeIsHeard)
+{
+    startWithPlayer();
+
+    change(player, [](auto& app) { app.volume = 0.5F; });
+
+    EXPECT_EQ(valuesOf(player).volume, 0.5F);
+    EXPECT_NEAR(heardAt("speakers"), source * 0.5F, tolerance);
+}
+
+TEST_F(SettingsStory, aMutedAppIsSilentUntilItIsUnmuted)
+{
+    startWithPlayer();
+
+    change(player, [](auto& app) { app.muted = true; });
+    EXPECT_NEAR(heardAt("speakers"), 0, tolerance);
+
+    change(player, [](auto& app) { app.muted = false; });
+    EXPECT_NEAR(heardAt("speakers"), source, tolerance);
+}
+
+TEST_F(SettingsStory, anEqualRecordChangesAndWritesNothing)
+{
+    startWithPlayer();
+    const auto version = valuesOf(player).eqVersion;
+
+    controller->setSettings(settings());
+    world.advance(1s);
+
+    EXPECT_EQ(valuesOf(player).eqVersion, version);
+    EXPECT_FALSE(std::filesystem::exists(settingsFile()));
+}
+
+TEST_F(SettingsStory, aLoweredCeilingLowersTheAppsAboveItForGood)
+{
+    startWithPlayer();
+    setVolumeLimit(2);
+    change(player, [](auto& app) { app.volume = 1.6F; });
+    change("com.example.quiet", [](auto& app) { app.volume = 0.5F; });
+    ASSERT_EQ(valuesOf(player).volume, 1.6F);
+
+    setVolumeLimit(1);
+
+    EXPECT_EQ(settings().apps.at(player).volume, 1.0F);
+    EXPECT_EQ(settings().apps.at("com.example.quiet").volume, 0.5F);
+    EXPECT_EQ(valuesOf(player).volume, 1.0F);
+    EXPECT_FALSE(std::filesystem::exists(settingsFile()));
+    world.advance(600ms);
+    EXPECT_EQ(saved(), settings());
+
+    setVolumeLimit(2);
+    EXPECT_EQ(settings().apps.at(player).volume, 1.0F);
+    EXPECT_EQ(valuesOf(player).volume, 1.0F);
+}
+
+TEST_F(SettingsStory, anAppStoredAboveTheCeilingPlaysAtTheCeiling)
+{
+    startWithPlayer();
+    setVolumeLimit(1.25F);
+
+    change(player, [](auto& app) { app.volume = 1.5F; });
+
+    EXPECT_EQ(valuesOf(player).volume, 1.25F);
+    EXPECT_EQ(settings().apps.at(player).volume, 1.5F);
+    EXPECT_NEAR(heardAt("speakers"), source * 1.25F, tolerance);
+}
+
+TEST_F(SettingsStory, aRaisedCeilingLetsAnAppStoredAboveItPlayLouder)
+{
+    startWithPlayer();
+    setVolumeLimit(1.25F);
+    change(player, [](auto& app) { app.volume = 1.5F; });
+
+    setVolumeLimit(2);
+
+    EXPECT_EQ(valuesOf(player).volume, 1.5F);
+}
+
+TEST_F(SettingsStory, aChangeOfAnAppWithoutATapIsSavedAndNotPushed)
+{
+    start();
+
+    change("com.example.absent", [](auto& app) { app.volume = 0.5F; });
+    world.advance(600ms);
+
+    EXPECT_EQ(controller->parametersOf("com.example.absent"), nullptr);
+    EXPECT_EQ(saved().apps.at("com.example.absent").volume, 0.5F);
+}
+
+TEST_F(SettingsStory, aChangeOfOneAppLeavesTheOthersAlone)
+{
+    startWithPlayer();
+    launchPlaying("Chat");
+    const auto version = valuesOf("com.example.chat").eqVersion;
+
+    change(player, [](auto& app) { app.volume = 0.5F; });
+
+    EXPECT_EQ(valuesOf("com.example.chat").eqVersion, version);
+}
+
+TEST_F(SettingsStory, changesInQuickSuccessionAreWrittenOnce)
+{
+    startWithPlayer();
+
+    setVolumeLimit(2);
+    world.advance(300ms);
+    change(player, [](auto& app) { app.volume = 0.5F; });
+    world.advance(300ms);
+    EXPECT_FALSE(std::filesystem::exists(settingsFile()));
+    world.advance(300ms);
+
+    EXPECT_EQ(saved().volumeLimit, 2);
+    EXPECT_EQ(saved().apps.at(player).volume, 0.5F);
+    EXPECT_FALSE(isSaveWaiting());
+}
+
+TEST_F(SettingsStory, aFailedSaveIsToldAndTheNextChangeTriesAgain)
+{
+    startWithPlayer();
+    std::filesystem::create_directories(settingsFile());  // A folder where the file should be.
+
+    setVolumeLimit(2);
+    world.advance(600ms);
+    ASSERT_TRUE(*state().errorMessage);
+    EXPECT_TRUE((*state().errorMessage)->starts_with("Could not save settings: "));
+    EXPECT_GT((*state().errorMessage)->size(), std::string("Could not save settings: ").size());
+    EXPECT_EQ(settings().volumeLimit, 2);
+
+    std::filesystem::remove(settingsFile());
+    controller->dismissErrorMessage();
+    setVolumeLimit(1.5F);
+    world.advance(600ms);
+    EXPECT_EQ(*state().errorMessage, std::nullopt);
+    EXPECT_EQ(saved().volumeLimit, 1.5F);
+}
+
+TEST_F(SettingsStory, aSaveThatFailsAfterTheControllerIsGoneDoesNothing)
+{
+    startWithPlayer();
+    std::filesystem::create_directories(settingsFile());
+    setVolumeLimit(2);
+
+    end();
+    world.advance(1s);
+
+    EXPECT_FALSE(isSaveWaiting());
+}
+
+TEST_F(SettingsStory, theEqualizerIsPreparedWhileItIsOff)
+{
+    startWithPlayer();
+
+    change(player, [](auto& app) { app.eqGains = bassBoost; });
+
+    EXPECT_FALSE(valuesOf(player).eqEnabled);
+    EXPECT_EQ(controller->parametersOf(player)->coefficients, eqCoefficients(bassBoost, 48000));
+}
+
+TEST_F(SettingsStory, theEqualizerFitsTheRateOfTheOutput)
+{
+    startWithPlayer();
+    change(player, [](auto& app) { app.eqGains = bassBoost; });
+
+    world.changeRate("speakers", 44100);
+    world.advance(5s);
+
+    EXPECT_EQ(controller->parametersOf(player)->coefficients, eqCoefficients(bassBoost, 44100));
+}
+
+TEST_F(SettingsStory, theHeadroomIsTheSameOnEveryOutput)
+{
+    startWithPlayer();
+    change(player, [](auto& app) { app.eqGains = bassBoost; });
+    const auto preamp = valuesOf(player).preamp;
+
+    world.changeRate("speakers", 192000);
+    world.advance(5s);
+
+    ASSERT_EQ(tapOf(player)->sampleRate(), 192000);
+    EXPECT_EQ(valuesOf(player).preamp, preamp);
+    EXPECT_LT(preamp, 1);
+}
+
+TEST_F(SettingsStory, switchingTheHeadroomOffIsHeardByEveryApp)
+{
+    startWithPlayer();
+    change(player, [](auto& app) { app.eqGains = bassBoost; });
+
+    auto changed = settings();
+    changed.eqAutoHeadroom = false;
+    controller->setSettings(changed);
+
+    EXPECT_EQ(valuesOf(player).preamp, 1);
+}
+
+TEST_F(SettingsStory, observersSeeTheNewRecord)
+{
+    startWithPlayer();
+    std::vector<float> limits;
+    const auto watch = state().settings.whenAssigned([&] { limits.push_back(settings().volumeLimit); });
+
+    setVolumeLimit(1.5F);
+
+    EXPECT_EQ(limits, std::vector{1.5F});
+}
+
+}  // namespace
+}  // namespace fadeloom

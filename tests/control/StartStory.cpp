@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+// How the controller starts, is called, and ends.
+#include "tests/control/ControllerStory.h"
+
+#include <memory>
+
+namespace fadeloom {
+namespace {
+
+class StartStory : public ControllerStory { };
+
+TEST_F(StartStory, tellsTheLogWhatItStartsWith)
+{
+    start();
+
+    EXPECT_EQ(log().front(), "started 1.2.3, permission: granted, output: speakers");
+}
+
+TEST_F(StartStory, tellsTheLogWhatIsMissing)
+{
+    unplug("speakers");
+    unplug("headphones");
+    world.setPermission(SimulatedCapturePermission::undecided);
+
+    controller.emplace(world.platform(), engineLog, "");
+
+    EXPECT_EQ(log().front(), "started ?, permission: notDetermined, output: none");
+}
+
+TEST_F(StartStory, knowsTheDevicesAtOnce)
+{
+    start();
+
+    ASSERT_EQ(state().devices->size(), 2);
+    EXPECT_EQ(state().devices->front().name, "Desk Speakers");
+    EXPECT_EQ(*state().defaultDeviceUID, "speakers");
+}
+
+TEST_F(StartStory, tapsAnAppThatPlaysAlready)
+{
+    launchPlaying("Player");
+
+    start();
+
+    EXPECT_EQ(mixer(), "com.example.player▶");
+    EXPECT_EQ(outputOf("com.example.player"), "speakers");
+}
+
+TEST_F(StartStory, takesUpTheSettingsOfAnEarlierRun)
+{
+    SettingsData earlier;
+    earlier.apps["com.example.player"].volume = 0.5F;
+    givenSettings(earlier);
+    launchPlaying("Player");
+
+    start();
+
+    EXPECT_EQ(valuesOf("com.example.player").volume, 0.5F);
+    EXPECT_NEAR(heardAt("speakers"), source * 0.5F, tolerance);
+}
+
+TEST_F(StartStory, learnsTheNewNameOfAnAppThatIsKnown)
+{
+    SettingsData earlier;
+    earlier.knownAppNames["com.example.player"] = "Old Player";
+    givenSettings(earlier);
+    launchPlaying("Player");
+
+    start();
+
+    EXPECT_EQ(settings().knownAppNames.at("com.example.player"), "Player");
+}
+
+TEST_F(StartStory, startsWithTheDefaultsWhenTheSettingsAreUnreadable)
+{
+    std::filesystem::create_directories(settingsFile());  // A folder where the file should be.
+
+    start();
+
+    EXPECT_EQ(settings(), SettingsData{});
+}
+
+TEST_F(StartStory, pollsEveryFiveSeconds)
+{
+    start();
+    world.setPermission(SimulatedCapturePermission::denied);  // Nothing announces this.
+
+    world.advance(4900ms);
+    EXPECT_EQ(*state().permission, AudioPermission::State::granted);
+
+    world.advance(200ms);
+    EXPECT_EQ(*state().permission, AudioPermission::State::denied);
+    world.setPermission(SimulatedCapturePermission::granted);
+    world.advance(5s);
+    EXPECT_EQ(*state().permission, AudioPermission::State::granted);
+}
+
+TEST_F(StartStory, tenRequestsWithinATurnCostOnePoll)
+{
+    launchPlaying("Player");
+    start();
+    world.audio().clearReadCounts();
+
+    for (int i = 0; i < 10; ++i)
+        controller->schedulePoll();
+    EXPECT_EQ(world.audio().readCount(kAudioHardwarePropertyProcessObjectList), 0);
+    world.runPosted();
+
+    EXPECT_EQ(world.audio().readCount(kAudioHardwarePropertyProcessObjectList), 1);
+}
+
+TEST_F(StartStory, isNotCalledAnyMoreOnceItIsGone)
+{
+    launchPlaying("Player");
+    start();
+    controller->schedulePoll();
+    controller->requestPermission();
+
+    end();
+    world.capturePermission().answer(true);
+    world.startPlaying(world.launchApp("Chat"));
+    unplug("headphones");
+    world.advance(10s);
+
+    EXPECT_EQ(world.audio().listenerCount(), 0);
+    EXPECT_EQ(tapAttempts(), 1);
+}
+
+TEST_F(StartStory, aCallbackOnAnotherThreadStopsTheProcess)
+{
+    start();
+    controller->schedulePoll();
+
+    EXPECT_DEATH(
+        {
+            const SimulatedMainLoop::OtherThread elsewhere;
+            world.runPosted();
+        },
+        "Fatal error: Incorrect actor executor assumption; Expected same executor as ");
+}
+
+TEST_F(StartStory, shutdownRemovesEveryTap)
+{
+    launchPlaying("Player");
+    launchPlaying("Chat");
+    start();
+
+    controller->shutdown();
+
+    EXPECT_EQ(callCount(AudioOperation::destroyProcessTap), 2);
+    EXPECT_EQ(callCount(AudioOperation::destroyAggregateDevice), 2);
+    EXPECT_EQ(tapOf("com.example.player"), nullptr);
+    EXPECT_NEAR(heardAt("speakers"), 2 * source, tolerance);
+}
+
+TEST_F(StartStory, nothingIsTappedAgainAfterShutdown)
+{
+    launchPlaying("Player");
+    start();
+    controller->schedulePoll();
+
+    controller->shutdown();
+    launchPlaying("Chat");
+    unplug("headphones");
+    world.advance(10s);
+
+    EXPECT_EQ(tapAttempts(), 1);
+    EXPECT_EQ(world.audio().listenerCount(), 0);
+}
+
+TEST_F(StartStory, shutdownWritesAChangeThatIsStillWaiting)
+{
+    start();
+    setVolumeLimit(1.5F);
+    world.advance(100ms);
+    ASSERT_FALSE(std::filesystem::exists(settingsFile()));
+
+    controller->shutdown();
+
+    EXPECT_EQ(saved().volumeLimit, 1.5F);
+}
+
+TEST_F(StartStory, shutdownWithoutAChangeWritesNothing)
+{
+    start();
+
+    controller->shutdown();
+
+    EXPECT_FALSE(std::filesystem::exists(settingsFile()));
+}
+
+}  // namespace
+}  // namespace fadeloom
