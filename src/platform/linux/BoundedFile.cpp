@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/BoundedFile.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fadeloom {
+
+namespace {
+
+class Descriptor {
+public:
+    explicit Descriptor(const std::filesystem::path& file)
+        : number_(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY))
+    {
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor()
+    {
+        if (number_ >= 0)
+            close(number_);
+    }
+    [[nodiscard]] int number() const { return number_; }
+
+private:
+    int number_;
+};
+
+}  // namespace
+
+std::optional<std::string> readBoundedFile(const std::filesystem::path& file, std::size_t limit)
+{
+    const Descriptor descriptor{file};
+    struct stat status = {};
+    if (descriptor.number() < 0 || fstat(descriptor.number(), &status) != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    std::string content;
+    std::array<char, 8192> piece;
+    while (content.size() < limit) {
+        const auto wanted = std::min(piece.size(), limit - content.size());
+        const ssize_t count = read(descriptor.number(), piece.data(), wanted);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return std::nullopt;  // A process that has just ended, as a rule.
+        if (count == 0)
+            break;
+        content.append(piece.data(), static_cast<std::size_t>(count));
+    }
+    return content;
+}
+
+}  // namespace fadeloom

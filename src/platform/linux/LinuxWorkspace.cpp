@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxWorkspace.h"
+
+#include "platform/linux/ApplicationFinder.h"
+#include "platform/linux/ProcessProgram.h"
+#include "platform/linux/ProcessTable.h"
+#include "platform/linux/SafeText.h"
+
+#include <set>
+#include <utility>
+
+#include <unistd.h>
+
+namespace fadeloom {
+
+namespace {
+
+bool isExecutableFile(const std::filesystem::path& file)
+{
+    std::error_code error;
+    return std::filesystem::is_regular_file(file, error) && access(file.c_str(), X_OK) == 0;
+}
+
+/// The icon of a desktop entry: a file by its path, or a name of the theme, which some write with an ending.
+std::optional<AppIcon> iconOf(const DesktopEntry& entry)
+{
+    if (entry.icon.empty())
+        return std::nullopt;
+    const std::filesystem::path icon = entry.icon;
+    if (icon.is_absolute())
+        return AppIcon{{}, icon};
+    const auto suffix = icon.extension();
+    const bool isFileName = suffix == ".png" || suffix == ".svg" || suffix == ".xpm";
+    return AppIcon{safeText((isFileName ? icon.stem() : icon).native()), {}};
+}
+
+}  // namespace
+
+LinuxWorkspace::LinuxWorkspace(LinuxEnvironment environment, std::string ownBundleID)
+    : environment_(std::move(environment))
+    , ownBundleID_(std::move(ownBundleID))
+{
+}
+
+ProcessID LinuxWorkspace::ownPid() const
+{
+    return getpid();
+}
+
+RunningApplication LinuxWorkspace::describe(
+    ApplicationFinder& finder, ProcessTable& processes, ProcessID pid) const
+{
+    const FoundApplication& found = *finder.find(pid);
+    const ProcessInfo& process = *processes.find(pid);
+    RunningApplication application;
+    application.pid = pid;
+    application.launchMark = process.startTime;
+    application.bundleID = found.bundleID;
+    if (found.entry != nullptr) {
+        application.bundleLocation = found.entry->file;
+        application.activationPolicy =
+            found.entry->noDisplay ? ActivationPolicy::prohibited : ActivationPolicy::regular;
+        application.localizedName = safeText(found.entry->name.value_or(found.bundleID));
+        application.icon = iconOf(*found.entry);
+        return application;
+    }
+    const auto program = programOf(process).path;
+    // An executable of a sandbox, or one that was replaced on disk, is still reached through its process.
+    application.bundleLocation =
+        isExecutableFile(program) ? program : environment_.processes / std::to_string(pid) / "exe";
+    application.localizedName = found.bundleID;
+    return application;
+}
+
+std::vector<RunningApplication> LinuxWorkspace::runningApplications() const
+{
+    entries_.refresh();
+    ProcessTable processes{environment_};
+    ApplicationFinder finder{processes, entries_};
+    std::vector<RunningApplication> applications;
+    std::set<std::string> known;
+    for (const ProcessID pid : processes.pids()) {
+        const auto& found = finder.find(pid);
+        if (found && found->owner == pid && known.insert(found->bundleID).second)
+            applications.push_back(describe(finder, processes, pid));
+    }
+    return applications;
+}
+
+std::optional<RunningApplication> LinuxWorkspace::runningApplication(ProcessID pid) const
+{
+    entries_.refresh();
+    ProcessTable processes{environment_};
+    ApplicationFinder finder{processes, entries_};
+    const auto& found = finder.find(pid);
+    if (!found || found->owner != pid)
+        return std::nullopt;
+    return describe(finder, processes, pid);
+}
+
+bool LinuxWorkspace::isTerminated(const RunningApplication& application) const
+{
+    ProcessTable processes{environment_};
+    const ProcessInfo* const process = processes.find(application.pid);
+    return process == nullptr || process->startTime != application.launchMark;
+}
+
+std::optional<ProcessID> LinuxWorkspace::responsiblePid(ProcessID pid) const
+{
+    entries_.refresh();
+    ProcessTable processes{environment_};
+    ApplicationFinder finder{processes, entries_};
+    const auto& found = finder.find(pid);
+    return found ? std::optional{found->owner} : std::nullopt;
+}
+
+bool LinuxWorkspace::isApplicationBundle(const std::filesystem::path& location) const
+{
+    std::error_code error;
+    if (location.extension() == ".desktop")
+        return std::filesystem::is_regular_file(location, error);
+    return isExecutableFile(location);
+}
+
+std::string LinuxWorkspace::bundleIdentifier(ProcessID pid, const std::string& portalAppID) const
+{
+    if (!portalAppID.empty())
+        return safeText(portalAppID);
+    entries_.refresh();
+    ProcessTable processes{environment_};
+    ApplicationFinder finder{processes, entries_};
+    const auto& found = finder.find(pid);
+    return found ? found->bundleID : std::string{};
+}
+
+}  // namespace fadeloom

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+// The applications of a Linux session: desktop entries, and executables where there are none.
+#pragma once
+
+#include "platform/Workspace.h"
+#include "platform/linux/DesktopEntries.h"
+#include "platform/linux/LinuxEnvironment.h"
+
+#include <string>
+
+namespace fadeloom {
+
+class ApplicationFinder;
+class ProcessTable;
+
+/// An application's bundle identifier is its desktop id, or the name of its executable; its bundle location is the
+/// desktop entry's file, or the executable. Only the user's own processes are seen. How a process's application is
+/// found is told in ApplicationFinder.h.
+class LinuxWorkspace final : public Workspace {
+public:
+    explicit LinuxWorkspace(LinuxEnvironment environment, std::string ownBundleID = "com.fadeloom.app");
+    LinuxWorkspace(const LinuxWorkspace&) = delete;
+    LinuxWorkspace& operator=(const LinuxWorkspace&) = delete;
+
+    ProcessID ownPid() const override;
+    std::string ownBundleID() const override { return ownBundleID_; }
+    std::vector<RunningApplication> runningApplications() const override;
+    std::optional<RunningApplication> runningApplication(ProcessID pid) const override;
+    bool isTerminated(const RunningApplication& application) const override;
+    std::optional<ProcessID> responsiblePid(ProcessID pid) const override;
+    bool isApplicationBundle(const std::filesystem::path& location) const override;
+
+    /// The bundle identifier of a process's application; empty for no process of the user's. `portalAppID`: what the
+    /// audio server knows of a sandboxed client, whose pid may mean nothing out here; it counts when it is not empty.
+    /// Thread: main.
+    [[nodiscard]] std::string bundleIdentifier(ProcessID pid, const std::string& portalAppID) const;
+
+private:
+    [[nodiscard]] RunningApplication describe(
+        ApplicationFinder& finder, ProcessTable& processes, ProcessID pid) const;
+
+    const LinuxEnvironment environment_;
+    const std::string ownBundleID_;
+    mutable DesktopEntries entries_{environment_};  // Kept up to date by every question.
+};
+
+}  // namespace fadeloom

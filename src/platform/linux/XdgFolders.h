@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// The user's folders, where the freedesktop base directory rules put them.
+#pragma once
+
+#include "platform/StandardFolders.h"
+#include "platform/linux/Variables.h"
+
+namespace fadeloom {
+
+class XdgFolders final : public StandardFolders {
+public:
+    explicit XdgFolders(Variables variables = processVariables());
+
+    /// "$XDG_CONFIG_HOME" when that is an absolute path, else "~/.config".
+    std::filesystem::path applicationSupport() const override;
+
+private:
+    Variables variables_;
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+// Folders, log and permission of a Linux session.
+#include "platform/linux/AlwaysGrantedPermission.h"
+#include "platform/linux/SyslogSystemLog.h"
+#include "platform/linux/XdgFolders.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include <pwd.h>
+#include <unistd.h>
+
+namespace fadeloom {
+namespace {
+
+Variables variables(std::map<std::string, std::string> values)
+{
+    return [values = std::move(values)](const char* name) -> std::optional<std::string> {
+        const auto found = values.find(name);
+        return found == values.end() ? std::nullopt : std::optional{found->second};
+    };
+}
+
+TEST(XdgFolders, settingsFolderIsTheOneTheVariableNames)
+{
+    const XdgFolders folders{variables({{"HOME", "/home/anna"}, {"XDG_CONFIG_HOME", "/settings of/anna"}})};
+
+    EXPECT_EQ(folders.applicationSupport(), "/settings of/anna");
+}
+
+TEST(XdgFolders, settingsFolderIsBelowHomeOtherwise)
+{
+    EXPECT_EQ(XdgFolders{variables({{"HOME", "/home/anna"}})}.applicationSupport(), "/home/anna/.config");
+    // A relative path means nothing, by the rules of these variables.
+    EXPECT_EQ(
+        XdgFolders{variables({{"HOME", "/home/anna"}, {"XDG_CONFIG_HOME", "settings"}})}.applicationSupport(),
+        "/home/anna/.config");
+}
+
+TEST(XdgFolders, withoutHomeTheAccountTellsIt)
+{
+    const std::filesystem::path accountHome = getpwuid(getuid())->pw_dir;
+
+    EXPECT_EQ(XdgFolders{variables({})}.applicationSupport(), accountHome / ".config");
+    EXPECT_EQ(XdgFolders{variables({{"HOME", "here"}})}.applicationSupport(), accountHome / ".config");
+}
+
+TEST(Variables, anEmptyVariableIsNotSet)
+{
+    setenv("FADELOOM_TEST_VARIABLE", "", 1);
+    EXPECT_EQ(processVariables()("FADELOOM_TEST_VARIABLE"), std::nullopt);
+    setenv("FADELOOM_TEST_VARIABLE", "x", 1);
+    EXPECT_EQ(processVariables()("FADELOOM_TEST_VARIABLE"), "x");
+    unsetenv("FADELOOM_TEST_VARIABLE");
+    EXPECT_EQ(processVariables()("FADELOOM_TEST_VARIABLE"), std::nullopt);
+}
+
+TEST(SyslogSystemLog, messagesCarryTheProgramAndAreNeverFormats)
+{
+    ::testing::internal::CaptureStderr();
+    {
+        SyslogSystemLog log{SyslogSystemLog::Echo::standardError};
+        log.write(SystemLog::Level::notice, "apps: 100%s %n ▶");
+        log.write(SystemLog::Level::error, std::string_view{"cut\0off", 7});
+    }
+    const std::string written = ::testing::internal::GetCapturedStderr();
+
+    EXPECT_THAT(written, ::testing::HasSubstr("fadeloom["));
+    EXPECT_THAT(written, ::testing::HasSubstr("apps: 100%s %n ▶\n"));
+    EXPECT_THAT(written, ::testing::HasSubstr("cut off\n"));
+}
+
+TEST(AlwaysGrantedPermission, answersAtOnceWithoutAsking)
+{
+    AlwaysGrantedPermission permission;
+    int granted = 0;
+
+    permission.request([&](bool isGranted) { granted += isGranted ? 1 : 0; });
+
+    EXPECT_EQ(granted, 1);
+    EXPECT_EQ(permission.preflight(), std::nullopt);
+    EXPECT_FALSE(permission.canRequest());
+}
+
+}  // namespace
+}  // namespace fadeloom
