@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "platform/pipewire/AudioWorld.h"
+
+#include <algorithm>
+#include <set>
+
+namespace fadeloom {
+
+namespace {
+
+template <typename Things, typename Key, typename Projection>
+auto find(const Things& things, const Key& key, Projection projection) -> const typename Things::value_type*
+{
+    const auto found = std::ranges::find(things, key, projection);
+    return found == things.end() ? nullptr : &*found;
+}
+
+template <typename Things>
+bool haveSameIDs(const Things& one, const Things& other)
+{
+    return std::ranges::equal(one, other, {}, &Things::value_type::id, &Things::value_type::id);
+}
+
+}  // namespace
+
+const AudioWorld::Device* AudioWorld::device(AudioObjectID id) const
+{
+    return find(devices, id, &Device::id);
+}
+
+const AudioWorld::Device* AudioWorld::deviceWithUID(const std::string& uid) const
+{
+    return find(devices, uid, &Device::uid);
+}
+
+const AudioWorld::Process* AudioWorld::process(AudioObjectID id) const
+{
+    const auto found = std::ranges::lower_bound(processes, id, {}, &Process::id);
+    return found == processes.end() || found->id != id ? nullptr : &*found;
+}
+
+const AudioWorld::Process* AudioWorld::processOfClient(GraphSerial client) const
+{
+    const auto found = std::ranges::find_if(
+        processes, [&](const Process& process) { return process.clients.contains(client); });
+    return found == processes.end() ? nullptr : &*found;
+}
+
+std::vector<ChangedProperty> changesBetween(const AudioWorld& before, const AudioWorld& after)
+{
+    std::vector<ChangedProperty> changes;
+    if (before.devices != after.devices)
+        changes.push_back({kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}});
+    if (before.defaultDevice != after.defaultDevice)
+        changes.push_back({kAudioObjectSystemObject, {kAudioHardwarePropertyDefaultOutputDevice}});
+    if (!haveSameIDs(before.processes, after.processes))
+        changes.push_back({kAudioObjectSystemObject, {kAudioHardwarePropertyProcessObjectList}});
+
+    for (const auto& process : after.processes) {
+        const auto* old = before.process(process.id);
+        if (old && old->isPlaying != process.isPlaying)
+            changes.push_back({process.id, {kAudioProcessPropertyIsRunningOutput}});
+        if (old && old->isUsingMicrophone != process.isUsingMicrophone)
+            changes.push_back({process.id, {kAudioProcessPropertyIsRunningInput}});
+    }
+    return changes;
+}
+
+AudioObjectID AudioObjectIDs::next()
+{
+    return last_.fetch_add(1, std::memory_order_relaxed) + 1;
+}
+
+AudioWorld AudioWorldPainter::paint(const Graph& graph)
+{
+    AudioWorld world;
+    paintDevices(graph, world);
+    paintProcesses(graph, world);
+    return world;
+}
+
+void AudioWorldPainter::forget()
+{
+    devices_.clear();
+    processes_.clear();
+    keys_.clear();
+}
+
+void AudioWorldPainter::paintDevices(const Graph& graph, AudioWorld& world)
+{
+    std::set<GraphSerial> present;
+    const auto defaultName = graph.defaultSinkName();
+    for (const auto& [nodeID, node] : graph.nodes) {
+        const auto ports = node.isSink() ? graph.inputPorts(nodeID) : std::vector<GraphPort>{};
+        if (ports.empty() || ports.size() < node.inputPortCount)
+            continue;  // No device, or one whose ports are still appearing.
+
+        // A device whose channels change is another device: whoever plays to it must place its sound anew.
+        auto layout = layoutOf(ports);
+        present.insert(node.serial);
+        auto& known = devices_[node.serial];
+        if (known.id == 0 || known.layout != layout)
+            known = {layout, ids_.next(), ids_.next()};
+        world.devices.push_back({.id = known.id,
+            .streamID = known.streamID,
+            .node = nodeID,
+            .serial = node.serial,
+            .uid = std::string{node.name()},
+            .name = displayNameOf(node),
+            .layout = std::move(layout)});
+        if (!defaultName.empty() && node.name() == defaultName)
+            world.defaultDevice = known.id;
+    }
+    std::erase_if(devices_, [&](const auto& entry) { return !present.contains(entry.first); });
+    std::ranges::sort(world.devices, {}, &AudioWorld::Device::serial);
+}
+
+void AudioWorldPainter::paintProcesses(const Graph& graph, AudioWorld& world)
+{
+    struct Activity {
+        bool hasStream = false;
+        bool isPlaying = false;
+        bool isUsingMicrophone = false;
+    };
+    std::map<GraphID, Activity> activities;
+    for (const auto& [id, node] : graph.nodes) {
+        const auto client = node.clientID();
+        if (!node.hasInfo || !client || !(isAppSound(node) || node.isInputStream()))
+            continue;
+        auto& activity = activities[*client];
+        activity.hasStream = true;
+        activity.isPlaying |= isAppSound(node) && isPlaying(node);
+        activity.isUsingMicrophone |= isUsingMicrophone(graph, node);
+    }
+
+    // One picture for each process, whichever of its clients comes first.
+    std::map<ProcessKey, AudioWorld::Process> pictures;
+    for (const auto& [id, client] : graph.clients) {
+        if (!client.hasInfo)
+            continue;
+        const auto& key = keyOf(client);
+        const auto found = activities.find(id);
+        const auto activity = found == activities.end() ? Activity{} : found->second;
+        if (!activity.hasStream && !processes_.contains(key))
+            continue;
+        auto& known = processes_[key];
+        if (known.id == 0)
+            known = {ids_.next(), key.pid > 0 && questions_.watch(key.pid)};
+        auto& process = pictures[key];
+        process.portalAppID = identityOf(client).portalAppID;
+        process.clients.insert(client.serial);
+        process.isPlaying |= activity.isPlaying;
+        process.isUsingMicrophone |= activity.isUsingMicrophone;
+    }
+
+    std::erase_if(processes_,
+        [&](const auto& entry) { return !entry.second.isWatched && !pictures.contains(entry.first); });
+    for (const auto& [key, known] : processes_) {
+        auto& process = pictures[key];
+        process.id = known.id;
+        process.pid = key.pid;
+        world.processes.push_back(std::move(process));
+    }
+    std::ranges::sort(world.processes, {}, &AudioWorld::Process::id);
+    std::erase_if(keys_, [&](const auto& entry) {
+        return std::ranges::none_of(
+            graph.clients, [&](const auto& client) { return client.second.serial == entry.first; });
+    });
+}
+
+void AudioWorldPainter::processEnded(std::int32_t pid)
+{
+    const auto found = processes_.find({.pid = pid});
+    if (found != processes_.end())
+        found->second.isWatched = false;
+}
+
+const AudioWorldPainter::ProcessKey& AudioWorldPainter::keyOf(const GraphClient& client)
+{
+    const auto found = keys_.find(client.serial);
+    if (found != keys_.end())
+        return found->second;
+    const auto identity = identityOf(client);
+    const bool isBelieved = identity.trust == ClientIdentity::Trust::verified
+        || (identity.trust == ClientIdentity::Trust::claimed
+            && questions_.runs(identity.pid, identity.binary));
+    const bool hasPid = isBelieved && identity.pid > 0;
+    return keys_[client.serial] =
+               hasPid ? ProcessKey{.pid = identity.pid} : ProcessKey{.client = client.serial};
+}
+
+}  // namespace fadeloom

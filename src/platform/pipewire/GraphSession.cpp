@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+#include "platform/pipewire/GraphSession.h"
+
+#include <pipewire/thread-loop.h>
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <thread>
+
+namespace fadeloom {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// How long the start may wait for the first picture.
+constexpr auto welcome = 300ms;
+// How long the end may wait for the applications to be back on their own devices.
+constexpr auto farewell = 1000ms;
+// A device's new rate shows only in its first cycle, of which no event tells; so each burst of events is followed by
+// one more look.
+constexpr auto lookBack = 150ms;
+
+bool runs(std::int32_t pid, const std::string& binary)
+{
+    std::error_code error;
+    const auto executable = std::filesystem::read_symlink("/proc/" + std::to_string(pid) + "/exe", error);
+    return !error && executable.filename() == binary;
+}
+
+}  // namespace
+
+GraphSession::GraphSession(AudioObjectIDs& ids, Callbacks callbacks)
+    : callbacks_(std::move(callbacks))
+    , connection_(static_cast<GraphListener&>(*this))
+    , router_(connection_,
+          [this](std::string text) { callbacks_.report(SystemLog::Level::error, std::move(text)); })
+    , painter_(ids, {.runs = &runs, .watch = [this](std::int32_t pid) { return watch(pid); }})
+    , world_(std::make_shared<AudioWorld>())
+{
+    connection_.start();
+    // Whoever asks first finds the devices there, as with any other audio system.
+    const auto deadline = std::chrono::steady_clock::now() + welcome;
+    while (!isWelcome_.load(std::memory_order_acquire) && std::chrono::steady_clock::now() < deadline)
+        std::this_thread::sleep_for(1ms);
+}
+
+GraphSession::~GraphSession()
+{
+    releaseStopped();
+    const auto deadline = std::chrono::steady_clock::now() + farewell;
+    const auto isIdle = [this] {
+        const GraphLock lock{connection_};
+        return !connection_.core() || router_.isIdle();
+    };
+    while (!isIdle() && std::chrono::steady_clock::now() < deadline)
+        std::this_thread::sleep_for(2ms);
+    connection_.stop();
+}
+
+std::shared_ptr<const AudioWorld> GraphSession::world() const
+{
+    const std::scoped_lock lock{worldMutex_};
+    return world_;
+}
+
+double GraphSession::rateOf(const AudioWorld::Device& device) const
+{
+    const GraphLock lock{connection_};
+    const auto rate = router_.rateOf(device.serial);
+    return rate > 0 ? rate : connection_.graph().graphRate();
+}
+
+bool GraphSession::isConnected() const
+{
+    const GraphLock lock{connection_};
+    return connection_.core() != nullptr;
+}
+
+bool GraphSession::setDefaultDevice(const std::string& nodeName)
+{
+    const GraphLock lock{connection_};
+    if (!connection_.hasSessionManager())
+        return false;
+    connection_.setMetadata(
+        0, "default.configured.audio.sink", "Spa:String:JSON", defaultDeviceValue(nodeName));
+    return true;
+}
+
+TapPath* GraphSession::startPath(
+    std::set<AudioObjectID> processes, const AudioWorld::Device& device, AudioIOProc& proc)
+{
+    const GraphLock lock{connection_};
+    const auto* node = connection_.graph().node(device.node, device.serial);
+    return node ? router_.addPath(std::move(processes), *node, device.layout, proc) : nullptr;
+}
+
+void GraphSession::setProcesses(TapPath& path, std::set<AudioObjectID> processes)
+{
+    const GraphLock lock{connection_};
+    router_.setProcesses(path, std::move(processes));
+}
+
+void GraphSession::stopPath(TapPath& path)
+{
+    const GraphLock lock{connection_};
+    router_.stop(path);
+}
+
+void GraphSession::releaseStopped()
+{
+    const GraphLock lock{connection_};
+    router_.releaseStopped();
+}
+
+void GraphSession::graphChanged()
+{
+    auto world = painter_.paint(connection_.graph());
+    router_.update(world);
+    std::erase_if(exits_, [&](const auto& entry) {
+        return std::ranges::find(world.processes, entry.first, &AudioWorld::Process::pid)
+            == world.processes.end();
+    });
+    publish(std::move(world));
+    if (connection_.hasSessionManager())
+        isWelcome_.store(true, std::memory_order_release);
+    isLookBackDue_ = !isLookBackDue_;
+    if (isLookBackDue_)
+        connection_.callBackIn(lookBack);
+}
+
+void GraphSession::publish(AudioWorld next)
+{
+    auto changes = changesBetween(*world(), next);
+    watchRates(next, changes);
+    {
+        const std::scoped_lock lock{worldMutex_};
+        world_ = std::make_shared<const AudioWorld>(std::move(next));
+    }
+    if (!changes.empty())
+        callbacks_.changed(std::move(changes));
+}
+
+bool GraphSession::watch(std::int32_t pid)
+{
+    auto* loop = pw_thread_loop_get_loop(connection_.threadLoop());
+    auto exit = std::make_unique<ProcessExit>(loop, pid, [this, pid] {
+        painter_.processEnded(pid);
+        connection_.requestUpdate();
+    });
+    const bool isWatching = exit->isWatching();
+    exits_[pid] = std::move(exit);
+    return isWatching;
+}
+
+void GraphSession::watchRates(const AudioWorld& world, std::vector<ChangedProperty>& changes)
+{
+    std::map<AudioObjectID, double> rates;
+    for (const auto& device : world.devices) {
+        const auto driven = router_.rateOf(device.serial);
+        const auto rate = driven > 0 ? driven : connection_.graph().graphRate();
+        rates[device.id] = rate;
+        const auto told = rates_.find(device.id);
+        if (told != rates_.end() && told->second != rate) {
+            changes.push_back({device.id, {kAudioDevicePropertyNominalSampleRate}});
+            // Whoever watches the devices as a whole learns of it too.
+            changes.push_back({kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}});
+        }
+    }
+    rates_ = std::move(rates);
+}
+
+void GraphSession::sessionManagerAppeared()
+{
+    router_.sessionManagerAppeared();
+}
+
+void GraphSession::sessionManagerVanished()
+{
+    router_.sessionManagerVanished();
+}
+
+void GraphSession::metadataChanged(GraphID subject, const std::string& key, const std::string& value)
+{
+    router_.metadataChanged(subject, key, value);
+}
+
+void GraphSession::connected()
+{
+    callbacks_.report(SystemLog::Level::notice, "connected to PipeWire");
+}
+
+void GraphSession::disconnected()
+{
+    callbacks_.report(SystemLog::Level::error, "no PipeWire server; waiting for one");
+    isWelcome_.store(true, std::memory_order_release);
+    router_.disconnected();
+    painter_.forget();
+    exits_.clear();
+}
+
+}  // namespace fadeloom

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+// The callback in a real graph, on PipeWire's own data thread: it never allocates, waits, or calls the system.
+#include "engine/AppTap.h"
+#include "engine/Equalizer.h"
+#include "platform/pipewire/PipeWireHardware.h"
+#include "platform/qt/QtMainLoop.h"
+#include "tests/pipewire/RealPlayers.h"
+#include "tests/platform/AudioReading.h"
+#include "tests/support/RealTimeGuard.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <chrono>
+#include <mutex>
+#include <vector>
+
+namespace fadeloom {
+namespace {
+
+using namespace std::chrono_literals;
+
+class RealTimeCallback : public ::testing::Test {
+protected:
+    void runFor(std::chrono::milliseconds duration)
+    {
+        const auto end = loop.after(duration, [this] { loop.quit(); });
+        loop.run();
+    }
+
+    bool waitUntil(const std::function<bool()>& condition)
+    {
+        for (int i = 0; i < 1000 && !condition(); ++i)
+            runFor(5ms);
+        return condition();
+    }
+
+    RealPlayers players;
+    QtMainLoop loop;
+    PipeWireHardware hardware{loop,
+        {.bundleIdentifier = [](ProcessID, const std::string&) { return "player"; },
+            .portalProcess = {},
+            .report = {}}};
+    AudioReading reading{hardware};
+};
+
+TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChange)
+{
+    ASSERT_TRUE(isGuarding());
+    players.plug("device", "A device", "FL FR");
+    RealPlayers::setDefaultOutput("device");
+    ASSERT_TRUE(waitUntil([&] { return reading.device("device") != kAudioObjectUnknown; }));
+    const auto pid = players.startSine(0.5F);
+    ASSERT_TRUE(waitUntil([&] { return reading.isPlaying(reading.process(pid)); }));
+    auto parameters = std::make_shared<TapParameters>();
+    auto tap = AppTap::create(
+        hardware, {reading.process(pid)}, "device", reading.device("device"), parameters, "Player");
+    ASSERT_TRUE(tap.has_value());
+    ASSERT_TRUE(waitUntil([&] { return parameters->audioSeen.load(); }));
+    const int before = realTimeViolations();
+
+    for (int i = 0; i < 100; ++i) {
+        const std::vector<float> gains(10, static_cast<float>(i % 12));
+        parameters->setEQ(eqCoefficients(gains, 48000));
+        {
+            const std::scoped_lock lock{parameters->lock};
+            parameters->values.eqEnabled = i % 3 != 0;
+            parameters->values.muted = i % 7 == 0;
+            parameters->values.volume = static_cast<float>(i % 5) * 0.5F;
+        }
+        runFor(20ms);
+    }
+
+    EXPECT_GT(parameters->takePeak(), 0);
+    EXPECT_EQ(realTimeViolations() - before, 0) << lastRealTimeViolation();
+}
+
+}  // namespace
+}  // namespace fadeloom
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application{argc, argv};
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "platform/pipewire/AudioWorld.h"
+
+#include "tests/platform/pipewire/GraphOf.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace fadeloom {
+namespace {
+
+class AudioWorldPainting : public ::testing::Test {
+protected:
+    AudioWorld paint() { return painter.paint(world.graph); }
+
+    GraphOf world;
+    AudioObjectIDs ids;
+    bool canWatch = true;
+    AudioWorldPainter painter{ids,
+        {.runs = [](std::int32_t, const std::string& binary) { return binary == "pacat"; },
+            .watch = [this](std::int32_t) { return canWatch; }}};
+};
+
+TEST_F(AudioWorldPainting, aClientWithoutAStreamIsNoProcess)
+{
+    world.nativeClient(100);
+
+    EXPECT_TRUE(paint().processes.empty());
+}
+
+TEST_F(AudioWorldPainting, clientsOfOnePidAreOneProcess)
+{
+    const auto first = world.nativeClient(100);
+    const auto second = world.nativeClient(100);
+    world.stream(first, GraphNode::State::idle);
+    world.stream(second);
+
+    const auto picture = paint();
+
+    ASSERT_EQ(picture.processes.size(), 1U);
+    EXPECT_EQ(picture.processes[0].pid, 100);
+    EXPECT_TRUE(picture.processes[0].isPlaying);
+    EXPECT_EQ(picture.processOfClient(second + 1000), picture.processes.data());
+}
+
+TEST_F(AudioWorldPainting, aProcessStaysWithoutClientsUntilItEnds)
+{
+    const auto client = world.nativeClient(100);
+    const auto stream = world.stream(client);
+    const auto id = paint().processes.at(0).id;
+
+    world.graph.nodes.erase(stream);
+    world.graph.clients.erase(client);
+    const auto alone = paint();
+    painter.processEnded(100);
+
+    ASSERT_EQ(alone.processes.size(), 1U);
+    EXPECT_EQ(alone.processes[0].id, id);
+    EXPECT_FALSE(alone.processes[0].isPlaying);
+    EXPECT_TRUE(paint().processes.empty());
+}
+
+TEST_F(AudioWorldPainting, aProcessThatCannotBeWatchedEndsWithItsLastClient)
+{
+    canWatch = false;
+    const auto client = world.nativeClient(100);
+    world.graph.nodes.erase(world.stream(client));
+    world.stream(client);
+    EXPECT_EQ(paint().processes.size(), 1U);
+
+    world.graph.clients.erase(client);
+
+    EXPECT_TRUE(paint().processes.empty());
+}
+
+TEST_F(AudioWorldPainting, aClaimedPidIsBelievedOnlyWhenItsProgramFits)
+{
+    const auto pulse = [&](const char* binary) {
+        world.stream(world.client({{"client.api", "pipewire-pulse"}, {"application.process.id", "7"},
+            {"application.process.binary", binary}}));
+    };
+    pulse("pacat");
+    pulse("liar");
+
+    const auto picture = paint();
+
+    ASSERT_EQ(picture.processes.size(), 2U);
+    EXPECT_EQ(std::ranges::count(picture.processes, 7, &AudioWorld::Process::pid), 1);
+    EXPECT_EQ(std::ranges::count(picture.processes, -1, &AudioWorld::Process::pid), 1);
+}
+
+TEST_F(AudioWorldPainting, aNewProcessWithAnOldPidHasANewId)
+{
+    const auto client = world.nativeClient(100);
+    world.stream(client);
+    const auto id = paint().processes.at(0).id;
+    world.graph.clients.clear();
+    world.graph.nodes.clear();
+    painter.processEnded(100);
+    EXPECT_TRUE(paint().processes.empty());
+
+    world.stream(world.nativeClient(100));
+
+    EXPECT_NE(paint().processes.at(0).id, id);
+}
+
+TEST_F(AudioWorldPainting, aDeviceIsListedOnceAllItsPortsAreThere)
+{
+    const auto sink = world.sink("speakers", {"FL"});
+    world.graph.nodes[sink].inputPortCount = 2;
+    EXPECT_TRUE(paint().devices.empty());
+
+    world.port(sink, "FR");
+
+    EXPECT_EQ(paint().devices.size(), 1U);
+}
+
+TEST_F(AudioWorldPainting, aDeviceWhoseChannelsChangeIsAnotherDevice)
+{
+    const auto sink = world.sink("speakers", {"FL", "FR"});
+    const auto before = paint().devices.at(0);
+
+    world.graph.nodes[sink].inputPortCount = 4;
+    world.port(sink, "RL");
+    world.port(sink, "RR");
+    const auto after = paint().devices.at(0);
+
+    EXPECT_EQ(after.uid, before.uid);
+    EXPECT_NE(after.id, before.id);
+}
+
+TEST_F(AudioWorldPainting, namesOfAnyBytesAreKeptAsTheyAre)
+{
+    const std::string longName(10000, 'n');
+    world.sink("quo\"ted\n\xff", {"FL", "FR"});
+    world.sink(longName, {"FL", "FR"});
+
+    const auto picture = paint();
+
+    ASSERT_EQ(picture.devices.size(), 2U);
+    EXPECT_EQ(picture.devices[0].uid, "quo\"ted\n\xff");
+    EXPECT_NE(picture.deviceWithUID(longName), nullptr);
+}
+
+TEST_F(AudioWorldPainting, whatDiffersIsTold)
+{
+    const auto client = world.nativeClient(100);
+    const auto stream = world.stream(client, GraphNode::State::idle);
+    const auto before = paint();
+    const auto process = before.processes.at(0).id;
+
+    world.graph.nodes[stream].state = GraphNode::State::running;
+    const auto playing = paint();
+    world.sink("speakers", {"FL", "FR"});
+    world.graph.metadata[0]["default.audio.sink"] = R"({"name":"speakers"})";
+    const auto plugged = paint();
+
+    EXPECT_TRUE(changesBetween(before, before).empty());
+    EXPECT_EQ(changesBetween(before, playing),
+        (std::vector<ChangedProperty>{{process, {kAudioProcessPropertyIsRunningOutput}}}));
+    EXPECT_EQ(changesBetween(playing, plugged),
+        (std::vector<ChangedProperty>{{kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}},
+            {kAudioObjectSystemObject, {kAudioHardwarePropertyDefaultOutputDevice}}}));
+}
+
+}  // namespace
+}  // namespace fadeloom
