@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// Finds the application that a user means by what the user typed.
+#pragma once
+
+#include "control/ControllerState.h"
+#include "platform/Text.h"
+
+#include <expected>
+#include <string>
+
+namespace fadeloom {
+
+/// The bundle identifier of the app that `typed` names: by its identifier, or by its name in any letter case when no
+/// other app has it. Apps in the mixer count before those known from earlier. The error is a sentence for the user,
+/// in English.
+[[nodiscard]] std::expected<std::string, std::string> findApp(
+    const ControllerState& state, const Text& text, const std::string& typed);
+
+}  // namespace fadeloom

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// What the program was asked to do when it was started.
+#pragma once
+
+#include <expected>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace fadeloom {
+
+struct CommandLine {
+    enum class Action { runHeadless, showHelp, showVersion };
+
+    Action action = Action::runHeadless;
+    bool isSimulated = false;  // On a world in memory instead of this machine's audio system.
+
+    friend bool operator==(const CommandLine&, const CommandLine&) = default;
+};
+
+/// `arguments`: without the program's own name. The error is a sentence for the user, in English.
+[[nodiscard]] std::expected<CommandLine, std::string> parseCommandLine(
+    std::span<const std::string_view> arguments);
+
+/// What can be asked, in several lines.
+[[nodiscard]] std::string_view usageText();
+
+}  // namespace fadeloom

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "app/Console.h"
+
+#include "app/PrintableText.h"
+
+#include <utility>
+
+namespace fadeloom {
+namespace {
+
+// Of the terminal's language, as every terminal since the VT100 speaks it.
+constexpr std::string_view eraseToEndOfScreen = "\x1b[J";
+constexpr std::string_view eraseToEndOfLine = "\x1b[K";
+constexpr std::string_view saveCursor = "\x1b"
+                                        "7";
+constexpr std::string_view restoreCursor = "\x1b"
+                                           "8";
+
+std::string upTo(std::size_t lines)
+{
+    return "\r\x1b[" + std::to_string(lines) + "A";
+}
+
+}  // namespace
+
+void Console::print(std::string_view line)
+{
+    leaveTable();
+    out_ << printable(line) << '\n';
+    drawTable();
+    finish();
+}
+
+void Console::showTable(std::vector<std::string> table)
+{
+    const bool isInPlace =
+        !table_.empty() && table.size() == table_.size() && cursorDistance_ == table_.size();
+    if (isInPlace) {
+        table_ = std::move(table);
+        out_ << saveCursor << upTo(cursorDistance_);
+        for (const auto& line : table_)
+            out_ << line << eraseToEndOfLine << "\r\n";
+        out_ << restoreCursor;
+    } else {
+        leaveTable();
+        table_ = std::move(table);
+        drawTable();
+    }
+    finish();
+}
+
+void Console::noteEnteredLine()
+{
+    if (!table_.empty())
+        ++cursorDistance_;
+}
+
+void Console::leaveTable()
+{
+    if (cursorDistance_ > 0)
+        out_ << upTo(cursorDistance_) << eraseToEndOfScreen;
+    cursorDistance_ = 0;
+}
+
+void Console::drawTable()
+{
+    for (const auto& line : table_)
+        out_ << line << '\n';
+    cursorDistance_ = table_.size();
+}
+
+void Console::finish()
+{
+    out_ << std::flush;
+    out_.clear();  // A line that could not be written must not keep the next one back.
+}
+
+}  // namespace fadeloom

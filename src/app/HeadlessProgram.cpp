@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "app/HeadlessProgram.h"
+
+#include "app/Console.h"
+#include "app/HeadlessRun.h"
+#include "app/PlatformLinux.h"
+#include "app/PrintedLog.h"
+#include "app/ScratchFolder.h"
+#include "app/SimulatedHome.h"
+#include "app/TerminalSize.h"
+#include "app/Version.h"
+#include "platform/linux/SyslogSystemLog.h"
+#include "platform/qt/LineReader.h"
+#include "platform/qt/QtMainLoop.h"
+#include "platform/qt/QtText.h"
+#include "platform/qt/QuitSignals.h"
+
+#include <QCoreApplication>
+
+#include <iostream>
+#include <string>
+
+#include <unistd.h>
+
+namespace fadeloom {
+namespace {
+
+void runOn(const Platform& platform, QtMainLoop& mainLoop, Console& console)
+{
+    // First, so that a signal during the start ends in good order, too.
+    const QuitSignals quitSignals([&] { mainLoop.quit(); });
+    HeadlessRun run(platform, console,
+        {
+            .version = std::string(programVersion()),
+            .quit = [&] { mainLoop.quit(); },
+            .terminalSize = [] { return terminalSize(STDOUT_FILENO); },
+        });
+    const bool isEchoedBelowTable = isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
+    const LineReader input(
+        STDIN_FILENO,
+        [&](const LineSplitter::Line& line) {
+            if (isEchoedBelowTable)
+                console.noteEnteredLine();
+            if (line.isTooLong)
+                console.print("error the line is too long");
+            else
+                run.takeLine(line.text);
+        },
+        [] {});  // The end of the input is not the end of the program.
+
+    mainLoop.run();
+    run.shutdown();
+}
+
+int runSimulated(QtMainLoop& mainLoop, Console& console)
+{
+    const auto folder = ScratchFolder::create();
+    if (!folder) {
+        std::cerr << "fadeloom: " << folder.error() << '\n';
+        return 1;
+    }
+    QtText text;
+    SimulatedHome home(folder->path(), mainLoop, text);
+    PrintedLog log(home.world().systemLog(), console, mainLoop);
+    home.start();
+    runOn(home.platform(log), mainLoop, console);
+    return 0;
+}
+
+int runOnThisMachine(QtMainLoop& mainLoop, Console& console)
+{
+    SyslogSystemLog systemLog;
+    PrintedLog log(systemLog, console, mainLoop);
+    PlatformLinux home(mainLoop, log);
+    runOn(home.platform(), mainLoop, console);
+    return 0;
+}
+
+}  // namespace
+
+int runHeadless(int argumentCount, char** arguments, bool isSimulated)
+{
+    const QCoreApplication application(argumentCount, arguments);
+    QtMainLoop mainLoop;
+    Console console(std::cout);
+    return isSimulated ? runSimulated(mainLoop, console) : runOnThisMachine(mainLoop, console);
+}
+
+}  // namespace fadeloom

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "app/HeadlessRun.h"
+
+#include "app/Console.h"
+#include "control/AppSettings.h"
+#include "control/OutputChoice.h"
+#include "platform/MainLoop.h"
+#include "settings/SettingsFile.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace fadeloom {
+namespace {
+
+constexpr std::chrono::seconds tableInterval{1};
+
+}  // namespace
+
+HeadlessRun::HeadlessRun(const Platform& platform, Console& console, Options options)
+    : console_(console)
+    , options_(std::move(options))
+    , engineLog_(
+          platform.systemLog, platform.logQueue, SettingsFile::defaultURL(platform.folders).parent_path())
+    , controller_(platform, engineLog_, options_.version)
+    , eventPrinter_(controller_, console)
+    , commands_(controller_, platform.text)
+{
+    if (options_.terminalSize())
+        tableTimer_ = platform.mainLoop.every(tableInterval, [this] { showTable(); });
+}
+
+void HeadlessRun::takeLine(std::string_view line)
+{
+    const auto reply = commands_.interpret(line);
+    if (!reply.text.empty())
+        console_.print(reply.text);
+    if (reply.asksToQuit)
+        options_.quit();
+}
+
+void HeadlessRun::shutdown()
+{
+    tableTimer_.reset();
+    controller_.shutdown();
+}
+
+void HeadlessRun::showTable()
+{
+    const auto size = options_.terminalSize();
+    if (!size)
+        return;
+    // One column is left free, for the last one would wrap on some terminals; two lines, for what is typed below.
+    console_.showTable(statusTable(statusRows(), size->columns - 1, size->lines - 2));
+}
+
+std::vector<StatusRow> HeadlessRun::statusRows()
+{
+    const auto peaks = controller_.takePeaks();
+    const auto& settings = *controller_.state().settings;
+    std::vector<StatusRow> rows;
+    for (const auto& entry : *controller_.state().apps) {
+        const auto app = appSettings(settings, entry.bundleID);
+        StatusRow row = {
+            .name = entry.name,
+            .output = outputText(entry.bundleID),
+            .volume = std::min(app.volume, settings.volumeLimit),
+            .isMuted = app.muted,
+        };
+        const auto peak = peaks.find(entry.bundleID);
+        if (peak != peaks.end() && controller_.tapOf(entry.bundleID))
+            row.peak = peak->second;
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+std::string HeadlessRun::outputText(const std::string& bundleID) const
+{
+    if (controller_.isOutputMissing(bundleID))
+        return "disconnected, muted";
+    const auto uid = controller_.outputUID(bundleID);
+    const auto* const device = uid ? findDevice(*controller_.state().devices, *uid) : nullptr;
+    return device ? device->name : "no output";
+}
+
+}  // namespace fadeloom

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "app/PlatformLinux.h"
+
+#include "platform/linux/LinuxEnvironment.h"
+#include "platform/linux/Variables.h"
+
+namespace fadeloom {
+
+PlatformLinux::PlatformLinux(MainLoop& mainLoop, SystemLog& systemLog)
+    : mainLoop_(mainLoop)
+    , systemLog_(systemLog)
+    , workspace_(linuxEnvironment(processVariables()))
+    , audio_(mainLoop,
+          {
+              .bundleIdentifier =
+                  [this](ProcessID pid, const std::string& portalAppID) {
+                      return workspace_.bundleIdentifier(pid, portalAppID);
+                  },
+              .portalProcess = [this](const std::string& portalAppID) { return processOf(portalAppID); },
+              .report = [this](SystemLog::Level level,
+                            const std::string& message) { systemLog_.write(level, message); },
+          })
+{
+}
+
+Platform PlatformLinux::platform()
+{
+    return {audio_, workspace_, capturePermission_, mainLoop_, utilityQueue_, logQueue_, folders_, systemLog_,
+        text_};
+}
+
+// Any process of the sandboxed application will do: it stands for the application alone.
+ProcessID PlatformLinux::processOf(const std::string& portalAppID) const
+{
+    for (const auto& application : workspace_.runningApplications()) {
+        if (application.bundleID == portalAppID)
+            return application.pid;
+    }
+    return -1;
+}
+
+}  // namespace fadeloom

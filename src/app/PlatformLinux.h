@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// This machine, as the program sees it on Linux: PipeWire, a freedesktop session, Qt.
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/linux/AlwaysGrantedPermission.h"
+#include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/UtilityQueue.h"
+#include "platform/linux/XdgFolders.h"
+#include "platform/pipewire/PipeWireHardware.h"
+#include "platform/qt/QtText.h"
+
+namespace fadeloom {
+
+/// Thread: main.
+class PlatformLinux {
+public:
+    /// `systemLog` also hears what the audio system's connection reports. Both must outlive this.
+    PlatformLinux(MainLoop& mainLoop, SystemLog& systemLog);
+    PlatformLinux(const PlatformLinux&) = delete;
+    PlatformLinux& operator=(const PlatformLinux&) = delete;
+
+    [[nodiscard]] Platform platform();
+
+private:
+    [[nodiscard]] ProcessID processOf(const std::string& portalAppID) const;
+
+    MainLoop& mainLoop_;
+    SystemLog& systemLog_;
+    XdgFolders folders_;
+    LinuxWorkspace workspace_;
+    AlwaysGrantedPermission capturePermission_;
+    QtText text_;
+    UtilityQueue utilityQueue_;
+    UtilityQueue logQueue_;
+    PipeWireHardware audio_;
+};
+
+}  // namespace fadeloom

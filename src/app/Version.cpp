@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#include "app/Version.h"
+
+namespace fadeloom {
+
+std::string_view programVersion()
+{
+    return FADELOOM_VERSION;
+}
+
+}  // namespace fadeloom

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "app/CommandLine.h"
+#include "app/HeadlessProgram.h"
+#include "app/StandardStreams.h"
+#include "app/Version.h"
+
+#include <iostream>
+#include <vector>
+
+int main(int argc, char** argv)
+{
+    using namespace fadeloom;
+    secureStandardStreams();
+
+    const auto commandLine = parseCommandLine(std::vector<std::string_view>(argv + (argc > 0), argv + argc));
+    if (!commandLine) {
+        std::cerr << "fadeloom: " << commandLine.error() << "\n\n" << usageText();
+        return 2;
+    }
+    switch (commandLine->action) {
+    case CommandLine::Action::showHelp:
+        std::cout << usageText() << std::flush;
+        return 0;
+    case CommandLine::Action::showVersion:
+        std::cout << "fadeloom " << programVersion() << std::endl;
+        return 0;
+    case CommandLine::Action::runHeadless:
+        return runHeadless(argc, argv, commandLine->isSimulated);
+    }
+    return 0;
+}

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "app/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <vector>
+
+namespace fadeloom {
+namespace {
+
+using Action = CommandLine::Action;
+
+std::expected<CommandLine, std::string> parse(std::initializer_list<std::string_view> arguments)
+{
+    return parseCommandLine(std::vector(arguments));
+}
+
+std::string errorOf(std::initializer_list<std::string_view> arguments)
+{
+    const auto result = parse(arguments);
+    return result ? "" : result.error();
+}
+
+TEST(CommandLine, runsHeadless)
+{
+    EXPECT_EQ(parse({"--headless"}), (CommandLine{.action = Action::runHeadless, .isSimulated = false}));
+}
+
+TEST(CommandLine, simulatesInEitherOrder)
+{
+    const CommandLine simulated = {.action = Action::runHeadless, .isSimulated = true};
+
+    EXPECT_EQ(parse({"--headless", "--simulate"}), simulated);
+    EXPECT_EQ(parse({"--simulate", "--headless"}), simulated);
+}
+
+TEST(CommandLine, showsHelpAndVersion)
+{
+    EXPECT_EQ(parse({"--help"})->action, Action::showHelp);
+    EXPECT_EQ(parse({"-h"})->action, Action::showHelp);
+    EXPECT_EQ(parse({"--version"})->action, Action::showVersion);
+}
+
+TEST(CommandLine, helpGoesBeforeEverythingElse)
+{
+    EXPECT_EQ(parse({"--headless", "--version", "--help"})->action, Action::showHelp);
+}
+
+TEST(CommandLine, namesAnUnknownArgument)
+{
+    EXPECT_EQ(errorOf({"--headless", "--loud"}), "unknown argument: --loud");
+    EXPECT_EQ(errorOf({"--help", "loud"}), "unknown argument: loud");
+    EXPECT_EQ(errorOf({""}), "unknown argument: ");
+}
+
+TEST(CommandLine, makesAnUnknownArgumentHarmless)
+{
+    EXPECT_EQ(errorOf({"\x1b[2J"}), "unknown argument: \uFFFD[2J");
+}
+
+TEST(CommandLine, needsHeadless)
+{
+    EXPECT_NE(errorOf({}).find("--headless"), std::string::npos);
+    EXPECT_NE(errorOf({"--simulate"}).find("--headless"), std::string::npos);
+}
+
+TEST(CommandLine, usageNamesEveryArgument)
+{
+    for (const auto argument : {"--headless", "--simulate", "--help", "--version"})
+        EXPECT_NE(usageText().find(argument), std::string_view::npos) << argument;
+}
+
+}  // namespace
+}  // namespace fadeloom

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "app/Console.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace fadeloom {
+namespace {
+
+class ConsoleTest : public testing::Test {
+protected:
+    /// What was written since the last call.
+    std::string written()
+    {
+        auto text = out.str();
+        out.str("");
+        return text;
+    }
+
+    std::ostringstream out;
+    Console console{out};
+};
+
+TEST_F(ConsoleTest, printsLinesAsTheyAre)
+{
+    console.print("app playing com.example.player");
+
+    EXPECT_EQ(written(), "app playing com.example.player\n");
+}
+
+TEST_F(ConsoleTest, makesLinesHarmless)
+{
+    console.print("log tap failed\nok forged\x1b[2J");
+
+    EXPECT_EQ(written(), "log tap failed\uFFFDok forged\uFFFD[2J\n");
+}
+
+TEST_F(ConsoleTest, putsANewLineAboveTheTable)
+{
+    console.showTable({"App", "Player"});
+    EXPECT_EQ(written(), "App\nPlayer\n");
+
+    console.print("line");
+    EXPECT_EQ(written(), "\r\x1b[2A\x1b[Jline\nApp\nPlayer\n");
+}
+
+TEST_F(ConsoleTest, renewsATableOfTheSameHeightInPlace)
+{
+    console.showTable({"App", "Player"});
+    written();
+
+    console.showTable({"App", "Chat"});
+
+    EXPECT_EQ(written(),
+        "\x1b"
+        "7\r\x1b[2AApp\x1b[K\r\nChat\x1b[K\r\n\x1b"
+        "8");
+}
+
+TEST_F(ConsoleTest, drawsATableOfAnotherHeightAnew)
+{
+    console.showTable({"App", "Player"});
+    written();
+
+    console.showTable({"App"});
+
+    EXPECT_EQ(written(), "\r\x1b[2A\x1b[JApp\n");
+}
+
+TEST_F(ConsoleTest, knowsThatAnEnteredLineMovedTheCursor)
+{
+    console.showTable({"App", "Player"});
+    written();
+
+    console.noteEnteredLine();
+    console.print("ok");
+
+    EXPECT_EQ(written(), "\r\x1b[3A\x1b[Jok\nApp\nPlayer\n");
+}
+
+TEST_F(ConsoleTest, entersNothingWithoutATable)
+{
+    console.noteEnteredLine();
+    console.print("ok");
+
+    EXPECT_EQ(written(), "ok\n");
+}
+
+TEST_F(ConsoleTest, goesOnAfterAFailedWrite)
+{
+    out.setstate(std::ios::badbit);
+    console.print("lost");
+    console.print("seen");
+
+    EXPECT_EQ(written(), "seen\n");
+}
+
+}  // namespace
+}  // namespace fadeloom

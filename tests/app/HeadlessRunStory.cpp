@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+// What a headless run tells, and how it ends.
+#include "tests/app/HeadlessStory.h"
+
+#include <thread>
+
+namespace fadeloom {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::IsSupersetOf;
+using testing::Not;
+using testing::StartsWith;
+
+class HeadlessRunStory : public HeadlessStory { };
+
+TEST_F(HeadlessRunStory, tellsHowThingsStandAtTheStart)
+{
+    start();
+
+    EXPECT_THAT(lines(),
+        ElementsAre("log started 1.2.3, permission: granted, output: speakers",  //
+            "permission granted",  //
+            "device added headphones Headphones",  //
+            "device added speakers \"Desk Speakers\"",  //
+            "default speakers"));
+}
+
+TEST_F(HeadlessRunStory, tellsOfAnAppFromItsFirstSoundToItsEnd)
+{
+    start();
+    lines();
+
+    const auto player = launchPlaying("Player");
+    EXPECT_THAT(lines(),
+        IsSupersetOf({"app appeared com.example.player Player", "app playing com.example.player",
+            "app output com.example.player speakers",
+            "log tap ready: com.example.player → speakers @ 48000.0 Hz, 1 process(es), mic streams off: 0"}));
+
+    world.stopPlaying(player);
+    world.runPosted();
+    EXPECT_THAT(lines(), Contains("app silent com.example.player"));
+
+    world.quitApp(player);
+    world.runPosted();
+    EXPECT_THAT(lines(),
+        IsSupersetOf(
+            {"app disappeared com.example.player", "log tap removed (app quit): com.example.player"}));
+}
+
+TEST_F(HeadlessRunStory, tellsOfDevicesAndWhereTheAppsGo)
+{
+    launchPlaying("Player");
+    start();
+    lines();
+
+    world.unplug("speakers");
+    world.runPosted();
+
+    EXPECT_THAT(lines(),
+        IsSupersetOf({"device removed speakers \"Desk Speakers\"", "default headphones",
+            "app output com.example.player headphones"}));
+}
+
+TEST_F(HeadlessRunStory, tellsOfATapThatFails)
+{
+    start();
+    lines();
+    world.refuse(AudioOperation::createProcessTap, HowOften::always, -50);
+
+    launchPlaying("Player");
+
+    EXPECT_THAT(lines(),
+        Contains("log-error tap failed: com.example.player: Create process tap failed (OSStatus -50)"));
+}
+
+TEST_F(HeadlessRunStory, tellsOfPermission)
+{
+    start();
+    lines();
+
+    world.setPermission(SimulatedCapturePermission::denied);
+    world.advance(5s);
+
+    EXPECT_THAT(lines(), ElementsAre("log permission: denied", "permission denied"));
+}
+
+TEST_F(HeadlessRunStory, tellsWhenTheSettingsCannotBeSaved)
+{
+    launchPlaying("Player");
+    start();
+    std::filesystem::remove_all(settingsFile());
+    std::filesystem::create_directories(settingsFile());
+    lines();
+
+    run->takeLine("volume player 0.5");
+    world.advance(1s);
+
+    EXPECT_THAT(lines(), Contains(StartsWith("message \"Could not save settings: ")));
+}
+
+TEST_F(HeadlessRunStory, isQuietWhileNothingHappens)
+{
+    launchPlaying("Player");
+    start();
+    world.advance(10s);
+    lines();
+
+    world.advance(1min);
+
+    EXPECT_THAT(lines(), IsEmpty());
+}
+
+TEST_F(HeadlessRunStory, shutdownSavesWhatWaitsAndGivesEveryAppBack)
+{
+    launchPlaying("Player");
+    start();
+    run->takeLine("volume player 0.5");
+
+    run->shutdown();
+
+    EXPECT_EQ(saved().apps.at("com.example.player").volume, 0.5F);
+    EXPECT_NEAR(heardAt("speakers"), source, tolerance);
+    EXPECT_THAT(world.audio().operations(), Contains(AudioOperation::destroyProcessTap));
+}
+
+TEST_F(HeadlessRunStory, showsATableEverySecondOnATerminal)
+{
+    terminal = TerminalSize{};
+    launchPlaying("Player");
+    start();
+    run->takeLine("volume player 0.5");
+    world.advance(1s);
+    lines();
+
+    world.advance(1s);
+
+    const auto table = lines();
+    ASSERT_EQ(table.size(), 3);
+    EXPECT_THAT(table[0], HasSubstr("App     Output         Volume      Level"));
+    EXPECT_THAT(table[1], HasSubstr("Player  Desk Speakers     50%   -18.1 dB"));
+}
+
+TEST_F(HeadlessRunStory, showsWhyAnAppIsNotHeard)
+{
+    terminal = TerminalSize{};
+    launchPlaying("Player");
+    launchPlaying("Chat");
+    start();
+    run->takeLine("output player headphones");
+    run->takeLine("mute chat on");
+    world.unplug("headphones");
+
+    world.advance(2s);
+
+    EXPECT_THAT(lines(), Contains(HasSubstr("Player  disconnected, muted    100%")));
+}
+
+TEST_F(HeadlessRunStory, showsNoTableElsewhere)
+{
+    launchPlaying("Player");
+    start();
+
+    world.advance(3s);
+
+    EXPECT_THAT(lines(), Not(Contains(HasSubstr("Volume"))));
+}
+
+TEST_F(HeadlessRunStory, printsWhatAnotherThreadLogsInALaterTurn)
+{
+    std::jthread([&] { printedLog.write(SystemLog::Level::error, "from elsewhere"); }).join();
+    EXPECT_THAT(lines(), IsEmpty());
+
+    world.runPosted();
+    EXPECT_THAT(lines(), ElementsAre("log-error from elsewhere"));
+}
+
+}  // namespace
+}  // namespace fadeloom

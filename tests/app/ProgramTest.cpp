@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+// The program as a user starts it.
+#include "platform/simulated/SimulatedSystemLog.h"
+#include "settings/SettingsFile.h"
+#include "tests/app/RunningProgram.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace fadeloom {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+TEST(Program, showsItsVersion)
+{
+    RunningProgram program({"--version"});
+
+    EXPECT_THAT(program.restOfOutput(), testing::MatchesRegex("fadeloom [0-9.]+\n"));
+    EXPECT_EQ(program.exitStatus(), 0);
+}
+
+TEST(Program, showsHowItIsUsed)
+{
+    RunningProgram program({"--help"});
+
+    EXPECT_THAT(program.restOfOutput(), StartsWith("Usage: fadeloom --headless"));
+    EXPECT_EQ(program.exitStatus(), 0);
+}
+
+TEST(Program, refusesAnUnknownArgumentWithStatusTwo)
+{
+    RunningProgram program({"--headless", "--loud"});
+
+    EXPECT_EQ(program.exitStatus(), 2);
+    EXPECT_THAT(program.errorText(), StartsWith("fadeloom: unknown argument: --loud\n"));
+    EXPECT_EQ(program.restOfOutput(), "");
+}
+
+TEST(Program, refusesToRunWithoutHeadless)
+{
+    RunningProgram bare({});
+    RunningProgram simulated({"--simulate"});
+
+    EXPECT_EQ(bare.exitStatus(), 2);
+    EXPECT_EQ(simulated.exitStatus(), 2);
+}
+
+class SimulatedProgram : public testing::Test {
+protected:
+    bool isPlaying() { return program.lineWith("log tap ready: com.example.player").has_value(); }
+
+    TemporaryFolder temporary;
+    RunningProgram program{{"--headless", "--simulate"}, {{"TMPDIR", temporary.path().string()}}};
+};
+
+TEST_F(SimulatedProgram, showsTheWorldAtWork)
+{
+    EXPECT_TRUE(isPlaying());
+    EXPECT_TRUE(program.lineWith("app appeared com.example.browser Browser"));
+    EXPECT_TRUE(program.lineWith("log tap ready: com.example.browser"));
+}
+
+TEST_F(SimulatedProgram, takesCommands)
+{
+    ASSERT_TRUE(isPlaying());
+
+    program.write("volume player 0.5\nlouder\n");
+
+    EXPECT_EQ(program.lineWith("ok"), "ok volume com.example.player 0.5");
+    EXPECT_EQ(program.lineWith("error"), "error unknown command louder, help lists them");
+}
+
+TEST_F(SimulatedProgram, refusesALineThatIsTooLong)
+{
+    ASSERT_TRUE(isPlaying());
+
+    program.write("quit " + std::string(10000, ' ') + "\n");
+
+    EXPECT_EQ(program.lineWith("error"), "error the line is too long");
+}
+
+TEST_F(SimulatedProgram, endsWithStatusZeroOnASignal)
+{
+    ASSERT_TRUE(isPlaying());
+
+    program.signal(SIGTERM);
+
+    EXPECT_EQ(program.exitStatus(), 0);
+}
+
+TEST_F(SimulatedProgram, endsWithStatusZeroOnAnInterrupt)
+{
+    ASSERT_TRUE(isPlaying());
+
+    program.signal(SIGINT);
+
+    EXPECT_EQ(program.exitStatus(), 0);
+}
+
+TEST_F(SimulatedProgram, endsWithStatusZeroOnQuit)
+{
+    ASSERT_TRUE(isPlaying());
+
+    program.write("quit\n");
+
+    EXPECT_EQ(program.exitStatus(), 0);
+    EXPECT_THAT(program.restOfOutput(), HasSubstr("ok quit\n"));
+}
+
+TEST_F(SimulatedProgram, goesOnAfterTheEndOfItsInput)
+{
+    ASSERT_TRUE(isPlaying());
+
+    program.closeInput();
+
+    EXPECT_TRUE(program.lineWith("app appeared com.example.chat Chat"));
+}
+
+TEST_F(SimulatedProgram, goesOnWhenNobodyReadsItsOutput)
+{
+    ASSERT_TRUE(isPlaying());
+
+    program.closeOutput();
+    program.write("help\nlist\nhelp\nquit\n");
+
+    EXPECT_EQ(program.exitStatus(), 0);
+}
+
+TEST_F(SimulatedProgram, leavesNoFileBehind)
+{
+    ASSERT_TRUE(isPlaying());
+    EXPECT_FALSE(std::filesystem::is_empty(temporary.path()));
+
+    program.write("volume player 0.5\nquit\n");
+
+    EXPECT_EQ(program.exitStatus(), 0);
+    EXPECT_TRUE(std::filesystem::is_empty(temporary.path()));
+}
+
+/// On this machine, with folders of its own and no audio server to be found.
+class RealProgram : public testing::Test {
+protected:
+    RealProgram()
+    {
+        SettingsData settings;
+        settings.knownAppNames["com.example.player"] = "Player";
+        EXPECT_TRUE(SettingsFile::save(settings, settingsFile));
+        const auto here = folder.path().string();
+        program.emplace(std::vector<std::string>{"--headless"},
+            std::map<std::string, std::string>{
+                {"XDG_CONFIG_HOME", here}, {"XDG_RUNTIME_DIR", here}, {"PIPEWIRE_RUNTIME_DIR", here}});
+        EXPECT_TRUE(program->lineWith("default none"));
+    }
+
+    float savedVolume()
+    {
+        SimulatedSystemLog log;
+        return SettingsFile::load(settingsFile, log).apps["com.example.player"].volume;
+    }
+
+    TemporaryFolder folder;
+    std::filesystem::path settingsFile = folder.path() / "Fadeloom" / "settings.json";
+    std::optional<RunningProgram> program;
+};
+
+TEST_F(RealProgram, savesAChangeThatIsStillWaitingWhenItIsToldToEnd)
+{
+    program->write("volume player 0.5\n");
+    ASSERT_EQ(program->lineWith("ok"), "ok volume com.example.player 0.5");
+
+    program->signal(SIGTERM);
+
+    EXPECT_EQ(program->exitStatus(), 0);
+    EXPECT_EQ(savedVolume(), 0.5F);
+}
+
+TEST_F(RealProgram, savesByItselfHalfASecondAfterAChange)
+{
+    program->write("volume player 0.25\n");
+    ASSERT_TRUE(program->lineWith("ok"));
+
+    const auto deadline = std::chrono::steady_clock::now() + RunningProgram::patience;
+    while (savedVolume() != 0.25F && std::chrono::steady_clock::now() < deadline)
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+
+    EXPECT_EQ(savedVolume(), 0.25F);
+}
+
+TEST_F(RealProgram, endsOnAHangup)
+{
+    program->signal(SIGHUP);
+
+    EXPECT_EQ(program->exitStatus(), 0);
+}
+
+}  // namespace
+}  // namespace fadeloom
