@@ -1,0 +1,130 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Shows Fadeloom at work without any audio hardware.
+
+A private PipeWire session with two virtual devices; two real players, one native and one on PulseAudio; Fadeloom with
+settings that turn one down and boost, equalize and move the other. What arrives at the devices is recorded before and
+after, and the measured levels are printed.
+
+    tools/demo.py PROGRAM
+"""
+
+import pathlib
+import sys
+import time
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
+
+import signals  # noqa: E402
+from audioSession import AudioSession, SessionError, waitUntil  # noqa: E402
+from fadeloomProcess import FadeloomProcess, app, settings  # noqa: E402
+
+DEVICES = ("speakers", "headphones")
+MUSIC = 440  # Hz, played by pw-play.
+RADIO = 1000  # Hz, played by paplay.
+QUANTUM = 1024
+SILENCE = -60  # dB; what the noise and the limiter leave on a player's frequency stays below.
+
+SETTINGS = settings({
+    "pw-cat": app(volume=0.5),
+    "pacat": app(volume=2.0, outputUID="headphones", eqEnabled=True, eqPresetName="Vocal",
+                 eqGains=[-2, -2, -1, 1, 3, 3, 3, 2, 1, 0]),
+}, volumeLimit=2.0)
+
+PLAYERS = (
+    ("pw-play, native, 440 Hz", MUSIC, "volume 50 %"),
+    ("paplay, PulseAudio, 1 kHz", RADIO, "volume 200 %, preset Vocal, on the headphones"),
+)
+
+
+def measure(session, name):
+    """Each player's level on each device in dB, from a second of what the devices play."""
+    files = {device: session.recordDevice(f"{name}-{device}", device) for device in DEVICES}
+    time.sleep(1.5)
+    for device in DEVICES:
+        session.endRecording(f"{name}-{device}")
+    levels = {}
+    for device, file in files.items():
+        recorded = signals.read(file)
+        for _, frequency, _ in PLAYERS:
+            second = recorded[-signals.RATE - 4096:-4096]  # Whole periods of both.
+            levels[device, frequency] = float(signals.decibels(signals.amplitude(second, frequency).max()))
+    return levels
+
+
+def measureDelay(session, name, port):
+    """How many frames the device follows a player by."""
+    file = session.record(name, port, "speakers:monitor_FL", quantum=QUANTUM)
+    time.sleep(0.8)
+    session.endRecording(name)
+    recorded = signals.read(file)[2048:]
+    return signals.delay(recorded[:, 0], recorded[:, 1])
+
+
+def show(levels):
+    print(f"  {'':26}" + "".join(f"{device:>14}" for device in DEVICES))
+    for name, frequency, _ in PLAYERS:
+        row = [levels[device, frequency] for device in DEVICES]
+        print(f"  {name:26}" + "".join(f"{level:11.2f} dB" if level > SILENCE else f"{'silent':>14}" for level in row))
+
+
+def demonstrate(session, program):
+    session.setQuantum(QUANTUM)
+    music = signals.sine(MUSIC, 0.25, 40) + signals.noise(0.02, 40)  # The noise is for finding the delay.
+    signals.write(session.folder / "music.wav", music)
+    signals.write(session.folder / "radio.wav", signals.sine(RADIO, 0.4, 40))
+    session.spawn("music", ["pw-play", str(session.folder / "music.wav")])
+    session.spawn("radio", ["paplay", "--latency-msec=20", str(session.folder / "radio.wav")])
+    waitUntil(lambda: session.nodeId("paplay") and session.nodeId("pw-play"), "the players")
+    time.sleep(0.5)
+
+    print("\nTwo players in a private audio session, both on the speakers:")
+    before = measure(session, "before")
+    show(before)
+    direct = measureDelay(session, "direct", "pw-play:output_FL")
+
+    with FadeloomProcess(session, program, SETTINGS) as fadeloom:
+        fadeloom.waitFor("tap ready: pw-cat")
+        fadeloom.waitFor("tap ready: pacat")
+        time.sleep(0.7)
+        print("\nFadeloom is started with settings for both:")
+        for name, _, what in PLAYERS:
+            print(f"  {name:26}  {what}")
+        print("\nWhat it says:")
+        for line in fadeloom.text():
+            print(f"  {line}")
+        print("\nWhat arrives at the devices now:")
+        after = measure(session, "after")
+        show(after)
+        tapped = measureDelay(session, "tapped", "pw-play:output_FL")
+        fadeloom.quit()
+
+    change = after["speakers", MUSIC] - before["speakers", MUSIC]
+    print(f"\n  pw-play is {change:+.2f} dB: half the amplitude is -6.02 dB.")
+    print("  paplay left the speakers and plays on the headphones, its peaks held at -1 dB (0.891).")
+    print(f"  Added delay: {tapped - direct} frames, at {QUANTUM} frames a cycle.")
+
+    time.sleep(0.7)
+    print("\nFadeloom has ended; the players are on their own again:")
+    end = measure(session, "end")
+    show(end)
+    isRight = (abs(change + 6.02) < 0.05 and tapped == direct and after["speakers", RADIO] < SILENCE
+               and abs(after["headphones", RADIO] + 1) < 0.1 and abs(end["speakers", RADIO] - before["speakers", RADIO]) < 0.05)
+    print("\nAll as it should be." if isRight else "\nThis is not as it should be.")
+    return 0 if isRight else 1
+
+
+def main(arguments):
+    if len(arguments) != 1:
+        print(__doc__, file=sys.stderr)
+        return 2
+    try:
+        with AudioSession() as session:
+            return demonstrate(session, pathlib.Path(arguments[0]).resolve())
+    except SessionError as error:
+        print(f"The demo session failed: {error}", file=sys.stderr)
+        return 1
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))

@@ -1,0 +1,178 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Builds and runs the test suites that `./test` names, and ends with one line that counts them."""
+
+import argparse
+import os
+import pathlib
+import subprocess
+import sys
+import time
+import xml.etree.ElementTree as ElementTree
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+RESULTS = ROOT / "build" / "results"
+SPECIAL = ("pipewire", "sanitizers", "fuzz", "checks")
+
+
+class Tally:
+    """Counts tests over suites and remembers which failed."""
+
+    def __init__(self):
+        self.passed = 0
+        self.skipped = 0
+        self.failures = []
+
+    def addJUnit(self, suite, file, status):
+        """Takes the results of a suite; one that left none behind counts as one failure."""
+        try:
+            cases = list(ElementTree.parse(file).iter("testcase"))
+        except (OSError, ElementTree.ParseError):
+            cases = []
+        failed = [case for case in cases if case.find("failure") is not None or case.find("error") is not None]
+        skipped = [case for case in cases if case.find("skipped") is not None]
+        self.passed += len(cases) - len(failed) - len(skipped)
+        self.skipped += len(skipped)
+        self.failures += [f"{suite}: {case.get('classname', '')}.{case.get('name')}" for case in failed]
+        if not cases:
+            self.failures.append(f"{suite}: ran no test")
+        elif status != 0 and not failed:
+            self.failures.append(f"{suite}: ended with status {status}")
+
+    def add(self, name, isPassed):
+        if isPassed:
+            self.passed += 1
+        else:
+            self.failures.append(name)
+
+    def conclude(self):
+        for failure in self.failures:
+            print(f"FAILED {failure}")
+        tail = f", {self.skipped} skipped" if self.skipped else ""
+        print(f"{self.passed} passed, {len(self.failures)} failed{tail}")
+        return 1 if self.failures else 0
+
+
+def run(*command, quiet=False, **options):
+    """Runs a command in the project's root; with `quiet`, its output shows only when it fails."""
+    command = [str(word) for word in command]
+    if not quiet:
+        return subprocess.run(command, cwd=ROOT, **options).returncode
+    done = subprocess.run(command, cwd=ROOT, text=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, **options)
+    if done.returncode != 0:
+        print(done.stdout)
+    return done.returncode
+
+
+def build(preset, *targets):
+    """Configures a preset and builds it, or only these targets; ends the run when that fails."""
+    started = time.monotonic()
+    chosen = ["--target", *targets] if targets else []
+    if run("cmake", "--preset", preset, quiet=True) or run("cmake", "--build", "--preset", preset, *chosen, quiet=True):
+        print(f"FAILED to build {preset}\n0 passed, 1 failed")
+        sys.exit(1)
+    print(f"Built {preset} in {time.monotonic() - started:.0f} s", flush=True)
+
+
+def results(name):
+    RESULTS.mkdir(parents=True, exist_ok=True)
+    file = RESULTS / f"{name}.xml"
+    file.unlink(missing_ok=True)
+    return file
+
+
+def runUnits(tally, labels):
+    """The unit tests and the ones on the simulated platform; `labels` are folders of src/, none means all."""
+    file = results("units")
+    pattern = "^(" + "|".join(labels) + ")$" if labels else "."
+    status = run("ctest", "--preset", "test", "--output-junit", file, "-L", pattern, quiet=True)
+    tally.addJUnit("units", file, status)
+
+
+def runPipeWire(tally):
+    """The contract and the real program, in private audio sessions."""
+    for name in ("pipewireContractTests", "pipewireRealTimeTests"):
+        file = results(name)
+        status = run("/usr/bin/python3", "tools/audioSession.py", "run", "--",
+                     ROOT / "build/test/tests/pipewire" / name, f"--gtest_output=xml:{file}", quiet=True)
+        tally.addJUnit(name, file, status)
+
+    file = results("pipewire")
+    status = run("/usr/bin/python3", "-B", "-m", "pytest", "-q", "-p", "no:cacheprovider", f"--junitxml={file}",
+                 "tests/pipewire", env={**os.environ, "FADELOOM": str(ROOT / "build/test/fadeloom")})
+    tally.addJUnit("pipewire", file, status)
+
+
+def runSanitizers(tally, isLong):
+    """The unit tests under the sanitizers; in the short form those of the folders where memory and threads matter."""
+    short = {"asan": ["engine", "settings"], "tsan": ["engine"]}
+    for preset in ("asan", "tsan"):
+        folders = [] if isLong else short[preset]
+        build(preset, *(folder.replace("/", "_") + "Tests" for folder in folders))
+        file = results(preset)
+        pattern = "^(" + "|".join(folders) + ")$" if folders else "."
+        status = run("ctest", "--preset", preset, "--output-junit", file, "-L", pattern, quiet=True)
+        tally.addJUnit(preset, file, status)
+
+
+def runFuzz(tally, isLong):
+    """Looks for inputs that the settings reader does not survive: for half a minute, or ten."""
+    seconds = 600 if isLong else 30
+    folder = ROOT / "build" / "fuzz"
+    isBuilt = run("cmake", "-G", "Ninja", "-B", folder, "-DCMAKE_CXX_COMPILER=clang++-19", "-DFADELOOM_FUZZ=ON",
+                  "-DFADELOOM_SANITIZE=fuzzer-no-link,address,undefined", "-DCMAKE_BUILD_TYPE=RelWithDebInfo",
+                  quiet=True) == 0 and run("cmake", "--build", folder, "--target", "settingsFuzz", quiet=True) == 0
+    found = folder / "found"
+    found.mkdir(parents=True, exist_ok=True)
+    isPassed = isBuilt and run(folder / "tests/fuzz/settingsFuzz", "-max_len=4096", f"-max_total_time={seconds}",
+                               f"-artifact_prefix={folder}/", found, "tests/fuzz/corpus/settings", quiet=True) == 0
+    tally.add("fuzz: settings", isPassed)
+
+
+def sources(*suffixes):
+    listed = subprocess.run(["git", "ls-files", "src", "tests"], cwd=ROOT, text=True, capture_output=True)
+    return [name for name in listed.stdout.split("\n") if name.endswith(suffixes)]
+
+
+def runChecks(tally, isLong):
+    """What tools can say of the sources without running them."""
+    tally.add("checks: formatting",
+              run("clang-format-19", "--dry-run", "-Werror", *sources(".cpp", ".h"), quiet=True) == 0)
+    tally.add("checks: layers", run("/usr/bin/python3", "tools/checkLayers.py", quiet=True) == 0)
+    if not isLong:
+        return
+    # The plain build's commands: one for each source.
+    looked = [name for name in sources(".cpp") if name.startswith("src/")]
+    tally.add("checks: static analysis", run("cmake", "--preset", "dev", quiet=True) == 0 and
+              run("xargs", "-P", "2", "-n", "4", "clang-tidy-19", "--quiet", "--extra-arg=-Wno-unknown-warning-option",
+                  "-p", "build/dev", quiet=True, input="\n".join(looked)) == 0)
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--long", action="store_true", help="the long form of the slow suites")
+    parser.add_argument("suites", nargs="*", help="folders of src/, or " + ", ".join(SPECIAL))
+    arguments = parser.parse_args()
+    folders = [suite for suite in arguments.suites if suite not in SPECIAL]
+    unknown = [folder for folder in folders if not (ROOT / "src" / folder / "CMakeLists.txt").is_file()]
+    if unknown:
+        parser.error("no suite is called " + ", ".join(unknown))
+
+    tally = Tally()
+    build("test")
+    everything = not arguments.suites
+    if everything or folders:
+        runUnits(tally, folders)
+    if everything or "pipewire" in arguments.suites:
+        runPipeWire(tally)
+    if everything or "checks" in arguments.suites:
+        runChecks(tally, arguments.long)
+    if everything or "sanitizers" in arguments.suites:
+        runSanitizers(tally, arguments.long)
+    if everything or "fuzz" in arguments.suites:
+        runFuzz(tally, arguments.long)
+    return tally.conclude()
+
+
+if __name__ == "__main__":
+    sys.exit(main())
