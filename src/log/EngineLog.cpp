@@ -2,8 +2,8 @@
 #include "log/EngineLog.h"
 
 #include "platform/BackgroundQueue.h"
+#include "platform/FileDescriptor.h"
 #include "platform/SystemLog.h"
-#include "settings/FileDescriptor.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

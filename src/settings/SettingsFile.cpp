@@ -3,8 +3,8 @@
 
 #include "platform/StandardFolders.h"
 #include "platform/SystemLog.h"
+#include "platform/WholeFile.h"
 #include "settings/SettingsJson.h"
-#include "settings/WholeFile.h"
 
 #include <system_error>
 
@@ -65,7 +65,9 @@ std::expected<void, SettingsError> save(const SettingsData& settings, const fs::
     if (error)
         return std::unexpected(
             SettingsError{"Cannot create the folder " + folder.string() + ": " + error.message()});
-    return WholeFile::replace(file, encodeSettings(settings));
+    if (const auto replaced = WholeFile::replace(file, encodeSettings(settings)); !replaced)
+        return std::unexpected(SettingsError{replaced.error()});
+    return {};
 }
 
 }  // namespace fadeloom::SettingsFile

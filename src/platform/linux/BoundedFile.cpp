@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/BoundedFile.h"
 
+#include "platform/FileDescriptor.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -11,40 +13,17 @@
 
 namespace fadeloom {
 
-namespace {
-
-class Descriptor {
-public:
-    explicit Descriptor(const std::filesystem::path& file)
-        : number_(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY))
-    {
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor()
-    {
-        if (number_ >= 0)
-            close(number_);
-    }
-    [[nodiscard]] int number() const { return number_; }
-
-private:
-    int number_;
-};
-
-}  // namespace
-
 std::optional<std::string> readBoundedFile(const std::filesystem::path& file, std::size_t limit)
 {
-    const Descriptor descriptor{file};
+    const FileDescriptor descriptor{open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY)};
     struct stat status = {};
-    if (descriptor.number() < 0 || fstat(descriptor.number(), &status) != 0 || !S_ISREG(status.st_mode))
+    if (!descriptor.isOpen() || fstat(descriptor.get(), &status) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;
     std::string content;
     std::array<char, 8192> piece;
     while (content.size() < limit) {
         const auto wanted = std::min(piece.size(), limit - content.size());
-        const ssize_t count = read(descriptor.number(), piece.data(), wanted);
+        const ssize_t count = read(descriptor.get(), piece.data(), wanted);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)

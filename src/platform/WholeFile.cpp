@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "settings/WholeFile.h"
+#include "platform/WholeFile.h"
 
-#include "settings/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -18,10 +18,10 @@ namespace {
 namespace fs = std::filesystem;
 
 /// An error in the system's words, which `errno` still holds.
-std::unexpected<SettingsError> failed(const std::string& what, const fs::path& file, int code = errno)
+std::unexpected<std::string> failed(const std::string& what, const fs::path& file, int code = errno)
 {
     const auto reason = std::error_code(code, std::generic_category()).message();
-    return std::unexpected(SettingsError{what + " " + file.string() + ": " + reason});
+    return std::unexpected(what + " " + file.string() + ": " + reason);
 }
 
 std::optional<struct stat> statusOf(const fs::path& file)
@@ -33,7 +33,7 @@ std::optional<struct stat> statusOf(const fs::path& file)
 }
 
 /// The file that a chain of symbolic links ends at; it need not exist.
-std::expected<fs::path, SettingsError> endOfLinks(fs::path file)
+std::expected<fs::path, std::string> endOfLinks(fs::path file)
 {
     constexpr int longestChain = 40;
     std::error_code ignored;
@@ -137,7 +137,7 @@ std::expected<std::string, ReadError> read(const fs::path& file, std::size_t max
     return std::unexpected(ReadError::tooLarge);
 }
 
-std::expected<void, SettingsError> replace(const fs::path& file, std::string_view content)
+std::expected<void, std::string> replace(const fs::path& file, std::string_view content)
 {
     const auto target = endOfLinks(file);
     if (!target)

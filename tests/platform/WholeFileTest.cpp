@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "settings/WholeFile.h"
+#include "platform/WholeFile.h"
 
 #include "tests/support/TemporaryFolder.h"
 
@@ -172,7 +172,7 @@ TEST_F(WholeFileTest, symbolicLinksInACircleAreRefused)
     const auto replaced = WholeFile::replace(file, "new");
 
     ASSERT_FALSE(replaced);
-    EXPECT_THAT(replaced.error().description, HasSubstr("symbolic links"));
+    EXPECT_THAT(replaced.error(), HasSubstr("symbolic links"));
 }
 
 TEST_F(WholeFileTest, whatIsNoFileIsNotReplaced)
@@ -183,7 +183,7 @@ TEST_F(WholeFileTest, whatIsNoFileIsNotReplaced)
 
     const auto replaced = WholeFile::replace(file, "new");
     ASSERT_FALSE(replaced);
-    EXPECT_THAT(replaced.error().description, HasSubstr("Is a directory"));
+    EXPECT_THAT(replaced.error(), HasSubstr("Is a directory"));
     EXPECT_FALSE(WholeFile::replace(pipe, "new"));
     EXPECT_FALSE(WholeFile::replace("/dev/null", "new"));
 
@@ -196,7 +196,7 @@ TEST_F(WholeFileTest, missingFolderIsToldInTheSystemsWords)
     const auto replaced = WholeFile::replace(folder.path() / "missing" / "file.json", "new");
 
     ASSERT_FALSE(replaced);
-    EXPECT_THAT(replaced.error().description, HasSubstr("missing/file.json: No such file or directory"));
+    EXPECT_THAT(replaced.error(), HasSubstr("missing/file.json: No such file or directory"));
 }
 
 TEST_F(WholeFileTest, fullDiskLeavesTheOldContentAndNothingElse)
@@ -204,14 +204,14 @@ TEST_F(WholeFileTest, fullDiskLeavesTheOldContentAndNothingElse)
     put(file, "old");
     const std::string large(100'000, 'x');
 
-    std::expected<void, SettingsError> replaced;
+    std::expected<void, std::string> replaced;
     {
         const FullDisk disk(4096);
         replaced = WholeFile::replace(file, large);
     }
 
     ASSERT_FALSE(replaced);
-    EXPECT_THAT(replaced.error().description, HasSubstr("File too large"));
+    EXPECT_THAT(replaced.error(), HasSubstr("File too large"));
     EXPECT_EQ(contentOf(file), "old");
     EXPECT_THAT(names(), ElementsAre("file.json"));
     EXPECT_TRUE(WholeFile::replace(file, large)) << "once there is room";

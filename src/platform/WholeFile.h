@@ -5,8 +5,6 @@
 // content or the new one and never a part.
 #pragma once
 
-#include "settings/SettingsError.h"
-
 #include <cstddef>
 #include <expected>
 #include <filesystem>
@@ -23,8 +21,9 @@ enum class ReadError { unreadable, tooLarge };
 
 /// Puts `content` in the place of a file, or makes it, readable by its owner alone; a file that is there keeps its
 /// permissions, and a symbolic link keeps pointing to it. After an error the old content is untouched and nothing
-/// else is left in the folder. Thread: any, one at a time for a file.
-[[nodiscard]] std::expected<void, SettingsError> replace(
+/// else is left in the folder. The error is in English and ends with the system's own words. Thread: any, one at a time
+/// for a file.
+[[nodiscard]] std::expected<void, std::string> replace(
     const std::filesystem::path& file, std::string_view content);
 
 }  // namespace fadeloom::WholeFile
