@@ -14,6 +14,8 @@
 # A folder is named by its path below src/ ("platform/pipewire"); its target has underscores ("platform_pipewire").
 # Its headers are reached by that path, through an include root of its own in the build tree that holds links to them
 # and to nothing else: including a folder that is not named here does not compile.
+#
+# Test suites whose names end in LongForm are compiled with the others, but run only by tools/runTests.py --long.
 function(folderTarget path result)
     string(REPLACE "/" "_" target ${path})
     set(${result} ${target} PARENT_SCOPE)
@@ -62,6 +64,7 @@ function(addFolder)
             folderTarget(${used} usedTarget)
             target_link_libraries(${tests} PRIVATE ${usedTarget})
         endforeach()
-        gtest_discover_tests(${tests} TEST_PREFIX ${path}. DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${path})
+        gtest_discover_tests(${tests} TEST_PREFIX ${path}. TEST_FILTER "-*LongForm.*" DISCOVERY_TIMEOUT 60
+            PROPERTIES LABELS ${path})
     endif()
 endfunction()

@@ -3,8 +3,8 @@
 """Holds every include of src/ against the order of the folders, and keeps foreign headers where they belong.
 
 The build already refuses an include of a folder that is not named in addFolder. This check refuses what it cannot see:
-an arrow drawn the wrong way, "../", an adapter named outside app, and Qt, PipeWire or Apple headers elsewhere than in
-their adapters.
+an arrow drawn the wrong way, "../", an adapter named outside app, and Qt, PipeWire, libsndfile or Apple headers
+elsewhere than in their adapters.
 """
 
 import pathlib
@@ -12,12 +12,14 @@ import re
 import sys
 
 ORDER = ["platform", "hal", "engine", "settings", "log", "control", "shell", "ui", "app"]
-ADAPTERS = ["platform/simulated", "platform/linux", "platform/pipewire", "platform/qt", "platform/macos"]
+ADAPTERS = ["platform/simulated", "platform/linux", "platform/sndfile", "platform/pipewire", "platform/qt",
+            "platform/macos"]
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s+([<"])([^>"]+)[>"]')
 QT = re.compile(r"^(Q[A-Z]\w+|Qt\w+/.*|q[a-z]+\.h)$")
 FOREIGN = {
-    "Qt": (QT, ("platform/qt", "ui", "app")),
+    "Qt": (QT, ("platform/qt", "platform/linux", "ui", "app")),
     "PipeWire": (re.compile(r"^(pipewire|spa)/"), ("platform/pipewire",)),
+    "libsndfile": (re.compile(r"^sndfile\.hh?$"), ("platform/sndfile",)),
     "Apple": (re.compile(r"^(CoreAudio|AudioToolbox|CoreFoundation|Foundation|AppKit|Cocoa|os|dispatch)/"),
               ("platform/macos",)),
 }

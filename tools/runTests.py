@@ -13,6 +13,7 @@ import xml.etree.ElementTree as ElementTree
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
 SPECIAL = ("pipewire", "sanitizers", "fuzz", "checks")
+LONG_FORMS = ("platform/sndfile",)  # Folders with test suites that are named LongForm.
 
 
 class Tally:
@@ -89,6 +90,18 @@ def runUnits(tally, labels):
     tally.addJUnit("units", file, status)
 
 
+def runLongForms(tally, labels):
+    """The unit tests that take minutes and gigabytes, in a temporary folder that is no memory."""
+    for folder in LONG_FORMS:
+        if labels and folder not in labels:
+            continue
+        name = folder.replace("/", "_") + "Tests"
+        file = results(name + "LongForm")
+        status = run(ROOT / "build/test/src" / folder / name, "--gtest_filter=*LongForm.*",
+                     f"--gtest_output=xml:{file}", quiet=True, env={"TMPDIR": "/var/tmp", **os.environ})
+        tally.addJUnit(name, file, status)
+
+
 def runPipeWire(tally):
     """The contract and the real program, in private audio sessions."""
     for name in ("pipewireContractTests", "pipewireRealTimeTests"):
@@ -105,7 +118,7 @@ def runPipeWire(tally):
 
 def runSanitizers(tally, isLong):
     """The unit tests under the sanitizers; in the short form those of the folders where memory and threads matter."""
-    short = {"asan": ["engine", "settings"], "tsan": ["engine"]}
+    short = {"asan": ["engine", "settings", "platform/sndfile"], "tsan": ["engine", "platform/sndfile"]}
     for preset in ("asan", "tsan"):
         folders = [] if isLong else short[preset]
         build(preset, *(folder.replace("/", "_") + "Tests" for folder in folders))
@@ -163,6 +176,8 @@ def main():
     everything = not arguments.suites
     if everything or folders:
         runUnits(tally, folders)
+        if arguments.long:
+            runLongForms(tally, folders)
     if everything or "pipewire" in arguments.suites:
         runPipeWire(tally)
     if everything or "checks" in arguments.suites:

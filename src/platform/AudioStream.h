@@ -23,6 +23,7 @@ using AudioBuffers = std::span<const AudioBuffer>;
 
 inline constexpr std::uint32_t kAudioFormatLinearPCM = fourCharacterCode("lpcm");
 inline constexpr std::uint32_t kAudioFormatFlagIsFloat = 1U << 0;
+inline constexpr std::uint32_t kAudioFormatFlagIsSignedInteger = 1U << 2;
 inline constexpr std::uint32_t kAudioFormatFlagIsPacked = 1U << 3;
 inline constexpr std::uint32_t kAudioFormatFlagIsNonInterleaved = 1U << 5;
 

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "platform/sndfile/SignalsHeld.h"
+
+#include <ctime>
+
+namespace fadeloom {
+
+SignalsHeld::SignalsHeld()
+{
+    sigset_t all;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &former_);
+}
+
+SignalsHeld::~SignalsHeld()
+{
+    // One that waits would come as soon as it may.
+    sigset_t fileTooLarge;
+    sigemptyset(&fileTooLarge);
+    sigaddset(&fileTooLarge, SIGXFSZ);
+    const timespec atOnce{};
+    sigtimedwait(&fileTooLarge, nullptr, &atOnce);
+    pthread_sigmask(SIG_SETMASK, &former_, nullptr);
+}
+
+}  // namespace fadeloom

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// One open file: samples go into a ring, and a thread of the file's own writes them to the disk.
+#pragma once
+
+#include "platform/AudioFiles.h"
+#include "platform/sndfile/SampleRing.h"
+#include "platform/sndfile/WaveFile.h"
+
+#include <array>
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <stop_token>
+#include <thread>
+
+namespace fadeloom {
+
+/// Handing samples over wakes nobody, which would be a system call: the writer looks for them by itself, ten times a
+/// second. What it has written counts in the file's header at once, so a file whose program is killed lacks what was
+/// handed over in the last tenth of a second. After a failed write it takes no more samples; the file stays as it is.
+class SndfileAudioFile final : public AudioFile {
+public:
+    /// Opens the empty file `disk` and starts its writer. To be called while signals are held (`SignalsHeld`), which
+    /// the writer inherits. Errors: the system's.
+    [[nodiscard]] static AudioResult<std::unique_ptr<SndfileAudioFile>> open(
+        std::unique_ptr<DiskFile> disk, int sampleRate);
+    /// Closes the file.
+    ~SndfileAudioFile();
+    SndfileAudioFile(const SndfileAudioFile&) = delete;
+    SndfileAudioFile& operator=(const SndfileAudioFile&) = delete;
+
+    /// Takes one format only: interleaved stereo floats at the file's rate.
+    AudioStatus setClientFormat(const AudioStreamBasicDescription& format) override;
+    AudioStatus write(std::uint32_t frameCount, const float* samples) noexcept FADELOOM_NONBLOCKING override;
+    AudioFileHealth health() const override;
+
+    /// Waits until all that was handed over is written and the file is closed. Returns the first failure. Thread: main.
+    AudioStatus close();
+
+private:
+    SndfileAudioFile(std::unique_ptr<WaveFile> file, int sampleRate);
+
+    /// The writer's life.
+    void work(const std::stop_token& stop);
+    void writeWhatWaits();
+    /// Keeps the first failure.
+    void note(AudioStatus status);
+
+    const int sampleRate_;
+    bool hasClientFormat_ = false;  // The IO thread gets the file after it was set.
+    SampleRing ring_;
+    // One word each, which nothing else hangs on: relaxed.
+    std::atomic<AudioStatus> status_ = kAudioHardwareNoError;
+    std::atomic<std::uint64_t> droppedWrites_ = 0;
+
+    // The writer's.
+    const std::unique_ptr<WaveFile> file_;
+    std::array<std::int32_t, 8192> block_{};
+    std::jthread writer_;
+};
+
+}  // namespace fadeloom

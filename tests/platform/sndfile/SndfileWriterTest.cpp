@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// Handing samples over, and the thread that writes them.
+#include "platform/RealTime.h"
+#include "tests/platform/sndfile/SndfileStage.h"
+#include "tests/support/RealTimeGuard.h"
+
+#include <set>
+
+#include <sched.h>
+
+namespace fadeloom {
+namespace {
+
+namespace fs = std::filesystem;
+
+using SndfileWriterTest = SndfileTest;
+
+/// Ids of this program's threads that write files.
+std::set<pid_t> writers()
+{
+    std::set<pid_t> found;
+    for (const auto& task : fs::directory_iterator{"/proc/self/task"})
+        if (bytesOf(task.path() / "comm") == "fadeloom-writer\n")
+            found.insert(static_cast<pid_t>(std::stoi(task.path().filename())));
+    return found;
+}
+
+TEST_F(SndfileWriterTest, eachFileHasAThreadOfNormalPriority)
+{
+    AudioFile& first = *open(folder.path() / "1.wav");
+    AudioFile& second = *open(folder.path() / "2.wav");
+
+    EXPECT_TRUE(waitUntil([] { return writers().size() == 2; }));
+    for (const pid_t thread : writers())
+        EXPECT_EQ(sched_getscheduler(thread), SCHED_OTHER);
+
+    files.dispose(first);
+    EXPECT_EQ(writers().size(), 1U);
+    files.dispose(second);
+    EXPECT_EQ(writers().size(), 0U);
+}
+
+TEST_F(SndfileWriterTest, handingOverNeitherAllocatesNorWaitsNorCallsTheSystem)
+{
+    AudioFile& file = *open(location);
+    const auto cycle = samples(0, 8192);
+    ASSERT_EQ(file.write(0, nullptr), kAudioHardwareNoError);
+    const int before = realTimeViolations();
+
+    AudioStatus status = kAudioHardwareNoError;
+    {
+        const RealTimeSection section;
+        for (int i = 0; i < 5000 && status == kAudioHardwareNoError;
+            ++i)  // Beyond the room there is, as well.
+            status = file.write(8192, cycle.data());
+    }
+
+    EXPECT_EQ(realTimeViolations() - before, 0) << lastRealTimeViolation();
+    EXPECT_EQ(status, kExtAudioFileError_AsyncWriteBufferOverflow);
+    files.dispose(file);
+}
+
+TEST_F(SndfileWriterTest, fourSecondsWaitForABusyDisk)
+{
+    AudioFile& file = *open(location);
+
+    EXPECT_EQ(hand(file, samples(0, 4 * rate)), kAudioHardwareNoError);
+
+    EXPECT_EQ(files.dispose(file), kAudioHardwareNoError);
+    EXPECT_TRUE(readWave(location) == WrittenSound(rate, steps(0, 4 * rate)));
+}
+
+TEST_F(SndfileWriterTest, aWriteBeyondAllRoomIsDroppedWholeAndCounted)
+{
+    AudioFile& file = *open(location);
+    EXPECT_EQ(hand(file, samples(0, 100)), kAudioHardwareNoError);
+
+    EXPECT_EQ(hand(file, samples(100, 60 * rate)), kExtAudioFileError_AsyncWriteBufferOverflow);
+    EXPECT_EQ(file.health(), (AudioFileHealth{kAudioHardwareNoError, 1}));
+    EXPECT_EQ(hand(file, samples(7000, 100)), kAudioHardwareNoError);
+    EXPECT_EQ(files.dispose(file), kAudioHardwareNoError);
+
+    auto expected = steps(0, 100);
+    std::ranges::copy(steps(7000, 100), std::back_inserter(expected));
+    EXPECT_EQ(readWave(location), WrittenSound(rate, expected));
+}
+
+TEST_F(SndfileWriterTest, writesThatComeTooFastAreDroppedWholeAndCounted)
+{
+    AudioFile& file = *open(location);
+    std::vector<std::vector<float>> cycles;
+    for (std::uint64_t i = 0; i < 100; ++i)
+        cycles.push_back(samples(4000 * i, 4000));
+
+    std::vector<std::uint64_t> taken;
+    std::uint64_t dropped = 0;
+    for (std::uint64_t i = 0; i < 5000 && (dropped < 100 || taken.size() < 200); ++i)
+        if (hand(file, cycles[i % 100]) == kAudioHardwareNoError)
+            taken.push_back(i % 100);
+        else
+            ++dropped;
+    const AudioFileHealth health = file.health();
+    files.dispose(file);
+
+    EXPECT_GT(dropped, 0U);
+    EXPECT_EQ(health, (AudioFileHealth{kAudioHardwareNoError, dropped}));
+    Steps expected;
+    for (const std::uint64_t cycle : taken)
+        std::ranges::copy(steps(4000 * cycle, 4000), std::back_inserter(expected));
+    EXPECT_TRUE(readWave(location) == WrittenSound(rate, expected));
+}
+
+TEST_F(SndfileWriterTest, threadsWriteTheirFilesAtTheSameTime)
+{
+    constexpr std::uint64_t cycles = 200;
+    std::array<AudioFile*, 3> opened{};
+    std::array<fs::path, 3> locations;
+    for (std::size_t i = 0; i < opened.size(); ++i) {
+        locations[i] = folder.path() / (std::to_string(i) + ".wav");
+        opened[i] = open(locations[i]);
+    }
+    {
+        std::vector<std::jthread> threads;
+        for (std::size_t i = 0; i < opened.size(); ++i)
+            threads.emplace_back([&, i] {
+                for (std::uint64_t cycle = 0; cycle < cycles; ++cycle) {
+                    EXPECT_EQ(hand(*opened[i], samples(1'000'000 * i + 480 * cycle, 480)), 0);
+                    std::this_thread::sleep_for(
+                        std::chrono::milliseconds{2});  // Through several rounds of writing.
+                }
+            });
+    }
+    for (AudioFile* file : opened)
+        EXPECT_EQ(files.dispose(*file), kAudioHardwareNoError);
+
+    for (std::size_t i = 0; i < opened.size(); ++i)
+        EXPECT_TRUE(readWave(locations[i]) == WrittenSound(rate, steps(1'000'000 * i, 480 * cycles))) << i;
+}
+
+}  // namespace
+}  // namespace fadeloom
