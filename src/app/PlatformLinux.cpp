@@ -9,7 +9,8 @@ namespace fadeloom {
 PlatformLinux::PlatformLinux(MainLoop& mainLoop, SystemLog& systemLog)
     : mainLoop_(mainLoop)
     , systemLog_(systemLog)
-    , workspace_(linuxEnvironment(processVariables()))
+    , fileManager_(systemLog)
+    , workspace_(linuxEnvironment(processVariables()), fileManager_)
     , audio_(mainLoop,
           {
               .bundleIdentifier =
@@ -25,8 +26,8 @@ PlatformLinux::PlatformLinux(MainLoop& mainLoop, SystemLog& systemLog)
 
 Platform PlatformLinux::platform()
 {
-    return {audio_, workspace_, capturePermission_, mainLoop_, utilityQueue_, logQueue_, folders_, systemLog_,
-        text_};
+    return {audio_, audioFiles_, workspace_, capturePermission_, loginItem_, mainLoop_, utilityQueue_,
+        logQueue_, folders_, systemLog_, text_, clock_};
 }
 
 // Any process of the sandboxed application will do: it stands for the application alone.

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
-// This machine, as the program sees it on Linux: PipeWire, a freedesktop session, Qt.
+// This machine, as the program sees it on Linux: PipeWire, libsndfile, a freedesktop session, Qt.
 #pragma once
 
 #include "platform/Platform.h"
 #include "platform/linux/AlwaysGrantedPermission.h"
+#include "platform/linux/AutostartLoginItem.h"
+#include "platform/linux/FileManager.h"
 #include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/SystemClock.h"
 #include "platform/linux/UtilityQueue.h"
 #include "platform/linux/XdgFolders.h"
 #include "platform/pipewire/PipeWireHardware.h"
 #include "platform/qt/QtText.h"
+#include "platform/sndfile/SndfileAudioFiles.h"
 
 namespace fadeloom {
 
@@ -28,12 +32,16 @@ private:
     MainLoop& mainLoop_;
     SystemLog& systemLog_;
     XdgFolders folders_;
+    FileManager fileManager_;
     LinuxWorkspace workspace_;
+    AutostartLoginItem loginItem_;
     AlwaysGrantedPermission capturePermission_;
     QtText text_;
+    SystemClock clock_;
     UtilityQueue utilityQueue_;
     UtilityQueue logQueue_;
     PipeWireHardware audio_;
+    SndfileAudioFiles audioFiles_;
 };
 
 }  // namespace fadeloom

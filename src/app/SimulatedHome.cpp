@@ -35,8 +35,9 @@ SimulatedHome::SimulatedHome(const std::filesystem::path& folder, MainLoop& real
 Platform SimulatedHome::platform(SystemLog& systemLog)
 {
     const auto own = world_.platform();
-    return {own.audio, own.workspace, own.capturePermission, own.mainLoop, own.utilityQueue, own.logQueue,
-        own.folders, systemLog, own.text};
+    return {own.audio, own.audioFiles, own.workspace, own.capturePermission, own.loginItem, own.mainLoop,
+        own.utilityQueue, own.logQueue, own.folders, systemLog, own.text, own.clock, own.application,
+        own.dialogs};
 }
 
 void SimulatedHome::start()

@@ -4,26 +4,38 @@
 
 namespace fadeloom {
 
+class Application;
+class AudioFiles;
 class AudioHardware;
 class BackgroundQueue;
 class CapturePermission;
+class Dialogs;
+class LoginItem;
 class MainLoop;
 class StandardFolders;
 class SystemLog;
 class Text;
+class WallClock;
 class Workspace;
 
 /// References only: whoever builds a platform keeps its parts alive for as long as the program runs on it.
 struct Platform {
     AudioHardware& audio;
+    AudioFiles& audioFiles;
     Workspace& workspace;
     CapturePermission& capturePermission;
+    LoginItem& loginItem;
     MainLoop& mainLoop;
     BackgroundQueue& utilityQueue;  // The settings write.
     BackgroundQueue& logQueue;  // The engine log's lines.
     StandardFolders& folders;
     SystemLog& systemLog;
     Text& text;
+    WallClock& clock;
+
+    // Null without windows.
+    Application* application = nullptr;
+    Dialogs* dialogs = nullptr;
 };
 
 }  // namespace fadeloom

@@ -55,6 +55,9 @@ public:
     [[nodiscard]] virtual std::optional<ProcessID> responsiblePid(ProcessID pid) const = 0;
     /// Whether a bundle location is one of an application: an ".app" folder, a desktop entry, an executable.
     [[nodiscard]] virtual bool isApplicationBundle(const std::filesystem::path& location) const = 0;
+
+    /// Shows a file in the file manager, selected. Does its best and tells nothing of it.
+    virtual void reveal(const std::filesystem::path& file) = 0;
 };
 
 }  // namespace fadeloom

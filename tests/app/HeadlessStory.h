@@ -33,8 +33,9 @@ protected:
     void start()
     {
         const auto own = world.platform();
-        const Platform printed = {own.audio, own.workspace, own.capturePermission, own.mainLoop,
-            own.utilityQueue, own.logQueue, own.folders, printedLog, own.text};
+        const Platform printed = {own.audio, own.audioFiles, own.workspace, own.capturePermission,
+            own.loginItem, own.mainLoop, own.utilityQueue, own.logQueue, own.folders, printedLog, own.text,
+            own.clock, own.application, own.dialogs};
         run.emplace(printed, console,
             HeadlessRun::Options{.version = "1.2.3",
                 .quit = [this] { ++quitCount; },

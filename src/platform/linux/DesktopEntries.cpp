@@ -2,6 +2,7 @@
 #include "platform/linux/DesktopEntries.h"
 
 #include "platform/linux/BoundedFile.h"
+#include "platform/linux/ProgramFiles.h"
 
 #include <algorithm>
 #include <array>
@@ -9,13 +10,10 @@
 #include <tuple>
 #include <utility>
 
-#include <unistd.h>
-
 namespace fadeloom {
 
 namespace {
 
-constexpr std::size_t longestEntry = 1 << 20;
 constexpr int deepestFolder = 4;
 constexpr std::string_view ending = ".desktop";
 
@@ -24,12 +22,6 @@ std::filesystem::file_time_type timeOf(const std::filesystem::path& folder)
     std::error_code error;
     const auto time = std::filesystem::last_write_time(folder, error);
     return error ? std::filesystem::file_time_type::min() : time;
-}
-
-bool isProgram(const std::filesystem::path& file)
-{
-    std::error_code error;
-    return std::filesystem::is_regular_file(file, error) && access(file.c_str(), X_OK) == 0;
 }
 
 /// Programs that start other ones, which their arguments name: the program alone says nothing.
@@ -103,14 +95,14 @@ void DesktopEntries::readFile(const std::filesystem::path& file, const std::stri
 {
     if (entries_.contains(id))
         return;  // A more important folder has it.
-    const auto text = readBoundedFile(file, longestEntry);
+    const auto text = readBoundedFile(file, longestDesktopEntry);
     auto entry = text ? parseDesktopEntry(*text, environment_.languages) : std::nullopt;
     if (!entry)
         return;
     entry->id = id;
     entry->file = file;
     if (!entry->command.empty())
-        entry->program = findProgram(entry->command.front());
+        entry->program = findProgram(entry->command.front(), environment_.programFolders);
     std::error_code error;
     if (!entry->program.empty())
         entry->realProgram = std::filesystem::canonical(entry->program, error);
@@ -122,7 +114,7 @@ void DesktopEntries::index()
     std::erase_if(entries_, [this](const auto& known) {
         const DesktopEntry& entry = known.second;
         return entry.isHidden || !entry.isApplication
-            || (!entry.tryExec.empty() && findProgram(entry.tryExec).empty());
+            || (!entry.tryExec.empty() && findProgram(entry.tryExec, environment_.programFolders).empty());
     });
     for (const auto& [id, entry] : entries_) {
         if (entry.program.empty())
@@ -132,17 +124,6 @@ void DesktopEntries::index()
             byPath_.emplace(entry.realProgram, &entry);
         byName_.emplace(entry.program.filename(), &entry);
     }
-}
-
-std::filesystem::path DesktopEntries::findProgram(const std::string& program) const
-{
-    if (program.find('/') != std::string::npos)
-        return program.starts_with('/') && isProgram(program) ? std::filesystem::path{program}
-                                                              : std::filesystem::path{};
-    for (const auto& folder : environment_.programFolders)
-        if (isProgram(folder / program))
-            return folder / program;
-    return {};
 }
 
 const DesktopEntry* DesktopEntries::withID(const std::string& id) const

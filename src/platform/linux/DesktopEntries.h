@@ -34,7 +34,6 @@ private:
     void readFile(const std::filesystem::path& file, const std::string& id);
     void index();
     [[nodiscard]] bool isCurrent() const;
-    [[nodiscard]] std::filesystem::path findProgram(const std::string& program) const;
 
     const LinuxEnvironment& environment_;
     FolderTimes folderTimes_;  // Of every folder that was read, and of those that were missing.

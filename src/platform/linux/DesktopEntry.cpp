@@ -52,6 +52,29 @@ std::string unescaped(std::string_view value)
     return text;
 }
 
+std::string escaped(std::string_view text)
+{
+    std::string value;
+    for (const char c : text)
+        switch (c) {
+        case '\n':
+            value += R"(\n)";
+            break;
+        case '\t':
+            value += R"(\t)";
+            break;
+        case '\r':
+            value += R"(\r)";
+            break;
+        case '\\':
+            value += R"(\\)";
+            break;
+        default:
+            value += c;
+        }
+    return value;
+}
+
 /// The keys and values of one group; the first of two equal keys counts. Absent when there is no such group.
 std::optional<Values> valuesOfGroup(std::string_view text, std::string_view group)
 {
@@ -80,10 +103,15 @@ std::string text(const Values& values, std::string_view key)
     return found == values.end() ? std::string{} : unescaped(found->second);
 }
 
-bool isTrue(const Values& values, std::string_view key)
+bool is(std::string_view wanted, const Values& values, std::string_view key)
 {
     const auto found = values.find(key);
-    return found != values.end() && found->second == "true";
+    return found != values.end() && found->second == wanted;
+}
+
+bool isTrue(const Values& values, std::string_view key)
+{
+    return is("true", values, key);
 }
 
 std::optional<std::string> localizedName(const Values& values, const std::vector<std::string>& languages)
@@ -159,6 +187,19 @@ std::vector<std::string> parseExec(std::string_view line)
     return command;
 }
 
+std::string execValue(std::string_view program)
+{
+    std::string argument = "\"";
+    for (const char c : program) {
+        if (std::string_view{"\"`$\\"}.find(c) != std::string_view::npos)
+            argument += '\\';
+        else if (c == '%')
+            argument += '%';
+        argument += c;
+    }
+    return escaped(argument + '"');
+}
+
 std::optional<DesktopEntry> parseDesktopEntry(
     std::string_view content, const std::vector<std::string>& languages)
 {
@@ -173,6 +214,7 @@ std::optional<DesktopEntry> parseDesktopEntry(
     entry.command = parseExec(text(*values, "Exec"));
     entry.noDisplay = isTrue(*values, "NoDisplay");
     entry.isHidden = isTrue(*values, "Hidden");
+    entry.startsAtLogin = !is("false", *values, "X-GNOME-Autostart-enabled");
     entry.wantsTerminal = isTrue(*values, "Terminal");
     entry.isTerminalEmulator = hasCategory(*values, "TerminalEmulator");
     return entry;

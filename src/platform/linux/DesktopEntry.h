@@ -2,6 +2,7 @@
 // A desktop entry: what the desktop knows of an application.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -23,6 +24,7 @@ struct DesktopEntry {
     std::filesystem::path realProgram{};  // The same without symbolic links.
     bool noDisplay = false;
     bool isHidden = false;  // As if the file did not exist, nor another one of this id.
+    bool startsAtLogin = true;  // Among the autostart entries: not switched off by a tool of the desktop.
     bool wantsTerminal = false;
     bool isTerminalEmulator = false;
 
@@ -33,6 +35,9 @@ struct DesktopEntry {
     }
 };
 
+/// In bytes; what is longer is no desktop entry.
+inline constexpr std::size_t longestDesktopEntry = 1 << 20;
+
 /// Reads the text of a desktop entry. `languages`: keys of localised names, best first. Damaged lines are passed over;
 /// absent without the group "Desktop Entry".
 [[nodiscard]] std::optional<DesktopEntry> parseDesktopEntry(
@@ -41,5 +46,8 @@ struct DesktopEntry {
 /// The arguments of an "Exec" line whose escapes are undone: quotes taken off, arguments with field codes ("%U") left
 /// out, "%%" made "%". A leading "env" with its assignments is no part of it.
 [[nodiscard]] std::vector<std::string> parseExec(std::string_view line);
+
+/// The value of an "Exec" key that starts `program`, a path of any bytes, without arguments.
+[[nodiscard]] std::string execValue(std::string_view program);
 
 }  // namespace fadeloom

@@ -2,8 +2,10 @@
 #include "platform/linux/LinuxWorkspace.h"
 
 #include "platform/linux/ApplicationFinder.h"
+#include "platform/linux/FileManager.h"
 #include "platform/linux/ProcessProgram.h"
 #include "platform/linux/ProcessTable.h"
+#include "platform/linux/ProgramFiles.h"
 #include "platform/linux/SafeText.h"
 
 #include <set>
@@ -14,12 +16,6 @@
 namespace fadeloom {
 
 namespace {
-
-bool isExecutableFile(const std::filesystem::path& file)
-{
-    std::error_code error;
-    return std::filesystem::is_regular_file(file, error) && access(file.c_str(), X_OK) == 0;
-}
 
 /// The icon of a desktop entry: a file by its path, or a name of the theme, which some write with an ending.
 std::optional<AppIcon> iconOf(const DesktopEntry& entry)
@@ -36,8 +32,10 @@ std::optional<AppIcon> iconOf(const DesktopEntry& entry)
 
 }  // namespace
 
-LinuxWorkspace::LinuxWorkspace(LinuxEnvironment environment, std::string ownBundleID)
+LinuxWorkspace::LinuxWorkspace(
+    LinuxEnvironment environment, FileManager& fileManager, std::string ownBundleID)
     : environment_(std::move(environment))
+    , fileManager_(fileManager)
     , ownBundleID_(std::move(ownBundleID))
 {
 }
@@ -67,7 +65,7 @@ RunningApplication LinuxWorkspace::describe(
     const auto program = programOf(process).path;
     // An executable of a sandbox, or one that was replaced on disk, is still reached through its process.
     application.bundleLocation =
-        isExecutableFile(program) ? program : environment_.processes / std::to_string(pid) / "exe";
+        isProgram(program) ? program : environment_.processes / std::to_string(pid) / "exe";
     application.localizedName = found.bundleID;
     return application;
 }
@@ -119,7 +117,12 @@ bool LinuxWorkspace::isApplicationBundle(const std::filesystem::path& location) 
     std::error_code error;
     if (location.extension() == ".desktop")
         return std::filesystem::is_regular_file(location, error);
-    return isExecutableFile(location);
+    return isProgram(location);
+}
+
+void LinuxWorkspace::reveal(const std::filesystem::path& file)
+{
+    fileManager_.reveal(file);
 }
 
 std::string LinuxWorkspace::bundleIdentifier(ProcessID pid, const std::string& portalAppID) const

@@ -11,6 +11,7 @@
 namespace fadeloom {
 
 class ApplicationFinder;
+class FileManager;
 class ProcessTable;
 
 /// An application's bundle identifier is its desktop id, or the name of its executable; its bundle location is the
@@ -18,7 +19,9 @@ class ProcessTable;
 /// found is told in ApplicationFinder.h.
 class LinuxWorkspace final : public Workspace {
 public:
-    explicit LinuxWorkspace(LinuxEnvironment environment, std::string ownBundleID = "com.fadeloom.app");
+    /// `fileManager` must outlive this.
+    LinuxWorkspace(
+        LinuxEnvironment environment, FileManager& fileManager, std::string ownBundleID = "com.fadeloom.app");
     LinuxWorkspace(const LinuxWorkspace&) = delete;
     LinuxWorkspace& operator=(const LinuxWorkspace&) = delete;
 
@@ -29,6 +32,7 @@ public:
     bool isTerminated(const RunningApplication& application) const override;
     std::optional<ProcessID> responsiblePid(ProcessID pid) const override;
     bool isApplicationBundle(const std::filesystem::path& location) const override;
+    void reveal(const std::filesystem::path& file) override;
 
     /// The bundle identifier of a process's application; empty for no process of the user's. `portalAppID`: what the
     /// audio server knows of a sandboxed client, whose pid may mean nothing out here; it counts when it is not empty.
@@ -40,6 +44,7 @@ private:
         ApplicationFinder& finder, ProcessTable& processes, ProcessID pid) const;
 
     const LinuxEnvironment environment_;
+    FileManager& fileManager_;
     const std::string ownBundleID_;
     mutable DesktopEntries entries_{environment_};  // Kept up to date by every question.
 };

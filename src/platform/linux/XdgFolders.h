@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's folders, where the freedesktop base directory rules put them.
+// The user's folders, where the freedesktop rules for base and user directories put them.
 #pragma once
 
 #include "platform/StandardFolders.h"
@@ -13,6 +13,8 @@ public:
 
     /// "$XDG_CONFIG_HOME" when that is an absolute path, else "~/.config".
     std::filesystem::path applicationSupport() const override;
+    /// What "user-dirs.dirs" names, else "~/Music". Read anew each time.
+    std::filesystem::path music() const override;
 
 private:
     Variables variables_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/simulated/SimulatedAudioSystem.h"
 
+#include "platform/WaveFormats.h"
 #include "platform/simulated/SimulatedMainLoop.h"
 
 #include <algorithm>
@@ -10,16 +11,7 @@ namespace fadeloom {
 
 namespace {
 
-constexpr AudioStreamBasicDescription floatStereo{
-    .sampleRate = 48000,
-    .formatID = kAudioFormatLinearPCM,
-    .formatFlags = kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked,
-    .bytesPerPacket = 8,
-    .framesPerPacket = 1,
-    .bytesPerFrame = 8,
-    .channelsPerFrame = 2,
-    .bitsPerChannel = 32,
-};
+constexpr auto floatStereo = packedStereoFormat(48000, kAudioFormatFlagIsFloat, 32);
 
 }  // namespace
 

@@ -16,6 +16,7 @@ public:
     }
 
     std::filesystem::path applicationSupport() const override { return applicationSupport_; }
+    std::filesystem::path music() const override { return applicationSupport_ / "Music"; }
 
 private:
     std::filesystem::path applicationSupport_;

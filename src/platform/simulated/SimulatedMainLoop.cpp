@@ -87,7 +87,17 @@ Subscription SimulatedMainLoop::every(std::chrono::milliseconds interval, Task t
 Subscription SimulatedMainLoop::startTimer(std::shared_ptr<Timer> timer, SimulatedClock::Duration delay)
 {
     timer->schedule(delay);
+    std::erase_if(timers_, [](const auto& known) { return known.expired(); });
+    timers_.push_back(timer);
     return Subscription{[timer, weakly = std::weak_ptr{presence_}] { timer->end(!weakly.expired()); }};
+}
+
+long SimulatedMainLoop::timerCount() const
+{
+    return std::ranges::count_if(timers_, [](const auto& known) {
+        const auto timer = known.lock();
+        return timer && timer->isAlive;
+    });
 }
 
 bool SimulatedMainLoop::isCurrent() const

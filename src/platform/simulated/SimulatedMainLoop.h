@@ -9,6 +9,7 @@
 #include <memory>
 #include <mutex>
 #include <thread>
+#include <vector>
 
 namespace fadeloom {
 
@@ -30,6 +31,9 @@ public:
     /// Moves the clock, with everything that falls due on the way, each followed by what it posted.
     void advance(SimulatedClock::Duration duration);
 
+    /// How many timers run.
+    [[nodiscard]] long timerCount() const;
+
     /// While one lives, its thread does the work of another thread (an IO thread, a queue's).
     class OtherThread {
     public:
@@ -48,6 +52,7 @@ private:
     const std::thread::id thread_ = std::this_thread::get_id();
     std::mutex mutex_;
     std::deque<Task> posted_;
+    std::vector<std::weak_ptr<Timer>> timers_;
     std::shared_ptr<int> presence_ =
         std::make_shared<int>();  // Seen weakly by subscriptions, which may outlive us.
 };

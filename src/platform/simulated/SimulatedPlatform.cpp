@@ -11,15 +11,8 @@ SimulatedPlatform::SimulatedPlatform(std::filesystem::path applicationSupport, T
 
 Platform SimulatedPlatform::platform()
 {
-    return {
-        audio_, workspace_, permission_, mainLoop_, utilityQueue_, logQueue_, folders_, systemLog_, text_};
-}
-
-std::chrono::system_clock::time_point SimulatedPlatform::date() const
-{
-    using namespace std::chrono;
-    const auto beginning = sys_days{2030y / January / 2d} + 12h;
-    return beginning + duration_cast<system_clock::duration>(clock_.now());
+    return {audio_, audioFiles_, workspace_, permission_, loginItem_, mainLoop_, utilityQueue_, logQueue_,
+        folders_, systemLog_, text_, wallClock_, &application_, &dialogs_};
 }
 
 ProcessID SimulatedPlatform::launchApp(const std::string& name, const SimulatedAppTraits& traits)

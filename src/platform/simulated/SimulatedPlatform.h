@@ -13,15 +13,20 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/simulated/SimulatedApplication.h"
+#include "platform/simulated/SimulatedAudioFiles.h"
 #include "platform/simulated/SimulatedAudioHardware.h"
 #include "platform/simulated/SimulatedAudioSystem.h"
 #include "platform/simulated/SimulatedBackgroundQueue.h"
 #include "platform/simulated/SimulatedCapturePermission.h"
 #include "platform/simulated/SimulatedClock.h"
+#include "platform/simulated/SimulatedDialogs.h"
 #include "platform/simulated/SimulatedFolders.h"
+#include "platform/simulated/SimulatedLoginItem.h"
 #include "platform/simulated/SimulatedMainLoop.h"
 #include "platform/simulated/SimulatedSystemLog.h"
 #include "platform/simulated/SimulatedText.h"
+#include "platform/simulated/SimulatedWallClock.h"
 #include "platform/simulated/SimulatedWorkspace.h"
 
 #include <chrono>
@@ -47,8 +52,9 @@ public:
     void advance(SimulatedClock::Duration duration) { mainLoop_.advance(duration); }
     /// Runs what is posted to the main loop, without moving the clock.
     void runPosted() { mainLoop_.runPosted(); }
-    /// The date and time of the world: it began on 2 January 2030 at noon, UTC.
-    [[nodiscard]] std::chrono::system_clock::time_point date() const;
+    /// The date and time of the world.
+    [[nodiscard]] std::chrono::system_clock::time_point date() const { return wallClock_.now(); }
+    void setDate(std::chrono::system_clock::time_point date) { wallClock_.set(date); }
 
     // Applications.
     ProcessID launchApp(const std::string& name, const SimulatedAppTraits& traits = {});
@@ -93,8 +99,12 @@ public:
     // The parts, for what has no word of its own here.
     SimulatedAudioHardware& audio() { return audio_; }
     SimulatedAudioSystem& audioSystem() { return system_; }
+    SimulatedAudioFiles& audioFiles() { return audioFiles_; }
     SimulatedWorkspace& workspace() { return workspace_; }
     SimulatedCapturePermission& capturePermission() { return permission_; }
+    SimulatedLoginItem& loginItem() { return loginItem_; }
+    SimulatedApplication& application() { return application_; }
+    SimulatedDialogs& dialogs() { return dialogs_; }
     SimulatedMainLoop& mainLoop() { return mainLoop_; }
     SimulatedBackgroundQueue& utilityQueue() { return utilityQueue_; }
     SimulatedBackgroundQueue& logQueue() { return logQueue_; }
@@ -105,13 +115,18 @@ private:
     AudioObjectID audioOf(ProcessID pid);
 
     SimulatedClock clock_;
+    SimulatedWallClock wallClock_{clock_};
     SimulatedMainLoop mainLoop_{clock_};
     SimulatedBackgroundQueue utilityQueue_{clock_};
     SimulatedBackgroundQueue logQueue_{clock_};
     SimulatedAudioSystem system_{clock_, mainLoop_};
     SimulatedAudioHardware audio_{system_};
+    SimulatedAudioFiles audioFiles_;
     SimulatedWorkspace workspace_;
     SimulatedCapturePermission permission_;
+    SimulatedLoginItem loginItem_;
+    SimulatedApplication application_;
+    SimulatedDialogs dialogs_;
     SimulatedSystemLog systemLog_;
     SimulatedFolders folders_;
     SimulatedText simpleText_;

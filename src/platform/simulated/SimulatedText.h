@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Letter case without a text library.
+// Letter case and order without a text library.
 //
 // Only the letters A to Z change; every other byte stays as it is. A world whose applications have names in other
 // scripts is built on a real `Text` instead.
@@ -18,6 +18,22 @@ public:
             if (c >= 'A' && c <= 'Z')
                 c = static_cast<char>(c - 'A' + 'a');
         return lower;
+    }
+    std::string trimmed(std::string_view text) const override
+    {
+        constexpr std::string_view blanks = " \t\n\v\f\r";
+        const auto first = text.find_first_not_of(blanks);
+        return first == std::string_view::npos
+            ? ""
+            : std::string{text.substr(first, text.find_last_not_of(blanks) + 1 - first)};
+    }
+    bool equalIgnoringCase(std::string_view one, std::string_view other) const override
+    {
+        return lowercased(one) == lowercased(other);
+    }
+    std::weak_ordering compareLocalized(std::string_view one, std::string_view other) const override
+    {
+        return lowercased(one) <=> lowercased(other);
     }
 };
 

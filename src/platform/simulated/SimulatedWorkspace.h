@@ -32,6 +32,7 @@ public:
     std::optional<ProcessID> responsiblePid(ProcessID pid) const override;
     /// True for locations that end in ".app".
     bool isApplicationBundle(const std::filesystem::path& location) const override;
+    void reveal(const std::filesystem::path& file) override { revealed_.push_back(file); }
 
     /// Starts a process that is an application.
     ProcessID launchApp(const std::string& name, const SimulatedAppTraits& traits);
@@ -43,6 +44,8 @@ public:
 
     /// How often the list of running applications was asked for.
     [[nodiscard]] int listCount() const { return listCount_; }
+    /// Every file that was shown, in order.
+    [[nodiscard]] const std::vector<std::filesystem::path>& revealed() const { return revealed_; }
 
 private:
     struct Process {
@@ -57,6 +60,7 @@ private:
     std::uint64_t launchCount_ = 0;
     std::map<ProcessID, Process> processes_;
     mutable int listCount_ = 0;
+    std::vector<std::filesystem::path> revealed_;
 };
 
 }  // namespace fadeloom

@@ -48,6 +48,8 @@ TEST(DesktopEntry, readsItsSwitches)
     EXPECT_TRUE(entry.wantsTerminal);
     EXPECT_TRUE(entry.isTerminalEmulator);
     EXPECT_EQ(entry.tryExec, "music");
+    EXPECT_TRUE(entry.startsAtLogin);
+    EXPECT_FALSE(parsed("[Desktop Entry]\nX-GNOME-Autostart-enabled=false").startsAtLogin);
     EXPECT_FALSE(parsed("[Desktop Entry]\nNoDisplay=1\nCategories=NotATerminalEmulator").noDisplay);
     EXPECT_FALSE(parsed("[Desktop Entry]\nCategories=NotATerminalEmulator").isTerminalEmulator);
 }
@@ -111,6 +113,14 @@ TEST(ParseExec, passesOverTheEnvironment)
         parseExec("env HINT=/x/y.desktop LANG=C /snap/bin/spotify %U"), ElementsAre("/snap/bin/spotify"));
     EXPECT_THAT(parseExec("/usr/bin/env A=1"), IsEmpty());
     EXPECT_THAT(parseExec("  "), IsEmpty());
+}
+
+TEST(ExecValue, isQuotedAndThenEscaped)
+{
+    EXPECT_EQ(execValue("/usr/bin/player"), R"("/usr/bin/player")");
+    // As the format says: four backslashes for one, and two before what the quotes would give a meaning to.
+    EXPECT_EQ(execValue(R"(/a b/"$`\%U)"), R"("/a b/\\"\\$\\`\\\\%%U")");
+    EXPECT_EQ(execValue("a\nb\tc\rd"), R"("a\nb\tc\rd")");
 }
 
 }  // namespace

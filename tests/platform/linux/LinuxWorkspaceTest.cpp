@@ -2,7 +2,10 @@
 // Applications as the workspace tells them, over a tree of its own.
 #include "platform/linux/LinuxWorkspace.h"
 
+#include "platform/linux/FileManager.h"
 #include "tests/platform/linux/LinuxTree.h"
+#include "tests/platform/linux/RememberedLog.h"
+#include "tests/platform/linux/TestVariables.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,7 +23,9 @@ protected:
     std::string bundleID(ProcessID pid) const { return workspace.bundleIdentifier(pid, ""); }
 
     LinuxTree tree;
-    LinuxWorkspace workspace{tree.environment};
+    RememberedLog log;
+    FileManager fileManager{log, variables({})};
+    LinuxWorkspace workspace{tree.environment, fileManager};
 };
 
 TEST_F(LinuxWorkspaceTest, describesAnApplicationByItsDesktopEntry)

@@ -2,7 +2,10 @@
 // The workspace over the real process file system, with real children.
 #include "platform/linux/LinuxWorkspace.h"
 
+#include "platform/linux/FileManager.h"
 #include "platform/linux/ProcessTable.h"
+#include "tests/platform/linux/RememberedLog.h"
+#include "tests/platform/linux/TestVariables.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -61,7 +64,9 @@ protected:
         real.applicationFolders.clear();  // Whatever is installed here must not matter.
         return real;
     }();
-    LinuxWorkspace workspace{environment};
+    RememberedLog log;
+    FileManager fileManager{log, variables({})};
+    LinuxWorkspace workspace{environment, fileManager};
 };
 
 TEST_F(RealProcessesTest, weAreAmongTheProcesses)

@@ -3,25 +3,19 @@
 #include "platform/linux/AlwaysGrantedPermission.h"
 #include "platform/linux/SyslogSystemLog.h"
 #include "platform/linux/XdgFolders.h"
+#include "tests/platform/linux/TestVariables.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <map>
+#include <fstream>
 
 #include <pwd.h>
 #include <unistd.h>
 
 namespace fadeloom {
 namespace {
-
-Variables variables(std::map<std::string, std::string> values)
-{
-    return [values = std::move(values)](const char* name) -> std::optional<std::string> {
-        const auto found = values.find(name);
-        return found == values.end() ? std::nullopt : std::optional{found->second};
-    };
-}
 
 TEST(XdgFolders, settingsFolderIsTheOneTheVariableNames)
 {
@@ -45,6 +39,29 @@ TEST(XdgFolders, withoutHomeTheAccountTellsIt)
 
     EXPECT_EQ(XdgFolders{variables({})}.applicationSupport(), accountHome / ".config");
     EXPECT_EQ(XdgFolders{variables({{"HOME", "here"}})}.applicationSupport(), accountHome / ".config");
+}
+
+TEST(XdgFolders, musicFolderIsTheOneTheUserChose)
+{
+    const TemporaryFolder settings;
+    const auto list = settings.path() / "user-dirs.dirs";
+    const XdgFolders folders{variables({{"HOME", "/home/anna"}, {"XDG_CONFIG_HOME", settings.path()}})};
+    EXPECT_EQ(folders.music(), "/home/anna/Music");
+
+    std::ofstream{list} << "XDG_DOWNLOAD_DIR=\"$HOME/Downloads\"\nXDG_MUSIC_DIR=\"$HOME/Muzyka\"\n";
+    EXPECT_EQ(folders.music(), "/home/anna/Muzyka");
+
+    std::ofstream{list} << "XDG_MUSIC_DIR=\"$HOME/\"\n";
+    EXPECT_EQ(folders.music(), "/home/anna/Music");
+}
+
+TEST(XdgFolders, musicFolderOfAVariableIsNone)
+{
+    // The file alone decides: what a session inherits of it may be older.
+    const XdgFolders folders{
+        variables({{"HOME", "/home/anna"}, {"XDG_CONFIG_HOME", "/none"}, {"XDG_MUSIC_DIR", "/music"}})};
+
+    EXPECT_EQ(folders.music(), "/home/anna/Music");
 }
 
 TEST(Variables, anEmptyVariableIsNotSet)

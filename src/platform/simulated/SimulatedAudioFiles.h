@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+// Audio files in memory: what was written to each, what was asked of them, and faults on demand.
+#pragma once
+
+#include "platform/AudioFiles.h"
+
+#include <cstddef>
+#include <functional>
+#include <list>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace fadeloom {
+
+/// A file as it lies on the simulated disk.
+struct SimulatedAudioContent {
+    AudioStreamBasicDescription format{};
+    std::vector<float> samples;  // Interleaved, as they were handed over.
+    bool isComplete = false;  // Closed in good order.
+
+    [[nodiscard]] std::size_t frameCount() const { return samples.size() / 2; }
+};
+
+class SimulatedAudioFiles final : public AudioFiles {
+public:
+    SimulatedAudioFiles();
+    SimulatedAudioFiles(const SimulatedAudioFiles&) = delete;
+    SimulatedAudioFiles& operator=(const SimulatedAudioFiles&) = delete;
+    ~SimulatedAudioFiles() override;
+
+    AudioResult<AudioFile*> create(
+        const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat) override;
+    AudioStatus dispose(AudioFile& file) override;
+    /// "error 28" for 28.
+    std::string describe(AudioStatus status) const override;
+
+    // Faults, until they are taken back with `kAudioHardwareNoError`.
+    void refuseToCreate(AudioStatus status) { createStatus_ = status; }
+    void refuseClientFormat(AudioStatus status) { clientFormatStatus_ = status; }
+    /// Every open file fails: it takes nothing any more.
+    void failWriting(AudioStatus status);
+    /// Every open file's writer stands still: what is handed over from now on is dropped.
+    void setStalled(bool isStalled) { isStalled_ = isStalled; }
+
+    /// Has `look` called each time a file is about to be closed.
+    void whenDisposed(std::function<void()> look) { whenDisposed_ = std::move(look); }
+
+    /// What was asked, in order: "create NAME", "format NAME", "prime NAME", "dispose NAME", with the file's name.
+    [[nodiscard]] const std::vector<std::string>& journal() const { return journal_; }
+    [[nodiscard]] std::size_t openCount() const { return open_.size(); }
+    /// The file of this name on the simulated disk, or null.
+    [[nodiscard]] const SimulatedAudioContent* at(const std::filesystem::path& location) const;
+    /// Every file on the simulated disk, by name.
+    [[nodiscard]] std::vector<std::filesystem::path> locations() const;
+
+private:
+    class OpenFile;
+
+    std::list<OpenFile> open_;
+    std::map<std::filesystem::path, std::shared_ptr<SimulatedAudioContent>> disk_;
+    std::vector<std::string> journal_;
+    std::function<void()> whenDisposed_ = [] { };
+    AudioStatus createStatus_ = kAudioHardwareNoError;
+    AudioStatus clientFormatStatus_ = kAudioHardwareNoError;
+    bool isStalled_ = false;
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// The login items of a simulated session.
+#pragma once
+
+#include "platform/LoginItem.h"
+
+#include <optional>
+#include <utility>
+
+namespace fadeloom {
+
+class SimulatedLoginItem final : public LoginItem {
+public:
+    Status status() const override { return status_; }
+    std::expected<void, std::string> registerItem() override { return change(Status::enabled); }
+    std::expected<void, std::string> unregisterItem() override { return change(Status::notRegistered); }
+
+    /// The user changes it in the system's settings.
+    void set(Status status) { status_ = status; }
+    /// Every change is refused, with this reason, until it is allowed again.
+    void refuse(std::string reason) { refusal_ = std::move(reason); }
+    void allow() { refusal_.reset(); }
+    /// Registering comes to no more than this: the user has to approve.
+    void askForApproval() { registered_ = Status::requiresApproval; }
+    /// How often a change was asked for.
+    [[nodiscard]] int changeCount() const { return changeCount_; }
+
+private:
+    std::expected<void, std::string> change(Status wanted)
+    {
+        changeCount_ += 1;
+        if (refusal_)
+            return std::unexpected(*refusal_);
+        status_ = wanted == Status::enabled ? registered_ : wanted;
+        return {};
+    }
+
+    Status status_ = Status::notRegistered;
+    Status registered_ = Status::enabled;
+    std::optional<std::string> refusal_;
+    int changeCount_ = 0;
+};
+
+}  // namespace fadeloom

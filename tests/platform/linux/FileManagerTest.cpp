@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+// Files are shown over a real message bus, by a file manager of the test's own.
+#include "platform/linux/FileManager.h"
+
+#include "platform/linux/FileUri.h"
+#include "platform/linux/LinuxEnvironment.h"
+#include "platform/linux/LinuxWorkspace.h"
+#include "tests/platform/linux/PrivateBus.h"
+#include "tests/platform/linux/RememberedLog.h"
+#include "tests/platform/linux/ShownFiles.h"
+#include "tests/platform/linux/StuckBus.h"
+#include "tests/platform/linux/TestVariables.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <QCoreApplication>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+// Qt and what it stands on are built without the thread sanitizer, which therefore does not see that what they hand from
+// thread to thread is handed over.
+extern "C" const char* __tsan_default_suppressions();
+extern "C" const char* __tsan_default_options();
+extern "C" const char* __tsan_default_suppressions()
+{
+    return "race:libQt6Core.so\nrace:libQt6DBus.so\nrace:libglib-2.0.so\nrace:libdbus-1.so\ndeadlock:libdbus-"
+           "1.so\n";
+}
+
+// Programs are started by a process that shares our memory until then, and that would count as our own fork.
+extern "C" const char* __tsan_default_options()
+{
+    return "die_after_fork=0";
+}
+
+namespace fadeloom {
+namespace {
+
+using namespace std::chrono_literals;
+namespace fs = std::filesystem;
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+class FileManagerTest : public ::testing::Test {
+protected:
+    /// Where the bus of this process is, if a test starts one: the address is looked up once.
+    static const fs::path& busFolder()
+    {
+        static const TemporaryFolder folder;
+        return folder.path();
+    }
+    static void SetUpTestSuite()
+    {
+        setenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + (busFolder() / "bus").string()).c_str(), 1);
+    }
+
+    /// Installs an "xdg-open" that writes down what it was given.
+    void installOpener() const
+    {
+        const auto program = programs() / "xdg-open";
+        fs::create_directories(programs());
+        std::ofstream{program} << "#!/bin/sh\nprintf '%s\\n' \"$#\" \"$@\" > '" << opened().string()
+                               << ".new' && mv '" << opened().string() << ".new' '" << opened().string()
+                               << "'\n";
+        fs::permissions(program, fs::perms::owner_all);
+    }
+    fs::path programs() const { return folder.path() / "bin"; }
+    fs::path opened() const { return folder.path() / "opened"; }
+    /// Its arguments as it got them, with their count; empty until it has run.
+    std::string openerArguments() const
+    {
+        std::ostringstream content;
+        content << std::ifstream{opened()}.rdbuf();
+        return content.str();
+    }
+    template <typename Condition>
+    static bool waitUntil(Condition condition)
+    {
+        const auto end = std::chrono::steady_clock::now() + 20s;
+        while (!condition() && std::chrono::steady_clock::now() < end)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+        return condition();
+    }
+
+    int argumentCount = 1;
+    char name[5] = "test";
+    char* arguments[2] = {name, nullptr};
+    QCoreApplication application{argumentCount, arguments};
+    TemporaryFolder folder;
+    RememberedLog log;
+    FileManager files{log, variables({{"PATH", programs()}})};
+};
+
+TEST_F(FileManagerTest, asksTheFileManagerForTheFile)
+{
+    installOpener();
+    const PrivateBus bus{busFolder()};
+    const ShownFiles shown{bus.address, ShownFiles::Answers::always};
+
+    files.reveal("/music/My App \xFF.wav");
+    files.reveal("/music/second.wav");
+
+    EXPECT_TRUE(waitUntil([&] { return shown.calls().size() == 2; }));
+    EXPECT_THAT(shown.calls(),
+        ElementsAre("org.freedesktop.FileManager1.ShowItems(ass) file:///music/My%20App%20%FF.wav ''",
+            "org.freedesktop.FileManager1.ShowItems(ass) file:///music/second.wav ''"));
+    EXPECT_EQ(openerArguments(), "");
+    EXPECT_THAT(log.messages(), IsEmpty());
+}
+
+TEST_F(FileManagerTest, isReachedThroughTheWorkspace)
+{
+    const PrivateBus bus{busFolder()};
+    const ShownFiles shown{bus.address, ShownFiles::Answers::always};
+    LinuxWorkspace workspace{LinuxEnvironment{}, files};
+
+    workspace.reveal("/music/recording.wav");
+
+    EXPECT_TRUE(waitUntil([&] { return !shown.calls().empty(); }));
+}
+
+TEST_F(FileManagerTest, relativePathIsOneOfTheCurrentFolder)
+{
+    const PrivateBus bus{busFolder()};
+    const ShownFiles shown{bus.address, ShownFiles::Answers::always};
+
+    files.reveal("");
+    files.reveal("recording.wav");
+
+    EXPECT_TRUE(waitUntil([&] { return !shown.calls().empty(); }));
+    EXPECT_THAT(
+        shown.calls(), ElementsAre(HasSubstr(" " + fileUri(fs::current_path() / "recording.wav") + " ")));
+}
+
+TEST_F(FileManagerTest, withoutAFileManagerTheFolderIsOpened)
+{
+    installOpener();
+    const PrivateBus bus{busFolder()};
+
+    files.reveal("/music of\xFF Anna/recording.wav");
+
+    EXPECT_TRUE(waitUntil([&] { return !openerArguments().empty(); }));
+    EXPECT_EQ(openerArguments(), "1\nfile:///music%20of%FF%20Anna\n");
+    EXPECT_THAT(log.messages(), IsEmpty());
+}
+
+TEST_F(FileManagerTest, withoutABusTheFolderIsOpened)
+{
+    installOpener();
+
+    files.reveal("/music/recording.wav");
+
+    EXPECT_TRUE(waitUntil([&] { return openerArguments() == "1\nfile:///music\n"; }));
+}
+
+TEST_F(FileManagerTest, withoutASessionTheFolderIsOpened)
+{
+    // In a process of its own: where the bus is, is looked up once.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto revealWithoutSession = [this] {
+        for (const auto* const variable : {"DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "DISPLAY"})
+            unsetenv(variable);
+        installOpener();
+        files.reveal("/music/recording.wav");
+        const bool isOpened = waitUntil([&] { return openerArguments() == "1\nfile:///music\n"; });
+        fs::remove_all(folder.path());
+        fs::remove_all(busFolder());
+        std::_Exit(isOpened ? 0 : 1);
+    };
+
+    EXPECT_EXIT(revealWithoutSession(), ::testing::ExitedWithCode(0), "");
+}
+
+TEST_F(FileManagerTest, busThatCameAgainIsUsed)
+{
+    for (int life = 0; life < 2; ++life) {
+        const PrivateBus bus{busFolder()};
+        const ShownFiles shown{bus.address, ShownFiles::Answers::always};
+
+        files.reveal("/music/recording.wav");
+
+        EXPECT_TRUE(waitUntil([&] { return !shown.calls().empty(); })) << life;
+    }
+}
+
+TEST_F(FileManagerTest, whatCanBeShownInNoWayIsLogged)
+{
+    files.reveal("/music/recording.wav");
+
+    EXPECT_TRUE(waitUntil([&] { return !log.messages().empty(); }));
+    EXPECT_THAT(log.messages(),
+        ElementsAre(AllOf(HasSubstr("Cannot show /music/recording.wav: "), HasSubstr("xdg-open"))));
+}
+
+TEST_F(FileManagerTest, missingAnswerHoldsNobodyUp)
+{
+    const auto begin = std::chrono::steady_clock::now();
+    const PrivateBus bus{busFolder()};
+    const ShownFiles shown{bus.address, ShownFiles::Answers::never};
+    {
+        FileManager waiting{log, variables({})};
+
+        waiting.reveal("/music/first.wav");
+        waiting.reveal("/music/second.wav");
+
+        EXPECT_TRUE(waitUntil([&] { return shown.calls().size() == 2; }));
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, 10s) << "an answer is waited for 25 seconds";
+}
+
+TEST_F(FileManagerTest, stuckBusHoldsNobodyUp)
+{
+    installOpener();
+    auto bus = std::make_unique<StuckBus>(busFolder());
+
+    const auto begin = std::chrono::steady_clock::now();
+    files.reveal("/music/recording.wav");
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, 5s) << "connecting may take 25 seconds";
+
+    EXPECT_TRUE(waitUntil([&] { return bus->isConnectedTo(); }));
+    EXPECT_EQ(openerArguments(), "");
+    bus.reset();
+    EXPECT_TRUE(waitUntil([&] { return !openerArguments().empty(); }));
+}
+
+TEST_F(FileManagerTest, withoutAFileThereIsNoThread)
+{
+    const auto threads = [] {
+        return std::distance(fs::directory_iterator{"/proc/self/task"}, fs::directory_iterator{});
+    };
+    const auto before = threads();
+
+    auto idle = std::make_unique<FileManager>(log, variables({}));
+
+    EXPECT_EQ(threads(), before);
+    idle.reset();
+    EXPECT_EQ(threads(), before);
+}
+
+}  // namespace
+}  // namespace fadeloom

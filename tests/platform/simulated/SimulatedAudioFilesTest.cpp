@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+// Audio files in memory keep the contract of audio files, and fail when they are told to.
+#include "platform/simulated/SimulatedAudioFiles.h"
+
+#include "platform/WaveFormats.h"
+#include "tests/platform/AudioFilesContract.h"
+
+#include <array>
+#include <cmath>
+
+namespace fadeloom {
+namespace {
+
+// What 24 bits leave of a sample.
+std::int32_t stepOf(float sample)
+{
+    if (std::isnan(sample))
+        return 0;
+    return static_cast<std::int32_t>(
+        std::clamp(std::nearbyint(double{sample} * 0x1p23), -0x1p23, 0x1p23 - 1));
+}
+
+class SimulatedFilesWorld final : public ContractFilesWorld {
+public:
+    AudioFiles& files() override { return files_; }
+    std::filesystem::path folder() override { return "/music"; }
+    std::optional<WrittenSound> read(const std::filesystem::path& location) override
+    {
+        const auto* const content = files_.at(location);
+        if (!content || !content->isComplete)
+            return std::nullopt;
+        WrittenSound sound{.sampleRate = content->format.sampleRate, .steps = {}};
+        std::ranges::transform(content->samples, std::back_inserter(sound.steps), stepOf);
+        return sound;
+    }
+
+private:
+    SimulatedAudioFiles files_;
+};
+
+std::unique_ptr<ContractFilesWorld> makeSimulatedFilesWorld()
+{
+    return std::make_unique<SimulatedFilesWorld>();
+}
+
+class SimulatedAudioFilesTest : public testing::Test {
+protected:
+    AudioFile& open() { return **files.create(location, waveFileFormat(48000)); }
+
+    const std::filesystem::path location = "/music/a.wav";
+    static constexpr std::array<float, 2> frame{0.5F, -0.5F};
+    SimulatedAudioFiles files;
+};
+
+TEST_F(SimulatedAudioFilesTest, refusesWhatItIsToldTo)
+{
+    files.refuseToCreate(28);
+    EXPECT_EQ(files.create(location, waveFileFormat(48000)).error(), 28);
+    EXPECT_EQ(files.at(location), nullptr);
+
+    files.refuseToCreate(kAudioHardwareNoError);
+    files.refuseClientFormat(-50);
+    EXPECT_EQ(open().setClientFormat(waveClientFormat(48000)), -50);
+}
+
+TEST_F(SimulatedAudioFilesTest, aFailedFileTakesNothingMore)
+{
+    auto& file = open();
+    file.write(1, frame.data());
+
+    files.failWriting(28);
+    file.write(1, frame.data());
+
+    EXPECT_EQ(file.health(), (AudioFileHealth{.status = 28, .droppedWrites = 0}));
+    EXPECT_EQ(files.at(location)->frameCount(), 1);
+}
+
+TEST_F(SimulatedAudioFilesTest, aStalledFileCountsWhatItDrops)
+{
+    auto& file = open();
+    files.setStalled(true);
+    file.write(1, frame.data());
+    files.setStalled(false);
+    file.write(1, frame.data());
+
+    EXPECT_EQ(file.health().droppedWrites, 1);
+    EXPECT_EQ(files.at(location)->frameCount(), 1);
+}
+
+TEST_F(SimulatedAudioFilesTest, isIncompleteUntilItIsDisposedOf)
+{
+    auto& file = open();
+    EXPECT_FALSE(files.at(location)->isComplete);
+    EXPECT_EQ(files.openCount(), 1);
+
+    EXPECT_EQ(files.dispose(file), kAudioHardwareNoError);
+
+    EXPECT_TRUE(files.at(location)->isComplete);
+    EXPECT_EQ(files.openCount(), 0);
+}
+
+}  // namespace
+
+INSTANTIATE_TEST_SUITE_P(Simulated, AudioFilesContract, ::testing::Values(&makeSimulatedFilesWorld));
+
+}  // namespace fadeloom
