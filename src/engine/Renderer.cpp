@@ -60,6 +60,7 @@ void Renderer::render(AudioBuffers input, AudioBuffers output) noexcept FADELOOM
     takeSnapshot();
     const std::size_t frames = readTap(input, cycleLength(output));
     noticeFirstAudio(frames);
+    record(frames);
     const RenderSettings settings{
         .gainTarget = gainTarget(),
         .duckTarget = snapshot_.duck,
@@ -136,6 +137,19 @@ void Renderer::noticeFirstAudio(std::size_t frames) noexcept FADELOOM_NONBLOCKIN
             return;
         }
     }
+}
+
+// What the app played, before anything is done to it.
+void Renderer::record(std::size_t frames) noexcept FADELOOM_NONBLOCKING
+{
+    if (snapshot_.recorder == nullptr || frames == 0)
+        return;
+    for (std::size_t frame = 0; frame < frames; ++frame) {
+        interleaved_[2 * frame] = left_[frame];
+        interleaved_[2 * frame + 1] = right_[frame];
+    }
+    // How it went is asked of the file by its owner.
+    snapshot_.recorder->write(static_cast<std::uint32_t>(frames), interleaved_.data());
 }
 
 void Renderer::handBackPeak(float blockPeak) noexcept FADELOOM_NONBLOCKING

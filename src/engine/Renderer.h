@@ -52,6 +52,7 @@ private:
     [[nodiscard]] std::size_t readPlanar(
         const AudioBuffer& left, const AudioBuffer& right, std::size_t atMost) noexcept FADELOOM_NONBLOCKING;
     void noticeFirstAudio(std::size_t frames) noexcept FADELOOM_NONBLOCKING;
+    void record(std::size_t frames) noexcept FADELOOM_NONBLOCKING;
     void handBackPeak(float blockPeak) noexcept FADELOOM_NONBLOCKING;
     void writeOutput(AudioBuffers output, std::size_t frames) noexcept FADELOOM_NONBLOCKING;
 
@@ -62,6 +63,7 @@ private:
     RenderState state_;
     Scratch left_{};
     Scratch right_{};
+    std::array<float, 2 * maximumFrames> interleaved_{};
 };
 
 }  // namespace fadeloom

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "engine/Equalizer.h"
+#include "platform/AudioFiles.h"
 #include "platform/UnfairLock.h"
 
 #include <atomic>
@@ -25,6 +26,7 @@ public:
         bool eqEnabled = false;
         float preamp = 1;  // Before the equalizer, and only while it is on.
         std::int64_t eqVersion = 0;  // Grows with each `setEQ`; coefficients are copied only when it has.
+        AudioFile* recorder = nullptr;  // Takes every cycle's sound as it was captured. Not owned.
 
         friend bool operator==(const Values&, const Values&) = default;
     };
@@ -35,6 +37,9 @@ public:
 
     /// Replaces the first sections (ten at most) and leaves the others. Thread: main.
     void setEQ(std::span<const BiquadCoefficients> sections);
+
+    /// From now on the renderer writes to this file, or to none. Thread: main.
+    void setRecorder(AudioFile* file);
 
     /// The highest output sample since the last call (linear, 1 is full scale), which starts the measure anew.
     /// Thread: main.

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+// What a renderer writes to a recording: the sound as it was captured, every frame of it.
+#include "engine/Renderer.h"
+
+#include "engine/Recording.h"
+#include "platform/simulated/SimulatedAudioFiles.h"
+#include "tests/engine/CycleBuffers.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+namespace fadeloom {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class RendererRecordingTest : public testing::Test {
+protected:
+    void startRecording() { parameters->setRecorder(&recording->file()); }
+    const std::vector<float>& recorded() { return files.at(location)->samples; }
+    void render(Renderer& renderer, CycleBuffers& input, std::size_t outputFrames = 3)
+    {
+        CycleBuffers output;
+        output.add(2, outputFrames);
+        renderer.render(input.view(), output.view());
+    }
+
+    const std::filesystem::path location = "/music/Player.wav";
+    SimulatedAudioFiles files;
+    std::unique_ptr<Recording> recording = *Recording::create(files, location, 48000, {});
+    std::shared_ptr<TapParameters> parameters = std::make_shared<TapParameters>();
+    CycleBuffers stereo = std::move(CycleBuffers().add(2, {0.1F, 0.2F, 0.3F, 0.4F, 2.5F, -0.6F}));
+};
+
+TEST_F(RendererRecordingTest, aNewBlockHasNoRecorder)
+{
+    EXPECT_EQ(parameters->values.recorder, nullptr);
+
+    Renderer renderer(parameters, {});
+    render(renderer, stereo);
+
+    EXPECT_THAT(recorded(), IsEmpty());
+}
+
+TEST_F(RendererRecordingTest, writesWhatWasCapturedWhateverIsHeard)
+{
+    parameters->values.muted = true;
+    parameters->values.volume = 0.5F;
+    parameters->values.duck = 0.2F;
+    parameters->values.eqEnabled = true;
+    parameters->values.preamp = 0.25F;
+    parameters->setEQ(eqCoefficients(std::vector<float>(10, 12), 48000));
+    startRecording();
+    Renderer renderer(parameters, {});
+
+    render(renderer, stereo);
+
+    EXPECT_THAT(recorded(), ElementsAre(0.1F, 0.2F, 0.3F, 0.4F, 2.5F, -0.6F));
+}
+
+TEST_F(RendererRecordingTest, writesLeftAndRightOfASoundInTwoBuffers)
+{
+    startRecording();
+    Renderer renderer(parameters, {.tapBufferCount = 2, .isTapInterleaved = false});
+    CycleBuffers input;
+    input.add(1, {1, 2, 3}).add(1, {-1, -2, -3});
+
+    render(renderer, input);
+
+    EXPECT_THAT(recorded(), ElementsAre(1, -1, 2, -2, 3, -3));
+}
+
+TEST_F(RendererRecordingTest, writesASingleChannelToBothSides)
+{
+    startRecording();
+    Renderer renderer(parameters, {});
+    CycleBuffers mono;
+    mono.add(1, {0.5F, 0.25F, 0});
+
+    render(renderer, mono);
+
+    EXPECT_THAT(recorded(), ElementsAre(0.5F, 0.5F, 0.25F, 0.25F, 0, 0));
+}
+
+TEST_F(RendererRecordingTest, writesBothSidesAlsoForADeviceWithOneChannel)
+{
+    startRecording();
+    Renderer renderer(parameters, {.output = {1, 1}});
+
+    render(renderer, stereo);
+
+    EXPECT_THAT(recorded(), ElementsAre(0.1F, 0.2F, 0.3F, 0.4F, 2.5F, -0.6F));
+}
+
+TEST_F(RendererRecordingTest, goesOnFromCycleToCycle)
+{
+    startRecording();
+    Renderer renderer(parameters, {});
+
+    for (int cycle = 0; cycle < 4; ++cycle)
+        render(renderer, stereo);
+
+    EXPECT_EQ(recorded().size(), 4 * 6);
+}
+
+TEST_F(RendererRecordingTest, aCycleWithoutFramesWritesNothing)
+{
+    startRecording();
+    Renderer renderer(parameters, {});
+    CycleBuffers nothing;
+
+    render(renderer, nothing);
+    render(renderer, stereo, 0);
+
+    EXPECT_THAT(recorded(), IsEmpty());
+    // A write without samples would prime the file once more.
+    EXPECT_THAT(files.journal(), ElementsAre("create Player.wav", "format Player.wav", "prime Player.wav"));
+}
+
+TEST_F(RendererRecordingTest, theLongestCycleIsWrittenWhole)
+{
+    startRecording();
+    Renderer renderer(parameters, {});
+    CycleBuffers input;
+    input.add(2, Renderer::maximumFrames, 0.125F);
+
+    render(renderer, input, Renderer::maximumFrames);
+
+    EXPECT_EQ(recorded().size(), 2 * Renderer::maximumFrames);
+    EXPECT_THAT(recorded(), Each(0.125F));
+}
+
+TEST_F(RendererRecordingTest, endsWithTheFirstCycleThatSeesItsEnd)
+{
+    startRecording();
+    Renderer renderer(parameters, {});
+    render(renderer, stereo);
+
+    parameters->lock.lock();
+    render(renderer, stereo);  // Still with what the last cycle knew.
+    parameters->lock.unlock();
+    parameters->setRecorder(nullptr);
+    render(renderer, stereo);
+
+    EXPECT_EQ(recorded().size(), 2 * 6);
+}
+
+}  // namespace
+}  // namespace fadeloom
