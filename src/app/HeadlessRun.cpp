@@ -27,8 +27,10 @@ HeadlessRun::HeadlessRun(const Platform& platform, Console& console, Options opt
     , eventPrinter_(controller_, console)
     , commands_(controller_, platform.text)
 {
-    if (options_.terminalSize())
+    if (options_.terminalSize()) {
+        controller_.levels().setWanted(true);
         tableTimer_ = platform.mainLoop.every(tableInterval, [this] { showTable(); });
+    }
 }
 
 void HeadlessRun::takeLine(std::string_view line)
@@ -57,7 +59,7 @@ void HeadlessRun::showTable()
 
 std::vector<StatusRow> HeadlessRun::statusRows()
 {
-    const auto peaks = controller_.takePeaks();
+    const auto& levels = *controller_.levels().levels();
     const auto& settings = *controller_.state().settings;
     std::vector<StatusRow> rows;
     for (const auto& entry : *controller_.state().apps) {
@@ -68,9 +70,9 @@ std::vector<StatusRow> HeadlessRun::statusRows()
             .volume = std::min(app.volume, settings.volumeLimit),
             .isMuted = app.muted,
         };
-        const auto peak = peaks.find(entry.bundleID);
-        if (peak != peaks.end() && controller_.tapOf(entry.bundleID))
-            row.peak = peak->second;
+        const auto level = levels.find(entry.bundleID);
+        if (level != levels.end() && controller_.tapOf(entry.bundleID))
+            row.level = level->second;
         rows.push_back(std::move(row));
     }
     return rows;

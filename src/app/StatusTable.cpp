@@ -2,6 +2,7 @@
 #include "app/StatusTable.h"
 
 #include "app/PrintableText.h"
+#include "control/LevelStore.h"
 
 #include <algorithm>
 #include <array>
@@ -53,7 +54,7 @@ std::string lineOf(const Widths& widths, const std::string& name, const std::str
 std::string lineOf(const Widths& widths, const StatusRow& row)
 {
     return lineOf(widths, row.name, row.output, row.isMuted ? "muted" : percentText(row.volume),
-        row.peak ? levelText(*row.peak) : "-");
+        row.level ? levelText(*row.level) : "-");
 }
 
 }  // namespace
@@ -76,14 +77,13 @@ std::vector<std::string> statusTable(std::span<const StatusRow> rows, int column
     return table;
 }
 
-std::string levelText(float peak)
+std::string levelText(float position)
 {
-    constexpr float silence = 1e-6F;
-    if (!(peak > silence))
+    if (!(position > 0))
         return "silent";
     std::array<char, 32> buffer{};
     const auto end =
-        std::to_chars(buffer.begin(), buffer.end(), 20 * std::log10(peak), std::chars_format::fixed, 1).ptr;
+        std::to_chars(buffer.begin(), buffer.end(), meterDecibels(position), std::chars_format::fixed, 1).ptr;
     return std::string(buffer.begin(), end) + " dB";
 }
 

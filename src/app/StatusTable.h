@@ -14,7 +14,7 @@ struct StatusRow {
     std::string output;  // The device's name, or why there is none.
     float volume = 1;  // Linear.
     bool isMuted = false;
-    std::optional<float> peak{};  // Linear; absent without a tap.
+    std::optional<float> level{};  // Where its meter stands, 0 to 1; absent without a tap.
 
     friend bool operator==(const StatusRow&, const StatusRow&) = default;
 };
@@ -23,8 +23,8 @@ struct StatusRow {
 /// line says how many are left out. Texts are made harmless.
 [[nodiscard]] std::vector<std::string> statusTable(std::span<const StatusRow> rows, int columns, int lines);
 
-/// A linear peak as a level: "-12.3 dB"; "silent" at and below −120 dB. The same in every language.
-[[nodiscard]] std::string levelText(float peak);
+/// A meter's position as a level: "-12.3 dB"; "silent" at its lower end. The same in every language.
+[[nodiscard]] std::string levelText(float position);
 
 /// A linear gain as a whole percentage: "50%".
 [[nodiscard]] std::string percentText(float gain);

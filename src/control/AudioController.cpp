@@ -3,6 +3,7 @@
 #include "control/AudioController.h"
 
 #include "platform/AudioHardware.h"
+#include "platform/LoginItem.h"
 #include "platform/MainLoop.h"
 #include "settings/SettingsFile.h"
 
@@ -14,6 +15,7 @@ AudioController::AudioController(const Platform& platform, EngineLog& engineLog,
     : platform_(platform)
     , engineLog_(engineLog)
     , state_{.permission = audioPermission_.current(),
+          .launchAtLogin = platform.loginItem.status() == LoginItem::Status::enabled,
           .settings = SettingsFile::load(SettingsFile::defaultURL(platform.folders), platform.systemLog)}
     , saver_(platform.utilityQueue, platform.mainLoop, SettingsFile::defaultURL(platform.folders),
           [this](const std::string& description) {
@@ -21,6 +23,7 @@ AudioController::AudioController(const Platform& platform, EngineLog& engineLog,
           })
     , processListeners_(platform.audio, onMainThread(&AudioController::schedulePoll))
 {
+    applyAppearance();
     refreshDevices();
     engineLog_.notice("started " + (version.empty() ? "?" : version)
         + ", permission: " + std::string(AudioPermission::name(*state_.permission))
@@ -83,7 +86,13 @@ void AudioController::shutdown()
     processListeners_.sync({});
     life_.end();
 
-    taps_.clear();
+    recordingCheck_.reset();
+    auto ending = std::exchange(closing_, {});
+    for (auto& [id, recording] : std::exchange(active_, {}))
+        ending.push_back({.bundleID = id, .recording = std::move(recording), .timer = {}});
+    taps_.clear();  // From here on nothing writes to a file.
+    for (auto& [id, recording, timer] : ending)
+        finish(id, *recording);
     saver_.flush();
 }
 

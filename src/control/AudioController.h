@@ -5,23 +5,28 @@
 // operations. They end in a poll, which compares the world with what is wanted and repairs the difference.
 //
 // Its sources go by concern: AudioController.cpp (start, end, permission), …Settings.cpp (from settings to sound and
-// file), …Poll.cpp (from processes to rows), …Taps.cpp (from rows to taps), …Routing.cpp (devices and outputs).
+// file), …Poll.cpp (from processes to rows), …Taps.cpp (from rows to taps), …Routing.cpp (devices and outputs),
+// …Calls.cpp (ducking), …Recordings.cpp, …Presets.cpp, …Desktop.cpp (start at login, appearance).
 #pragma once
 
 #include "control/AppGroups.h"
 #include "control/AudioPermission.h"
 #include "control/ControllerState.h"
+#include "control/LevelStore.h"
 #include "control/LifeToken.h"
 #include "control/ProcessListeners.h"
 #include "control/SettingsSaver.h"
 #include "engine/AppTap.h"
+#include "engine/Recording.h"
 #include "engine/TapParameters.h"
 #include "hal/AudioProcesses.h"
 #include "log/EngineLog.h"
 #include "platform/Platform.h"
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
+#include <list>
 #include <map>
 #include <memory>
 #include <optional>
@@ -35,6 +40,10 @@ namespace fadeloom {
 class AudioController {
 public:
     static constexpr std::chrono::seconds pollInterval{5};
+    /// A cycle that began before a recording was stopped may go on for this long.
+    static constexpr std::chrono::milliseconds closeDelay{500};
+    /// How soon a recording that cannot be written any more is noticed.
+    static constexpr std::chrono::seconds recordingCheckInterval{1};
 
     /// Loads the settings, begins to listen, polls once. `version` is for the log; "?" when empty.
     AudioController(const Platform& platform, EngineLog& engineLog, const std::string& version);
@@ -66,10 +75,32 @@ public:
     [[nodiscard]] const TapParameters* parametersOf(const std::string& bundleID) const;
     /// The app's tap, or null.
     [[nodiscard]] const AppTap* tapOf(const std::string& bundleID) const;
-    /// Each app's highest output sample since the last call, linear.
-    [[nodiscard]] std::map<std::string, float> takePeaks();
+    /// The meters; whoever shows them says when.
+    [[nodiscard]] LevelStore& levels() { return levels_; }
 
-    /// Ends the work before the program does: no tap is left, and a save that waits is done when this returns.
+    /// Writes what the app plays to a file, before volume, mute and equalizer. Whatever stands in the way becomes the
+    /// error message; a second call while the app is being recorded does nothing.
+    void startRecording(const std::string& bundleID);
+    /// The file is complete half a second later.
+    void stopRecording(const std::string& bundleID);
+    /// Where recordings go.
+    [[nodiscard]] std::filesystem::path recordingsFolder() const;
+    /// Lets the user choose where they go.
+    void chooseRecordingsFolder();
+    /// Shows the recording that was stopped last in the file manager.
+    void revealLastRecording();
+
+    void applyPreset(const EQPreset& preset, const std::string& bundleID);
+    /// Keeps the app's curve under this name. A blank name does nothing; the name of a built-in preset becomes the
+    /// error message.
+    void saveUserPreset(const std::string& name, const std::string& bundleID);
+    void deleteUserPreset(const EQPreset& preset);
+
+    /// Afterwards `launchAtLogin` is what the system made of it; a refusal becomes the error message.
+    void setLaunchAtLogin(bool isWanted);
+
+    /// Ends the work before the program does: no tap is left, every recording is a whole file, and a save that waits
+    /// is done when this returns.
     void shutdown();
 
 private:
@@ -81,6 +112,8 @@ private:
     void lowerVolumesToLimit();
     void pushSettings(const std::string& bundleID, std::optional<double> sampleRate = std::nullopt);
     void pushAllSettings();
+
+    void updateFocus();
 
     void updatePermission();
     void updateSeen(const AppGroups& groups);
@@ -96,6 +129,17 @@ private:
     void createTap(const AppEntry& entry, const OutputDevice& device);
     void removeTapsOfQuitApps(const AppGroups& groups);
 
+    [[nodiscard]] std::map<std::string, float> takePeaks();
+
+    [[nodiscard]] std::string nameOf(const std::string& bundleID) const;
+    [[nodiscard]] std::filesystem::path newRecordingLocation(
+        const std::string& bundleID, Recording::Moment startedAt) const;
+    void stopAllRecordings();
+    void checkRecordings();
+    void finish(const std::string& bundleID, Recording& recording);
+
+    void applyAppearance();
+
     void devicesChanged();
     void refreshDevices();
     void updateMissingOutput();
@@ -108,10 +152,18 @@ private:
 
     ControllerState state_;
     SettingsSaver saver_;
+    LevelStore levels_{platform_.mainLoop, [this] { return takePeaks(); }};
 
     // A block is shared with the renderer of the app's tap and outlives it, so that the next tap sounds the same.
     std::map<std::string, std::shared_ptr<TapParameters>> params_;
     std::map<std::string, std::unique_ptr<AppTap>> taps_;
+    struct ClosingRecording {
+        std::string bundleID;
+        std::unique_ptr<Recording> recording;
+        Subscription timer;
+    };
+    std::map<std::string, std::unique_ptr<Recording>> active_;
+    std::list<ClosingRecording> closing_;
     std::map<std::string, std::string> failed_;  // The key of the last failed attempt, by app.
     std::set<std::string> audioConfirmed_;  // Taps through which audio was seen to flow.
     std::set<std::string> seen_;  // Apps that have played while they were there.
@@ -122,6 +174,7 @@ private:
     ProcessListeners processListeners_;
     std::vector<Subscription> systemListeners_;
     Subscription timer_;
+    std::optional<Subscription> recordingCheck_;  // While anything is recorded.
     LifeToken life_;
 };
 

@@ -23,6 +23,7 @@ void AudioController::poll()
     forgetQuitApps(groups);
     updateMissingOutput();
     confirmAudio();
+    updateFocus();
     ensureTaps();
 }
 
@@ -41,7 +42,7 @@ void AudioController::updateSeen(const AppGroups& groups)
         if (group.isPlaying())
             seen_.insert(id);
     }
-    std::erase_if(seen_, [&](const auto& id) { return !groups.contains(id); });
+    std::erase_if(seen_, [&](const auto& id) { return !groups.contains(id) && !active_.contains(id); });
 }
 
 void AudioController::updateApps(const AppGroups& groups)

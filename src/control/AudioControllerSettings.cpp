@@ -2,6 +2,7 @@
 // The controller's way from the settings to what is heard, and to their file.
 #include "control/AppSettings.h"
 #include "control/AudioController.h"
+#include "control/CallDucking.h"
 #include "control/OutputChoice.h"
 #include "control/TapValues.h"
 
@@ -25,6 +26,13 @@ void AudioController::settingsChanged(const SettingsData& old)
     for (const auto& id : ids)
         appSettingsChanged(id, old);
 
+    if (state_.settings->focus != old.focus) {
+        updateFocus();
+        if (*state_.callApp)
+            pushAllSettings();  // The same call may lower other apps now, or further.
+    }
+    if (state_.settings->appearance != old.appearance)
+        applyAppearance();
     if (state_.settings->volumeLimit < old.volumeLimit)
         lowerVolumesToLimit();
     if (state_.settings->volumeLimit != old.volumeLimit
@@ -68,7 +76,8 @@ void AudioController::pushSettings(const std::string& bundleID, std::optional<do
     if (block == params_.end())
         return;
     const auto app = appSettings(*state_.settings, bundleID);
-    store(tapValues(*state_.settings, app, isOutputMissing(bundleID)), *block->second);
+    const float duck = duckFactor(state_.settings->focus, *state_.callApp, bundleID);
+    store(tapValues(*state_.settings, app, isOutputMissing(bundleID), duck), *block->second);
 
     const auto tap = taps_.find(bundleID);
     if (!sampleRate && tap != taps_.end())

@@ -13,6 +13,8 @@ namespace fadeloom {
 void AudioController::ensureTaps()
 {
     if (*state_.permission != AudioPermission::State::granted) {
+        if (!taps_.empty())
+            stopAllRecordings();
         taps_.clear();
         return;
     }
@@ -62,9 +64,12 @@ void AudioController::createTap(const AppEntry& entry, const OutputDevice& devic
     if (!block)
         block = std::make_shared<TapParameters>();
     pushSettings(id);  // Before any audio flows.
+    const auto old = taps_.find(id);
+    const double oldRate = old == taps_.end() ? 0 : old->second->sampleRate();
     taps_.erase(id);  // Two taps of one app would mute each other's source.
     auto tap = AppTap::create(platform_.audio, entry.processIDs, device.uid, device.id, block, entry.name);
     if (!tap) {
+        stopRecording(id);
         const auto description = tap.error().description();
         failed_.insert_or_assign(id, key);
         state_.tapErrors.modify([&](auto& errors) { errors.insert_or_assign(id, description); });
@@ -78,6 +83,12 @@ void AudioController::createTap(const AppEntry& entry, const OutputDevice& devic
     engineLog_.notice(tapReadyText(id, made));
     if (state_.tapErrors->contains(id))
         state_.tapErrors.modify([&](auto& errors) { errors.erase(id); });
+    // A file has one rate from its beginning to its end.
+    if (oldRate != 0 && oldRate != made.sampleRate() && active_.contains(id)) {
+        stopRecording(id);
+        state_.errorMessage.assign(
+            "Recording of " + entry.name + " stopped: the output device changed its sample rate.");
+    }
 }
 
 void AudioController::removeTapsOfQuitApps(const AppGroups& groups)
@@ -88,6 +99,7 @@ void AudioController::removeTapsOfQuitApps(const AppGroups& groups)
             continue;
         }
         const auto id = tap->first;
+        stopRecording(id);
         tap = taps_.erase(tap);
         audioConfirmed_.erase(id);
         engineLog_.notice("tap removed (app quit): " + id);

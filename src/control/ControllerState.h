@@ -8,6 +8,8 @@
 #include "hal/OutputDevices.h"
 #include "settings/SettingsData.h"
 
+#include <chrono>
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <set>
@@ -25,10 +27,18 @@ struct ControllerState {
     /// Absent when the system has no default output.
     Published<std::optional<std::string>> defaultDeviceUID{};
     Published<AudioPermission::State> permission{};
+    /// The app whose call lowers the others.
+    Published<std::optional<std::string>> callApp{};
     /// Why the tap of an app could not be made, in words for the user.
     Published<std::map<std::string, std::string>> tapErrors{};
     /// The listed apps whose chosen output is not connected; they are muted.
     Published<std::set<std::string>> missingOutput{};
+    /// The apps that are being recorded, and since when.
+    Published<std::map<std::string, std::chrono::system_clock::time_point>> recordings{};
+    /// The recording that was stopped last.
+    Published<std::optional<std::filesystem::path>> lastRecording{};
+    /// Whether the program starts when the user logs in; as the system has it.
+    Published<bool> launchAtLogin{};
     /// A message for the user, until it is dismissed.
     Published<std::optional<std::string>> errorMessage{};
     Published<SettingsData> settings{};

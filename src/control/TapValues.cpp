@@ -15,12 +15,14 @@ constexpr double headroomSampleRate = 48000;
 
 }  // namespace
 
-TapParameters::Values tapValues(const SettingsData& settings, const AppAudioSettings& app, bool isSilenced)
+TapParameters::Values tapValues(
+    const SettingsData& settings, const AppAudioSettings& app, bool isSilenced, float duck)
 {
     const float headroom = settings.eqAutoHeadroom ? eqLoudnessGainDB(app.eqGains, headroomSampleRate) : 0.0F;
     return {
         .volume = std::min(app.volume, settings.volumeLimit),
         .muted = app.muted || isSilenced,
+        .duck = duck,
         .eqEnabled = app.eqEnabled,
         .preamp = std::pow(10.0F, (app.eqPreamp - headroom) / 20.0F),
     };

@@ -14,7 +14,7 @@ using testing::HasSubstr;
 using testing::Not;
 
 const StatusRow player = {
-    .name = "Player", .output = "Desk Speakers", .volume = 0.5F, .isMuted = false, .peak = 0.25F};
+    .name = "Player", .output = "Desk Speakers", .volume = 0.5F, .isMuted = false, .level = 0.8F};
 const StatusRow chat = {.name = "Chat", .output = "no output", .volume = 1, .isMuted = true};
 
 TEST(StatusTable, alignsItsColumns)
@@ -86,10 +86,9 @@ TEST(StatusTable, saysHowManyRowsItLeavesOut)
 TEST(LevelText, isInDecibelsWithOneDecimal)
 {
     EXPECT_EQ(levelText(1), "0.0 dB");
-    EXPECT_EQ(levelText(0.1F), "-20.0 dB");
-    EXPECT_EQ(levelText(2), "6.0 dB");
+    EXPECT_EQ(levelText(2.0F / 3), "-20.0 dB");
+    EXPECT_EQ(levelText(0.01F), "-59.4 dB");
     EXPECT_EQ(levelText(0), "silent");
-    EXPECT_EQ(levelText(1e-7F), "silent");
 }
 
 TEST(PercentText, isAWholeNumber)

@@ -237,14 +237,5 @@ TEST_F(TapStory, audioThatFlowsIsConfirmedOnce)
     EXPECT_EQ(logCount("audio flowing through tap: com.example.player"), 2);
 }
 
-TEST_F(TapStory, peaksAreTakenOncePerApp)
-{
-    launchPlaying("Player");
-    world.advance(1s);
-
-    EXPECT_NEAR(controller->takePeaks().at(player), source, tolerance);
-    EXPECT_EQ(controller->takePeaks().at(player), 0);
-}
-
 }  // namespace
 }  // namespace fadeloom

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// The controller's words with the desktop: the start at login, and how the windows look.
+#include "control/AudioController.h"
+#include "platform/Application.h"
+#include "platform/LoginItem.h"
+
+namespace fadeloom {
+namespace {
+
+Application::Appearance appearanceOf(Theme theme)
+{
+    switch (theme) {
+    case Theme::light:
+        return Application::Appearance::light;
+    case Theme::dark:
+        return Application::Appearance::dark;
+    case Theme::system:
+        break;
+    }
+    return Application::Appearance::system;
+}
+
+}  // namespace
+
+void AudioController::setLaunchAtLogin(bool isWanted)
+{
+    if (isWanted == *state_.launchAtLogin)
+        return;
+    auto& loginItem = platform_.loginItem;
+    const auto changed = isWanted ? loginItem.registerItem() : loginItem.unregisterItem();
+    if (!changed)
+        state_.errorMessage.assign("Launch at login: " + changed.error());
+    // Assigned also when it is as before: a switch that was moved has to move back.
+    state_.launchAtLogin.assign(loginItem.status() == LoginItem::Status::enabled);
+}
+
+void AudioController::applyAppearance()
+{
+    const auto& appearance = state_.settings->appearance;
+    if (platform_.application)
+        platform_.application->setAppearance(appearanceOf(appearance.theme));
+    levels_.setEnabled(appearance.levelMeters);
+}
+
+}  // namespace fadeloom

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// The controller's presets: curves that are applied, kept and deleted, always as a change of the settings.
+#include "control/AudioController.h"
+#include "control/UserPresets.h"
+#include "platform/Text.h"
+
+#include <utility>
+
+namespace fadeloom {
+
+void AudioController::applyPreset(const EQPreset& preset, const std::string& bundleID)
+{
+    auto settings = *state_.settings;
+    fadeloom::applyPreset(settings, preset, bundleID);
+    setSettings(std::move(settings));
+}
+
+void AudioController::saveUserPreset(const std::string& name, const std::string& bundleID)
+{
+    const auto trimmed = platform_.text.trimmed(name);
+    if (trimmed.empty())
+        return;
+    if (isBuiltInPresetName(trimmed, platform_.text)) {
+        state_.errorMessage.assign("“" + trimmed + "” is a built-in preset name. Choose another name.");
+        return;
+    }
+    auto settings = *state_.settings;
+    fadeloom::saveUserPreset(settings, trimmed, bundleID, platform_.text);
+    setSettings(std::move(settings));
+}
+
+void AudioController::deleteUserPreset(const EQPreset& preset)
+{
+    auto settings = *state_.settings;
+    fadeloom::deleteUserPreset(settings, preset);
+    setSettings(std::move(settings));
+}
+
+}  // namespace fadeloom

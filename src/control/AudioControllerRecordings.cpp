@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+// The controller's recordings: each app's own, from the first cycle after the start to a whole file.
+#include "control/AudioController.h"
+#include "control/RecordingFile.h"
+#include "platform/Application.h"
+#include "platform/Dialogs.h"
+#include "platform/WallClock.h"
+#include "platform/Workspace.h"
+
+#include <algorithm>
+#include <ranges>
+#include <system_error>
+#include <utility>
+
+namespace fadeloom {
+
+void AudioController::startRecording(const std::string& bundleID)
+{
+    if (active_.contains(bundleID))
+        return;
+    const auto tap = taps_.find(bundleID);
+    const auto block = params_.find(bundleID);
+    if (tap == taps_.end() || block == params_.end()) {
+        state_.errorMessage.assign("Start playback in this app first, then press record.");
+        return;
+    }
+    const auto fail = [this](const std::string& reason) {
+        state_.errorMessage.assign("Could not start recording: " + reason);
+    };
+
+    const auto startedAt = platform_.clock.now();
+    const auto location = newRecordingLocation(bundleID, startedAt);
+    std::error_code error;
+    std::filesystem::create_directories(location.parent_path(), error);
+    if (error)
+        return fail(location.parent_path().string() + ": " + error.message());
+    auto recording = Recording::create(platform_.audioFiles, location, tap->second->sampleRate(), startedAt);
+    if (!recording)
+        return fail(recording.error().description());
+
+    auto& file = (*recording)->file();
+    active_.emplace(bundleID, std::move(*recording));
+    block->second->setRecorder(&file);
+    if (!recordingCheck_)
+        recordingCheck_ =
+            platform_.mainLoop.every(recordingCheckInterval, onMainThread(&AudioController::checkRecordings));
+    state_.recordings.modify([&](auto& recordings) { recordings.emplace(bundleID, startedAt); });
+}
+
+void AudioController::stopRecording(const std::string& bundleID)
+{
+    const auto found = active_.find(bundleID);
+    if (found == active_.end())
+        return;
+    auto recording = std::move(found->second);
+    active_.erase(found);
+    if (active_.empty())
+        recordingCheck_.reset();
+    if (const auto block = params_.find(bundleID); block != params_.end())
+        block->second->setRecorder(nullptr);
+
+    const auto location = recording->location();
+    const auto closing = closing_.insert(
+        closing_.end(), {.bundleID = bundleID, .recording = std::move(recording), .timer = {}});
+    closing->timer = platform_.mainLoop.after(closeDelay, [this, closing] {
+        platform_.mainLoop.requireCurrent();
+        const auto ended = std::move(*closing);
+        closing_.erase(closing);
+        finish(ended.bundleID, *ended.recording);
+    });
+    state_.recordings.modify([&](auto& recordings) { recordings.erase(bundleID); });
+    state_.lastRecording.assign(location);
+}
+
+void AudioController::stopAllRecordings()
+{
+    std::vector<std::string> ids;
+    for (const auto& [id, recording] : active_)
+        ids.push_back(id);
+    for (const auto& id : ids)
+        stopRecording(id);
+}
+
+// A recording that takes nothing any more would go on as a file of silence that nobody notices.
+void AudioController::checkRecordings()
+{
+    std::map<std::string, AudioStatus> broken;
+    for (const auto& [id, recording] : active_) {
+        if (const auto status = recording->health().status; status != kAudioHardwareNoError)
+            broken.emplace(id, status);
+    }
+    for (const auto& [id, status] : broken) {
+        stopRecording(id);
+        state_.errorMessage.assign("Recording of " + nameOf(id) + " stopped: the file could not be written ("
+            + platform_.audioFiles.describe(status) + ").");
+    }
+}
+
+void AudioController::finish(const std::string& bundleID, Recording& recording)
+{
+    recording.finish();
+    const auto health = recording.health();
+    if (health.droppedWrites > 0)
+        engineLog_.error("recording has gaps: " + bundleID + ", " + std::to_string(health.droppedWrites)
+            + " cycle(s) lost");
+    if (health.status != kAudioHardwareNoError)
+        engineLog_.error(
+            "recording failed: " + bundleID + ": " + platform_.audioFiles.describe(health.status));
+}
+
+std::string AudioController::nameOf(const std::string& bundleID) const
+{
+    const auto entry = std::ranges::find(*state_.apps, bundleID, &AppEntry::bundleID);
+    return entry == state_.apps->end() ? bundleID : entry->name;
+}
+
+std::filesystem::path AudioController::newRecordingLocation(
+    const std::string& bundleID, Recording::Moment startedAt) const
+{
+    const auto folder = recordingsFolder();
+    const auto name = nameOf(bundleID);
+    const auto time = platform_.clock.localTime(startedAt);
+    // Two apps of one name, or one app twice within a second, must not end in one file.
+    const auto isOurs = [&](const std::filesystem::path& location) {
+        const auto isThere = [&](const auto& recording) { return recording->location() == location; };
+        return std::ranges::any_of(active_ | std::views::values, isThere)
+            || std::ranges::any_of(closing_, [&](const auto& closing) { return isThere(closing.recording); })
+            || *state_.lastRecording == location;
+    };
+    auto location = folder / recordingFileName(name, time);
+    for (int count = 2; isOurs(location); ++count)
+        location = folder / recordingFileName(name, time, count);
+    return location;
+}
+
+std::filesystem::path AudioController::recordingsFolder() const
+{
+    return fadeloom::recordingsFolder(*state_.settings, platform_.folders);
+}
+
+void AudioController::chooseRecordingsFolder()
+{
+    if (!platform_.dialogs)
+        return;
+    if (platform_.application)
+        platform_.application->activate();
+    platform_.dialogs->chooseFolder(
+        recordingsFolder(), "Choose", life_.whileAlive([this](const auto& folder) {
+            platform_.mainLoop.requireCurrent();
+            if (!folder)
+                return;
+            auto settings = *state_.settings;
+            settings.recordingsFolder = folder->string();
+            setSettings(std::move(settings));
+        }));
+}
+
+void AudioController::revealLastRecording()
+{
+    if (const auto& location = *state_.lastRecording)
+        platform_.workspace.reveal(*location);
+}
+
+}  // namespace fadeloom

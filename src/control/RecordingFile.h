@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// Where recordings go and what they are called.
+#pragma once
+
+#include "platform/WallClock.h"
+#include "settings/SettingsData.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace fadeloom {
+
+class StandardFolders;
+
+/// The user's choice, else "Fadeloom Recordings" in the folder for music.
+[[nodiscard]] std::filesystem::path recordingsFolder(
+    const SettingsData& settings, const StandardFolders& folders);
+
+/// "Player 2025-03-02 14.05.09.wav". The characters that separate folders become "-". A `count` above 1 tells
+/// recordings of the same second apart: "Player 2025-03-02 14.05.09 2.wav".
+[[nodiscard]] std::string recordingFileName(std::string_view appName, LocalTime startedAt, int count = 1);
+
+}  // namespace fadeloom

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+// The end of the program's work: nothing is left behind, and nothing is lost.
+#include "tests/control/ControllerStory.h"
+
+namespace fadeloom {
+namespace {
+
+class ShutdownStory : public ControllerStory {
+protected:
+    ShutdownStory() { start(); }
+
+    long closings()
+    {
+        return std::ranges::count_if(world.audioFiles().journal(),
+            [](const std::string& call) { return call.starts_with("dispose"); });
+    }
+    bool areAllFilesComplete()
+    {
+        return std::ranges::all_of(world.audioFiles().locations(),
+            [&](const auto& location) { return world.audioFiles().at(location)->isComplete; });
+    }
+
+    const std::string player = "com.example.player";
+};
+
+TEST_F(ShutdownStory, completesEveryRecording)
+{
+    launchPlaying("Player");
+    launchPlaying("Radio");
+    controller->startRecording(player);
+    controller->startRecording("com.example.radio");
+    world.advance(1s);
+
+    controller->shutdown();
+
+    EXPECT_EQ(closings(), 2);
+    EXPECT_TRUE(areAllFilesComplete());
+}
+
+TEST_F(ShutdownStory, closesAStoppedRecordingOnce)
+{
+    launchPlaying("Player");
+    controller->startRecording(player);
+    world.advance(1s);
+    controller->stopRecording(player);
+
+    controller->shutdown();
+    world.advance(1s);
+
+    EXPECT_EQ(closings(), 1);
+    EXPECT_TRUE(areAllFilesComplete());
+}
+
+TEST_F(ShutdownStory, leavesAClosedRecordingAlone)
+{
+    launchPlaying("Player");
+    controller->startRecording(player);
+    controller->stopRecording(player);
+    world.advance(1s);
+
+    controller->shutdown();
+
+    EXPECT_EQ(closings(), 1);
+}
+
+TEST_F(ShutdownStory, takesTheTapsDownBeforeItClosesTheFiles)
+{
+    launchPlaying("Player");
+    controller->startRecording(player);
+    long tapsDown = 0;
+    world.audioFiles().whenDisposed([&] { tapsDown = callCount(AudioOperation::destroyProcessTap); });
+
+    controller->shutdown();
+
+    EXPECT_EQ(tapsDown, 1);
+    EXPECT_EQ(closings(), 1);
+}
+
+TEST_F(ShutdownStory, savesAChangeOfTheLastMoment)
+{
+    world.advance(1s);
+    change(player, [](auto& app) { app.volume = 0.5F; });
+
+    controller->shutdown();
+
+    EXPECT_EQ(saved().apps.at(player).volume, 0.5F);
+}
+
+TEST_F(ShutdownStory, endsEveryTimer)
+{
+    launchPlaying("Player");
+    controller->startRecording(player);
+    controller->stopRecording(player);
+    controller->startRecording(player);
+
+    controller->shutdown();
+
+    EXPECT_EQ(world.mainLoop().timerCount(), 0);
+}
+
+TEST_F(ShutdownStory, saysNothingWhenAFileIsBroken)
+{
+    launchPlaying("Player");
+    controller->startRecording(player);
+    world.audioFiles().failWriting(28);
+
+    controller->shutdown();
+
+    EXPECT_FALSE(*state().errorMessage);
+}
+
+TEST_F(ShutdownStory, canComeTwice)
+{
+    launchPlaying("Player");
+    controller->startRecording(player);
+
+    controller->shutdown();
+    controller->shutdown();
+
+    EXPECT_EQ(closings(), 1);
+}
+
+}  // namespace
+}  // namespace fadeloom
