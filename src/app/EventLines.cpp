@@ -32,9 +32,9 @@ std::string deviceLine(const char* event, const std::string& uid, const std::str
     return std::string("device ") + event + " " + asWord(uid) + " " + asWord(name);
 }
 
-std::string uidText(const std::optional<std::string>& uid)
+std::string textOrNone(const std::optional<std::string>& text)
 {
-    return uid ? asWord(*uid) : "none";
+    return text ? asWord(*text) : "none";
 }
 
 }  // namespace
@@ -65,7 +65,7 @@ std::vector<std::string> outputLines(const AppOutputs& before, const AppOutputs&
     for (const auto& [id, uid] : now) {
         const auto known = before.find(id);
         if (known == before.end() || known->second != uid)
-            lines.push_back(appLine("output", id) + " " + uidText(uid));
+            lines.push_back(appLine("output", id) + " " + textOrNone(uid));
     }
     return lines;
 }
@@ -91,7 +91,31 @@ std::vector<std::string> deviceLines(std::span<const OutputDevice> before, std::
 
 std::string defaultLine(const std::optional<std::string>& uid)
 {
-    return "default " + uidText(uid);
+    return "default " + textOrNone(uid);
+}
+
+std::string callLine(const std::optional<std::string>& bundleID)
+{
+    return "call " + textOrNone(bundleID);
+}
+
+std::vector<std::string> recordingLines(const std::set<std::string>& before, const std::set<std::string>& now)
+{
+    std::vector<std::string> lines;
+    const auto addDifference = [&](const char* event, const auto& from, const auto& other) {
+        for (const auto& id : from) {
+            if (!other.contains(id))
+                lines.push_back(std::string("recording ") + event + " " + asWord(id));
+        }
+    };
+    addDifference("stopped", before, now);
+    addDifference("started", now, before);
+    return lines;
+}
+
+std::string savedRecordingLine(const std::filesystem::path& location)
+{
+    return "recording saved " + asWord(location.string());
 }
 
 std::string permissionLine(AudioPermission::State state)

@@ -26,6 +26,10 @@ EventPrinter::EventPrinter(const AudioController& controller, Console& console)
     });
     follow(state.apps, [this] { printApps(); });
     follow(state.settings, [this] { printOutputs(); });
+    subscriptions_.push_back(
+        state.callApp.whenAssigned([this] { console_.print(callLine(*controller_.state().callApp)); }));
+    follow(state.recordings, [this] { printRecordings(); });
+    follow(state.lastRecording, [this] { printSavedRecording(); });
     follow(state.errorMessage, [this] { printMessage(); });
 }
 
@@ -52,6 +56,21 @@ void EventPrinter::printOutputs()
         now.emplace(entry.bundleID, controller_.outputUID(entry.bundleID));
     print(outputLines(outputs_, now));
     outputs_ = std::move(now);
+}
+
+void EventPrinter::printRecordings()
+{
+    std::set<std::string> now;
+    for (const auto& [id, startedAt] : *controller_.state().recordings)
+        now.insert(id);
+    print(recordingLines(recordings_, now));
+    recordings_ = std::move(now);
+}
+
+void EventPrinter::printSavedRecording()
+{
+    if (const auto& location = *controller_.state().lastRecording)
+        console_.print(savedRecordingLine(*location));
 }
 
 void EventPrinter::printMessage()

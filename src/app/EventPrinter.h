@@ -5,6 +5,8 @@
 #include "app/EventLines.h"
 #include "platform/Subscription.h"
 
+#include <set>
+#include <string>
 #include <vector>
 
 namespace fadeloom {
@@ -24,14 +26,17 @@ private:
     void printApps();
     void printDevices();
     void printOutputs();
+    void printRecordings();
+    void printSavedRecording();
     void printMessage();
     void print(const std::vector<std::string>& lines);
 
     const AudioController& controller_;
     Console& console_;
-    std::vector<AppEntry> apps_;  // As last printed, all three.
+    std::vector<AppEntry> apps_;  // As last printed, all four.
     std::vector<OutputDevice> devices_;
     AppOutputs outputs_;
+    std::set<std::string> recordings_;
     std::vector<Subscription> subscriptions_;
 };
 

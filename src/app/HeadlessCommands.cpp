@@ -1,53 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "app/HeadlessCommands.h"
 
-#include "app/AppLookup.h"
-#include "app/LineWords.h"
+#include "app/HeadlessReplies.h"
 #include "app/NumberText.h"
-#include "app/PrintableText.h"
 #include "control/AppSettings.h"
 #include "control/AudioController.h"
-#include "control/OutputChoice.h"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <optional>
-#include <utility>
 
 namespace fadeloom {
-namespace {
-
-using Reply = HeadlessCommands::Reply;
-using Problem = std::optional<std::string>;
-
-Reply ok(const std::string& text)
-{
-    return {"ok " + text};
-}
-
-Reply error(const std::string& text)
-{
-    return {"error " + text};
-}
-
-std::optional<bool> switchOf(const std::string& word)
-{
-    if (word == "on" || word == "off")
-        return word == "on";
-    return std::nullopt;
-}
-
-Problem setSwitch(bool& value, const std::string& word)
-{
-    const auto isOn = switchOf(word);
-    if (!isOn)
-        return "say on or off, not " + asWord(word);
-    value = *isOn;
-    return std::nullopt;
-}
-
-}  // namespace
 
 struct HeadlessCommands::Command {
     std::string_view name;
@@ -66,9 +29,26 @@ std::span<const HeadlessCommands::Command> HeadlessCommands::commands()
     static constexpr std::array all = {
         Command{"volume", "APP 0.5", 2, &HeadlessCommands::setVolume},
         Command{"mute", "APP on|off", 2, &HeadlessCommands::setMuted},
-        Command{"eq", "APP on|off", 2, &HeadlessCommands::setEqualizer},
         Command{"output", "APP UID|default", 2, &HeadlessCommands::setOutput},
+        Command{"eq", "APP on|off", 2, &HeadlessCommands::setEqualizer},
+        Command{"band", "APP 1 DB", 3, &HeadlessCommands::setBand},
+        Command{"preamp", "APP DB", 2, &HeadlessCommands::setPreamp},
+        Command{"preset", "APP NAME", 2, &HeadlessCommands::applyPreset},
+        Command{"save-preset", "APP NAME", 2, &HeadlessCommands::savePreset},
+        Command{"delete-preset", "NAME", 1, &HeadlessCommands::deletePreset},
+        Command{"record", "APP start|stop", 2, &HeadlessCommands::record},
+        Command{"reveal", "", 0, &HeadlessCommands::reveal},
+        Command{"recordings", "PATH|default", 1, &HeadlessCommands::setRecordingsFolder},
         Command{"default", "UID", 1, &HeadlessCommands::setDefault},
+        Command{"limit", "1|1.25|1.5|2", 1, &HeadlessCommands::setVolumeLimit},
+        Command{"headroom", "on|off", 1, &HeadlessCommands::setHeadroom},
+        Command{"calls", "on|off", 1, &HeadlessCommands::setCalls},
+        Command{"call-level", "0.2", 1, &HeadlessCommands::setCallLevel},
+        Command{"call-app", "APP on|off", 2, &HeadlessCommands::setCallApp},
+        Command{"login", "on|off", 1, &HeadlessCommands::setLogin},
+        Command{"theme", "system|light|dark", 1, &HeadlessCommands::setTheme},
+        Command{"meters", "on|off", 1, &HeadlessCommands::setMeters},
+        Command{"levels", "on|off", 1, &HeadlessCommands::watchLevels},
         Command{"list", "", 0, &HeadlessCommands::list},
         Command{"help", "", 0, &HeadlessCommands::help},
         Command{"quit", "", 0, &HeadlessCommands::quit},
@@ -76,7 +56,7 @@ std::span<const HeadlessCommands::Command> HeadlessCommands::commands()
     return all;
 }
 
-Reply HeadlessCommands::interpret(std::string_view line)
+HeadlessCommands::Reply HeadlessCommands::interpret(std::string_view line)
 {
     const auto words = wordsOf(line);
     if (!words)
@@ -93,80 +73,27 @@ Reply HeadlessCommands::interpret(std::string_view line)
     return (this->*command->action)(arguments);
 }
 
-template <typename Change>
-Reply HeadlessCommands::changeApp(std::string_view command, Arguments arguments, Change change)
-{
-    const auto id = findApp(controller_.state(), text_, arguments[0]);
-    if (!id)
-        return error(id.error());
-    auto settings = *controller_.state().settings;
-    auto app = appSettings(settings, *id);
-    if (const Problem problem = change(app))
-        return error(*problem);
-    storeAppSettings(settings, *id, app);
-    controller_.setSettings(std::move(settings));
-    return ok(std::string(command) + " " + asWord(*id) + " " + asWord(arguments[1]));
-}
-
-Reply HeadlessCommands::setVolume(Arguments arguments)
-{
-    return changeApp("volume", arguments, [&](AppAudioSettings& app) -> Problem {
-        const auto volume = numberOf(arguments[1]);
-        const auto limit = controller_.state().settings->volumeLimit;
-        if (!volume || *volume < 0 || *volume > limit)
-            return "the volume is a number from 0 to " + numberText(limit) + ", not " + asWord(arguments[1]);
-        app.volume = *volume;
-        return std::nullopt;
-    });
-}
-
-Reply HeadlessCommands::setMuted(Arguments arguments)
-{
-    return changeApp("mute", arguments, [&](auto& app) { return setSwitch(app.muted, arguments[1]); });
-}
-
-Reply HeadlessCommands::setEqualizer(Arguments arguments)
-{
-    return changeApp("eq", arguments, [&](auto& app) { return setSwitch(app.eqEnabled, arguments[1]); });
-}
-
-Reply HeadlessCommands::setOutput(Arguments arguments)
-{
-    return changeApp("output", arguments, [&](AppAudioSettings& app) -> Problem {
-        const auto& uid = arguments[1];
-        if (uid == "default")
-            app.outputUID.reset();
-        else if (findDevice(*controller_.state().devices, uid))
-            app.outputUID = uid;
-        else
-            return "unknown device " + asWord(uid);
-        return std::nullopt;
-    });
-}
-
-Reply HeadlessCommands::setDefault(Arguments arguments)
-{
-    const auto* const found = findDevice(*controller_.state().devices, arguments[0]);
-    if (!found)
-        return error("unknown device " + asWord(arguments[0]));
-    const OutputDevice device = *found;  // The list may change while the system takes it.
-    if (!controller_.setSystemOutput(device))
-        return error("the system did not accept " + asWord(device.uid) + " as its default output");
-    return ok("default " + asWord(device.uid));
-}
-
 std::string HeadlessCommands::appText(const std::string& bundleID) const
 {
-    const auto app = appSettings(*controller_.state().settings, bundleID);
+    const auto& state = controller_.state();
+    const auto app = appSettings(*state.settings, bundleID);
     auto text = "volume " + numberText(app.volume) + (app.muted ? " mute on" : " mute off")
-        + (app.eqEnabled ? " eq on" : " eq off") + " output "
+        + (app.eqEnabled ? " eq on" : " eq off") + " preset "
+        + (app.eqPresetName ? asWord(*app.eqPresetName) : "none") + " output "
         + (app.outputUID ? asWord(*app.outputUID) : "default");
     if (controller_.isOutputMissing(bundleID))
         text += " missing";
+    if (state.recordings->contains(bundleID))
+        text += " recording";
+    if (*state.callApp == bundleID)
+        text += " calling";
+    const auto& levels = *controller_.levels().levels();
+    if (const auto level = levels.find(bundleID); level != levels.end())
+        text += " level " + numberText(level->second);
     return text;
 }
 
-Reply HeadlessCommands::list(Arguments)
+HeadlessCommands::Reply HeadlessCommands::list(Arguments)
 {
     const auto& state = controller_.state();
     auto text = "list " + std::to_string(state.apps->size()) + " apps";
@@ -179,10 +106,12 @@ Reply HeadlessCommands::list(Arguments)
         if (device.uid == *state.defaultDeviceUID)
             text += " default";
     }
+    for (const auto& preset : state.settings->userPresets)
+        text += "; preset " + asWord(preset.name);
     return ok(text);
 }
 
-Reply HeadlessCommands::help(Arguments)
+HeadlessCommands::Reply HeadlessCommands::help(Arguments)
 {
     std::string text = "help";
     for (const auto& command : commands())
@@ -190,7 +119,7 @@ Reply HeadlessCommands::help(Arguments)
     return ok(text);
 }
 
-Reply HeadlessCommands::quit(Arguments)
+HeadlessCommands::Reply HeadlessCommands::quit(Arguments)
 {
     return {.text = "ok quit", .asksToQuit = true};
 }

@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
 // What can be asked of a running program in words: one line in, one line out.
 //
-//     volume APP 0.5          output APP UID|default      list
-//     mute APP on|off         default UID                 help
-//     eq APP on|off                                       quit
+//     volume APP 0.5          preset APP NAME             calls on|off
+//     mute APP on|off         save-preset APP NAME        call-level 0.2
+//     output APP UID|default  delete-preset NAME          call-app APP on|off
+//     eq APP on|off           record APP start|stop       recordings PATH|default
+//     band APP 1 DB           reveal                      login on|off
+//     preamp APP DB           levels on|off               theme system|light|dark
+//     default UID             list                        meters on|off
+//     limit 1|1.25|1.5|2      help                        headroom on|off
+//                             quit
 //
 // APP is a bundle identifier or a name that no other app has; blanks need double quotes around them.
 #pragma once
@@ -42,11 +48,32 @@ private:
 
     static std::span<const Command> commands();
 
+    // Of one app; its name is the first argument.
     Reply setVolume(Arguments arguments);
     Reply setMuted(Arguments arguments);
-    Reply setEqualizer(Arguments arguments);
     Reply setOutput(Arguments arguments);
+    Reply setEqualizer(Arguments arguments);
+    Reply setBand(Arguments arguments);
+    Reply setPreamp(Arguments arguments);
+    Reply applyPreset(Arguments arguments);
+    Reply savePreset(Arguments arguments);
+    Reply record(Arguments arguments);
+
+    // Of all.
+    Reply deletePreset(Arguments arguments);
     Reply setDefault(Arguments arguments);
+    Reply setVolumeLimit(Arguments arguments);
+    Reply setHeadroom(Arguments arguments);
+    Reply setCalls(Arguments arguments);
+    Reply setCallLevel(Arguments arguments);
+    Reply setCallApp(Arguments arguments);
+    Reply setRecordingsFolder(Arguments arguments);
+    Reply setLogin(Arguments arguments);
+    Reply setTheme(Arguments arguments);
+    Reply setMeters(Arguments arguments);
+    Reply watchLevels(Arguments arguments);
+    Reply reveal(Arguments arguments);
+
     Reply list(Arguments arguments);
     Reply help(Arguments arguments);
     Reply quit(Arguments arguments);
@@ -54,6 +81,9 @@ private:
     /// Changes the settings of the app that the first argument names. `change` returns what went wrong, or nothing.
     template <typename Change>
     Reply changeApp(std::string_view command, Arguments arguments, Change change);
+    /// The same with all settings.
+    template <typename Change>
+    Reply changeSettings(std::string_view command, Arguments arguments, Change change);
     [[nodiscard]] std::string appText(const std::string& bundleID) const;
 
     AudioController& controller_;

@@ -73,6 +73,20 @@ TEST(EventLines, tellOfTheRest)
         messageLine("Could not save settings: disk full"), "message \"Could not save settings: disk full\"");
 }
 
+TEST(EventLines, tellOfCalls)
+{
+    EXPECT_EQ(callLine("com.example.chat"), "call com.example.chat");
+    EXPECT_EQ(callLine(std::nullopt), "call none");
+}
+
+TEST(EventLines, tellOfRecordings)
+{
+    EXPECT_THAT(recordingLines({"com.a"}, {"com.b"}),
+        ElementsAre("recording stopped com.a", "recording started com.b"));
+    EXPECT_THAT(recordingLines({"com.a"}, {"com.a"}), IsEmpty());
+    EXPECT_EQ(savedRecordingLine("/music/a b.wav"), "recording saved \"/music/a b.wav\"");
+}
+
 TEST(EventLines, stayOneLineWhateverANameHolds)
 {
     for (const auto& line : appLines({}, Apps{app("com.a", true, "x\napp disappeared com.b")}))

@@ -60,6 +60,143 @@ TEST_F(HeadlessCommandsStory, eqSwitchesTheEqualizer)
     EXPECT_TRUE(saved().apps.at("com.example.player").eqEnabled);
 }
 
+TEST_F(HeadlessCommandsStory, bandAndPreampBendTheCurveByHand)
+{
+    EXPECT_EQ(answer("band player 10 -4.5"), "ok band com.example.player 10 -4.5");
+    EXPECT_EQ(answer("preamp player 3"), "ok preamp com.example.player 3");
+
+    world.advance(1s);
+    const auto app = saved().apps.at("com.example.player");
+    EXPECT_EQ(app.eqGains[9], -4.5F);
+    EXPECT_EQ(app.eqPreamp, 3);
+    EXPECT_EQ(app.eqPresetName, std::nullopt);
+}
+
+TEST_F(HeadlessCommandsStory, presetAppliesAKnownCurve)
+{
+    EXPECT_EQ(answer("preset player rock"), "ok preset com.example.player Rock");
+
+    world.advance(1s);
+    EXPECT_EQ(saved().apps.at("com.example.player").eqPresetName, "Rock");
+    EXPECT_TRUE(saved().apps.at("com.example.player").eqEnabled);
+}
+
+TEST_F(HeadlessCommandsStory, presetsOfTheUserAreKeptAppliedAndDeleted)
+{
+    answer("band player 1 6");
+    EXPECT_EQ(answer("save-preset player \" My Bass \""), "ok save-preset com.example.player \"My Bass\"");
+    answer("preset player flat");
+
+    EXPECT_EQ(answer("preset player \"my bass\""), "ok preset com.example.player \"My Bass\"");
+    EXPECT_THAT(answer("list"), HasSubstr("preset \"My Bass\""));
+    EXPECT_EQ(answer("delete-preset \"My Bass\""), "ok delete-preset \"My Bass\"");
+
+    world.advance(1s);
+    EXPECT_TRUE(saved().userPresets.empty());
+    EXPECT_EQ(saved().apps.at("com.example.player").eqGains[0], 6);
+}
+
+TEST_F(HeadlessCommandsStory, recordWritesAFileAndSaysWhere)
+{
+    EXPECT_EQ(answer("record player start"), "ok record com.example.player start");
+    EXPECT_THAT(answer("list"), HasSubstr("output default recording"));
+    world.advance(1s);
+    lines();
+
+    run->takeLine("record player stop");
+
+    const auto file = folder.path() / "Music" / "Fadeloom Recordings" / "Player 2030-01-02 12.00.01.wav";
+    EXPECT_THAT(lines(),
+        testing::ElementsAre("recording stopped com.example.player",
+            "recording saved \"" + file.string() + "\"", "ok record com.example.player stop"));
+    ASSERT_NE(world.audioFiles().at(file), nullptr);
+    EXPECT_GT(world.audioFiles().at(file)->frameCount(), 40000);
+    EXPECT_EQ(answer("reveal"), "ok reveal");
+    EXPECT_EQ(world.workspace().revealed().back(), file);
+}
+
+TEST_F(HeadlessCommandsStory, recordSaysWhyItCannot)
+{
+    EXPECT_EQ(answer("record player stop"), "error com.example.player is not being recorded");
+    answer("record player start");
+    EXPECT_EQ(answer("record player start"), "error com.example.player is being recorded already");
+    answer("record player stop");
+    world.audioFiles().refuseToCreate(28);
+    EXPECT_EQ(answer("record player start"),
+        "error Could not start recording: Create recording file failed (OSStatus 28)");
+    world.quitApp(launchPlaying("Chat"));
+    world.runPosted();
+    EXPECT_EQ(answer("record chat start"), "error Start playback in this app first, then press record.");
+}
+
+TEST_F(HeadlessCommandsStory, callsAreFollowedAndTold)
+{
+    EXPECT_EQ(answer("call-app com.example.chat on"), "ok call-app com.example.chat on");
+    EXPECT_EQ(answer("call-level 0.5"), "ok call-level 0.5");
+    const auto chat = launchPlaying("Chat");
+    world.startPlaying(chat, SimulatedSignal::constant(0));
+    lines();
+
+    world.startUsingMic(chat);
+    world.runPosted();
+
+    EXPECT_THAT(lines(), testing::Contains("call com.example.chat"));
+    EXPECT_THAT(answer("list"), HasSubstr("calling"));
+    world.advance(3s);
+    EXPECT_NEAR(heardAt("speakers"), source / 2, 0.01F);
+    lines();
+    answer("calls off");
+    world.advance(3s);
+    EXPECT_NEAR(heardAt("speakers"), source, 0.01F);
+}
+
+TEST_F(HeadlessCommandsStory, levelsAreListedWhileTheyAreWatched)
+{
+    EXPECT_EQ(answer("levels on"), "ok levels on");
+    world.advance(1s);
+    EXPECT_THAT(answer("list"), HasSubstr("output default level 0.79"));
+
+    EXPECT_EQ(answer("meters off"), "ok meters off");
+    EXPECT_THAT(answer("list"), testing::Not(HasSubstr("level")));
+    answer("meters on");
+    EXPECT_EQ(answer("levels off"), "ok levels off");
+    world.advance(1s);
+    EXPECT_THAT(answer("list"), testing::Not(HasSubstr("level")));
+}
+
+TEST_F(HeadlessCommandsStory, loginFollowsTheSystem)
+{
+    EXPECT_EQ(answer("login on"), "ok login on");
+    EXPECT_EQ(answer("login off"), "ok login off");
+    world.loginItem().refuse("The folder is not writable.");
+
+    EXPECT_EQ(answer("login on"), "error Launch at login: The folder is not writable.");
+}
+
+TEST_F(HeadlessCommandsStory, loginThatWaitsForApprovalSaysSo)
+{
+    world.loginItem().askForApproval();
+
+    EXPECT_EQ(answer("login on"), "error the system asks for your approval first");
+}
+
+TEST_F(HeadlessCommandsStory, settingsOfAllAppsAreSaved)
+{
+    EXPECT_EQ(answer("limit 1.5"), "ok limit 1.5");
+    EXPECT_EQ(answer("headroom off"), "ok headroom off");
+    EXPECT_EQ(answer("theme dark"), "ok theme dark");
+    EXPECT_EQ(answer("recordings /my/tapes"), "ok recordings /my/tapes");
+
+    world.advance(1s);
+    EXPECT_EQ(saved().volumeLimit, 1.5F);
+    EXPECT_FALSE(saved().eqAutoHeadroom);
+    EXPECT_EQ(saved().appearance.theme, Theme::dark);
+    EXPECT_EQ(saved().recordingsFolder, "/my/tapes");
+    EXPECT_EQ(answer("recordings default"), "ok recordings default");
+    world.advance(1s);
+    EXPECT_EQ(saved().recordingsFolder, std::nullopt);
+}
+
 TEST_F(HeadlessCommandsStory, defaultSetsTheSystemsOutput)
 {
     EXPECT_EQ(answer("default headphones"), "ok default headphones");
@@ -112,17 +249,19 @@ TEST_F(HeadlessCommandsStory, listSaysEverythingInOneLine)
 
     EXPECT_EQ(answer("list"),
         "ok list 2 apps"
-        "; app com.example.chat Chat playing volume 1 mute on eq off output headphones missing"
-        "; app com.example.player Player playing volume 1 mute off eq off output default"
+        "; app com.example.chat Chat playing volume 1 mute on eq off preset Flat output headphones missing"
+        "; app com.example.player Player playing volume 1 mute off eq off preset Flat output default"
         "; device speakers \"Desk Speakers\" default");
 }
 
 TEST_F(HeadlessCommandsStory, helpNamesEveryCommandInOneLine)
 {
     EXPECT_EQ(answer("help"),
-        "ok help; volume APP 0.5; mute APP on|off; eq APP on|off; output APP UID|default; default UID; list; "
-        "help; "
-        "quit");
+        "ok help; volume APP 0.5; mute APP on|off; output APP UID|default; eq APP on|off; band APP 1 DB; "
+        "preamp APP DB; preset APP NAME; save-preset APP NAME; delete-preset NAME; record APP start|stop; "
+        "reveal; recordings PATH|default; default UID; limit 1|1.25|1.5|2; headroom on|off; calls on|off; "
+        "call-level 0.2; call-app APP on|off; login on|off; theme system|light|dark; meters on|off; "
+        "levels on|off; list; help; quit");
 }
 
 TEST_F(HeadlessCommandsStory, quitAsksForTheEnd)
@@ -167,6 +306,29 @@ INSTANTIATE_TEST_SUITE_P(Lines, HeadlessMistakes,
         std::pair("eq com.example.player 1", "error say on or off, not 1"),
         std::pair("output com.example.player tv", "error unknown device tv"),
         std::pair("default tv", "error unknown device tv"),
+        std::pair("band player 0 3", "error the bands are 1 to 10, not 0"),
+        std::pair("band player 11 3", "error the bands are 1 to 10, not 11"),
+        std::pair("band player one 3", "error the bands are 1 to 10, not one"),
+        std::pair("band player 1 13", "error say a number of decibels from -12 to 12, not 13"),
+        std::pair("preamp player loud", "error say a number of decibels from -12 to 12, not loud"),
+        std::pair("preset player Nothing", "error unknown preset Nothing"),
+        std::pair("preset nobody Rock", "error unknown app nobody"),
+        std::pair("save-preset player \" \"", "error a preset needs a name"),
+        std::pair("save-preset player rock", "error “rock” is a built-in preset name. Choose another name."),
+        std::pair("delete-preset Rock", "error no preset of yours is called Rock"),
+        std::pair("record player on", "error say start or stop, not on"),
+        std::pair("record nobody start", "error unknown app nobody"),
+        std::pair("reveal", "error nothing was recorded yet"),
+        std::pair("recordings tapes", "error say a path from the root, not tapes"),
+        std::pair("limit 3", "error the limit is 1, 1.25, 1.5 or 2, not 3"),
+        std::pair("headroom yes", "error say on or off, not yes"),
+        std::pair("calls 1", "error say on or off, not 1"),
+        std::pair("call-level 2", "error the level is a number from 0 to 1, not 2"),
+        std::pair("call-app player maybe", "error say on or off, not maybe"),
+        std::pair("call-app \"\" on", "error unknown app \"\""),
+        std::pair("theme blue", "error say system, light or dark, not blue"),
+        std::pair("login maybe", "error say on or off, not maybe"),
+        std::pair("levels all", "error say on or off, not all"),
         std::pair("mute \"player on", "error a double quote is not closed"),
         std::pair("quit now", "error usage: quit"),
         std::pair("lou\x1b[2Jder", "error unknown command lou\uFFFD[2Jder, help lists them")));
