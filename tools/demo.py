@@ -3,13 +3,16 @@
 """Shows Fadeloom at work without any audio hardware.
 
 A private PipeWire session with two virtual devices; two real players, one native and one on PulseAudio; Fadeloom with
-settings that turn one down and boost, equalize and move the other. What arrives at the devices is recorded before and
-after, and the measured levels are printed.
+settings that turn one down and boost, equalize and move the other; then it records an app, and an app makes a call.
+What arrives at the devices is recorded before and after, and the measured levels are printed. The recording is left in
+build/demo/.
 
     tools/demo.py PROGRAM
 """
 
 import pathlib
+import shlex
+import shutil
 import sys
 import time
 
@@ -29,7 +32,8 @@ SETTINGS = settings({
     "pw-cat": app(volume=0.5),
     "pacat": app(volume=2.0, outputUID="headphones", eqEnabled=True, eqPresetName="Vocal",
                  eqGains=[-2, -2, -1, 1, 3, 3, 3, 2, 1, 0]),
-}, volumeLimit=2.0)
+}, volumeLimit=2.0, focus={"enabled": True, "duckLevel": 0.2, "callApps": ["talk"]})
+RESULTS = pathlib.Path(__file__).resolve().parent.parent / "build" / "demo"
 
 PLAYERS = (
     ("pw-play, native, 440 Hz", MUSIC, "volume 50 %"),
@@ -68,11 +72,48 @@ def show(levels):
         print(f"  {name:26}" + "".join(f"{level:11.2f} dB" if level > SILENCE else f"{'silent':>14}" for level in row))
 
 
+def recordRadio(fadeloom):
+    """Records paplay for two seconds with the program's own recorder; returns the level in the file in dB."""
+    count = len(fadeloom.lines)
+    fadeloom.command("record pacat start")
+    time.sleep(2)
+    fadeloom.command("record pacat stop")
+    fadeloom.waitFor("recording saved", after=count)
+    said = next(line for line in fadeloom.text()[count:] if line.startswith("recording saved"))
+    time.sleep(0.7)
+    RESULTS.mkdir(parents=True, exist_ok=True)
+    kept = RESULTS / "recording.wav"
+    shutil.copy(shlex.split(said)[2], kept)
+    rate, recorded = signals.readWave24(kept)
+    level = float(signals.decibels(signals.amplitude(recorded[:rate] / 2.0**23, RADIO).max()))
+    print(f"  {kept.relative_to(RESULTS.parent.parent)}: {len(recorded) / rate:.1f} seconds, {level:.2f} dB, as paplay plays it and not as it is heard")
+    return level
+
+
+def call(session, fadeloom):
+    """An app of the list plays nothing and listens to a microphone; returns by how much the music is lowered in dB."""
+    before = measure(session, "before-call")
+    talk = session.folder / "talk"
+    shutil.copy(shutil.which("pw-cat"), talk)
+    signals.write(session.folder / "silence.wav", signals.sine(MUSIC, 0, 30))
+    session.plug("microphone", mediaClass="Audio/Source/Virtual")
+    session.spawn("talk-play", [str(talk), "--playback", str(session.folder / "silence.wav")])
+    fadeloom.waitFor("tap ready: talk")
+    session.spawn("talk-listen", [str(talk), "--record", "--target", "microphone", str(session.folder / "talk.wav")])
+    fadeloom.waitFor("call talk")
+    time.sleep(2.5)
+    during = measure(session, "during-call")
+    session.end("talk-listen")
+    fadeloom.waitFor("call none")
+    session.end("talk-play")
+    return during["speakers", MUSIC] - before["speakers", MUSIC]
+
+
 def demonstrate(session, program):
     session.setQuantum(QUANTUM)
-    music = signals.sine(MUSIC, 0.25, 40) + signals.noise(0.02, 40)  # The noise is for finding the delay.
+    music = signals.sine(MUSIC, 0.25, 60) + signals.noise(0.02, 60)  # The noise is for finding the delay.
     signals.write(session.folder / "music.wav", music)
-    signals.write(session.folder / "radio.wav", signals.sine(RADIO, 0.4, 40))
+    signals.write(session.folder / "radio.wav", signals.sine(RADIO, 0.4, 60))
     session.spawn("music", ["pw-play", str(session.folder / "music.wav")])
     session.spawn("radio", ["paplay", "--latency-msec=20", str(session.folder / "radio.wav")])
     waitUntil(lambda: session.nodeId("paplay") and session.nodeId("pw-play"), "the players")
@@ -97,6 +138,11 @@ def demonstrate(session, program):
         after = measure(session, "after")
         show(after)
         tapped = measureDelay(session, "tapped", "pw-play:output_FL")
+        print("\nIt records paplay:")
+        recorded = recordRadio(fadeloom)
+        print("\nAn app of the call list listens to a microphone:")
+        lowered = call(session, fadeloom)
+        print(f"  pw-play is lowered by {-lowered:.2f} dB: a fifth of the amplitude is 13.98 dB.")
         fadeloom.quit()
 
     change = after["speakers", MUSIC] - before["speakers", MUSIC]
@@ -109,7 +155,9 @@ def demonstrate(session, program):
     end = measure(session, "end")
     show(end)
     isRight = (abs(change + 6.02) < 0.05 and tapped == direct and after["speakers", RADIO] < SILENCE
-               and abs(after["headphones", RADIO] + 1) < 0.1 and abs(end["speakers", RADIO] - before["speakers", RADIO]) < 0.05)
+               and abs(after["headphones", RADIO] + 1) < 0.1 and abs(recorded - signals.decibels(0.4)) < 0.05
+               and abs(lowered + 13.98) < 0.1
+               and abs(end["speakers", RADIO] - before["speakers", RADIO]) < 0.05)
     print("\nAll as it should be." if isRight else "\nThis is not as it should be.")
     return 0 if isRight else 1
 

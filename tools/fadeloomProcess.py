@@ -12,9 +12,11 @@ from audioSession import SessionError, waitUntil
 class FadeloomProcess:
     """`fadeloom --headless` with these settings. Use as a context manager; leaving ends it in order."""
 
-    def __init__(self, session, program, settings=None, name="fadeloom"):
+    def __init__(self, session, program, settings=None, name="fadeloom", wrapper=()):
+        """`wrapper`: a command that starts the program, whose words it gets as its last arguments."""
         self.session = session
         self.program = program
+        self.wrapper = wrapper
         self.name = name
         self.folder = session.folder / "config" / "Fadeloom"
         self.settingsFile = self.folder / "settings.json"
@@ -33,7 +35,7 @@ class FadeloomProcess:
             self.quit()
 
     def start(self):
-        self.process = self.session.spawn(self.name, [str(self.program), "--headless"], stdin=subprocess.PIPE,
+        self.process = self.session.spawn(self.name, [*self.wrapper, str(self.program), "--headless"], stdin=subprocess.PIPE,
                                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, bufsize=1)
         threading.Thread(target=self._read, args=(self.process.stdout,), daemon=True).start()
 

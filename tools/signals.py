@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Test signals and measurements: what is played in the private sessions, and what arrives at the devices."""
 
+import struct
 import wave
 
 import numpy
@@ -45,6 +46,29 @@ def read(path, channels=2):
     return numpy.frombuffer(body, "<f4").reshape(-1, channels)
 
 
+def readWave24(path):
+    """A 24-bit stereo WAVE file in good order: its rate in hertz and its samples as integers, frames x 2."""
+    data = path.read_bytes()
+    if data[:4] != b"RIFF" or data[8:12] != b"WAVE":
+        raise ValueError(f"{path} is no WAVE file")
+    if struct.unpack_from("<I", data, 4)[0] != len(data) - 8:
+        raise ValueError(f"{path} says it has another length")
+    place, rate, body = 12, None, None
+    while place + 8 <= len(data):
+        name, size = data[place:place + 4], struct.unpack_from("<I", data, place + 4)[0]
+        if name == b"fmt ":
+            _, channels, rate, _, align, bits = struct.unpack_from("<HHIIHH", data, place + 8)
+            if (channels, align, bits) != (2, 6, 24):
+                raise ValueError(f"{path} has {channels} channels, {align} bytes a frame, {bits} bits a sample")
+        elif name == b"data":
+            body = data[place + 8:place + 8 + size]
+        place += 8 + size + size % 2
+    if rate is None or body is None or len(body) % 6:
+        raise ValueError(f"{path} lacks a format, or its samples")
+    raw = numpy.frombuffer(body, numpy.uint8).reshape(-1, 3).astype(numpy.int32)
+    return rate, ((raw[:, 0] << 8 | raw[:, 1] << 16 | raw[:, 2] << 24) >> 8).reshape(-1, 2)
+
+
 def steady(samples, frequency, rate=RATE):
     """The longest stretch of whole periods in the middle half of what is not silence."""
     loud = numpy.flatnonzero(numpy.abs(samples).max(axis=1) > 0)
@@ -63,6 +87,16 @@ def amplitude(samples, frequency, rate=RATE):
     time = numpy.arange(len(samples)) / rate
     carrier = numpy.exp(-2j * numpy.pi * frequency * time)
     return 2 * numpy.abs((samples * carrier[:, None]).mean(axis=0)) if len(samples) else numpy.zeros(samples.shape[1])
+
+
+def typicalAmplitude(samples, frequency, rate=RATE, window=0.02):
+    """The median of the amplitudes of many short windows: a player that stumbles once does not count.
+
+    `window`: seconds, whole periods of the frequency.
+    """
+    size = round(window * rate)
+    windows = [samples[begin:begin + size] for begin in range(0, len(samples) - size + 1, size)]
+    return numpy.median([amplitude(part, frequency, rate) for part in windows], axis=0)
 
 
 def decibels(value):

@@ -2,16 +2,20 @@
 // The callback in a real graph, on PipeWire's own data thread: it never allocates, waits, or calls the system.
 #include "engine/AppTap.h"
 #include "engine/Equalizer.h"
+#include "engine/Recording.h"
 #include "platform/pipewire/PipeWireHardware.h"
 #include "platform/qt/QtMainLoop.h"
+#include "platform/sndfile/SndfileAudioFiles.h"
 #include "tests/pipewire/RealPlayers.h"
 #include "tests/platform/AudioReading.h"
 #include "tests/support/RealTimeGuard.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <chrono>
+#include <filesystem>
 #include <mutex>
 #include <vector>
 
@@ -44,9 +48,12 @@ protected:
     AudioReading reading{hardware};
 };
 
-TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChange)
+TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChangeAndItIsRecorded)
 {
     ASSERT_TRUE(isGuarding());
+    const TemporaryFolder folder;
+    const auto location = folder.path() / "recording.wav";
+    SndfileAudioFiles files;
     players.plug("device", "A device", "FL FR");
     RealPlayers::setDefaultOutput("device");
     ASSERT_TRUE(waitUntil([&] { return reading.device("device") != kAudioObjectUnknown; }));
@@ -57,9 +64,12 @@ TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChange)
         hardware, {reading.process(pid)}, "device", reading.device("device"), parameters, "Player");
     ASSERT_TRUE(tap.has_value());
     ASSERT_TRUE(waitUntil([&] { return parameters->audioSeen.load(); }));
+    const auto recording = Recording::create(files, location, tap.value()->sampleRate(), {});
+    ASSERT_TRUE(recording.has_value());
     const int before = realTimeViolations();
 
     for (int i = 0; i < 100; ++i) {
+        parameters->setRecorder(i % 10 != 9 ? &(*recording)->file() : nullptr);
         const std::vector<float> gains(10, static_cast<float>(i % 12));
         parameters->setEQ(eqCoefficients(gains, 48000));
         {
@@ -73,6 +83,10 @@ TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChange)
 
     EXPECT_GT(parameters->takePeak(), 0);
     EXPECT_EQ(realTimeViolations() - before, 0) << lastRealTimeViolation();
+    tap.value()->teardown();
+    (*recording)->finish();
+    EXPECT_EQ((*recording)->health(), AudioFileHealth{});
+    EXPECT_GT(std::filesystem::file_size(location), 6 * 48000);
 }
 
 }  // namespace

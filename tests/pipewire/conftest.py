@@ -3,6 +3,7 @@
 
 import os
 import pathlib
+import shutil
 import sys
 
 import pytest
@@ -34,8 +35,14 @@ class Stage:
         self.folder = session.folder
         self.count = 0
 
-    def fadeloom(self, settings=None):
-        return FadeloomProcess(self.session, program(), settings)
+    def fadeloom(self, settings=None, **options):
+        return FadeloomProcess(self.session, program(), settings, **options)
+
+    def makeApp(self, name):
+        """A program of its own that can do what pw-cat can: an app with this bundle identifier. Returns its path."""
+        path = self.folder / name
+        shutil.copy(shutil.which("pw-cat"), path)
+        return str(path)
 
     def play(self, player, file, name=None):
         """Starts a player; returns the name of its process in the session and the app's bundle identifier."""

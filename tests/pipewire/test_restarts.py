@@ -4,6 +4,7 @@
 import os
 import time
 
+import numpy
 import pytest
 
 import signals
@@ -66,21 +67,44 @@ def restartSessionManager(session):
     time.sleep(1.0)
 
 
-def test_aRestartOfTheSessionManagerDoesNotInterruptATappedApp(stage):
+def soundDuringARestartOfTheSessionManager(stage):
+    """What the device plays while the session manager ends and comes back, with a tapped app; None when the restarted
+    one has taken the app's stream off every link."""
     with stage.fadeloom(settings({"pw-cat": app(volume=0.5)})) as fadeloom:
         stage.play("pw-play", sineFile(stage))
         stage.waitForTap(fadeloom, "pw-cat")
+        time.sleep(1)  # It sets up a new stream for a while.
         recording = stage.session.recordDevice("recording", "speakers")
         time.sleep(0.3)
 
         restartSessionManager(stage.session)
         stage.session.endRecording("recording")
-        waitUntil(lambda: stage.isLinked("pw-play:", "com.fadeloom.tap."), "the stream in the tap")
+        try:
+            waitUntil(lambda: stage.isLinked("pw-play:", "com.fadeloom.tap."), "the stream in the tap", 4)
+        except SessionError:
+            return None
+    return signals.read(recording)
 
-    recorded = signals.read(recording)
-    loud = recorded[abs(recorded).max(axis=1) > 0]
-    assert len(loud) > signals.RATE
-    assert abs(recorded).max() == pytest.approx(0.25, rel=0.01)
+
+def test_aRestartOfTheSessionManagerDoesNotInterruptATappedApp():
+    # A restarted WirePlumber 0.4 leaves streams without us unlinked every time; the tapped one goes on. But it touches
+    # the recorder's format as well, and in about one run of ten the recorder does not survive that: three attempts.
+    for _ in range(3):
+        with AudioSession() as session:
+            recorded = soundDuringARestartOfTheSessionManager(Stage(session))
+        loud = numpy.abs(recorded).max(axis=1) > 0 if recorded is not None else numpy.zeros(0, bool)
+        if loud.sum() > signals.RATE:
+            break
+    assert loud.sum() > signals.RATE
+    assert numpy.abs(recorded).max() == pytest.approx(0.25, rel=0.01)
+    sounding = loud[numpy.flatnonzero(loud)[0]:]
+    assert longestRun(~sounding) < signals.RATE / 100
+
+
+def longestRun(flags):
+    """The length of the longest run of set flags."""
+    edges = numpy.flatnonzero(numpy.diff(numpy.concatenate(([False], flags, [False])).astype(int)))
+    return int((edges[1::2] - edges[::2]).max(initial=0))
 
 
 def newAppIsLinkedAfterARestart(stage):
