@@ -17,8 +17,8 @@ class SystemLog;
 /// holds anybody up. Needs Qt's application object for as long as it lives. One at a time in a process. Thread: main.
 class FileManager {
 public:
-    /// `log` hears when a file can be shown in no way; it must outlive this. `variables` say where programs are; the bus
-    /// is the process's.
+    /// `log` hears when a file can be shown in no way; it must outlive this. `variables` say where programs are; the
+    /// bus is the process's.
     explicit FileManager(SystemLog& log, const Variables& variables = processVariables());
     /// Waits for no answer.
     ~FileManager();

@@ -22,8 +22,8 @@
 #include <fstream>
 #include <sstream>
 
-// Qt and what it stands on are built without the thread sanitizer, which therefore does not see that what they hand from
-// thread to thread is handed over.
+// Qt and what it stands on are built without the thread sanitizer, which therefore does not see that what they hand
+// from thread to thread is handed over.
 extern "C" const char* __tsan_default_suppressions();
 extern "C" const char* __tsan_default_options();
 extern "C" const char* __tsan_default_suppressions()
