@@ -14,7 +14,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
 SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
 SPECIAL = ("pipewire", "sanitizers", "fuzz", "checks")
-LONG_FORMS = ("platform/sndfile",)  # Folders with test suites that are named LongForm.
+LONG_FORMS = ("engine", "platform/sndfile")  # Folders with test suites that are named LongForm.
 
 
 class Tally:

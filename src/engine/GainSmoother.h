@@ -21,12 +21,14 @@ struct GainSmoother {
     float current = 1;
     float coefficient = 1;
 
-    /// Goes on by one frame, and onto the target once it is near.
-    void approach(float target) noexcept FADELOOM_NONBLOCKING
+    /// Goes on by one frame, and onto the target once it is near; whether it is there.
+    bool approach(float target) noexcept FADELOOM_NONBLOCKING
     {
         current += (target - current) * coefficient;
-        if (std::abs(target - current) < snapDistance)
-            current = target;
+        if (!(std::abs(target - current) < snapDistance))
+            return false;
+        current = target;
+        return true;
     }
 
     static constexpr float snapDistance = 0.0001F;

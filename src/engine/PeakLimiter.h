@@ -13,9 +13,15 @@ struct PeakLimiter {
     /// The gain for a frame whose louder sample has this magnitude, not below 0.
     [[nodiscard]] float reductionFor(float peak) noexcept FADELOOM_NONBLOCKING
     {
-        const float recovered = reduction + (1 - reduction) * release;
-        reduction = recovered * peak > ceiling ? ceiling / peak : recovered;
+        const float next = recovered();
+        reduction = next * peak > ceiling ? ceiling / peak : next;
         return reduction;
+    }
+
+    /// The gain for the next frame if it is silent.
+    [[nodiscard]] float recovered() const noexcept FADELOOM_NONBLOCKING
+    {
+        return reduction + (1 - reduction) * release;
     }
 
     static constexpr float ceiling = 0.891F;

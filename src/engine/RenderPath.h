@@ -30,7 +30,7 @@ struct RenderSettings {
     float duckTarget = 1;
     bool isEqualized = false;
     float preamp = 1;  // Only while equalized, and so are the sections.
-    const EQCoefficients& sections;
+    const EQCoefficients& sections;  // Finite numbers.
 };
 
 /// What the equalizer puts out below this is written as 0: a tail that nobody hears would otherwise end in numbers that

@@ -41,11 +41,14 @@ std::size_t cycleLength(AudioBuffers output) noexcept
 
 }  // namespace
 
-Renderer::Renderer(std::shared_ptr<TapParameters> parameters, const RenderLayout& layout)
+Renderer::Renderer(
+    std::shared_ptr<TapParameters> parameters, const RenderLayout& layout, const RenderKernels* kernels)
     : parameters_(std::move(parameters))
     , layout_(layout)
     , snapshot_{.eqVersion = noVersion}
 {
+    if (kernels)
+        fast_.emplace(*kernels);
     // When the settings are being written just now, the defaults stand in for this one moment: 1 for either gain.
     takeSnapshot();
     state_.gain = {.current = gainTarget(), .coefficient = onePoleCoefficient(layout.sampleRate, gainGlide)};
@@ -61,15 +64,7 @@ void Renderer::render(AudioBuffers input, AudioBuffers output) noexcept FADELOOM
     const std::size_t frames = readTap(input, cycleLength(output));
     noticeFirstAudio(frames);
     record(frames);
-    const RenderSettings settings{
-        .gainTarget = gainTarget(),
-        .duckTarget = snapshot_.duck,
-        .isEqualized = snapshot_.eqEnabled,
-        .preamp = snapshot_.preamp,
-        .sections = sections_,
-    };
-    handBackPeak(
-        renderPlain(state_, settings, std::span(left_).first(frames), std::span(right_).first(frames)));
+    handBackPeak(process(frames));
     writeOutput(output, frames);
 }
 
@@ -150,6 +145,20 @@ void Renderer::record(std::size_t frames) noexcept FADELOOM_NONBLOCKING
     }
     // How it went is asked of the file by its owner.
     snapshot_.recorder->write(static_cast<std::uint32_t>(frames), interleaved_.data());
+}
+
+float Renderer::process(std::size_t frames) noexcept FADELOOM_NONBLOCKING
+{
+    const RenderSettings settings{
+        .gainTarget = gainTarget(),
+        .duckTarget = snapshot_.duck,
+        .isEqualized = snapshot_.eqEnabled,
+        .preamp = snapshot_.preamp,
+        .sections = sections_,
+    };
+    const auto left = std::span(left_).first(frames);
+    const auto right = std::span(right_).first(frames);
+    return fast_ ? fast_->render(state_, settings, left, right) : renderPlain(state_, settings, left, right);
 }
 
 void Renderer::handBackPeak(float blockPeak) noexcept FADELOOM_NONBLOCKING

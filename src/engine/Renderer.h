@@ -2,6 +2,8 @@
 // One app's sound, from its tap to the stereo pair of its output device, in each IO cycle.
 #pragma once
 
+#include "engine/FastRender.h"
+#include "engine/RenderChoice.h"
 #include "engine/RenderPath.h"
 #include "engine/TapParameters.h"
 #include "hal/OutputDevices.h"
@@ -11,6 +13,7 @@
 #include <array>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <span>
 
 namespace fadeloom {
@@ -33,7 +36,9 @@ public:
 
     /// Starts at the gain that `parameters` asks for, without fading in. The block is shared: the next tap of this app
     /// goes on with it, and an IO thread may still read it while the app's owner lets go.
-    Renderer(std::shared_ptr<TapParameters> parameters, const RenderLayout& layout);
+    /// `kernels`: those of the fast render path; null for the plain one.
+    Renderer(std::shared_ptr<TapParameters> parameters, const RenderLayout& layout,
+        const RenderKernels* kernels = chosenKernels());
     Renderer(const Renderer&) = delete;
     Renderer& operator=(const Renderer&) = delete;
 
@@ -53,6 +58,8 @@ private:
         const AudioBuffer& left, const AudioBuffer& right, std::size_t atMost) noexcept FADELOOM_NONBLOCKING;
     void noticeFirstAudio(std::size_t frames) noexcept FADELOOM_NONBLOCKING;
     void record(std::size_t frames) noexcept FADELOOM_NONBLOCKING;
+    /// Equalizer, gain and limiter, on the scratch buffers; returns the highest magnitude.
+    [[nodiscard]] float process(std::size_t frames) noexcept FADELOOM_NONBLOCKING;
     void handBackPeak(float blockPeak) noexcept FADELOOM_NONBLOCKING;
     void writeOutput(AudioBuffers output, std::size_t frames) noexcept FADELOOM_NONBLOCKING;
 
@@ -61,6 +68,7 @@ private:
     TapParameters::Values snapshot_;
     EQCoefficients sections_{};
     RenderState state_;
+    std::optional<FastRender> fast_;
     Scratch left_{};
     Scratch right_{};
     std::array<float, 2 * maximumFrames> interleaved_{};

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Long random walks: whatever is changed between cycles, however sound is cut into cycles and laid out in buffers, the
-// renderer gives the reference's bits.
+// renderer gives the reference's bits, in each form of the render path.
 #include "engine/Renderer.h"
 
+#include "engine/RenderChoice.h"
 #include "tests/engine/CycleBuffers.h"
 #include "tests/engine/ReferenceRenderer.h"
 
@@ -44,7 +45,8 @@ const std::array scenes = {
 
 class Walk {
 public:
-    Walk(const Scene& scene, unsigned seed)
+    /// `kernels`: null for the plain form.
+    Walk(const Scene& scene, const RenderKernels* kernels, unsigned seed)
         : scene_(scene)
         , random_(seed)
     {
@@ -57,7 +59,7 @@ public:
             .tapBufferCount = static_cast<std::size_t>(layout.tapBufferCount),
             .isTapInterleaved = layout.isInterleaved,
         };
-        renderer_ = std::make_unique<Renderer>(parameters_, rendererLayout);
+        renderer_ = std::make_unique<Renderer>(parameters_, rendererLayout, kernels);
         reference_.emplace(parameters_->values, layout);
         seen_ = parameters_->values;
         seenSections_ = parameters_->coefficients;
@@ -169,16 +171,30 @@ private:
     EQCoefficients seenSections_{};
 };
 
-class RendererWalk : public testing::TestWithParam<std::size_t> { };
-
-TEST_P(RendererWalk, givesTheReferencesBits)
-{
-    const Scene& scene = scenes[GetParam()];
-    for (unsigned seed = 1; seed <= 8; ++seed) {
-        Walk walk(scene, seed);
-        for (int step = 0; step < 150; ++step)
-            ASSERT_TRUE(walk.step()) << scene.name << ", seed " << seed << ", step " << step;
+class RendererWalk : public testing::TestWithParam<std::size_t> {
+protected:
+    static void walk(const RenderKernels* kernels)
+    {
+        const Scene& scene = scenes[GetParam()];
+        const char* form = kernels ? kernels->name : "plain";
+        for (unsigned seed = 1; seed <= 8; ++seed) {
+            Walk walk(scene, kernels, seed);
+            for (int step = 0; step < 150; ++step)
+                ASSERT_TRUE(walk.step())
+                    << scene.name << ", " << form << ", seed " << seed << ", step " << step;
+        }
     }
+};
+
+TEST_P(RendererWalk, givesTheReferencesBitsInThePlainForm)
+{
+    walk(nullptr);
+}
+
+TEST_P(RendererWalk, givesTheReferencesBitsWithAnyKernels)
+{
+    for (const RenderKernels* kernels : usableKernels())
+        walk(kernels);
 }
 
 INSTANTIATE_TEST_SUITE_P(Scenes, RendererWalk, testing::Range(std::size_t{0}, scenes.size()));
