@@ -39,6 +39,17 @@ std::size_t cycleLength(AudioBuffers output) noexcept
     return frames;
 }
 
+// To every `stride`th place.
+void spread(const float* samples, std::size_t count, float* to, std::size_t stride) noexcept
+{
+    if (stride == 1) {
+        std::memcpy(to, samples, count * sizeof(float));
+        return;
+    }
+    for (std::size_t i = 0; i < count; ++i)
+        to[i * stride] = samples[i];
+}
+
 }  // namespace
 
 Renderer::Renderer(
@@ -180,8 +191,7 @@ void Renderer::writeOutput(AudioBuffers output, std::size_t frames) noexcept FAD
             std::memset(buffer.data, 0, buffer.byteSize);
             auto* samples = static_cast<float*>(buffer.data);
             const auto place = [&](const Scratch& source, std::uint64_t channel) {
-                for (std::size_t frame = 0; frame < frames; ++frame)
-                    samples[frame * buffer.channels + (channel - firstChannel)] = source[frame];
+                spread(source.data(), frames, samples + (channel - firstChannel), buffer.channels);
             };
             const auto holds = [&](std::uint64_t channel) {
                 return channel >= firstChannel && channel - firstChannel < buffer.channels;
