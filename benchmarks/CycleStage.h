@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+// A renderer in cycles of its own: buffers, settings, and a recorder that keeps what it gets in a ring.
+#pragma once
+
+#include "engine/RenderChoice.h"
+#include "engine/Renderer.h"
+#include "engine/TapParameters.h"
+#include "platform/AudioFiles.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <vector>
+
+namespace fadeloom {
+
+/// Takes frames as a recorder does on the IO thread. Nobody reads them.
+class RingFile final : public AudioFile {
+public:
+    AudioStatus setClientFormat(const AudioStreamBasicDescription&) override { return kAudioHardwareNoError; }
+    AudioStatus write(std::uint32_t frameCount, const float* samples) noexcept FADELOOM_NONBLOCKING override
+    {
+        const std::size_t count = 2 * static_cast<std::size_t>(frameCount);
+        if (place_ + count > ring_.size())
+            place_ = 0;
+        std::memcpy(ring_.data() + place_, samples, count * sizeof(float));
+        place_ += count;
+        return kAudioHardwareNoError;
+    }
+    AudioFileHealth health() const override { return {}; }
+
+private:
+    std::vector<float> ring_ = std::vector<float>(2 * 48000);
+    std::size_t place_ = 0;
+};
+
+class CycleStage {
+public:
+    struct Setting {
+        bool isPlanar = false;  // Tap and device both; else both interleaved.
+        bool isEqualized = false;
+        bool isRecorded = false;
+        std::size_t frames = 512;
+    };
+
+    /// `kernels`: null for the plain form.
+    CycleStage(const Setting& setting, const RenderKernels* kernels)
+        : setting_(setting)
+        , samples_(4 * setting.frames)
+    {
+        for (std::size_t i = 0; i < 2 * setting.frames; ++i)
+            samples_[i] = 0.01F * std::sin(0.05F * static_cast<float>(i));
+        parameters_->values.eqEnabled = setting.isEqualized;
+        if (setting.isRecorded)
+            parameters_->setRecorder(&file_);
+        parameters_->setEQ(eqCoefficients(std::array<float, 10>{6, -4, 3, -2, 7, -6, 4, 2, -3, 5}, 48000));
+        const RenderLayout layout{
+            .output = {1, 2},
+            .tapBufferCount = setting.isPlanar ? 2U : 1U,
+            .isTapInterleaved = !setting.isPlanar,
+        };
+        renderer_ = std::make_unique<Renderer>(parameters_, layout, kernels);
+    }
+
+    void cycle()
+    {
+        const auto size = static_cast<std::uint32_t>(setting_.frames * sizeof(float));
+        if (setting_.isPlanar) {
+            const std::array buffers{AudioBuffer{1, size, at(0)}, AudioBuffer{1, size, at(1)},
+                AudioBuffer{1, size, at(2)}, AudioBuffer{1, size, at(3)}};
+            renderer_->render(AudioBuffers(buffers).first(2), AudioBuffers(buffers).last(2));
+        } else {
+            const std::array buffers{AudioBuffer{2, 2 * size, at(0)}, AudioBuffer{2, 2 * size, at(2)}};
+            renderer_->render(AudioBuffers(buffers).first(1), AudioBuffers(buffers).last(1));
+        }
+    }
+
+    [[nodiscard]] std::size_t frames() const { return setting_.frames; }
+
+private:
+    float* at(std::size_t side) { return samples_.data() + side * setting_.frames; }
+
+    Setting setting_;
+    RingFile file_;
+    std::shared_ptr<TapParameters> parameters_ = std::make_shared<TapParameters>();
+    std::vector<float> samples_;  // Two sides in, two sides out.
+    std::unique_ptr<Renderer> renderer_;
+};
+
+}  // namespace fadeloom
