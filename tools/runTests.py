@@ -10,10 +10,12 @@ import sys
 import time
 import xml.etree.ElementTree as ElementTree
 
+import renderInstructions
+
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
 SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
-SPECIAL = ("pipewire", "sanitizers", "fuzz", "checks")
+SPECIAL = ("pipewire", "instructions", "sanitizers", "fuzz", "checks")
 LONG_FORMS = ("engine", "platform/sndfile")  # Folders with test suites that are named LongForm.
 
 
@@ -136,6 +138,27 @@ def runPyTest(tally, name, *options):
     return status
 
 
+def compilerOf(preset):
+    """The first line of what the preset's compiler says of itself."""
+    cache = (ROOT / "build" / preset / "CMakeCache.txt").read_text(encoding="utf-8")
+    path = next(line.split("=", 1)[1] for line in cache.splitlines() if line.startswith("CMAKE_CXX_COMPILER:"))
+    return subprocess.run([path, "--version"], text=True, capture_output=True).stdout.splitlines()[0]
+
+
+def runInstructions(tally):
+    """How many instructions the render path takes: no more than are stored, and a few in a hundred."""
+    why = renderInstructions.whyIncomparable(compilerOf("test"))
+    if why:
+        print(f"instructions: not compared, {why}")
+        return
+    expected = renderInstructions.stored()["instructions"]
+    for form, case, count in renderInstructions.counts(ROOT / "build/test/benchmarks/renderDriver"):
+        isPassed = count <= expected[form][case] * renderInstructions.SLACK
+        if not isPassed:
+            print(f"{form} {case}: {count:.1f} instructions a frame, stored are {expected[form][case]}")
+        tally.add(f"instructions: {form} {case}", isPassed)
+
+
 def runSanitizers(tally, isLong):
     """The unit tests under the sanitizers; in the short form those of the folders where memory and threads matter."""
     short = {"asan": ["engine", "settings", "platform/sndfile"], "tsan": ["engine", "platform/sndfile"]}
@@ -163,7 +186,8 @@ def runFuzz(tally, isLong):
 
 
 def sources(*suffixes):
-    listed = subprocess.run(["git", "ls-files", "src", "tests"], cwd=ROOT, text=True, capture_output=True)
+    listed = subprocess.run(["git", "ls-files", "src", "tests", "benchmarks"], cwd=ROOT, text=True,
+                            capture_output=True)
     return [name for name in listed.stdout.split("\n") if name.endswith(suffixes)]
 
 
@@ -200,6 +224,8 @@ def main():
             runLongForms(tally, folders)
     if everything or "pipewire" in arguments.suites:
         runPipeWire(tally)
+    if everything or "instructions" in arguments.suites:
+        runInstructions(tally)
     if everything or "checks" in arguments.suites:
         runChecks(tally, arguments.long)
     if everything or "sanitizers" in arguments.suites:
