@@ -125,7 +125,8 @@ def runCycle(results):
 
 def runApps(results):
     """Many renderers with ten bands each."""
-    print(f"\nMany apps, ten bands each, cycles of 512 frames\n  {'apps':>6}{'us a cycle':>14}{'% of a core at 48 kHz':>24}")
+    print("\nMany apps, ten bands each, cycles of 512 frames\n"
+          f"  {'apps':>6}{'us a cycle':>14}{'% of a core at 48 kHz':>24}")
     for run in benchmark("RenderMany")["benchmarks"]:
         apps = run["name"].split(":")[1]
         results["apps"][apps] = run["cpu_time"]
