@@ -6,12 +6,14 @@
 //
 // Its sources go by concern: AudioController.cpp (start, end, permission), …Settings.cpp (from settings to sound and
 // file), …Poll.cpp (from processes to rows), …Taps.cpp (from rows to taps), …Routing.cpp (devices and outputs),
-// …Calls.cpp (ducking), …Recordings.cpp, …Presets.cpp, …Desktop.cpp (start at login, appearance).
+// …Calls.cpp (ducking), …Recordings.cpp, …Presets.cpp, …Desktop.cpp (start at login, appearance), …Demo.cpp (fixed
+// contents for pictures).
 #pragma once
 
 #include "control/AppGroups.h"
 #include "control/AudioPermission.h"
 #include "control/ControllerState.h"
+#include "control/DemoContents.h"
 #include "control/LevelStore.h"
 #include "control/LifeToken.h"
 #include "control/ProcessListeners.h"
@@ -47,6 +49,8 @@ public:
 
     /// Loads the settings, begins to listen, polls once. `version` is for the log; "?" when empty.
     AudioController(const Platform& platform, EngineLog& engineLog, const std::string& version);
+    /// One that publishes fixed contents, for pictures: it looks at nothing, taps nothing and saves nothing.
+    AudioController(const Platform& platform, EngineLog& engineLog, const DemoContents& demo);
     AudioController(const AudioController&) = delete;
     AudioController& operator=(const AudioController&) = delete;
 
@@ -146,6 +150,7 @@ private:
 
     Platform platform_;
     EngineLog& engineLog_;
+    bool isDemo_ = false;
     AudioPermission audioPermission_{platform_.capturePermission, platform_.mainLoop};
     AudioProcesses processes_{platform_.audio};
     AppGrouper grouper_{platform_.workspace};

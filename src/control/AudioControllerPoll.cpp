@@ -9,6 +9,8 @@ namespace fadeloom {
 
 void AudioController::poll()
 {
+    if (isDemo_)
+        return;
     updatePermission();
     const auto processes = processes_.all(state_.settings->focus.enabled ? ReadMic::yes : ReadMic::no);
     const auto groups = grouper_.group(processes);

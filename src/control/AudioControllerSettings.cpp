@@ -38,7 +38,8 @@ void AudioController::settingsChanged(const SettingsData& old)
     if (state_.settings->volumeLimit != old.volumeLimit
         || state_.settings->eqAutoHeadroom != old.eqAutoHeadroom)
         pushAllSettings();
-    saver_.schedule(*state_.settings);
+    if (!isDemo_)
+        saver_.schedule(*state_.settings);
 }
 
 void AudioController::appSettingsChanged(const std::string& bundleID, const SettingsData& old)

@@ -14,6 +14,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace fadeloom {
 
@@ -45,6 +46,8 @@ public:
     void setWanted(bool isWanted);
     /// The user's choice to have meters at all.
     void setEnabled(bool isEnabled);
+    /// Sets the meters by hand; they stay until the next interval, or until nobody watches any more.
+    void show(Levels levels) { levels_.assign(std::move(levels)); }
     [[nodiscard]] bool isRunning() const { return timer_.has_value(); }
 
 private:

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// What a controller shows that is not connected to any sound.
+#pragma once
+
+#include "control/AppEntry.h"
+#include "control/LevelStore.h"
+#include "hal/OutputDevices.h"
+#include "settings/SettingsData.h"
+
+#include <vector>
+
+namespace fadeloom {
+
+/// The first of the devices is the system's default output.
+struct DemoContents {
+    std::vector<AppEntry> apps{};
+    std::vector<OutputDevice> devices{};
+    SettingsData settings{};
+    LevelStore::Levels levels{};
+};
+
+}  // namespace fadeloom
