@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "ui/EQModel.h"
+
+#include "engine/EQPresets.h"
+#include "ui/GainText.h"
+#include "ui/PresetEntries.h"
+#include "ui/PresetText.h"
+#include "ui/SettingsEditing.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+namespace fadeloom {
+
+EQModel::EQModel(AudioController& controller, std::string bundleID, QObject* parent)
+    : QObject(parent)
+    , controller_(controller)
+    , bundleID_(std::move(bundleID))
+    , shown_(look())
+{
+}
+
+QList<qreal> EQModel::gains() const
+{
+    return {shown_.gains.begin(), shown_.gains.end()};
+}
+
+QString EQModel::preampText() const
+{
+    return decibelText(preamp());
+}
+
+QString EQModel::spokenPreamp() const
+{
+    return spokenDecibels(preamp());
+}
+
+QString EQModel::bandLabel(int band) const
+{
+    return fadeloom::bandLabel(band);
+}
+
+QString EQModel::bandHelp(int band, qreal gain) const
+{
+    return fadeloom::bandHelp(band, gain);
+}
+
+QString EQModel::spokenBand(int band) const
+{
+    return fadeloom::spokenBand(band);
+}
+
+QString EQModel::spokenGain(qreal gain) const
+{
+    return spokenDecibels(gain);
+}
+
+void EQModel::setEnabled(bool isEnabled)
+{
+    editAppSettings(controller_, bundleID_, [&](auto& app) { app.eqEnabled = isEnabled; });
+}
+
+void EQModel::setGain(int band, qreal gain)
+{
+    editAppSettings(controller_, bundleID_, [&](auto& app) {
+        app.eqGains.at(static_cast<std::size_t>(band)) = wholeGain(gain);
+        app.eqPresetName.reset();
+        app.eqEnabled = true;
+    });
+}
+
+void EQModel::setPreamp(qreal preamp)
+{
+    editAppSettings(controller_, bundleID_, [&](auto& app) { app.eqPreamp = wholeGain(preamp); });
+}
+
+void EQModel::applyPreset(const QString& key)
+{
+    if (const auto preset = presetOf(*controller_.state().settings, key))
+        controller_.applyPreset(*preset, bundleID_);
+}
+
+void EQModel::resetToFlat()
+{
+    controller_.applyPreset(EQPresets::flat(), bundleID_);
+    setPreamp(0);
+}
+
+void EQModel::savePreset(const QString& name)
+{
+    controller_.saveUserPreset(name.toStdString(), bundleID_);
+}
+
+void EQModel::deletePreset(const QString& name)
+{
+    const auto& presets = controller_.state().settings->userPresets;
+    const auto found = std::ranges::find(presets, name.toStdString(), &EQPreset::name);
+    if (found != presets.end())
+        controller_.deleteUserPreset(EQPreset(*found));
+}
+
+void EQModel::refresh()
+{
+    if (auto now = look(); now != shown_) {
+        shown_ = std::move(now);
+        Q_EMIT changed();
+    }
+}
+
+EQModel::Shown EQModel::look() const
+{
+    const auto& settings = *controller_.state().settings;
+    const auto app = appSettings(settings, bundleID_);
+    return {.isEnabled = app.eqEnabled,
+        .presetTitle = fadeloom::presetTitle(app.eqPresetName),
+        .gains = app.eqGains,
+        .preamp = app.eqPreamp,
+        .presetEntries = fadeloom::presetEntries(settings, app.eqPresetName),
+        .actionEntries = presetActionEntries(settings),
+        .deleteEntries = deletablePresetEntries(settings)};
+}
+
+}  // namespace fadeloom

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// The two menus of outputs: the system's own, and where one app plays.
+#pragma once
+
+#include "control/ControllerState.h"
+#include "ui/MenuEntry.h"
+
+#include <QString>
+
+#include <string>
+
+namespace fadeloom {
+
+/// The connected devices; the keys are their object ids. The system's default is checked.
+[[nodiscard]] MenuEntries systemOutputEntries(const ControllerState& state);
+/// The name of the system's default output, or "No output".
+[[nodiscard]] QString systemOutputLabel(const ControllerState& state);
+
+/// Following the system, with an empty key, then the connected devices; the keys are their unique ids.
+[[nodiscard]] MenuEntries appOutputEntries(const ControllerState& state, const std::string& bundleID);
+/// The name of the chosen device, "Disconnected, muted" when it is away, or "System Output".
+[[nodiscard]] QString appOutputLabel(const ControllerState& state, const std::string& bundleID);
+
+}  // namespace fadeloom

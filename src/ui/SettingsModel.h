@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+// The settings page as a view shows and edits it.
+#pragma once
+
+#include "ui/MenuEntry.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+#include <string>
+
+namespace fadeloom {
+
+class AudioController;
+class PanelHost;
+struct SettingsData;
+
+/// Thread: main.
+class SettingsModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the panel")
+    Q_PROPERTY(bool lowersOthers READ lowersOthers NOTIFY changed)
+    Q_PROPERTY(qreal duckLevel READ duckLevel NOTIFY changed)
+    Q_PROPERTY(QString duckPercent READ duckPercent NOTIFY changed)
+    Q_PROPERTY(QString spokenDuckLevel READ spokenDuckLevel NOTIFY changed)
+    Q_PROPERTY(QVariantList callApps READ callApps NOTIFY changed)
+    Q_PROPERTY(QVariantList offeredApps READ offeredApps NOTIFY changed)
+    Q_PROPERTY(QString recordingsFolder READ recordingsFolder NOTIFY changed)
+    Q_PROPERTY(QString volumeLimit READ volumeLimit NOTIFY changed)
+    Q_PROPERTY(QVariantList volumeLimits READ volumeLimits NOTIFY changed)
+    Q_PROPERTY(bool isBoostAllowed READ isBoostAllowed NOTIFY changed)
+    Q_PROPERTY(bool hasAutoHeadroom READ hasAutoHeadroom NOTIFY changed)
+    Q_PROPERTY(int theme READ theme NOTIFY changed)
+    Q_PROPERTY(bool glass READ glass NOTIFY changed)
+    Q_PROPERTY(bool animations READ animations NOTIFY changed)
+    Q_PROPERTY(bool levelMeters READ levelMeters NOTIFY changed)
+    Q_PROPERTY(bool launchesAtLogin READ launchesAtLogin NOTIFY changed)
+    Q_PROPERTY(QString language READ language NOTIFY languageChanged)
+    Q_PROPERTY(QVariantList languages READ languages NOTIFY languageChanged)
+    Q_PROPERTY(bool needsRestart READ needsRestart NOTIFY languageChanged)
+    Q_PROPERTY(QString version READ version CONSTANT)
+    Q_PROPERTY(QString webPageHost READ webPageHost CONSTANT)
+
+public:
+    SettingsModel(AudioController& controller, PanelHost& host, QObject* parent);
+
+    [[nodiscard]] bool lowersOthers() const;
+    [[nodiscard]] qreal duckLevel() const;
+    [[nodiscard]] QString duckPercent() const;
+    [[nodiscard]] QString spokenDuckLevel() const;
+    /// Names, with the bundle identifiers as keys.
+    [[nodiscard]] QVariantList callApps() const;
+    /// What can be added to them. The last entry, with the key "choose", asks for any application.
+    [[nodiscard]] QVariantList offeredApps() const;
+    [[nodiscard]] QString recordingsFolder() const;
+    [[nodiscard]] QString volumeLimit() const;
+    [[nodiscard]] QVariantList volumeLimits() const;
+    [[nodiscard]] bool isBoostAllowed() const;
+    [[nodiscard]] bool hasAutoHeadroom() const;
+    /// A position in `allThemes`.
+    [[nodiscard]] int theme() const;
+    [[nodiscard]] bool glass() const;
+    [[nodiscard]] bool animations() const;
+    [[nodiscard]] bool levelMeters() const;
+    [[nodiscard]] bool launchesAtLogin() const;
+    [[nodiscard]] QString language() const;
+    [[nodiscard]] QVariantList languages() const;
+    /// Whether the language that is chosen is another than the one in use.
+    [[nodiscard]] bool needsRestart() const;
+    [[nodiscard]] QString version() const;
+    [[nodiscard]] QString webPageHost() const;
+
+    Q_INVOKABLE void setLowersOthers(bool isOn);
+    Q_INVOKABLE void setDuckLevel(qreal level);
+    Q_INVOKABLE void removeCallApp(const QString& bundleID);
+    Q_INVOKABLE void addCallApp(const QString& key);
+    Q_INVOKABLE void resetCallApps();
+    Q_INVOKABLE void chooseRecordingsFolder();
+    Q_INVOKABLE void chooseVolumeLimit(const QString& key);
+    Q_INVOKABLE void setAutoHeadroom(bool isOn);
+    Q_INVOKABLE void setTheme(int theme);
+    Q_INVOKABLE void setGlass(bool isOn);
+    Q_INVOKABLE void setAnimations(bool isOn);
+    Q_INVOKABLE void setLevelMeters(bool isOn);
+    Q_INVOKABLE void setLaunchesAtLogin(bool isOn);
+    Q_INVOKABLE void chooseLanguage(const QString& code);
+    Q_INVOKABLE void restart();
+    /// Every app returns to its defaults; there is no question and no way back.
+    Q_INVOKABLE void resetApps();
+    Q_INVOKABLE void openAboutPanel();
+    Q_INVOKABLE void openWebPage();
+
+Q_SIGNALS:
+    /// What the page shows is to be read again.
+    void changed();
+    void languageChanged();
+
+private:
+    [[nodiscard]] const SettingsData& settings() const;
+    [[nodiscard]] QString nameOf(const std::string& bundleID) const;
+    void appendCallApp(const std::string& bundleID);
+
+    AudioController& controller_;
+    PanelHost& host_;
+    const std::string languageAtStart_;
+    std::string language_;
+};
+
+}  // namespace fadeloom

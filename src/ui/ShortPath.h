@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// A folder's path as the panel shows it.
+#pragma once
+
+#include <QString>
+
+#include <filesystem>
+
+namespace fadeloom {
+
+/// The path, with "~" for the user's home folder.
+[[nodiscard]] QString shortPath(const std::filesystem::path& path);
+
+}  // namespace fadeloom

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// What a row says under an app's name: one thing at a time, the most urgent first.
+#pragma once
+
+#include "control/AppEntry.h"
+#include "control/ControllerState.h"
+
+#include <QString>
+
+namespace fadeloom {
+
+struct StatusLine {
+    enum class Kind { failed, disconnected, recording, onCall, lowered, playing, idle };
+
+    Kind kind = Kind::idle;
+    QString text{};
+    QString help{};
+    QString symbol{};  // Empty for a line of words alone.
+
+    friend bool operator==(const StatusLine&, const StatusLine&) = default;
+};
+
+[[nodiscard]] StatusLine statusLine(const ControllerState& state, const AppEntry& app);
+
+}  // namespace fadeloom

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+// The program's own icon.
+import QtQuick
+
+Image {
+    width: 26
+    height: 26
+    sourceSize: Qt.size(26, 26)
+    source: "qrc:/icons/app-icon-small.svg"
+}

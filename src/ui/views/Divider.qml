@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+// A line between parts.
+import QtQuick
+import Fadeloom
+
+Rectangle {
+    property real strength: 0.10
+
+    height: 1
+    color: Theme.layer(strength)
+}

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+// What a setting does, in small words under it.
+import QtQuick
+import Fadeloom
+
+Label {
+    width: parent ? Math.min(318, parent.width) : 318
+    wrapMode: Text.Wrap
+    size: 11
+    line: 15
+    color: Theme.secondary
+}

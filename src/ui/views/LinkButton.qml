@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// Words that can be pressed.
+import QtQuick
+import Fadeloom
+
+Pressable {
+    id: button
+
+    property int size: 12
+
+    implicitWidth: Math.ceil(words.implicitWidth) + leftPadding
+    implicitHeight: Math.max(22, words.line)
+    Accessible.role: Accessible.Link
+
+    contentItem: Label {
+        id: words
+        size: button.size
+        line: 16
+        color: Theme.accent
+        font.underline: button.hovered
+        elide: Text.ElideRight
+        text: button.text
+        Accessible.ignored: true
+    }
+    background: Item {
+        FocusRing {
+            control: button
+            gap: 1
+        }
+    }
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// The words that open a menu and say what is chosen in it. They end on the right edge; their ground hangs out.
+import QtQuick
+import Fadeloom
+
+Pressable {
+    id: label
+
+    property alias menu: popup
+    property alias entries: popup.entries
+    property alias pinned: popup.pinned
+    property int size: 12
+    property string spokenName
+
+    signal chosen(string key, bool isSubmenu)
+
+    implicitWidth: Math.ceil(words.implicitWidth) + 14
+    implicitHeight: 16
+    Accessible.role: Accessible.ComboBox
+    Accessible.name: spokenName === "" ? text : spokenName + ", " + text
+    onClicked: popup.opened ? popup.close() : popup.openAt(label, 8)
+    Keys.onDownPressed: popup.openAt(label, 8)
+
+    background: Rectangle {
+        x: -8
+        y: -4
+        width: label.width + 14
+        height: label.height + 8
+        radius: 6
+        color: Theme.layer(popup.visible ? 0.14 : label.pressed ? 0.16 : label.hovered ? 0.08 : 0)
+        FocusRing {
+            control: label
+            gap: 0
+        }
+    }
+    contentItem: Item {
+        Label {
+            id: words
+            width: parent.width - 14
+            size: label.size
+            elide: Text.ElideMiddle
+            horizontalAlignment: Text.AlignRight
+            text: label.text
+            Accessible.ignored: true
+        }
+        Symbol {
+            // The glyph, not its box, ends on the edge.
+            x: parent.width - width + 1
+            anchors.verticalCenter: parent.verticalCenter
+            name: "chevron.down"
+            size: 9
+            colour: Theme.secondary
+        }
+    }
+    PopUpMenu {
+        id: popup
+        onChosen: (key, isSubmenu) => label.chosen(key, isSubmenu)
+    }
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// The system's own output.
+import QtQuick
+import Fadeloom
+
+Item {
+    id: picker
+
+    property PanelModel panel
+
+    implicitHeight: 38
+
+    Symbol {
+        x: 36 - width / 2
+        anchors.verticalCenter: parent.verticalCenter
+        name: "hifispeaker.2"
+        size: 15
+        colour: Theme.secondary
+    }
+    Label {
+        id: title
+        x: 60
+        y: 11
+        weight: Font.Medium
+        text: qsTr("Output")
+    }
+    MenuLabel {
+        anchors.right: parent.right
+        anchors.rightMargin: 22
+        y: 11
+        width: Math.min(implicitWidth, picker.width - 22 - title.x - title.implicitWidth - 20)
+        spokenName: title.text
+        text: picker.panel ? picker.panel.output : ""
+        entries: picker.panel ? picker.panel.outputEntries : []
+        onChosen: key => picker.panel.chooseOutput(key)
+    }
+}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// A button that opens a menu.
+import QtQuick
+import Fadeloom
+
+PushButton {
+    id: button
+
+    property alias entries: popup.entries
+    property string spokenName
+
+    signal chosen(string key)
+
+    hasChevron: true
+    isOpen: popup.visible
+    Accessible.role: Accessible.ComboBox
+    Accessible.name: spokenName === "" ? text : spokenName + ", " + text
+    onClicked: popup.opened ? popup.close() : popup.openAt(button, 4)
+    Keys.onDownPressed: popup.openAt(button, 4)
+
+    PopUpMenu {
+        id: popup
+        onChosen: key => button.chosen(key)
+    }
+}

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// A setting: its words on the left, its control on the right edge, its explanation below.
+import QtQuick
+import Fadeloom
+
+Column {
+    id: settingsRow
+
+    property string title
+    property string explanation
+    property color explanationColour: Theme.secondary
+    default property alias control: side.data
+
+    width: parent ? parent.width : 0
+    spacing: 3
+
+    Item {
+        width: parent.width
+        height: Math.max(words.height, side.height, 20)
+
+        Label {
+            id: words
+            y: Math.max(0, (Math.max(20, side.height) - 16) / 2)
+            width: parent.width - side.width - 12
+            wrapMode: Text.Wrap
+            text: settingsRow.title
+        }
+        Row {
+            id: side
+            y: Math.max(0, (20 - height) / 2)
+            anchors.right: parent.right
+            spacing: 8
+        }
+    }
+    Explanation {
+        visible: settingsRow.explanation !== ""
+        color: settingsRow.explanationColour
+        text: settingsRow.explanation
+    }
+}

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// On or off. It shows `isOn` and asks for the other with `asked`.
+import QtQuick
+import QtQuick.Templates as T
+import Fadeloom
+
+T.CheckBox {
+    id: toggle
+
+    property bool isOn: false
+    property bool isSmall: false
+    readonly property real knob: isSmall ? 12 : 14
+
+    signal asked(bool isOn)
+
+    implicitWidth: isSmall ? 26 : 30
+    implicitHeight: isSmall ? 16 : 18
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    checked: isOn
+    // A click asks; the state changes when the model does.
+    nextCheckState: () => isOn ? Qt.Checked : Qt.Unchecked
+    Accessible.name: text
+    Accessible.onPressAction: flip()
+    Accessible.onToggleAction: flip()
+    Keys.onReturnPressed: flip()
+    onClicked: flip()
+
+    function flip() {
+        if (enabled)
+            asked(!isOn)
+    }
+
+    background: Rectangle {
+        radius: height / 2
+        opacity: toggle.enabled ? 1 : 0.4
+        color: toggle.isOn ? Theme.switchOn : Theme.switchOff
+        Behavior on color {
+            enabled: Theme.animations
+            ColorAnimation { duration: Theme.knob }
+        }
+        FocusRing {
+            control: toggle
+            corner: parent.radius
+        }
+        Rectangle {
+            x: toggle.isOn ? parent.width - width - 2 : 2
+            y: 2
+            width: toggle.knob
+            height: toggle.knob
+            radius: width / 2
+            color: "white"
+            Behavior on x {
+                enabled: Theme.animations
+                NumberAnimation { duration: Theme.knob; easing.type: Easing.OutCubic }
+            }
+        }
+    }
+    contentItem: Item { }
+}

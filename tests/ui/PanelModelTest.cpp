@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "tests/ui/PanelStory.h"
+
+#include <QAbstractItemModelTester>
+
+namespace fadeloom {
+namespace {
+
+class PanelModelTest : public PanelStory { };
+
+TEST_F(PanelModelTest, rowsFollowTheControllersOrderAndKeepTheirSelves)
+{
+    open();
+    const QAbstractItemModelTester tester(
+        panel->rows(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const auto radio = launchPlaying("Radio");
+    launchPlaying("Player");
+    auto* const radioRow = &row(1);
+    EXPECT_EQ(radioRow->name(), "Radio");
+
+    launchPlaying("Zither");
+    world.quitApp(radio);
+    launchPlaying("Accordion");
+    world.advance(5s);
+
+    ASSERT_EQ(panel->rows()->rowCount(), 3);
+    EXPECT_EQ(row(0).name(), "Accordion");
+    EXPECT_EQ(row(1).name(), "Player");
+    EXPECT_EQ(row(2).name(), "Zither");
+}
+
+TEST_F(PanelModelTest, aRowStaysTheSameWhenTheOrderChanges)
+{
+    open();
+    const auto pid = launchPlaying("Accordion");
+    launchPlaying("Player");
+    auto* const accordion = &row(0);
+
+    world.stopPlaying(pid);
+    world.advance(5s);
+
+    EXPECT_EQ(&row(1), accordion);
+    EXPECT_EQ(accordion->status(), "Idle");
+}
+
+TEST_F(PanelModelTest, mutingTwiceLeavesNoEntry)
+{
+    open();
+    launchPlaying("Player");
+
+    row(0).toggleMuted();
+    EXPECT_TRUE(settings().apps.at(player).muted);
+    EXPECT_TRUE(row(0).isMuted());
+    row(0).toggleMuted();
+
+    EXPECT_TRUE(settings().apps.empty());
+}
+
+TEST_F(PanelModelTest, aDraggedVolumeSnapsAndIsLimited)
+{
+    open();
+    launchPlaying("Player");
+
+    row(0).setVolume(0.5);
+    EXPECT_EQ(row(0).percent(), "50%");
+    row(0).setVolume(1.7);
+
+    EXPECT_EQ(row(0).volume(), 1);
+    EXPECT_TRUE(settings().apps.empty());
+}
+
+TEST_F(PanelModelTest, theCallBannerHidesTheErrorUntilTheCallEnds)
+{
+    auto given = SettingsData();
+    given.focus.callApps = {"com.example.phone"};
+    givenSettings(given);
+    open();
+    launchPlaying("Player");
+    controller->saveUserPreset("rock", player);
+    EXPECT_EQ(panel->bannerKind(), "error");
+    EXPECT_EQ(panel->bannerText(), "“rock” is a built-in preset name. Choose another name.");
+
+    const auto phone = launchPlaying("Phone");
+    world.startUsingMic(phone);
+    world.advance(5s);
+    EXPECT_EQ(panel->bannerKind(), "call");
+    EXPECT_EQ(panel->bannerText(), "Phone is on a call. Other apps lowered to 20%");
+    EXPECT_EQ(row(1).status(), "Lowered for call");
+
+    world.stopUsingMic(phone);
+    world.advance(5s);
+    EXPECT_EQ(panel->bannerKind(), "error");
+    panel->dismissError();
+    EXPECT_EQ(panel->bannerKind(), "");
+}
+
+TEST_F(PanelModelTest, aRecordingShowsItsTimeAndThenItsFile)
+{
+    open();
+    launchPlaying("Player");
+    world.advance(1s);
+
+    row(0).startRecording();
+    world.advance(7s);
+    EXPECT_EQ(row(0).elapsed(), "0:07");
+    EXPECT_EQ(row(0).status(), "Recording");
+    row(0).stopRecording();
+    world.advance(1s);
+
+    EXPECT_EQ(row(0).elapsed(), "");
+    EXPECT_THAT(panel->lastRecording().toStdString(), testing::StartsWith("Player "));
+}
+
+TEST_F(PanelModelTest, aMutedAppsMeterStandsAtNothing)
+{
+    open();
+    launchPlaying("Player");
+    controller->levels().show({{player, 0.5F}});
+    EXPECT_EQ(row(0).level(), 0.5);
+
+    row(0).toggleMuted();
+
+    EXPECT_EQ(row(0).level(), 0);
+}
+
+TEST_F(PanelModelTest, thePageFollowsTheSettingsThenThePermission)
+{
+    world.setPermission(SimulatedCapturePermission::denied);
+    open();
+    EXPECT_EQ(panel->page(), "permission");
+    EXPECT_TRUE(panel->isAccessDenied());
+
+    panel->setShowsSettings(true);
+    EXPECT_EQ(panel->page(), "settings");
+    panel->setShowsSettings(false);
+    world.setPermission(SimulatedCapturePermission::granted);
+    world.advance(5s);
+
+    EXPECT_EQ(panel->page(), "mixer");
+}
+
+TEST_F(PanelModelTest, choosingTheSystemOutputMovesTheCheckmark)
+{
+    open();
+    const auto other = entry(panel->outputEntries(), entry(panel->outputEntries(), 0).isChecked ? 1 : 0);
+    ASSERT_FALSE(other.isChecked);
+
+    panel->chooseOutput(other.key);
+    world.runPosted();
+
+    EXPECT_EQ(panel->output(), other.text);
+}
+
+TEST_F(PanelModelTest, anUpdateIsOfferedOnceItIsKnown)
+{
+    open();
+    EXPECT_EQ(panel->availableVersion(), "");
+
+    host.publish("1.1");
+
+    EXPECT_EQ(panel->availableVersion(), "1.1");
+}
+
+}  // namespace
+}  // namespace fadeloom

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// A panel on a controller in a simulated world.
+#pragma once
+
+#include "tests/control/ControllerStory.h"
+#include "tests/ui/DemoHost.h"
+#include "ui/PanelModel.h"
+
+#include <QVariant>
+
+#include <optional>
+
+namespace fadeloom {
+
+class PanelStory : public ControllerStory {
+protected:
+    void open()
+    {
+        start();
+        panel.emplace(*controller, world.platform(), host);
+    }
+    AppRowModel& row(int position)
+    {
+        return *panel->rows()->data(panel->rows()->index(position), Qt::UserRole).value<AppRowModel*>();
+    }
+    static MenuEntry entry(const QVariantList& entries, qsizetype position)
+    {
+        return entries.at(position).value<MenuEntry>();
+    }
+
+    const std::string player = "com.example.player";
+    DemoHost host;
+    std::optional<PanelModel> panel;
+};
+
+}  // namespace fadeloom

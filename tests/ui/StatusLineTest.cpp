@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "ui/StatusLine.h"
+
+#include <gtest/gtest.h>
+
+namespace fadeloom {
+namespace {
+
+using Kind = StatusLine::Kind;
+
+class StatusLineTest : public testing::Test {
+protected:
+    Kind kind() const { return statusLine(state, app).kind; }
+
+    ControllerState state;
+    AppEntry app{.bundleID = "player", .name = "Player", .isPlaying = true};
+};
+
+TEST_F(StatusLineTest, anAppPlaysOrIsIdle)
+{
+    EXPECT_EQ(kind(), Kind::playing);
+    app.isPlaying = false;
+    EXPECT_EQ(kind(), Kind::idle);
+}
+
+TEST_F(StatusLineTest, theMostUrgentIsSaidFirst)
+{
+    state.callApp.assign("phone");
+    EXPECT_EQ(kind(), Kind::lowered);
+    state.callApp.assign("player");
+    EXPECT_EQ(kind(), Kind::onCall);
+    state.recordings.assign({{"player", {}}});
+    EXPECT_EQ(kind(), Kind::recording);
+    state.missingOutput.assign({"player"});
+    EXPECT_EQ(kind(), Kind::disconnected);
+    state.tapErrors.assign({{"player", "no rights"}});
+    EXPECT_EQ(kind(), Kind::failed);
+    EXPECT_EQ(statusLine(state, app).help, "no rights");
+}
+
+TEST_F(StatusLineTest, aCallAppIsNotLoweredForAnothersCall)
+{
+    state.callApp.assign("phone");
+    state.settings.modify([](auto& settings) { settings.focus.callApps = {"phone", "player"}; });
+
+    EXPECT_EQ(kind(), Kind::playing);
+}
+
+TEST_F(StatusLineTest, whatHappensToOthersIsNotSaid)
+{
+    state.recordings.assign({{"other", {}}});
+    state.missingOutput.assign({"other"});
+    state.tapErrors.assign({{"other", "no rights"}});
+
+    EXPECT_EQ(kind(), Kind::playing);
+}
+
+}  // namespace
+}  // namespace fadeloom
