@@ -13,11 +13,11 @@ import sys
 
 ORDER = ["platform", "hal", "engine", "settings", "log", "control", "shell", "ui", "app"]
 ADAPTERS = ["platform/simulated", "platform/linux", "platform/sndfile", "platform/pipewire", "platform/qt",
-            "platform/macos"]
+            "platform/qtdesktop", "platform/macos"]
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s+([<"])([^>"]+)[>"]')
 QT = re.compile(r"^(Q[A-Z]\w+|Qt\w+/.*|q[a-z]+\.h)$")
 FOREIGN = {
-    "Qt": (QT, ("platform/qt", "platform/linux", "ui", "app")),
+    "Qt": (QT, ("platform/qt", "platform/qtdesktop", "platform/linux", "ui", "app")),
     "PipeWire": (re.compile(r"^(pipewire|spa)/"), ("platform/pipewire",)),
     "libsndfile": (re.compile(r"^sndfile\.hh?$"), ("platform/sndfile",)),
     "Apple": (re.compile(r"^(CoreAudio|AudioToolbox|CoreFoundation|Foundation|AppKit|Cocoa|os|dispatch)/"),

@@ -136,4 +136,11 @@ std::string LinuxWorkspace::bundleIdentifier(ProcessID pid, const std::string& p
     return found ? found->bundleID : std::string{};
 }
 
+std::optional<std::string> LinuxWorkspace::installedName(const std::string& bundleID) const
+{
+    entries_.refresh();
+    const auto* const entry = entries_.withID(bundleID);
+    return entry ? entry->name : std::nullopt;
+}
+
 }  // namespace fadeloom

@@ -39,6 +39,9 @@ public:
     /// Thread: main.
     [[nodiscard]] std::string bundleIdentifier(ProcessID pid, const std::string& portalAppID) const;
 
+    /// The name of an installed application, running or not. Thread: main.
+    [[nodiscard]] std::optional<std::string> installedName(const std::string& bundleID) const;
+
 private:
     [[nodiscard]] RunningApplication describe(
         ApplicationFinder& finder, ProcessTable& processes, ProcessID pid) const;

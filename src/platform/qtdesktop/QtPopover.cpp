@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qtdesktop/QtPopover.h"
+
+#include "platform/qtdesktop/PanelPlace.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPalette>
+#include <QQuickItem>
+#include <QScreen>
+
+#include <utility>
+
+namespace fadeloom {
+
+/// Escape closes it when nothing inside has a use for the key.
+class QtPopover::View final : public QQuickView {
+public:
+    explicit View(QtPopover& popover)
+        : popover_(popover)
+    {
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        QQuickView::keyPressEvent(event);
+        const bool isUsed = activeFocusItem() != nullptr && event->isAccepted();
+        if (!isUsed && event->key() == Qt::Key_Escape)
+            popover_.close();
+    }
+
+private:
+    QtPopover& popover_;
+};
+
+QtPopover::QtPopover(std::function<QRect()> place)
+    : place_(std::move(place))
+    , view_(std::make_unique<View>(*this))
+{
+    view_->setFlags(
+        Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint);
+    view_->setTitle(QStringLiteral("Fadeloom"));
+    view_->setColor(Qt::transparent);
+    view_->setResizeMode(QQuickView::SizeViewToRootObject);
+    QObject::connect(view_.get(), &QWindow::activeChanged, view_.get(), [this] { activeChanged(); });
+    QObject::connect(view_.get(), &QWindow::visibleChanged, view_.get(), [this] { visibleChanged(); });
+    const auto sizeChanged = [this] {
+        if (isOpen_)
+            putInPlace();
+    };
+    QObject::connect(view_.get(), &QWindow::heightChanged, view_.get(), sizeChanged);
+    QObject::connect(view_.get(), &QWindow::widthChanged, view_.get(), sizeChanged);
+}
+
+QtPopover::~QtPopover()
+{
+    view_->disconnect();  // The window's end announces itself to somebody half gone.
+}
+
+void QtPopover::setContent(std::unique_ptr<QQuickItem> content)
+{
+    view_->setContent({}, nullptr, content.release());
+}
+
+QQuickView& QtPopover::view()
+{
+    return *view_;
+}
+
+void QtPopover::becomeOrdinaryWindow()
+{
+    isOrdinary_ = true;
+    view_->setFlags(Qt::Window);
+    view_->setColor(QGuiApplication::palette().color(QPalette::Window));  // It has corners.
+}
+
+void QtPopover::show()
+{
+    if (!std::exchange(isOpen_, true))
+        willShow_();
+    wasActive_ = false;
+    putInPlace();
+    view_->show();
+    view_->raise();
+    view_->requestActivate();
+}
+
+void QtPopover::close()
+{
+    view_->hide();
+}
+
+bool QtPopover::isShown() const
+{
+    return isOpen_ || (sinceFocusLoss_.isValid() && !sinceFocusLoss_.hasExpired(clickTime));
+}
+
+void QtPopover::putInPlace()
+{
+    if (isOrdinary_)
+        return;
+    const QRect anchor = place_();
+    const QScreen* screen = anchor.isNull() ? nullptr : QGuiApplication::screenAt(anchor.center());
+    if (screen == nullptr)
+        screen = QGuiApplication::primaryScreen();
+    view_->setPosition(panelPlace(anchor, view_->size(), screen->availableGeometry()));
+}
+
+void QtPopover::activeChanged()
+{
+    if (view_->isActive()) {
+        wasActive_ = true;
+        return;
+    }
+    // A window of ours, as a dialog, does not count as another one.
+    if (isOrdinary_ || !wasActive_ || QGuiApplication::focusWindow() != nullptr)
+        return;
+    sinceFocusLoss_.start();
+    close();
+}
+
+void QtPopover::visibleChanged()
+{
+    if (view_->isVisible() || !std::exchange(isOpen_, false))
+        return;
+    didClose_();
+}
+
+}  // namespace fadeloom

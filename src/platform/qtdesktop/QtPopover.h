@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// The panel beside the status icon as a window without a frame, or an ordinary one where no icon is.
+#pragma once
+
+#include "platform/Popover.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QQuickView>
+#include <QRect>
+
+#include <functional>
+#include <memory>
+
+namespace fadeloom {
+
+/// Closes when the user turns to another window, and by Escape. Its content gives it its size. Thread: main.
+class QtPopover final : public Popover {
+public:
+    /// A second click on the icon takes the focus away first, and so closes the panel that it is to close.
+    static constexpr int clickTime = 250;  // Milliseconds.
+
+    /// `place`: where the icon is, null when nobody knows.
+    explicit QtPopover(std::function<QRect()> place);
+    QtPopover(const QtPopover&) = delete;
+    QtPopover& operator=(const QtPopover&) = delete;
+    ~QtPopover() override;
+
+    /// What is shown from now on; its implicit size is the window's.
+    void setContent(std::unique_ptr<QQuickItem> content);
+    [[nodiscard]] QQuickView& view();
+    /// From now on it has a frame and a title, and stays open until it is closed.
+    void becomeOrdinaryWindow();
+
+    void show() override;
+    void close() override;
+    /// Also for a moment after it has lost the focus: what took it may be the click that is to close it.
+    bool isShown() const override;
+    void setAnimated(bool isAnimated) override { isAnimated_ = isAnimated; }
+    [[nodiscard]] bool isAnimated() const { return isAnimated_; }
+    void whenShown(std::function<void()> willShow) override { willShow_ = std::move(willShow); }
+    void whenClosed(std::function<void()> didClose) override { didClose_ = std::move(didClose); }
+
+private:
+    class View;
+
+    void putInPlace();
+    void activeChanged();
+    void visibleChanged();
+
+    std::function<QRect()> place_;
+    std::function<void()> willShow_ = [] { };
+    std::function<void()> didClose_ = [] { };
+    bool isAnimated_ = true;
+    bool isOrdinary_ = false;
+    bool wasActive_ = false;
+    bool isOpen_ = false;
+    QElapsedTimer sinceFocusLoss_;
+    std::unique_ptr<View> view_;
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// A status icon that a test clicks.
+#pragma once
+
+#include "platform/StatusItem.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace fadeloom {
+
+class SimulatedStatusItem final : public StatusItem {
+public:
+    void show(const std::string& name) override { name_ = name; }
+    void whenClicked(std::function<void()> clicked) override { clicked_ = std::move(clicked); }
+    void setMenu(std::function<StatusMenu()> build) override { build_ = std::move(build); }
+
+    /// The name under which it is shown; empty before.
+    [[nodiscard]] const std::string& name() const { return name_; }
+    void click() { clicked_(); }
+    /// What a right click shows.
+    [[nodiscard]] StatusMenu openMenu() { return build_(); }
+    /// Opens the menu and chooses the entry with this title; says whether there is one.
+    bool choose(const std::string& title)
+    {
+        const auto menu = build_();
+        const auto entry = std::ranges::find(menu, title, &StatusMenuEntry::title);
+        if (entry == menu.end())
+            return false;
+        entry->action();
+        return true;
+    }
+
+private:
+    std::string name_;
+    std::function<void()> clicked_ = [] { };
+    std::function<StatusMenu()> build_ = [] { return StatusMenu{}; };
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qtdesktop/QtPopover.h"
+
+#include "tests/platform/qtdesktop/OffscreenApplication.h"
+
+#include <gtest/gtest.h>
+
+#include <QKeyEvent>
+#include <QQmlComponent>
+#include <QQuickItem>
+
+namespace fadeloom {
+namespace {
+
+class QtPopoverTest : public testing::Test {
+protected:
+    QtPopoverTest()
+    {
+        popover.whenShown([this] { shown += 1; });
+        popover.whenClosed([this] { closed += 1; });
+        QQmlComponent component(popover.view().engine());
+        component.setData("import QtQuick; Item { width: 380; height: 465 }", {});
+        popover.view().setContent({}, nullptr, component.create());
+    }
+    void press(int key)
+    {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(&popover.view(), &event);
+    }
+
+    OffscreenApplication application;
+    QRect icon{600, 0, 24, 24};
+    QtPopover popover{[this] { return icon; }};
+    int shown = 0;
+    int closed = 0;
+};
+
+TEST_F(QtPopoverTest, opensBesideTheIconInTheSizeOfItsContent)
+{
+    popover.show();
+
+    EXPECT_TRUE(popover.isShown());
+    EXPECT_EQ(popover.view().size(), QSize(380, 465));
+    EXPECT_GE(popover.view().y(), icon.bottom());
+    EXPECT_EQ(shown, 1);
+    EXPECT_EQ(closed, 0);
+}
+
+TEST_F(QtPopoverTest, shownTwiceIsOpenOnce)
+{
+    popover.show();
+    popover.show();
+
+    EXPECT_EQ(shown, 1);
+}
+
+TEST_F(QtPopoverTest, closesOnce)
+{
+    popover.show();
+
+    popover.close();
+    popover.close();
+
+    EXPECT_FALSE(popover.isShown());
+    EXPECT_EQ(closed, 1);
+}
+
+TEST_F(QtPopoverTest, closesByEscape)
+{
+    popover.show();
+
+    press(Qt::Key_A);
+    EXPECT_TRUE(popover.isShown());
+    press(Qt::Key_Escape);
+
+    EXPECT_FALSE(popover.isShown());
+    EXPECT_EQ(closed, 1);
+}
+
+TEST_F(QtPopoverTest, growsWithItsContentAndStaysInPlace)
+{
+    popover.show();
+    const int before = popover.view().y();
+
+    popover.view().rootObject()->setHeight(546);
+    QCoreApplication::processEvents();
+
+    EXPECT_EQ(popover.view().height(), 546);
+    EXPECT_EQ(popover.view().y(), before);
+}
+
+TEST_F(QtPopoverTest, opensAgain)
+{
+    popover.show();
+    popover.close();
+    popover.show();
+
+    EXPECT_EQ(shown, 2);
+    EXPECT_TRUE(popover.isShown());
+}
+
+TEST_F(QtPopoverTest, anOrdinaryWindowHasAFrame)
+{
+    EXPECT_TRUE(popover.view().flags().testFlag(Qt::FramelessWindowHint));
+
+    popover.becomeOrdinaryWindow();
+
+    EXPECT_FALSE(popover.view().flags().testFlag(Qt::FramelessWindowHint));
+}
+
+}  // namespace
+}  // namespace fadeloom
