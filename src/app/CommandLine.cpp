@@ -3,10 +3,38 @@
 
 #include "app/PrintableText.h"
 
+#include <algorithm>
+#include <optional>
+#include <utility>
+
 namespace fadeloom {
+
+namespace {
+
+constexpr std::string_view screenshotsArgument = "--render-screenshots";
+
+// The folder, then perhaps a suffix, then perhaps the look. Whatever else is there does not count.
+std::optional<CommandLine> screenshotsIn(std::span<const std::string_view> arguments)
+{
+    const auto found = std::ranges::find(arguments, screenshotsArgument);
+    const auto values = std::span(found, arguments.end());
+    if (values.size() < 2)
+        return std::nullopt;
+    return CommandLine{
+        .action = CommandLine::Action::renderScreenshots,
+        .outputFolder = std::string(values[1]),
+        .languageSuffix = values.size() > 2 ? std::string(values[2]) : "",
+        .isLight = values.size() > 3 && values[3] == "light",
+    };
+}
+
+}  // namespace
 
 std::expected<CommandLine, std::string> parseCommandLine(std::span<const std::string_view> arguments)
 {
+    if (auto screenshots = screenshotsIn(arguments))
+        return std::move(*screenshots);
+
     bool isHeadless = false;
     bool isSimulated = false;
     bool wantsHelp = false;
@@ -20,7 +48,7 @@ std::expected<CommandLine, std::string> parseCommandLine(std::span<const std::st
             wantsHelp = true;
         else if (argument == "--version")
             wantsVersion = true;
-        else
+        else if (argument != screenshotsArgument)  // As the last one it asks for nothing.
             return std::unexpected("unknown argument: " + printable(argument));
     }
 
@@ -28,21 +56,24 @@ std::expected<CommandLine, std::string> parseCommandLine(std::span<const std::st
         return CommandLine{.action = CommandLine::Action::showHelp};
     if (wantsVersion)
         return CommandLine{.action = CommandLine::Action::showVersion};
-    if (!isHeadless)
-        return std::unexpected("--headless is missing: it is the only way to run that this version has");
-    return CommandLine{.action = CommandLine::Action::runHeadless, .isSimulated = isSimulated};
+    return CommandLine{.action = isHeadless ? CommandLine::Action::runHeadless : CommandLine::Action::runTray,
+        .isSimulated = isSimulated};
 }
 
 std::string_view usageText()
 {
-    return "Usage: fadeloom --headless [--simulate]\n"
+    return "Usage: fadeloom [--headless] [--simulate]\n"
+           "       fadeloom --render-screenshots FOLDER [SUFFIX [light]]\n"
            "       fadeloom --help | --version\n"
            "\n"
-           "Gives every application that plays sound its own volume, mute, output and equalizer.\n"
+           "Gives every application that plays sound its own volume, mute, output, equalizer and recorder.\n"
+           "Shows an icon among the status icons of the desktop; a click on it opens the panel.\n"
            "\n"
            "  --headless   run without a window: tell on standard output what happens, take commands on\n"
            "               standard input (\"help\" lists them), end on SIGINT or SIGTERM\n"
-           "  --simulate   with --headless: run on a small world in memory, without any audio system\n"
+           "  --simulate   run on a small world in memory, without any audio system\n"
+           "  --render-screenshots\n"
+           "               draw the panel with fixed contents into picture files, dark or light, and end\n"
            "  --help       show this text\n"
            "  --version    show the version\n";
 }

@@ -10,10 +10,14 @@
 namespace fadeloom {
 
 struct CommandLine {
-    enum class Action { runHeadless, showHelp, showVersion };
+    enum class Action { runTray, runHeadless, renderScreenshots, showHelp, showVersion };
 
-    Action action = Action::runHeadless;
+    Action action = Action::runTray;
     bool isSimulated = false;  // On a world in memory instead of this machine's audio system.
+    // Of `renderScreenshots`.
+    std::string outputFolder{};
+    std::string languageSuffix{};
+    bool isLight = false;
 
     friend bool operator==(const CommandLine&, const CommandLine&) = default;
 };

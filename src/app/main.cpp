@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/CommandLine.h"
 #include "app/HeadlessProgram.h"
+#include "app/ScreenshotProgram.h"
 #include "app/StandardStreams.h"
+#include "app/TrayProgram.h"
 #include "app/Version.h"
 
 #include <iostream>
@@ -24,6 +26,10 @@ int main(int argc, char** argv)
     case CommandLine::Action::showVersion:
         std::cout << "fadeloom " << programVersion() << std::endl;
         return 0;
+    case CommandLine::Action::runTray:
+        return runTray(argc, argv, commandLine->isSimulated);
+    case CommandLine::Action::renderScreenshots:
+        return runScreenshots(argc, argv, *commandLine);
     case CommandLine::Action::runHeadless:
         return runHeadless(argc, argv, commandLine->isSimulated);
     }

@@ -59,10 +59,36 @@ TEST(CommandLine, makesAnUnknownArgumentHarmless)
     EXPECT_EQ(errorOf({"\x1b[2J"}), "unknown argument: \uFFFD[2J");
 }
 
-TEST(CommandLine, needsHeadless)
+TEST(CommandLine, showsItsIconUnlessItIsToldOtherwise)
 {
-    EXPECT_NE(errorOf({}).find("--headless"), std::string::npos);
-    EXPECT_NE(errorOf({"--simulate"}).find("--headless"), std::string::npos);
+    EXPECT_EQ(parse({}), CommandLine{.action = Action::runTray});
+    EXPECT_EQ(parse({"--simulate"}), (CommandLine{.action = Action::runTray, .isSimulated = true}));
+}
+
+TEST(CommandLine, drawsScreenshotsDarkAndWithoutASuffix)
+{
+    EXPECT_EQ(parse({"--render-screenshots", "/pictures"}),
+        (CommandLine{.action = Action::renderScreenshots, .outputFolder = "/pictures"}));
+}
+
+TEST(CommandLine, drawsScreenshotsWithASuffixInEitherLook)
+{
+    const CommandLine light = {.action = Action::renderScreenshots,
+        .outputFolder = "/pictures",
+        .languageSuffix = "de",
+        .isLight = true};
+    EXPECT_EQ(parse({"--render-screenshots", "/pictures", "de", "light"}), light);
+
+    auto dark = light;
+    dark.isLight = false;
+    EXPECT_EQ(parse({"--render-screenshots", "/pictures", "de"}), dark);
+    EXPECT_EQ(parse({"--render-screenshots", "/pictures", "de", "Light"}), dark);
+}
+
+TEST(CommandLine, screenshotsWithoutAFolderAreANormalStart)
+{
+    EXPECT_EQ(parse({"--render-screenshots"}), CommandLine{.action = Action::runTray});
+    EXPECT_EQ(parse({"--headless", "--render-screenshots"})->action, Action::runHeadless);
 }
 
 TEST(CommandLine, usageNamesEveryArgument)

@@ -20,6 +20,7 @@
 namespace fadeloom {
 namespace {
 
+using namespace std::chrono_literals;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -35,7 +36,7 @@ TEST(Program, showsHowItIsUsed)
 {
     RunningProgram program({"--help"});
 
-    EXPECT_THAT(program.restOfOutput(), StartsWith("Usage: fadeloom --headless"));
+    EXPECT_THAT(program.restOfOutput(), StartsWith("Usage: fadeloom [--headless]"));
     EXPECT_EQ(program.exitStatus(), 0);
 }
 
@@ -48,13 +49,53 @@ TEST(Program, refusesAnUnknownArgumentWithStatusTwo)
     EXPECT_EQ(program.restOfOutput(), "");
 }
 
-TEST(Program, refusesToRunWithoutHeadless)
+TEST(Program, saysWhenThereIsNoDisplayForItsPanel)
 {
-    RunningProgram bare({});
-    RunningProgram simulated({"--simulate"});
+    RunningProgram program(
+        {"--simulate"}, {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}, {"QT_QPA_PLATFORM", ""}});
 
-    EXPECT_EQ(bare.exitStatus(), 2);
-    EXPECT_EQ(simulated.exitStatus(), 2);
+    EXPECT_EQ(program.exitStatus(), 1);
+    EXPECT_EQ(program.errorText(),
+        "fadeloom: there is no display to show a panel on; --headless runs without one\n");
+}
+
+TEST(Program, runsItsPanelUntilItIsTold)
+{
+    const TemporaryFolder folder;
+    const TemporaryFolder runtime;
+    RunningProgram program({"--simulate"},
+        {{"QT_QPA_PLATFORM", "offscreen"}, {"TMPDIR", folder.path().string()},
+            {"XDG_RUNTIME_DIR", runtime.path().string()},
+            {"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent"}});
+
+    for (int i = 0; i < 200 && std::filesystem::is_empty(folder.path()); ++i)
+        std::this_thread::sleep_for(50ms);
+    std::this_thread::sleep_for(1s);  // Long enough for a fault in a view.
+    program.signal(SIGTERM);
+
+    EXPECT_EQ(program.exitStatus(), 0);
+    EXPECT_THAT(program.errorText(),
+        HasSubstr("this desktop shows no status icons; the panel is an ordinary window"));
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+}
+
+TEST(Program, drawsItsScreenshotsWithoutADisplay)
+{
+    const TemporaryFolder folder;
+    RunningProgram program({"--render-screenshots", folder.path().string(), "-en", "light"},
+        {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}});
+
+    EXPECT_EQ(program.exitStatus(), 0);
+    for (const auto* const name : {"panel-en.png", "eq-en.png", "settings-en.png"})
+        EXPECT_GT(std::filesystem::file_size(folder.path() / name), 20000) << name;
+}
+
+TEST(Program, endsWellWhenScreenshotsCannotBeWritten)
+{
+    RunningProgram program({"--render-screenshots", "/nonexistent/folder"});
+
+    EXPECT_EQ(program.exitStatus(), 0);
+    EXPECT_THAT(program.restOfOutput(), StartsWith("❌ /nonexistent/folder/panel.png: "));
 }
 
 class SimulatedProgram : public testing::Test {

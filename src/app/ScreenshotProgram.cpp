@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "app/ScreenshotProgram.h"
+
+#include "app/CommandLine.h"
+#include "app/InterfaceLanguage.h"
+#include "app/PanelServices.h"
+#include "app/ScratchFolder.h"
+#include "log/EngineLog.h"
+#include "platform/qt/QtText.h"
+#include "platform/simulated/SimulatedPlatform.h"
+#include "ui/ScreenshotRenderer.h"
+
+#include <QApplication>
+
+#include <iostream>
+
+namespace fadeloom {
+
+int runScreenshots(int argumentCount, char** arguments, const CommandLine& commandLine)
+{
+    ScreenshotRenderer::prepareEnvironment();
+    const QApplication application(argumentCount, arguments);
+    const auto folder = ScratchFolder::create();
+    if (!folder) {
+        std::cerr << "fadeloom: " << folder.error() << '\n';
+        return 1;
+    }
+    // A world of its own: nothing of this machine is to be seen in the pictures.
+    QtText text;
+    SimulatedPlatform world(folder->path(), &text);
+    const auto platform = world.platform();
+    EngineLog engineLog(platform.systemLog, platform.logQueue, folder->path());
+    PanelServices services({.quit = [] {}, .installedName = [](const auto&) { return std::nullopt; }},
+        folder->path() / "preferences.ini");
+    const InterfaceLanguage language("system");
+    ScreenshotRenderer::run(platform, engineLog, services, commandLine.outputFolder,
+        commandLine.languageSuffix, commandLine.isLight ? Theme::light : Theme::dark, std::cout);
+    return 0;
+}
+
+}  // namespace fadeloom
