@@ -6,6 +6,7 @@
 #include "app/PanelServices.h"
 #include "app/ScratchFolder.h"
 #include "log/EngineLog.h"
+#include "platform/linux/XdgFolders.h"
 #include "platform/qt/QtText.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "ui/ScreenshotRenderer.h"
@@ -28,7 +29,10 @@ int runScreenshots(int argumentCount, char** arguments, const CommandLine& comma
     // A world of its own: nothing of this machine is to be seen in the pictures.
     QtText text;
     SimulatedPlatform world(folder->path(), &text);
-    const auto platform = world.platform();
+    const auto own = world.platform();
+    XdgFolders folders;  // The one for recordings is shown, as "~/Music/…".
+    const Platform platform = {own.audio, own.audioFiles, own.workspace, own.capturePermission, own.loginItem,
+        own.mainLoop, own.utilityQueue, own.logQueue, folders, own.systemLog, own.text, own.clock};
     EngineLog engineLog(platform.systemLog, platform.logQueue, folder->path());
     PanelServices services({.quit = [] {}, .installedName = [](const auto&) { return std::nullopt; }},
         folder->path() / "preferences.ini");
