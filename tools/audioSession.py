@@ -12,6 +12,7 @@ import contextlib
 import json
 import os
 import pathlib
+import resource
 import shutil
 import signal
 import subprocess
@@ -36,13 +37,22 @@ def waitUntil(condition, what, seconds=10.0, interval=0.02):
         time.sleep(interval)
 
 
-class AudioSession:
-    """Use as a context manager. `folder` keeps the session's files and logs; it is removed at the end when we made it."""
+def allowRealTime():
+    """Lets this process's audio threads run in real time, as a desktop's RealtimeKit does; where that is not ours to
+    allow, they compete with everything else."""
+    with contextlib.suppress(ValueError, OSError):
+        resource.setrlimit(resource.RLIMIT_RTPRIO, (95, 95))
 
-    def __init__(self, folder=None, defaultSinks=True):
+
+class AudioSession:
+    """Use as a context manager. `folder` keeps the session's files and logs; it is removed at the end when we made it.
+    `serverLog`: what PipeWire logs, in the words of PIPEWIRE_DEBUG."""
+
+    def __init__(self, folder=None, defaultSinks=True, serverLog="2"):
         self.ownsFolder = folder is None
         self.folder = pathlib.Path(folder or tempfile.mkdtemp(prefix="audio-session-"))
         self.defaultSinks = defaultSinks
+        self.serverLog = serverLog
         self.processes = {}
         self.environment = self._makeEnvironment()
         self._keepAwayFromHardware()
@@ -100,7 +110,8 @@ class AudioSession:
             options.setdefault("stderr", log)
         options.setdefault("stdin", subprocess.DEVNULL)
         environment = {**self.environment, **options.pop("environment", {})}
-        process = subprocess.Popen(command, env=environment, start_new_session=True, **options)
+        process = subprocess.Popen(command, env=environment, start_new_session=True, preexec_fn=allowRealTime,
+                                   **options)
         self.processes[name] = process
         return process
 
@@ -137,7 +148,7 @@ class AudioSession:
             self.setDefault("speakers")
 
     def startServer(self):
-        self.spawn("pipewire", ["pipewire"])
+        self.spawn("pipewire", ["pipewire"], environment={"PIPEWIRE_DEBUG": self.serverLog})
         waitUntil(lambda: (self.folder / "run" / "pipewire-0").exists(), "the PipeWire socket")
 
     def startSessionManager(self):
