@@ -2,19 +2,20 @@
 # SPDX-License-Identifier: MIT
 """Many applications at once, each tapped and equalized, in a private audio session.
 
-The device is recorded: all play the same tone in step with the cycles, so one that is missing from a cycle shows as a
-dip of its share. For so many nodes as the server's profiler can tell of (about thirty applications), it says as well
-how often one of ours was late and what our callbacks took of a cycle.
+The server tells in its log of a node that was late for a cycle. The device is recorded as well: all applications play
+the same tone in step with the cycles, so one that is missing from a cycle shows as a dip of its share.
 
     tools/manyApps.py PROGRAM [--apps 64] [--quantum 256] [--seconds 60]
 """
 
 import argparse
+import contextlib
 import os
 import pathlib
 import re
 import shutil
 import sys
+import threading
 import time
 
 import numpy
@@ -25,8 +26,35 @@ import signals  # noqa: E402
 from audioSession import AudioSession, SessionError  # noqa: E402
 from fadeloomProcess import FadeloomProcess, app, settings  # noqa: E402
 
-TONE = 1000
+TONE = 750  # Its period divides every cycle, so that all players are in step whenever each began.
 GAINS = [3.0, 2.0, 1.0, -1.0, -2.0, 2.0, 1.0, 3.0, -3.0, 2.0]
+
+
+class Stalls:
+    """Looks from each processor, in real time above all audio, for how long the machine gave it no time."""
+
+    def __init__(self):
+        self.longest = dict.fromkeys(os.sched_getaffinity(0), 0.0)  # Seconds.
+        self.isEnding = False
+        self.threads = [threading.Thread(target=self._watch, args=(processor,)) for processor in self.longest]
+        for thread in self.threads:
+            thread.start()
+
+    def _watch(self, processor):
+        os.sched_setaffinity(0, {processor})
+        with contextlib.suppress(PermissionError):
+            os.sched_setscheduler(0, os.SCHED_FIFO, os.sched_param(95))
+        while not self.isEnding:
+            before = time.monotonic()
+            time.sleep(0.001)
+            self.longest[processor] = max(self.longest[processor], time.monotonic() - before - 0.001)
+
+    def end(self):
+        """The longest time without the processor that any of them saw, in seconds."""
+        self.isEnding = True
+        for thread in self.threads:
+            thread.join()
+        return max(self.longest.values())
 
 
 def startApps(session, count, seconds):
@@ -42,34 +70,20 @@ def startApps(session, count, seconds):
     return names
 
 
-def profile(session):
-    """What pw-top tells of every node now: name -> (errors, microseconds that it took in a cycle)."""
-    # It draws on a terminal only, so it gets one.
-    tmux = ["tmux", "-S", str(session.folder / "tmux"), "-f", "/dev/null"]
-    session.run(*tmux, "new-session", "-d", "-x", "250", "-y", "400", "pw-top")
-    try:
-        time.sleep(3)
-        text = session.run(*tmux, "capture-pane", "-p")
-    finally:
-        session.run(*tmux, "kill-server", check=False)
-    nodes = {}
-    for line in text.splitlines():
-        # State, id, quantum, rate, waiting, busy, both as shares of the cycle, errors, (format,) name.
-        match = re.match(r"\s*(?:\S\s+)?\d+\s+\d+\s+\d+\s+(\S+)\s+(\S+)\s+\S+\s+\S+\s+(\d+)\s.*?(\S+)\s*$", line)
-        if match:
-            nodes[match[4]] = (int(match[3]), microseconds(match[2]))
-    return nodes
+def lateNodes(session):
+    """The nodes that missed a cycle so far, by name. After one, the server is silent about others for two seconds."""
+    return re.findall(r"\((\S+)-\d+\) client too slow", (session.folder / "pipewire.log").read_text())
 
 
-def microseconds(text):
-    match = re.match(r"([\d.]+)(us|ms|s)?$", text)
-    return float(match[1]) * {"us": 1, "ms": 1000, "s": 1e6, None: 1}[match[2]] if match else 0.0
-
-
-def cpuSeconds(pid):
-    """What a process has taken of the processors so far, in seconds."""
-    fields = pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()
+def cpuSeconds(stat):
+    """What a process or thread has taken of the processors so far, in seconds."""
+    fields = pathlib.Path(stat).read_text().rsplit(")", 1)[1].split()
     return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
+def cpuOfThreads(pid):
+    """The same of each thread of a process, by its id."""
+    return {task.name: cpuSeconds(task / "stat") for task in pathlib.Path(f"/proc/{pid}/task").iterdir()}
 
 
 def measure(session, program, count, quantum, seconds):
@@ -81,36 +95,31 @@ def measure(session, program, count, quantum, seconds):
         for name in names:
             fadeloom.waitFor(f"audio flowing through tap: {name}", seconds=startup + 30)
         time.sleep(2)
-
-        def ours():
-            return {name: node for name, node in profile(session).items() if "com.fadeloom.tap" in name}
-        before = ours()
+        late = len(lateNodes(session))
+        stalls = Stalls()
         recording = session.recordDevice("recording", "speakers")
-        used, started = cpuSeconds(fadeloom.process.pid), time.monotonic()
+        before, started = cpuOfThreads(fadeloom.process.pid), time.monotonic()
         time.sleep(seconds)
         elapsed = time.monotonic() - started
-        used = cpuSeconds(fadeloom.process.pid) - used
+        used = {thread: cpu - before.get(thread, 0) for thread, cpu in cpuOfThreads(fadeloom.process.pid).items()}
         session.endRecording("recording")
-        after = ours()
-        late = sum(after[name][0] - before[name][0] for name in after if name in before)
-        busy = sum(node[1] for node in after.values())
+        stalled = stalls.end()
+        late = lateNodes(session)[late:]
         fadeloom.quit()
 
-    cycle = quantum / signals.RATE * 1e6
-    print(f"{count} applications with ten bands at {quantum} frames a cycle, for {elapsed:.0f} seconds:")
     lost = dips(signals.read(recording)[:, 0], count)
-    print(f"  an application was missing from the device's sound in {lost} stretches of 5 milliseconds")
-    if busy > 0:
-        print(f"  our nodes were late {late} times")
-        print(f"  our callbacks took {busy:.0f} of {cycle:.0f} microseconds of a cycle, {busy / cycle * 100:.1f} %")
-    else:
-        print("  the profiler tells nothing of so many nodes")
-    print(f"  the whole program took {used / elapsed * 100:.1f} % of one processor")
-    return 0 if late == 0 and lost == 0 else 1
+    ours = [name for name in late if "com.fadeloom.tap" in name]
+    print(f"{count} applications with ten bands at {quantum} frames a cycle, for {elapsed:.0f} seconds:")
+    print(f"  nodes of ours that missed a cycle: {len(ours)}; others: {len(late) - len(ours)}")
+    print(f"  a cycle has {quantum / signals.RATE * 1e3:.1f} ms; the machine stood still for {stalled * 1e3:.1f} ms at most")
+    print(f"  an application was missing from the device's sound in {lost} stretches of 256 frames")
+    print(f"  our callbacks, with their waking up, took {max(used.values()) / elapsed * 100:.1f} % of the cycles")
+    print(f"  the whole program took {sum(used.values()) / elapsed * 100:.1f} % of one processor")
+    return 1 if ours else 0  # What is missing without that, a player did not deliver.
 
 
-def dips(recorded, count, window=240):
-    """In how many windows the tone is weaker than usual by a quarter of one application's share."""
+def dips(recorded, count, window=256):
+    """In how many stretches of so many frames the tone is weaker than usual by a quarter of one application's share."""
     sounding = recorded[numpy.flatnonzero(recorded)[0] + signals.RATE // 4:-signals.RATE // 4]
     frames = sounding[:len(sounding) // window * window].reshape(-1, window)
     carrier = numpy.exp(-2j * numpy.pi * TONE * numpy.arange(window) / signals.RATE)
@@ -126,7 +135,7 @@ def main():
     parser.add_argument("--seconds", type=int, default=60)
     arguments = parser.parse_args()
     try:
-        with AudioSession() as session:
+        with AudioSession(serverLog="pw.node:3") as session:
             return measure(session, pathlib.Path(arguments.program).resolve(), arguments.apps, arguments.quantum,
                            arguments.seconds)
     except SessionError as error:
