@@ -92,8 +92,6 @@ long pageFaultsOfThisThread()
 
 TEST(SampleRing, itsMemoryIsThereBeforeTheFirstSample)
 {
-    if (!isGuarding())
-        GTEST_SKIP() << "sanitizers touch memory of their own";
     constexpr std::size_t size = std::size_t{1} << 20;  // 1024 pages of 4096 bytes.
     SampleRing ring{size};
     const std::vector<float> samples(size / 8);
@@ -102,7 +100,8 @@ TEST(SampleRing, itsMemoryIsThereBeforeTheFirstSample)
     for (int i = 0; i < 8; ++i)
         EXPECT_TRUE(ring.push(samples));
 
-    constexpr long ofOthers = 50;  // Code that runs for the first time; what is read of `samples`.
+    // Code that runs for the first time; what is read of `samples`; what a sanitizer remembers of both.
+    const long ofOthers = isGuarding() ? 50 : 400;
     EXPECT_LT(pageFaultsOfThisThread() - before, ofOthers);
 }
 
