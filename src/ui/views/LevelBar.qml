@@ -14,7 +14,7 @@ Rectangle {
     Accessible.ignored: true
 
     Rectangle {
-        visible: bar.level > 0
+        visible: width >= 1  // A level that falls takes seconds to end, long after it can be seen.
         width: bar.width * bar.level
         height: bar.height
         radius: Math.min(width, height) / 2
