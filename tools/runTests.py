@@ -15,7 +15,7 @@ import renderInstructions
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
 SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
-SPECIAL = ("pipewire", "instructions", "sanitizers", "fuzz", "checks")
+SPECIAL = ("pipewire", "desktop", "instructions", "sanitizers", "fuzz", "checks")
 LONG_FORMS = ("engine", "platform/sndfile")  # Folders with test suites that are named LongForm.
 
 
@@ -118,21 +118,26 @@ def runPipeWire(tally):
                      ROOT / "build/test/tests/pipewire" / name, f"--gtest_output=xml:{file}", quiet=True)
         tally.addJUnit(name, file, status)
 
-    # A player that stumbles on a busy machine is not our failure: what failed gets one more attempt, and is named.
+    runPlayers(tally, "pipewire")
+
+
+def runPlayers(tally, suite):
+    """A folder of tests with real players. One that stumbles on a busy machine is not our failure: what failed gets one
+    more attempt, and is named."""
     first = Tally()
-    status = runPyTest(first, "pipewire")
+    status = runPyTest(first, suite, suite)
     if first.failures and status == SOME_FAILED:
         for failure in first.failures:
             print(f"Once more: {failure}", flush=True)
         first.failures = []
-        runPyTest(first, "pipewire-again", "--last-failed")
+        runPyTest(first, suite, f"{suite}-again", "--last-failed")
     tally.addAll(first)
 
 
-def runPyTest(tally, name, *options):
+def runPyTest(tally, suite, name, *options):
     file = results(name)
-    status = run("/usr/bin/python3", "-B", "-m", "pytest", "-q", "-o", f"cache_dir={RESULTS / 'pytest'}",
-                 f"--junitxml={file}", *options, "tests/pipewire",
+    status = run("/usr/bin/python3", "-B", "-m", "pytest", "-q", "-o", f"cache_dir={RESULTS / 'pytest' / suite}",
+                 f"--junitxml={file}", *options, f"tests/{suite}",
                  env={**os.environ, "FADELOOM": str(ROOT / "build/test/fadeloom")})
     tally.addJUnit(name, file, status)
     return status
@@ -224,6 +229,8 @@ def main():
             runLongForms(tally, folders)
     if everything or "pipewire" in arguments.suites:
         runPipeWire(tally)
+    if everything or "desktop" in arguments.suites:
+        runPlayers(tally, "desktop")
     if everything or "instructions" in arguments.suites:
         runInstructions(tally)
     if everything or "checks" in arguments.suites:

@@ -1,0 +1,157 @@
+# SPDX-License-Identifier: MIT
+"""Somebody in front of the private desktop: sees the display, uses mouse and keyboard, or a screen reader."""
+
+import contextlib
+import warnings
+
+import gi
+import numpy
+
+from audioSession import waitUntil
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+warnings.filterwarnings("ignore", category=DeprecationWarning)
+
+EVERYWHERE = (0, 0, 1 << 16, 1 << 16)
+
+
+class Control:
+    """One thing on the screen, as a screen reader has it."""
+
+    def __init__(self, accessible):
+        self.accessible = accessible
+
+    @property
+    def name(self):
+        return self.accessible.get_name()
+
+    @property
+    def description(self):
+        return self.accessible.get_description()
+
+    @property
+    def role(self):
+        return self.accessible.get_role()
+
+    @property
+    def value(self):
+        return self.accessible.get_value_iface().get_current_value()
+
+    @value.setter
+    def value(self, value):
+        self.accessible.get_value_iface().set_current_value(value)
+
+    @property
+    def range(self):
+        values = self.accessible.get_value_iface()
+        return values.get_minimum_value(), values.get_maximum_value()
+
+    def has(self, state):
+        """Whether it is in this state of Atspi.StateType."""
+        return self.accessible.get_state_set().contains(state)
+
+    @property
+    def isShown(self):
+        return self.has(Atspi.StateType.SHOWING)
+
+    @property
+    def place(self):
+        """x, y, width, height on the screen, in pixels."""
+        extents = self.accessible.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+        return extents.x, extents.y, extents.width, extents.height
+
+    @property
+    def middle(self):
+        x, y, width, height = self.place
+        return x + width // 2, y + height // 2
+
+    def do(self, action="Press"):
+        actions = self.accessible.get_action_iface()
+        names = [actions.get_action_name(i) for i in range(actions.get_n_actions())]
+        assert actions.do_action(names.index(action))
+
+    def press(self):
+        self.do("Press")
+
+
+class Person:
+    """Looks at the panel of the program that runs in `session`."""
+
+    def __init__(self, session):
+        self.session = session
+
+    # What can be seen
+
+    def controls(self, showing=True):
+        """Everything of the panel in its order, as a screen reader meets it."""
+        found = []
+        with contextlib.suppress(GLib.Error):  # The program has ended, or its views have changed meanwhile.
+            desktop = Atspi.get_desktop(0)
+            desktop.clear_cache()
+            for i in range(desktop.get_child_count()):
+                program = desktop.get_child_at_index(i)
+                if program is not None and program.get_name() == "fadeloom":
+                    program.clear_cache()
+                    self._collect(program, found)
+        return [control for control in found if control.isShown or not showing]
+
+    def _collect(self, accessible, found):
+        for i in range(accessible.get_child_count()):
+            child = accessible.get_child_at_index(i)
+            if child is not None:
+                found.append(Control(child))
+                self._collect(child, found)
+
+    def find(self, name, role=None, seconds=5.0):
+        """The control of this name; waits until it is shown."""
+        return waitUntil(lambda: self.look(name, role), f"{name} on the panel", seconds)
+
+    def look(self, name, role=None):
+        """The control of this name that is shown now, or None."""
+        return next((control for control in self.controls()
+                     if control.name == name and (role is None or control.role == role)), None)
+
+    def reads(self, text):
+        """Whether this text stands somewhere on the panel."""
+        return self.look(text) is not None
+
+    def waitForText(self, text, seconds=5.0):
+        waitUntil(lambda: self.reads(text), f"“{text}” on the panel", seconds)
+
+    def focused(self):
+        """The control with the keyboard, or None."""
+        return next((control for control in self.controls() if control.has(Atspi.StateType.FOCUSED)), None)
+
+    # Hands
+
+    def click(self, control, button=1):
+        self.session.click(*control.middle, button)
+
+    def choose(self, menu, entry):
+        """Opens a menu by its button and clicks an entry."""
+        self.click(self.find(menu))
+        self.click(self.find(entry, Atspi.Role.MENU_ITEM))
+
+    def drag(self, start, end):
+        """With the left button, by the way."""
+        run = self.session.run
+        run("xdotool", "mousemove", str(start[0]), str(start[1]), "mousedown", "1")
+        for step in range(1, 6):
+            x, y = (round(a + (b - a) * step / 5) for a, b in zip(start, end))
+            run("xdotool", "mousemove", str(x), str(y))
+        run("xdotool", "mouseup", "1")
+
+    # The icon
+
+    def iconAppears(self, before, within=EVERYWHERE, seconds=8.0):
+        """Waits for something new on the screen that was `before`; returns its middle."""
+        x, y, width, height = within
+
+        def search():
+            changed = numpy.abs(self.session.pixels() - before).sum(axis=2) > 60
+            rows, columns = changed[y:y + height, x:x + width].nonzero()
+            return (int(columns.min() + columns.max()) // 2 + x, int(rows.min() + rows.max()) // 2 + y) \
+                if len(rows) > 20 else None
+        return waitUntil(search, "the icon", seconds)

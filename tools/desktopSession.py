@@ -1,0 +1,143 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""A private desktop around a private audio session: an X server that nobody sees, a window manager, a tray.
+
+    tools/desktopSession.py run -- COMMAND ...      runs one command on such a desktop
+"""
+
+import contextlib
+import os
+import pathlib
+import subprocess
+import sys
+
+from audioSession import AudioSession, waitUntil
+
+SIZE = (1280, 800)
+WATCHER = "org.kde.StatusNotifierWatcher"
+
+# A bar along the top edge whose right end shows the status icons.
+XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
+<channel name="xfce4-panel" version="1.0">
+  <property name="configver" type="int" value="2"/>
+  <property name="panels" type="array">
+    <value type="int" value="1"/>
+    <property name="panel-1" type="empty">
+      <property name="position" type="string" value="p=6;x=0;y=0"/>
+      <property name="length" type="uint" value="100"/>
+      <property name="position-locked" type="bool" value="true"/>
+      <property name="size" type="uint" value="28"/>
+      <property name="plugin-ids" type="array">
+        <value type="int" value="1"/>
+        <value type="int" value="2"/>
+      </property>
+    </property>
+  </property>
+  <property name="plugins" type="empty">
+    <property name="plugin-1" type="string" value="separator">
+      <property name="expand" type="bool" value="true"/>
+      <property name="style" type="uint" value="0"/>
+    </property>
+    <property name="plugin-2" type="string" value="systray"/>
+  </property>
+</channel>
+"""
+
+
+class DesktopSession(AudioSession):
+    """Use as a context manager."""
+
+    def start(self):
+        self._startDisplay()
+        super().start()  # Services that the message bus starts see the display.
+        self.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        self.environment["LANG"] = "C.UTF-8"
+        self._startAccessibility()
+        self.spawn("openbox", ["openbox", "--sm-disable"])
+
+    def _startDisplay(self):
+        read, write = os.pipe()
+        self.spawn("Xvfb", ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{SIZE[0]}x{SIZE[1]}x24", "-nolisten", "tcp"],
+                   pass_fds=(write,))
+        os.close(write)
+        with os.fdopen(read) as number:
+            self.environment["DISPLAY"] = ":" + number.readline().strip()
+
+    def _startAccessibility(self):
+        """Before any program: one that comes first would not see it."""
+        launcher = next(path for folder in ("/usr/libexec", "/usr/lib/at-spi2-core")
+                        if (path := pathlib.Path(folder) / "at-spi-bus-launcher").exists())
+        self.spawn("at-spi", [str(launcher), "--launch-immediately"])
+        waitUntil(lambda: self.ownsName("org.a11y.Bus"), "the accessibility bus")
+
+    def ownsName(self, name):
+        """Whether somebody on the message bus has this name."""
+        answer = self.run("dbus-send", "--session", "--print-reply=literal", "--dest=org.freedesktop.DBus",
+                          "/org/freedesktop/DBus", "org.freedesktop.DBus.NameHasOwner", f"string:{name}", check=False)
+        return "true" in answer
+
+    # Trays
+
+    def startXfcePanel(self):
+        """A tray over the message bus."""
+        folder = pathlib.Path(self.environment["XDG_CONFIG_HOME"]) / "xfce4" / "xfconf" / "xfce-perchannel-xml"
+        folder.mkdir(parents=True, exist_ok=True)
+        (folder / "xfce4-panel.xml").write_text(XFCE_PANEL)
+        self.spawn("tray", ["xfce4-panel", "--disable-wm-check"])
+        waitUntil(lambda: self.ownsName(WATCHER), "the tray")
+
+    def startTrayer(self):
+        """A tray of the older kind: icons are windows in it."""
+        self.spawn("tray", ["trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24"])
+        waitUntil(lambda: self.windows("^panel$|^trayer$"), "the tray")
+
+    def endTray(self):
+        self.end("tray")
+        waitUntil(lambda: not self.ownsName(WATCHER), "the tray to go")
+
+    # Looking and pointing
+
+    def windows(self, name):
+        """The ids of the visible windows whose name matches."""
+        return self.run("xdotool", "search", "--onlyvisible", "--name", name, check=False).split()
+
+    def geometry(self, window):
+        """Of a window: x, y, width, height in pixels."""
+        text = self.run("xdotool", "getwindowgeometry", "--shell", window)
+        values = dict(line.split("=") for line in text.split())
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def click(self, x, y, button=1, key=None):
+        """Clicks there, with `key` held."""
+        self.run("xdotool", "mousemove", str(x), str(y))
+        held = ["keydown", key] if key else []
+        released = ["keyup", key] if key else []
+        self.run("xdotool", *held, "click", str(button), *released)
+
+    def press(self, *keys):
+        self.run("xdotool", "key", *keys)
+
+    def screenshot(self, file, area=None):
+        """Saves what the display shows as PNG; of it only `area`: x, y, width, height."""
+        crop = ["-crop", "{2}x{3}+{0}+{1}".format(*area), "+repage"] if area else []
+        self.run("import", "-window", "root", *crop, str(file))
+
+    def pixels(self):
+        """What the display shows, as rows of red, green and blue."""
+        import numpy  # The session itself does without it.
+        done = subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"], env=self.environment,
+                              capture_output=True, timeout=20, check=True)
+        return numpy.frombuffer(done.stdout, numpy.uint8).reshape(SIZE[1], SIZE[0], 3).astype(int)
+
+
+def main(arguments):
+    if len(arguments) < 3 or arguments[0] != "run" or arguments[1] != "--":
+        print(__doc__, file=sys.stderr)
+        return 2
+    with contextlib.suppress(KeyboardInterrupt), DesktopSession() as session:
+        session.startXfcePanel()
+        return subprocess.run(arguments[2:], env={**os.environ, **session.environment}).returncode
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
