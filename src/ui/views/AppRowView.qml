@@ -108,7 +108,7 @@ Item {
             from: 0
             to: view.row ? view.row.volumeLimit : 1
             boostFrom: 1
-            stepSize: 0.01
+            stepSize: 0.05  // A smaller one would never leave the snap at 100 %.
             modelValue: view.row ? view.row.volume : 0
             isMuted: view.row ? view.row.isMuted : false
             Accessible.name: view.row ? qsTr("%1 volume").arg(view.row.name) : ""
