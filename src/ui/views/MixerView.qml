@@ -57,13 +57,11 @@ Column {
         visible: mixer.isEmpty
         width: parent.width
     }
-    Flickable {
+    ScrollArea {
         visible: !mixer.isEmpty
         width: parent.width
         height: Math.min(contentHeight, 460)
         contentHeight: list.implicitHeight + 20
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
 
         Column {
             id: list

@@ -3,7 +3,7 @@
 import QtQuick
 import Fadeloom
 
-Flickable {
+ScrollArea {
     id: view
 
     property PanelModel panel
@@ -12,8 +12,6 @@ Flickable {
 
     implicitHeight: Math.min(contentHeight, limit)
     contentHeight: column.implicitHeight
-    clip: true
-    boundsBehavior: Flickable.StopAtBounds
 
     Column {
         id: column
