@@ -33,6 +33,8 @@ T.Popup {
     modal: false
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    onCurrentChanged: focusCurrent()
+    onOpened: focusCurrent()
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.menuIn }
     }
@@ -75,8 +77,17 @@ T.Popup {
         current = next
         showCurrent()
     }
+    function lineAt(index) {
+        return index < 0 ? null : index < entries.length ? lines.itemAt(index) : pinnedLines.itemAt(index - entries.length)
+    }
+    // The entry has the keyboard, so that a screen reader speaks of it.
+    function focusCurrent() {
+        const line = lineAt(current)
+        if (opened && line)
+            line.forceActiveFocus()
+    }
     function showCurrent() {
-        const line = current >= 0 && current < entries.length ? lines.itemAt(current) : null
+        const line = current < entries.length ? lineAt(current) : null
         if (line)
             list.contentY = Math.max(0, Math.min(Math.max(0, list.contentHeight - list.height),
                 Math.max(line.y + line.height - list.height, Math.min(list.contentY, line.y))))
