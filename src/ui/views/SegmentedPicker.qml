@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // One of a few, all of them seen.
 import QtQuick
+import QtQuick.Templates as T
 import Fadeloom
 
 Rectangle {
@@ -22,7 +23,7 @@ Rectangle {
         y: 2
         Repeater {
             model: picker.choices
-            Pressable {
+            T.RadioButton {
                 id: segment
                 required property int index
                 required property string modelData
@@ -31,9 +32,15 @@ Rectangle {
                 text: modelData
                 implicitWidth: Math.ceil(words.implicitWidth) + 24
                 implicitHeight: 20
-                Accessible.role: Accessible.RadioButton
-                Accessible.checkable: true
-                Accessible.checked: isCurrent
+                hoverEnabled: true
+                focusPolicy: Qt.StrongFocus
+                checked: isCurrent
+                Accessible.name: text
+                Accessible.onPressAction: picker.asked(index)
+                Accessible.onToggleAction: picker.asked(index)
+                Keys.onReturnPressed: picker.asked(index)
+                Keys.onLeftPressed: if (index > 0) picker.asked(index - 1)
+                Keys.onRightPressed: if (index + 1 < picker.choices.length) picker.asked(index + 1)
                 onClicked: picker.asked(index)
 
                 background: Rectangle {
