@@ -136,7 +136,7 @@ def runPlayers(tally, suite):
 
 def runPyTest(tally, suite, name, *options):
     file = results(name)
-    status = run("/usr/bin/python3", "-B", "-m", "pytest", "-q", "-o", f"cache_dir={RESULTS / 'pytest' / suite}",
+    status = run("/usr/bin/python3", "-B", "-m", "pytest", "-q", "-W", "ignore::DeprecationWarning", "-o", f"cache_dir={RESULTS / 'pytest' / suite}",
                  f"--junitxml={file}", *options, f"tests/{suite}",
                  env={**os.environ, "FADELOOM": str(ROOT / "build/test/fadeloom")})
     tally.addJUnit(name, file, status)

@@ -33,6 +33,7 @@ class Desk:
         self.person = Person(session)
         self.icon = None
         self.count = 0
+        self.players = []
 
     # The program
 
@@ -84,6 +85,13 @@ class Desk:
     def waitUntilClosed(self):
         waitUntil(lambda: self.panel() is None, "the panel to close")
 
+    def clean(self):
+        """Ends what the test has started."""
+        self.end()
+        for name in self.players:
+            if name in self.session.processes:
+                self.session.end(name)
+
     # Players
 
     def play(self, name="Player", samples=None, frequency=1000):
@@ -94,6 +102,7 @@ class Desk:
         copy = self.session.folder / name
         if not copy.exists():
             shutil.copy(shutil.which("pw-cat"), copy)
+        self.players.append(name)
         self.session.spawn(name, [str(copy), "--playback", str(file)])
 
     def level(self, frequency=1000, device="speakers", seconds=0.6):
@@ -126,33 +135,37 @@ def desktop():
         yield session
 
 
-@pytest.fixture(scope="session")
-def xfceDesktop(desktop):
-    desktop.startXfcePanel()
-    yield desktop
-    desktop.endTray()
-
-
-def clean(desk, session):
-    desk.end()
-    for name in [name for name in session.processes if (session.folder / name).exists() or name.startswith("player")]:
-        session.end(name)
-
-
-@pytest.fixture
-def bareDesk(desktop):
-    """Without a tray."""
-    desk = Desk(desktop)
-    yield desk
-    clean(desk, desktop)
+def use(session, tray):
+    """Has this kind of tray, or none, on the desktop."""
+    if getattr(session, "tray", None) == tray:
+        return
+    if getattr(session, "tray", None):
+        session.endTray()
+    session.tray = tray
+    if tray == "xfce4-panel":
+        session.startXfcePanel()
+    elif tray == "trayer":
+        session.startTrayer()
 
 
 @pytest.fixture
-def desk(xfceDesktop):
+def makeDesk(desktop):
+    """Makes a desk with the tray of this name; without one, for None."""
+    desks = []
+
+    def make(tray):
+        use(desktop, tray)
+        desks.append(Desk(desktop))
+        return desks[-1]
+    yield make
+    for desk in desks:
+        desk.clean()
+
+
+@pytest.fixture
+def desk(makeDesk):
     """With a tray over the message bus."""
-    desk = Desk(xfceDesktop)
-    yield desk
-    clean(desk, xfceDesktop)
+    return makeDesk("xfce4-panel")
 
 
 @pytest.fixture

@@ -2,7 +2,6 @@
 """Somebody in front of the private desktop: sees the display, uses mouse and keyboard, or a screen reader."""
 
 import contextlib
-import warnings
 
 import gi
 import numpy
@@ -11,8 +10,6 @@ from audioSession import waitUntil
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
-
-warnings.filterwarnings("ignore", category=DeprecationWarning)
 
 EVERYWHERE = (0, 0, 1 << 16, 1 << 16)
 
@@ -121,8 +118,9 @@ class Person:
         waitUntil(lambda: self.reads(text), f"“{text}” on the panel", seconds)
 
     def focused(self):
-        """The control with the keyboard, or None."""
-        return next((control for control in self.controls() if control.has(Atspi.StateType.FOCUSED)), None)
+        """The control with the keyboard, or None; of those that hold each other, the innermost."""
+        focused = [control for control in self.controls() if control.has(Atspi.StateType.FOCUSED)]
+        return focused[-1] if focused else None
 
     # Hands
 

@@ -1,0 +1,207 @@
+# SPDX-License-Identifier: MIT
+"""The icon, its menu, and how the panel comes and goes; with each kind of tray, and with none."""
+
+import time
+
+import dbus
+
+from audioSession import waitUntil
+from conftest import use
+from desktopSession import SIZE
+from fadeloomProcess import app, settings
+from person import Atspi
+
+MENU = ["About Fadeloom", "Open Mixer", "Settings…", "Launch at Login", "Quit Fadeloom"]
+
+
+class BusMenu:
+    """The icon's menu as the desktop's panel gets it over the message bus."""
+
+    def __init__(self, session):
+        bus = dbus.bus.BusConnection(session.environment["DBUS_SESSION_BUS_ADDRESS"])
+        watcher = bus.get_object("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher")
+        items = watcher.Get("org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems",
+                            dbus_interface="org.freedesktop.DBus.Properties")
+        name, _, path = next(item for item in items if "StatusNotifierItem" in item).partition("/")
+        self.item = bus.get_object(name, "/" + path)
+        menu = self.property("Menu")
+        self.menu = dbus.Interface(bus.get_object(name, menu), "com.canonical.dbusmenu")
+
+    def property(self, name):
+        return self.item.Get("org.kde.StatusNotifierItem", name, dbus_interface="org.freedesktop.DBus.Properties")
+
+    def entries(self):
+        """What is in it now: label -> (id, is checked)."""
+        self.menu.AboutToShow(0)
+        time.sleep(0.2)
+        _, (_, _, children) = self.menu.GetLayout(0, -1, [])
+        return {str(properties["label"]).replace("_", ""): (int(number), bool(properties.get("toggle-state", 0)))
+                for number, properties, _ in children if "label" in properties}
+
+    def choose(self, label):
+        self.menu.Event(self.entries()[label][0], "clicked", "", 0)
+
+
+def isBelow(panel, icon):
+    x, y, width, height = panel
+    return 0 <= y - icon[1] < 60 and x - 40 <= icon[0] <= x + width + 40 and x + width <= SIZE[0]
+
+
+def outside(desk):
+    """A place on the desktop where nothing is."""
+    desk.session.click(200, 600)
+
+
+def test_theIconAppearsAndAClickOpensThePanelBesideIt(desk):
+    desk.start()
+    assert desk.panel() is None
+
+    panel = desk.open()
+
+    assert panel[2] == 380
+    assert isBelow(panel, desk.icon)
+    assert desk.person.reads("Nothing is playing")
+
+
+def test_escapeClosesAndSoDoesASecondClickAndAClickOutside(desk):
+    desk.start()
+
+    desk.open()
+    desk.session.press("Escape")
+    desk.waitUntilClosed()
+
+    desk.open()
+    desk.session.click(*desk.icon)
+    desk.waitUntilClosed()
+    time.sleep(0.5)
+    assert desk.panel() is None, "the click that closed it did not open it again"
+
+    desk.open()
+    outside(desk)
+    desk.waitUntilClosed()
+
+
+def test_aMenuThatIsOpenTakesTheFirstEscape(openDesk):
+    person = openDesk.person
+    person.click(person.find("Output, Speakers"))
+    person.find("Headphones", Atspi.Role.MENU_ITEM)
+
+    openDesk.session.press("Escape")
+
+    waitUntil(lambda: person.look("Headphones", Atspi.Role.MENU_ITEM) is None, "the menu to close")
+    assert openDesk.panel() is not None
+    openDesk.session.press("Escape")
+    openDesk.waitUntilClosed()
+
+
+def test_theMenuHasItsEntriesAndItsCheckMark(desk):
+    desk.start()
+    menu = BusMenu(desk.session)
+    assert menu.property("Title") == "Fadeloom" or menu.property("Id") == "fadeloom"
+    assert list(menu.entries()) == MENU
+    assert not menu.entries()["Launch at Login"][1]
+
+    menu.choose("Launch at Login")
+
+    entry = desk.session.folder / "config" / "autostart" / "com.fadeloom.app.desktop"
+    waitUntil(entry.exists, "the login entry")
+    assert menu.entries()["Launch at Login"][1]
+    menu.choose("Launch at Login")
+    waitUntil(lambda: not entry.exists(), "the login entry to go")
+
+
+def test_aRightClickShowsTheMenuAndClosesThePanel(desk):
+    desk.start()
+    desk.open()
+
+    before = desk.session.pixels()
+    desk.session.click(*desk.icon, button=3)
+
+    desk.waitUntilClosed()
+    # The tray draws the menu: its lines are dark words on a light sheet below the icon.
+    waitUntil(lambda: abs(desk.session.pixels() - before)[30:160, SIZE[0] - 200:].sum() > 100_000, "the menu")
+    desk.session.press("Escape")
+
+
+def test_settingsOpenOnTheirPageFromTheMenu(desk):
+    desk.start()
+    menu = BusMenu(desk.session)
+
+    menu.choose("Settings…")
+    waitUntil(desk.panel, "the panel")
+    desk.person.waitForText("Focus Mode")
+
+    menu.choose("Open Mixer")
+    desk.person.waitForText("Nothing is playing")
+
+
+def test_quittingFromTheMenuLeavesThePlayersAudible(desk):
+    desk.play()
+    desk.start(settings({"Player": app(volume=0.25)}))
+    desk.waitForLevel(0.05)
+
+    BusMenu(desk.session).choose("Quit Fadeloom")
+
+    waitUntil(lambda: not desk.isRunning(), "the end")
+    assert desk.session.processes.pop("fadeloom").wait() == 0
+    desk.waitForLevel(0.2)
+
+
+def hasIcon(session):
+    """Whether the tray has our icon, over the message bus."""
+    try:
+        return BusMenu(session).property("Status") == "Active"
+    except (dbus.DBusException, StopIteration):  # No tray yet, or no icon in it.
+        return False
+
+
+def test_theIconComesBackWithATrayThatRestarts(desk):
+    desk.start()
+    desk.session.endTray()
+
+    desk.session.startXfcePanel()
+
+    waitUntil(lambda: hasIcon(desk.session), "the icon")
+    time.sleep(0.5)  # The tray draws it where it was.
+    assert isBelow(desk.open(), desk.icon)
+
+
+def test_anIconOfTheOlderKindOpensThePanelAndTheMenu(makeDesk):
+    desk = makeDesk("trayer")
+    desk.start()
+
+    assert isBelow(desk.open(), desk.icon)
+    time.sleep(0.5)  # Sooner, it would be a double click.
+    desk.session.click(*desk.icon)
+    desk.waitUntilClosed()
+    time.sleep(0.5)
+
+    before = desk.session.pixels()
+    desk.session.click(*desk.icon, key="ctrl")
+    waitUntil(lambda: abs(desk.session.pixels() - before)[20:160].sum() > 100_000, "the menu")
+    assert desk.panel() is None
+    desk.session.press("Escape")
+
+
+def test_withoutATrayThePanelIsAnOrdinaryWindow(makeDesk):
+    desk = makeDesk(None)
+    desk.start(waitForIcon=False)
+
+    panel = waitUntil(desk.panel, "the panel", 12)
+
+    assert "this desktop shows no status icons; the panel is an ordinary window" in desk.said()
+    assert panel[0] > 0
+    outside(desk)
+    time.sleep(0.3)
+    assert desk.panel() is not None, "an ordinary window stays"
+
+
+def test_aTrayThatComesLaterGetsTheIcon(makeDesk):
+    desk = makeDesk(None)
+    desk.start(waitForIcon=False)
+    time.sleep(1)
+
+    use(desk.session, "xfce4-panel")
+
+    waitUntil(lambda: hasIcon(desk.session), "the icon")
+    assert desk.panel() is None
