@@ -3,14 +3,17 @@
 """Makes resources/fonts from Inter: needs the Debian packages fonts-inter and python3-fonttools.
 
 The panel's digits have a fixed width, and Qt before 6.7 cannot ask a font for its tabular figures; so the default
-digits are the tabular ones here. Only the scripts of the interface are kept: other names use the system's fonts. The
-family has a name of its own, so that it is never mixed up with an installed Inter.
+digits are the tabular ones here. Outlines are made quadratic: Qt has FreeType thicken the stems of cubic ones, which made
+every weight look like the next. Only the scripts of the interface are kept: other names use the system's fonts. The family
+has a name of its own, so that it is never mixed up with an installed Inter.
 """
 
 import pathlib
 
 from fontTools import subset
-from fontTools.ttLib import TTFont
+from fontTools.pens.cu2quPen import Cu2QuPen
+from fontTools.pens.ttGlyphPen import TTGlyphPen
+from fontTools.ttLib import TTFont, newTable
 
 SOURCE = pathlib.Path("/usr/share/fonts/opentype/inter")
 TARGET = pathlib.Path(__file__).resolve().parent.parent / "resources" / "fonts"
@@ -30,6 +33,31 @@ def tabular(font):
                 for part in table.LookupList.Lookup[index].SubTable:
                     found.update(getattr(part, "mapping", None) or part.ExtSubTable.mapping)
     return found
+
+
+def makeQuadratic(font):
+    """Replaces the cubic outlines by quadratic ones that are nowhere further off than half a unit."""
+    glyphs = font.getGlyphSet()
+    outlines = {}
+    for name in font.getGlyphOrder():
+        pen = TTGlyphPen(glyphs)
+        glyphs[name].draw(Cu2QuPen(pen, max_err=0.5, reverse_direction=True))
+        outlines[name] = pen.glyph()
+    for table in {"CFF ", "VORG"} & set(font.keys()):
+        del font[table]
+    font["loca"] = newTable("loca")
+    font["glyf"] = newTable("glyf")
+    font["glyf"].glyphOrder = font.getGlyphOrder()
+    font["glyf"].glyphs = outlines
+    font.sfntVersion = "\000\001\000\000"
+    maximum = font["maxp"]
+    maximum.tableVersion = 0x00010000
+    for field in ("maxTwilightPoints", "maxStorage", "maxFunctionDefs", "maxInstructionDefs", "maxStackElements",
+                  "maxSizeOfInstructions", "maxComponentElements", "maxPoints", "maxContours", "maxCompositePoints",
+                  "maxCompositeContours", "maxComponentDepth"):
+        setattr(maximum, field, 0)
+    maximum.maxZones = 1
+    font["post"].formatType = 3.0
 
 
 def make(style):
@@ -52,7 +80,8 @@ def make(style):
     subsetter = subset.Subsetter(options)
     subsetter.populate(unicodes=CHARACTERS)
     subsetter.subset(font)
-    font.save(TARGET / f"FadeloomInter-{style}.otf")
+    makeQuadratic(font)
+    font.save(TARGET / f"FadeloomInter-{style}.ttf")
 
 
 for name in STYLES:

@@ -24,7 +24,7 @@ void addFonts()
     static const bool isDone = [] {
         for (const auto* const style : {"Regular", "Medium", "SemiBold"})
             QFontDatabase::addApplicationFont(
-                QStringLiteral(":/fonts/FadeloomInter-%1.otf").arg(QLatin1String(style)));
+                QStringLiteral(":/fonts/FadeloomInter-%1.ttf").arg(QLatin1String(style)));
         return true;
     }();
     static_cast<void>(isDone);
