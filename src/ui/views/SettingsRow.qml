@@ -20,14 +20,14 @@ Column {
 
         Label {
             id: words
-            y: Math.max(0, (Math.max(20, side.height) - 16) / 2)
+            y: (parent.height - height) / 2
             width: parent.width - side.width - 12
             wrapMode: Text.Wrap
             text: settingsRow.title
         }
         Row {
             id: side
-            y: Math.max(0, (20 - height) / 2)
+            y: (parent.height - height) / 2
             anchors.right: parent.right
             spacing: 8
         }
