@@ -23,6 +23,11 @@ using namespace fadeloom;
 
 namespace {
 
+std::string recordingsFolder()
+{
+    return QDir::home().filePath("Music/Fadeloom Recordings").toStdString();
+}
+
 // A controller that lives: what cannot be given as fixed contents has to happen.
 struct LivePanel {
     explicit LivePanel(Theme theme)
@@ -39,6 +44,7 @@ struct LivePanel {
             settings.appearance.theme = theme_;
             settings.appearance.animations = false;
             settings.focus.callApps = {"com.example.phone"};
+            settings.recordingsFolder = recordingsFolder();
         });
     }
     ProcessID play(const std::string& name)
@@ -113,6 +119,7 @@ void draw(const Scene& scene, Theme theme, const QString& folder, const QString&
 {
     auto contents = demoContents(theme);
     contents.settings.appearance.animations = false;
+    contents.settings.recordingsFolder = recordingsFolder();
     scene.contents(contents);
     DemoPanel demo(contents);
     scene.events(demo);
