@@ -144,12 +144,14 @@ class Person:
     # The icon
 
     def iconAppears(self, before, within=EVERYWHERE, seconds=8.0):
-        """Waits for something new on the screen that was `before`; returns its middle."""
+        """Waits for something new on the screen that was `before`, and until it is drawn; returns its middle."""
         x, y, width, height = within
+        seen = []
 
         def search():
             changed = numpy.abs(self.session.pixels() - before).sum(axis=2) > 60
             rows, columns = changed[y:y + height, x:x + width].nonzero()
-            return (int(columns.min() + columns.max()) // 2 + x, int(rows.min() + rows.max()) // 2 + y) \
-                if len(rows) > 20 else None
-        return waitUntil(search, "the icon", seconds)
+            seen.append((int(columns.min() + columns.max()) // 2 + x, int(rows.min() + rows.max()) // 2 + y)
+                        if len(rows) > 20 else None)
+            return seen[-1] if len(seen) > 1 and seen[-1] == seen[-2] else None
+        return waitUntil(search, "the icon", seconds, 0.2)

@@ -205,3 +205,30 @@ def test_aTrayThatComesLaterGetsTheIcon(makeDesk):
 
     waitUntil(lambda: hasIcon(desk.session), "the icon")
     assert desk.panel() is None
+
+
+def cornerShowsTheDesktop(desk):
+    """Whether the panel's upper left corner looks like what is beside the panel."""
+    x, y, _, _ = desk.panel()
+    pixels = desk.session.pixels()
+    return abs(pixels[y + 1, x + 1] - pixels[y + 1, x - 3]).max() < 8
+
+
+def test_withoutACompositorThePanelHasItsCorners(desk):
+    desk.start()
+    desk.open()
+
+    x, y, _, _ = desk.panel()
+    waitUntil(lambda: desk.session.pixels()[y + 1, x + 1].min() > 150, "a corner as light as the panel")
+
+
+def test_withACompositorTheyAreRound(desk):
+    desk.session.spawn("picom", ["picom", "--backend", "xrender", "--config", "/dev/null"])
+    try:
+        time.sleep(1)  # It says nowhere when it is ready.
+        desk.start()
+        desk.open()
+
+        waitUntil(lambda: cornerShowsTheDesktop(desk), "a corner like the desktop")
+    finally:
+        desk.session.end("picom")

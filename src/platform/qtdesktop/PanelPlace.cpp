@@ -6,11 +6,9 @@
 namespace fadeloom {
 namespace {
 
-constexpr int gap = 6;  // To the icon, and to the edges of the screen.
-
 int inside(int wanted, int size, int first, int length)
 {
-    return std::max(first + gap, std::min(wanted, first + length - size - gap));
+    return std::max(first + panelGap, std::min(wanted, first + length - size - panelGap));
 }
 
 }  // namespace
@@ -22,7 +20,7 @@ QPoint panelPlace(const QRect& anchor, QSize panel, const QRect& screen)
             inside(screen.top(), panel.height(), screen.top(), screen.height())};
     const bool isInUpperHalf = anchor.center().y() < screen.center().y();
     const int x = anchor.center().x() - panel.width() / 2;
-    const int y = isInUpperHalf ? anchor.bottom() + 1 + gap : anchor.top() - gap - panel.height();
+    const int y = isInUpperHalf ? anchor.bottom() + 1 + panelGap : anchor.top() - panelGap - panel.height();
     return {inside(x, panel.width(), screen.left(), screen.width()),
         inside(y, panel.height(), screen.top(), screen.height())};
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qtdesktop/QtPopover.h"
 
+#include "platform/qtdesktop/Compositing.h"
 #include "platform/qtdesktop/PanelPlace.h"
 
 #include <QCursor>
@@ -13,6 +14,16 @@
 #include <utility>
 
 namespace fadeloom {
+
+namespace {
+
+const QScreen& screenAt(const QRect& anchor)
+{
+    const auto* const screen = anchor.isNull() ? nullptr : QGuiApplication::screenAt(anchor.center());
+    return screen == nullptr ? *QGuiApplication::primaryScreen() : *screen;
+}
+
+}  // namespace
 
 /// Escape closes it when nothing inside has a use for the key.
 class QtPopover::View final : public QQuickView {
@@ -81,6 +92,7 @@ void QtPopover::show()
     if (!std::exchange(isOpen_, true))
         willShow_();
     wasActive_ = false;
+    fitContent();
     putInPlace();
     view_->show();
     view_->raise();
@@ -97,15 +109,24 @@ bool QtPopover::isShown() const
     return isOpen_ || (sinceFocusLoss_.isValid() && !sinceFocusLoss_.hasExpired(clickTime));
 }
 
+void QtPopover::fitContent()
+{
+    auto* const content = view_->rootObject();
+    if (content == nullptr)
+        return;
+    // Without a compositor what is transparent would be black.
+    const bool isMixed = !isOrdinary_ && isComposited();
+    content->setProperty("hasRoundCorners", isMixed);
+    content->setProperty("isTranslucent", isMixed);
+    content->setProperty("availableHeight", screenAt(place_()).availableGeometry().height() - 2 * panelGap);
+}
+
 void QtPopover::putInPlace()
 {
     if (isOrdinary_)
         return;
     const QRect anchor = place_();
-    const QScreen* screen = anchor.isNull() ? nullptr : QGuiApplication::screenAt(anchor.center());
-    if (screen == nullptr)
-        screen = QGuiApplication::primaryScreen();
-    view_->setPosition(panelPlace(anchor, view_->size(), screen->availableGeometry()));
+    view_->setPosition(panelPlace(anchor, view_->size(), screenAt(anchor).availableGeometry()));
 }
 
 void QtPopover::activeChanged()

@@ -26,7 +26,8 @@ public:
     QtPopover& operator=(const QtPopover&) = delete;
     ~QtPopover() override;
 
-    /// What is shown from now on; its implicit size is the window's.
+    /// What is shown from now on; its implicit size is the window's. Its properties `availableHeight`,
+    /// `hasRoundCorners` and `isTranslucent` are told what the screen and the window allow.
     void setContent(std::unique_ptr<QQuickItem> content);
     [[nodiscard]] QQuickView& view();
     /// From now on it has a frame and a title, and stays open until it is closed.
@@ -44,6 +45,7 @@ public:
 private:
     class View;
 
+    void fitContent();
     void putInPlace();
     void activeChanged();
     void visibleChanged();

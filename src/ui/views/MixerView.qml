@@ -9,6 +9,8 @@ Column {
     property PanelModel panel
     // The app whose row is open; at most one is.
     property string expandedApp
+    // The height that there is.
+    property real limit: 100000
     readonly property bool isEmpty: rows.count === 0
 
     OutputPicker {
@@ -60,7 +62,7 @@ Column {
     ScrollArea {
         visible: !mixer.isEmpty
         width: parent.width
-        height: Math.min(contentHeight, 460)
+        height: Math.min(contentHeight, 460, mixer.limit - y - (recordingLine.visible ? recordingLine.height + 1 : 0))
         contentHeight: list.implicitHeight + 20
 
         Column {

@@ -11,6 +11,9 @@ Rectangle {
     property string expandedApp
     // The height that the screen leaves to the panel.
     property real availableHeight: 100000
+    // Whether the window can be transparent outside of rounded corners, and a little everywhere.
+    property bool hasRoundCorners: true
+    property bool isTranslucent: false
     // Off when the settings are to be seen at a stretch.
     property bool limitsSettings: true
 
@@ -18,7 +21,7 @@ Rectangle {
     height: implicitHeight
     implicitWidth: 380
     implicitHeight: Math.min(availableHeight, 47 + body.height)
-    radius: 12
+    radius: hasRoundCorners ? 12 : 0
     gradient: Gradient {
         GradientStop { position: 0; color: Theme.at(Theme.panelTop, Theme.isTranslucent ? 0.94 : 1) }
         GradientStop { position: 1; color: Theme.at(Theme.panelBottom, Theme.isTranslucent ? 0.94 : 1) }
@@ -35,6 +38,11 @@ Rectangle {
         target: Theme
         property: "glass"
         value: root.panel.glass
+    }
+    Binding {
+        target: Theme
+        property: "isTranslucent"
+        value: root.isTranslucent && root.panel.glass
     }
     Binding {
         target: Theme
@@ -148,6 +156,7 @@ Rectangle {
         id: mixerPage
         MixerView {
             panel: root.panel
+            limit: root.availableHeight - 47
             expandedApp: root.expandedApp
             onExpandedAppChanged: root.expandedApp = expandedApp
         }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qtdesktop/QtPopover.h"
 
+#include "platform/qtdesktop/PanelPlace.h"
 #include "tests/platform/qtdesktop/OffscreenApplication.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,7 @@
 #include <QKeyEvent>
 #include <QQmlComponent>
 #include <QQuickItem>
+#include <QScreen>
 
 namespace fadeloom {
 namespace {
@@ -44,6 +46,23 @@ TEST_F(QtPopoverTest, opensBesideTheIconInTheSizeOfItsContent)
     EXPECT_GE(popover.view().y(), icon.bottom());
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(closed, 0);
+}
+
+TEST_F(QtPopoverTest, tellsItsContentWhatTheScreenAllows)
+{
+    popover.show();
+    const auto& content = *popover.view().rootObject();
+
+    const int free = popover.view().screen()->availableGeometry().height();
+    EXPECT_EQ(content.property("availableHeight").toInt(), free - 2 * panelGap);
+    EXPECT_TRUE(content.property("hasRoundCorners").toBool());
+    EXPECT_TRUE(content.property("isTranslucent").toBool());
+
+    popover.becomeOrdinaryWindow();
+    popover.show();
+
+    EXPECT_FALSE(content.property("hasRoundCorners").toBool());
+    EXPECT_FALSE(content.property("isTranslucent").toBool());
 }
 
 TEST_F(QtPopoverTest, shownTwiceIsOpenOnce)
