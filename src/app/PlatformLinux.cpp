@@ -3,6 +3,7 @@
 
 #include "platform/linux/LinuxEnvironment.h"
 #include "platform/linux/Variables.h"
+#include "settings/SettingsFile.h"
 
 namespace fadeloom {
 
@@ -11,6 +12,7 @@ PlatformLinux::PlatformLinux(MainLoop& mainLoop, SystemLog& systemLog)
     , systemLog_(systemLog)
     , fileManager_(systemLog)
     , workspace_(linuxEnvironment(processVariables()), fileManager_)
+    , userDefaults_(SettingsFile::defaultURL(folders_).parent_path() / "preferences.ini")
     , audio_(mainLoop,
           {
               .bundleIdentifier =
@@ -27,7 +29,7 @@ PlatformLinux::PlatformLinux(MainLoop& mainLoop, SystemLog& systemLog)
 Platform PlatformLinux::platform()
 {
     return {audio_, audioFiles_, workspace_, capturePermission_, loginItem_, mainLoop_, utilityQueue_,
-        logQueue_, folders_, systemLog_, text_, clock_};
+        logQueue_, folders_, systemLog_, text_, clock_, userDefaults_, http_};
 }
 
 // Any process of the sandboxed application will do: it stands for the application alone.

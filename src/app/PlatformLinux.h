@@ -11,7 +11,9 @@
 #include "platform/linux/UtilityQueue.h"
 #include "platform/linux/XdgFolders.h"
 #include "platform/pipewire/PipeWireHardware.h"
+#include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/QtUserDefaults.h"
 #include "platform/sndfile/SndfileAudioFiles.h"
 
 namespace fadeloom {
@@ -43,6 +45,8 @@ private:
     AlwaysGrantedPermission capturePermission_;
     QtText text_;
     SystemClock clock_;
+    QtUserDefaults userDefaults_;
+    QtHttpClient http_;
     UtilityQueue utilityQueue_;
     UtilityQueue logQueue_;
     PipeWireHardware audio_;

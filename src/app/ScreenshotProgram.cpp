@@ -32,7 +32,8 @@ int runScreenshots(int argumentCount, char** arguments, const CommandLine& comma
     const auto own = world.platform();
     XdgFolders folders;  // The one for recordings is shown, as "~/Music/…".
     const Platform platform = {own.audio, own.audioFiles, own.workspace, own.capturePermission, own.loginItem,
-        own.mainLoop, own.utilityQueue, own.logQueue, folders, own.systemLog, own.text, own.clock};
+        own.mainLoop, own.utilityQueue, own.logQueue, folders, own.systemLog, own.text, own.clock,
+        own.userDefaults, own.http};
     EngineLog engineLog(platform.systemLog, platform.logQueue, folder->path());
     PanelServices services({.quit = [] {}, .installedName = [](const auto&) { return std::nullopt; }},
         folder->path() / "preferences.ini");

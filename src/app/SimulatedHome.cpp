@@ -24,6 +24,7 @@ SimulatedHome::SimulatedHome(const std::filesystem::path& folder, MainLoop& real
     : realLoop_(realLoop)
     , world_(folder, &text)
 {
+    world_.http().goOffline();
     world_.plug({.uid = "speakers", .name = "Desk Speakers"});
     world_.plug({.uid = "headphones", .name = "Headphones"});
     player_ = world_.launchApp("Player");
@@ -36,8 +37,8 @@ Platform SimulatedHome::platform(SystemLog& systemLog)
 {
     const auto own = world_.platform();
     return {own.audio, own.audioFiles, own.workspace, own.capturePermission, own.loginItem, own.mainLoop,
-        own.utilityQueue, own.logQueue, own.folders, systemLog, own.text, own.clock, own.application,
-        own.dialogs};
+        own.utilityQueue, own.logQueue, own.folders, systemLog, own.text, own.clock, own.userDefaults,
+        own.http, own.application, own.dialogs};
 }
 
 void SimulatedHome::start()

@@ -10,11 +10,13 @@ class AudioHardware;
 class BackgroundQueue;
 class CapturePermission;
 class Dialogs;
+class HttpClient;
 class LoginItem;
 class MainLoop;
 class StandardFolders;
 class SystemLog;
 class Text;
+class UserDefaults;
 class WallClock;
 class Workspace;
 
@@ -32,6 +34,8 @@ struct Platform {
     SystemLog& systemLog;
     Text& text;
     WallClock& clock;
+    UserDefaults& userDefaults;
+    HttpClient& http;
 
     // Null without windows.
     Application* application = nullptr;

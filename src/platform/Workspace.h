@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -58,6 +59,13 @@ public:
 
     /// Shows a file in the file manager, selected. Does its best and tells nothing of it.
     virtual void reveal(const std::filesystem::path& file) = 0;
+    /// Opens an address with the application that the user has chosen for it. Does its best and tells nothing of it.
+    virtual void open(const std::string& url) = 0;
+    /// The name of an installed application, running or not, by its bundle identifier.
+    [[nodiscard]] virtual std::optional<std::string> installedName(const std::string& bundleID) const = 0;
+    /// Starts this program once more beside the running instance. `reported` is called once on the main thread when the
+    /// system has answered, later or before this returns, whether it started or not.
+    virtual void openNewInstance(std::function<void()> reported) = 0;
 };
 
 }  // namespace fadeloom

@@ -35,7 +35,7 @@ protected:
         const auto own = world.platform();
         const Platform printed = {own.audio, own.audioFiles, own.workspace, own.capturePermission,
             own.loginItem, own.mainLoop, own.utilityQueue, own.logQueue, own.folders, printedLog, own.text,
-            own.clock, own.application, own.dialogs};
+            own.clock, own.userDefaults, own.http, own.application, own.dialogs};
         run.emplace(printed, console,
             HeadlessRun::Options{.version = "1.2.3",
                 .quit = [this] { ++quitCount; },

@@ -17,6 +17,7 @@
 #include <QProcess>
 #include <QThread>
 
+#include <cctype>
 #include <string>
 #include <utility>
 #include <vector>
@@ -30,22 +31,28 @@ QString qString(const std::string& text)
     return QString::fromStdString(text);
 }
 
-/// A file on its way to the thread.
-class FileEvent final : public QEvent {
+/// A request on its way to the thread: a file, or an address.
+class Request final : public QEvent {
 public:
-    explicit FileEvent(std::filesystem::path itsFile)
+    explicit Request(std::filesystem::path itsFile)
         : QEvent(QEvent::User)
         , file(std::move(itsFile))
     {
     }
+    explicit Request(std::string itsURL)
+        : QEvent(QEvent::User)
+        , url(std::move(itsURL))
+    {
+    }
 
     const std::filesystem::path file;
+    const std::string url;
 };
 
 }  // namespace
 
 /// Lives on the thread, and with it the answers that are waited for: all but the constructor, the destructor and
-/// `reveal` runs there.
+/// `send` runs there.
 class FileManager::Worker final : public QObject {
 public:
     Worker(SystemLog& log, const Variables& variables)
@@ -59,20 +66,27 @@ public:
     ~Worker() override
     {
         if (!thread_.isRunning())
-            return;  // No file was shown, and no bus asked for.
+            return;  // Nothing was asked for, and no bus either.
         thread_.quit();
         thread_.wait();
         QDBusConnection::disconnectFromBus(connectionName);
     }
 
-    void reveal(const std::filesystem::path& file)
+    void send(std::unique_ptr<Request> request)
     {
         thread_.start();  // Unless it runs.
-        QCoreApplication::postEvent(this, new FileEvent{file});
+        QCoreApplication::postEvent(this, request.release());
     }
 
 protected:
-    void customEvent(QEvent* event) override { ask(static_cast<const FileEvent*>(event)->file); }
+    void customEvent(QEvent* event) override
+    {
+        const auto& request = *static_cast<const Request*>(event);
+        if (request.file.empty())
+            openAddress(request.url);
+        else
+            ask(request.file);
+    }
 
 private:
     static inline const QString connectionName = "fadeloom-file-manager";
@@ -106,17 +120,29 @@ private:
     /// `reason`: why the file itself cannot be shown.
     void openFolder(const std::filesystem::path& file, const std::string& reason)
     {
-        const auto program = findProgram("xdg-open", programFolders_);
-        QProcess opener;
-        opener.setProgram(QFile::decodeName(program.c_str()));
-        opener.setArguments({qString(fileUri(file.parent_path()))});
-        opener.setStandardInputFile(QProcess::nullDevice());
-        opener.setStandardOutputFile(QProcess::nullDevice());
-        opener.setStandardErrorFile(QProcess::nullDevice());
-        if (program.empty() || !opener.startDetached())
+        if (!startOpener(fileUri(file.parent_path())))
             log_.write(SystemLog::Level::notice,
                 "Cannot show " + safeText(file.native()) + ": " + safeText(reason)
                     + "; nor is there xdg-open to open its folder");
+    }
+
+    void openAddress(const std::string& url)
+    {
+        if (!startOpener(url))
+            log_.write(
+                SystemLog::Level::notice, "Cannot open " + safeText(url) + ": there is no xdg-open to do it");
+    }
+
+    [[nodiscard]] bool startOpener(const std::string& uri) const
+    {
+        const auto program = findProgram("xdg-open", programFolders_);
+        QProcess opener;
+        opener.setProgram(QFile::decodeName(program.c_str()));
+        opener.setArguments({qString(uri)});
+        opener.setStandardInputFile(QProcess::nullDevice());
+        opener.setStandardOutputFile(QProcess::nullDevice());
+        opener.setStandardErrorFile(QProcess::nullDevice());
+        return !program.empty() && opener.startDetached();
     }
 
     SystemLog& log_;
@@ -136,7 +162,15 @@ void FileManager::reveal(const std::filesystem::path& file)
     std::error_code error;
     const auto absolute = std::filesystem::absolute(file, error);
     if (!error)
-        worker_->reveal(absolute);
+        worker_->send(std::make_unique<Request>(absolute));
+}
+
+void FileManager::open(const std::string& url)
+{
+    // A name before a colon, and so nothing that xdg-open would take for a file or an option.
+    const bool hasScheme = url.find("://") != std::string::npos && std::isalpha(url.front()) != 0;
+    if (hasScheme)
+        worker_->send(std::make_unique<Request>(url));
 }
 
 }  // namespace fadeloom

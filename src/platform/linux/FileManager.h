@@ -1,23 +1,25 @@
 // SPDX-License-Identifier: MIT
-// The desktop's file manager.
+// The desktop's programs for files and addresses.
 #pragma once
 
 #include "platform/linux/Variables.h"
 
 #include <filesystem>
 #include <memory>
+#include <string>
 
 namespace fadeloom {
 
 class SystemLog;
 
-/// Asks over the session bus to have a file shown. Where nobody answers to that, the file's folder is opened instead.
+/// Asks over the session bus to have a file shown. Where nobody answers to that, the file's folder is opened instead, by
+/// xdg-open, as addresses are.
 ///
-/// All of it happens on a thread of its own, which begins with the first file: neither a slow bus nor a slow program
+/// All of it happens on a thread of its own, which begins with the first request: neither a slow bus nor a slow program
 /// holds anybody up. Needs Qt's application object for as long as it lives. One at a time in a process. Thread: main.
 class FileManager {
 public:
-    /// `log` hears when a file can be shown in no way; it must outlive this. `variables` say where programs are; the
+    /// `log` hears when something can be shown in no way; it must outlive this. `variables` say where programs are; the
     /// bus is the process's.
     explicit FileManager(SystemLog& log, const Variables& variables = processVariables());
     /// Waits for no answer.
@@ -27,6 +29,8 @@ public:
 
     /// Shows the file, selected. Returns at once.
     void reveal(const std::filesystem::path& file);
+    /// Opens an address (`https://…`) with the program that the user has chosen for it. Returns at once.
+    void open(const std::string& url);
 
 private:
     class Worker;

@@ -5,8 +5,10 @@
 #include "platform/linux/FileManager.h"
 #include "platform/linux/ProcessProgram.h"
 #include "platform/linux/ProcessTable.h"
-#include "platform/linux/ProgramFiles.h"
 #include "platform/linux/SafeText.h"
+
+#include <QFile>
+#include <QProcess>
 
 #include <set>
 #include <utility>
@@ -33,10 +35,11 @@ std::optional<AppIcon> iconOf(const DesktopEntry& entry)
 }  // namespace
 
 LinuxWorkspace::LinuxWorkspace(
-    LinuxEnvironment environment, FileManager& fileManager, std::string ownBundleID)
+    LinuxEnvironment environment, FileManager& fileManager, std::string ownBundleID, StartCommand ownProgram)
     : environment_(std::move(environment))
     , fileManager_(fileManager)
     , ownBundleID_(std::move(ownBundleID))
+    , ownProgram_(std::move(ownProgram))
 {
 }
 
@@ -123,6 +126,20 @@ bool LinuxWorkspace::isApplicationBundle(const std::filesystem::path& location) 
 void LinuxWorkspace::reveal(const std::filesystem::path& file)
 {
     fileManager_.reveal(file);
+}
+
+void LinuxWorkspace::open(const std::string& url)
+{
+    fileManager_.open(url);
+}
+
+void LinuxWorkspace::openNewInstance(std::function<void()> reported)
+{
+    QStringList arguments;
+    for (const auto& argument : ownProgram_.arguments)
+        arguments += QFile::decodeName(argument.c_str());
+    QProcess::startDetached(QFile::decodeName(ownProgram_.program.c_str()), arguments);
+    reported();
 }
 
 std::string LinuxWorkspace::bundleIdentifier(ProcessID pid, const std::string& portalAppID) const

@@ -5,6 +5,7 @@
 #include "platform/Workspace.h"
 #include "platform/linux/DesktopEntries.h"
 #include "platform/linux/LinuxEnvironment.h"
+#include "platform/linux/ProgramFiles.h"
 
 #include <string>
 
@@ -19,9 +20,9 @@ class ProcessTable;
 /// found is told in ApplicationFinder.h.
 class LinuxWorkspace final : public Workspace {
 public:
-    /// `fileManager` must outlive this.
-    LinuxWorkspace(
-        LinuxEnvironment environment, FileManager& fileManager, std::string ownBundleID = "com.fadeloom.app");
+    /// `fileManager` must outlive this. `ownProgram`: how a further instance of this program is started.
+    LinuxWorkspace(LinuxEnvironment environment, FileManager& fileManager,
+        std::string ownBundleID = "com.fadeloom.app", StartCommand ownProgram = ownCommand());
     LinuxWorkspace(const LinuxWorkspace&) = delete;
     LinuxWorkspace& operator=(const LinuxWorkspace&) = delete;
 
@@ -33,14 +34,15 @@ public:
     std::optional<ProcessID> responsiblePid(ProcessID pid) const override;
     bool isApplicationBundle(const std::filesystem::path& location) const override;
     void reveal(const std::filesystem::path& file) override;
+    void open(const std::string& url) override;
+    std::optional<std::string> installedName(const std::string& bundleID) const override;
+    /// Started with the arguments of this one; reports before it returns.
+    void openNewInstance(std::function<void()> reported) override;
 
     /// The bundle identifier of a process's application; empty for no process of the user's. `portalAppID`: what the
     /// audio server knows of a sandboxed client, whose pid may mean nothing out here; it counts when it is not empty.
     /// Thread: main.
     [[nodiscard]] std::string bundleIdentifier(ProcessID pid, const std::string& portalAppID) const;
-
-    /// The name of an installed application, running or not. Thread: main.
-    [[nodiscard]] std::optional<std::string> installedName(const std::string& bundleID) const;
 
 private:
     [[nodiscard]] RunningApplication describe(
@@ -49,6 +51,7 @@ private:
     const LinuxEnvironment environment_;
     FileManager& fileManager_;
     const std::string ownBundleID_;
+    const StartCommand ownProgram_;  // Found at the start: an update may put another file in its place.
     mutable DesktopEntries entries_{environment_};  // Kept up to date by every question.
 };
 

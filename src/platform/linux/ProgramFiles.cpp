@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/ProgramFiles.h"
 
+#include <fstream>
+#include <utility>
+
 #include <unistd.h>
 
 namespace fadeloom {
@@ -45,6 +48,17 @@ std::filesystem::path startedFile(const Variables& variables, const std::filesys
     if (unpacked.empty() || !isInside(executable, unpacked))
         return executable;
     return folderNamed(variables, "APPIMAGE", executable);
+}
+
+StartCommand ownCommand()
+{
+    StartCommand command{startedFile(processVariables()), {}};
+    std::ifstream words{"/proc/self/cmdline", std::ios::binary};
+    std::string word;
+    std::getline(words, word, '\0');  // The program.
+    while (std::getline(words, word, '\0'))
+        command.arguments.push_back(word);
+    return command;
 }
 
 }  // namespace fadeloom

@@ -26,4 +26,13 @@ namespace fadeloom {
 [[nodiscard]] std::filesystem::path startedFile(
     const Variables& variables, const std::filesystem::path& executable = ownExecutable());
 
+/// How a program is started.
+struct StartCommand {
+    std::filesystem::path program;
+    std::vector<std::string> arguments;  // Without the program itself.
+};
+
+/// That of this process, as it was started.
+[[nodiscard]] StartCommand ownCommand();
+
 }  // namespace fadeloom

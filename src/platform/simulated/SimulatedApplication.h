@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Our own windows in a simulated session: how they look, and how often they came to the front.
+// Our own windows in a simulated session: how they look, how often they came to the front, what the About panel
+// says.
 #pragma once
 
 #include "platform/Application.h"
+
+#include <optional>
 
 namespace fadeloom {
 
@@ -10,13 +13,17 @@ class SimulatedApplication final : public Application {
 public:
     void setAppearance(Appearance appearance) override { appearance_ = appearance; }
     void activate() override { activationCount_ += 1; }
+    void showAboutPanel(const AboutCredits& credits) override { aboutPanel_ = credits; }
 
     [[nodiscard]] Appearance appearance() const { return appearance_; }
     [[nodiscard]] int activationCount() const { return activationCount_; }
+    /// What the About panel says, once it was opened.
+    [[nodiscard]] const std::optional<AboutCredits>& aboutPanel() const { return aboutPanel_; }
 
 private:
     Appearance appearance_ = Appearance::system;
     int activationCount_ = 0;
+    std::optional<AboutCredits> aboutPanel_;
 };
 
 }  // namespace fadeloom

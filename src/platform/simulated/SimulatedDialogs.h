@@ -23,17 +23,47 @@ public:
     {
         questions_.push_back({start, prompt, std::move(done)});
     }
+    void chooseApplication(ApplicationChosen done) override
+    {
+        applicationQuestions_.push_back(std::move(done));
+    }
+    void showAlert(const Alert& alert, std::function<void(std::size_t)> answered) override
+    {
+        alerts_.push_back(alert);
+        openAlerts_.push_back(std::move(answered));
+    }
 
     [[nodiscard]] const std::vector<FolderQuestion>& questions() const { return questions_; }
-    /// The user answers every open dialog; with nothing, cancels it.
+    /// The user answers every open question for a folder; with nothing, cancels it.
     void answer(const std::optional<std::filesystem::path>& folder)
     {
         for (const auto& question : std::exchange(questions_, {}))
             question.done(folder);
     }
 
+    [[nodiscard]] std::size_t applicationQuestions() const { return applicationQuestions_.size(); }
+    /// The same for an application.
+    void answerApplication(const std::optional<std::string>& bundleID)
+    {
+        for (const auto& done : std::exchange(applicationQuestions_, {}))
+            done(bundleID);
+    }
+
+    /// Every message that was shown, in order, and how many are still open.
+    [[nodiscard]] const std::vector<Alert>& alerts() const { return alerts_; }
+    [[nodiscard]] std::size_t openAlerts() const { return openAlerts_.size(); }
+    /// The user answers every open message by the button at this position.
+    void answerAlert(std::size_t button)
+    {
+        for (const auto& answered : std::exchange(openAlerts_, {}))
+            answered(button);
+    }
+
 private:
     std::vector<FolderQuestion> questions_;
+    std::vector<ApplicationChosen> applicationQuestions_;
+    std::vector<Alert> alerts_;
+    std::vector<std::function<void(std::size_t)>> openAlerts_;
 };
 
 }  // namespace fadeloom

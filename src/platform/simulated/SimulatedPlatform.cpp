@@ -12,7 +12,7 @@ SimulatedPlatform::SimulatedPlatform(std::filesystem::path applicationSupport, T
 Platform SimulatedPlatform::platform()
 {
     return {audio_, audioFiles_, workspace_, permission_, loginItem_, mainLoop_, utilityQueue_, logQueue_,
-        folders_, systemLog_, text_, wallClock_, &application_, &dialogs_};
+        folders_, systemLog_, text_, wallClock_, userDefaults_, http_, &application_, &dialogs_};
 }
 
 ProcessID SimulatedPlatform::launchApp(const std::string& name, const SimulatedAppTraits& traits)

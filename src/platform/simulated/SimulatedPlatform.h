@@ -22,10 +22,12 @@
 #include "platform/simulated/SimulatedClock.h"
 #include "platform/simulated/SimulatedDialogs.h"
 #include "platform/simulated/SimulatedFolders.h"
+#include "platform/simulated/SimulatedHttpClient.h"
 #include "platform/simulated/SimulatedLoginItem.h"
 #include "platform/simulated/SimulatedMainLoop.h"
 #include "platform/simulated/SimulatedSystemLog.h"
 #include "platform/simulated/SimulatedText.h"
+#include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedWallClock.h"
 #include "platform/simulated/SimulatedWorkspace.h"
 
@@ -105,6 +107,8 @@ public:
     SimulatedLoginItem& loginItem() { return loginItem_; }
     SimulatedApplication& application() { return application_; }
     SimulatedDialogs& dialogs() { return dialogs_; }
+    SimulatedHttpClient& http() { return http_; }
+    SimulatedUserDefaults& userDefaults() { return userDefaults_; }
     SimulatedMainLoop& mainLoop() { return mainLoop_; }
     SimulatedBackgroundQueue& utilityQueue() { return utilityQueue_; }
     SimulatedBackgroundQueue& logQueue() { return logQueue_; }
@@ -127,6 +131,8 @@ private:
     SimulatedLoginItem loginItem_;
     SimulatedApplication application_;
     SimulatedDialogs dialogs_;
+    SimulatedHttpClient http_{mainLoop_};
+    SimulatedUserDefaults userDefaults_;
     SimulatedSystemLog systemLog_;
     SimulatedFolders folders_;
     SimulatedText simpleText_;

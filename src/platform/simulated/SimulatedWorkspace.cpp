@@ -2,6 +2,7 @@
 #include "platform/simulated/SimulatedWorkspace.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace fadeloom {
 
@@ -50,6 +51,24 @@ std::optional<ProcessID> SimulatedWorkspace::responsiblePid(ProcessID pid) const
 bool SimulatedWorkspace::isApplicationBundle(const std::filesystem::path& location) const
 {
     return location.extension() == ".app";
+}
+
+std::optional<std::string> SimulatedWorkspace::installedName(const std::string& bundleID) const
+{
+    const auto found = installed_.find(bundleID);
+    return found == installed_.end() ? std::nullopt : std::optional(found->second);
+}
+
+void SimulatedWorkspace::openNewInstance(std::function<void()> reported)
+{
+    newInstances_ += canStart_ ? 1 : 0;
+    askedStarts_.push_back(std::move(reported));
+}
+
+void SimulatedWorkspace::reportStarts()
+{
+    for (const auto& reported : std::exchange(askedStarts_, {}))
+        reported();
 }
 
 ProcessID SimulatedWorkspace::launchApp(const std::string& name, const SimulatedAppTraits& traits)

@@ -33,6 +33,9 @@ public:
     /// True for locations that end in ".app".
     bool isApplicationBundle(const std::filesystem::path& location) const override;
     void reveal(const std::filesystem::path& file) override { revealed_.push_back(file); }
+    void open(const std::string& url) override { opened_.push_back(url); }
+    std::optional<std::string> installedName(const std::string& bundleID) const override;
+    void openNewInstance(std::function<void()> reported) override;
 
     /// Starts a process that is an application.
     ProcessID launchApp(const std::string& name, const SimulatedAppTraits& traits);
@@ -42,10 +45,22 @@ public:
     std::vector<ProcessID> quit(ProcessID pid);
     [[nodiscard]] bool isRunning(ProcessID pid) const { return processes_.contains(pid); }
 
+    /// Puts an application on the disk; it does not run.
+    void install(const std::string& bundleID, const std::string& name) { installed_[bundleID] = name; }
+
+    /// No further instance of the program can be started.
+    void failToStart() { canStart_ = false; }
+    /// How many instances of the program were started beside this one.
+    [[nodiscard]] int newInstances() const { return newInstances_; }
+    /// The system answers every start that it was asked for.
+    void reportStarts();
+
     /// How often the list of running applications was asked for.
     [[nodiscard]] int listCount() const { return listCount_; }
     /// Every file that was shown, in order.
     [[nodiscard]] const std::vector<std::filesystem::path>& revealed() const { return revealed_; }
+    /// Every address that was opened, in order.
+    [[nodiscard]] const std::vector<std::string>& opened() const { return opened_; }
 
 private:
     struct Process {
@@ -61,6 +76,11 @@ private:
     std::map<ProcessID, Process> processes_;
     mutable int listCount_ = 0;
     std::vector<std::filesystem::path> revealed_;
+    std::vector<std::string> opened_;
+    std::map<std::string, std::string> installed_;
+    bool canStart_ = true;
+    int newInstances_ = 0;
+    std::vector<std::function<void()>> askedStarts_;
 };
 
 }  // namespace fadeloom

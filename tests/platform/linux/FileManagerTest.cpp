@@ -139,6 +139,37 @@ TEST_F(FileManagerTest, relativePathIsOneOfTheCurrentFolder)
         shown.calls(), ElementsAre(HasSubstr(" " + fileUri(fs::current_path() / "recording.wav") + " ")));
 }
 
+TEST_F(FileManagerTest, opensAnAddress)
+{
+    installOpener();
+
+    files.open("https://fadeloom.example/download.php?a=1&b=%20");
+
+    EXPECT_TRUE(waitUntil([&] { return !openerArguments().empty(); }));
+    EXPECT_EQ(openerArguments(), "1\nhttps://fadeloom.example/download.php?a=1&b=%20\n");
+}
+
+TEST_F(FileManagerTest, opensNothingThatIsNoAddress)
+{
+    installOpener();
+
+    for (const auto* const text : {"", "--help", "://", "-x://", "/etc/passwd"})
+        files.open(text);
+    files.open("https://fadeloom.example");
+
+    EXPECT_TRUE(waitUntil([&] { return !openerArguments().empty(); }));
+    EXPECT_EQ(openerArguments(), "1\nhttps://fadeloom.example\n");
+}
+
+TEST_F(FileManagerTest, saysWhenNobodyOpensAddresses)
+{
+    files.open("https://fadeloom.example");
+
+    EXPECT_TRUE(waitUntil([&] { return !log.messages().empty(); }));
+    EXPECT_THAT(
+        log.messages(), ElementsAre("Cannot open https://fadeloom.example: there is no xdg-open to do it"));
+}
+
 TEST_F(FileManagerTest, withoutAFileManagerTheFolderIsOpened)
 {
     installOpener();

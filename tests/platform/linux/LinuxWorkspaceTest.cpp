@@ -208,5 +208,14 @@ TEST_F(LinuxWorkspaceTest, onlyEntriesAndExecutablesAreApplicationBundles)
     EXPECT_FALSE(workspace.isApplicationBundle(""));
 }
 
+TEST_F(LinuxWorkspaceTest, anInstalledApplicationHasANameAlsoWhenItDoesNotRun)
+{
+    tree.entry("org.example.Music", "Name=Music\nExec=music\n");
+    const Workspace& asked = workspace;
+
+    EXPECT_EQ(asked.installedName("org.example.Music"), "Music");
+    EXPECT_EQ(asked.installedName("org.example.Other"), std::nullopt);
+}
+
 }  // namespace
 }  // namespace fadeloom

@@ -59,5 +59,19 @@ TEST(StartedFile, isTheExecutableUnlessTheImageIsOurs)
     EXPECT_EQ(startedFile(variables({})), ownExecutable());
 }
 
+TEST(OwnCommand, isHowThisTestWasStarted)
+{
+    const auto command = ownCommand();
+    std::string said;
+    for (const auto& argument : ::testing::internal::GetArgvs())
+        said += argument + "\n";
+
+    std::string meant = ::testing::internal::GetArgvs().front() + "\n";
+    for (const auto& argument : command.arguments)
+        meant += argument + "\n";
+    EXPECT_EQ(command.program, ownExecutable());
+    EXPECT_EQ(meant, said);
+}
+
 }  // namespace
 }  // namespace fadeloom

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// Answers that are none.
+#include "tests/platform/qt/HttpClientStage.h"
+
+namespace fadeloom {
+namespace {
+
+class HttpClientFailureTest : public HttpClientStage { };
+
+TEST_F(HttpClientFailureTest, anAnswerThatIsCutOffIsNone)
+{
+    EXPECT_EQ(statusOf(server.url("/cut")), nothing);
+}
+
+TEST_F(HttpClientFailureTest, aConnectionThatIsDroppedIsNoAnswer)
+{
+    EXPECT_EQ(statusOf(server.url("/drop")), nothing);
+}
+
+TEST_F(HttpClientFailureTest, whatIsNotHttpIsNoAnswer)
+{
+    EXPECT_EQ(statusOf(server.url("/garbage")), nothing);
+}
+
+TEST_F(HttpClientFailureTest, whereNobodyListensThereIsNoAnswer)
+{
+    QTcpServer unused;
+    unused.listen(QHostAddress::LocalHost);
+    const auto port = unused.serverPort();
+    unused.close();
+
+    EXPECT_EQ(statusOf("http://127.0.0.1:" + std::to_string(port) + "/page"), nothing);
+}
+
+TEST_F(HttpClientFailureTest, anAnswerThatStopsInTheMiddleIsGivenUpInTime)
+{
+    EXPECT_EQ(statusOf(server.url("/slow"), 200ms), nothing);
+}
+
+TEST_F(HttpClientFailureTest, theTimeIsForTheWholeExchange)
+{
+    EXPECT_EQ(statusOf(server.url("/drip"), 300ms), nothing);
+    EXPECT_TRUE(waitUntil([&] { return server.disconnections() == 1; }));
+}
+
+TEST_F(HttpClientFailureTest, anAnswerMayBeAsLargeAsWasSaid)
+{
+    EXPECT_EQ(statusOf(server.url("/large")), 200);
+    EXPECT_EQ(body.size(), 65536U);
+}
+
+TEST_F(HttpClientFailureTest, aLargerOneIsNone)
+{
+    EXPECT_EQ(statusOf(server.url("/larger")), nothing);
+}
+
+TEST_F(HttpClientFailureTest, aLargerOneIsRefusedWhileItArrives)
+{
+    EXPECT_EQ(statusOf(server.url("/flood")), nothing);
+
+    EXPECT_TRUE(waitUntil([&] { return server.disconnections() == 1; }));
+    EXPECT_LT(flooded, 32 * 1024 * 1024);  // What the system holds on the way.
+}
+
+}  // namespace
+}  // namespace fadeloom
