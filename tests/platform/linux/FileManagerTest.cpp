@@ -18,7 +18,6 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
@@ -50,17 +49,6 @@ using ::testing::IsEmpty;
 
 class FileManagerTest : public ::testing::Test {
 protected:
-    /// Where the bus of this process is, if a test starts one: the address is looked up once.
-    static const fs::path& busFolder()
-    {
-        static const TemporaryFolder folder;
-        return folder.path();
-    }
-    static void SetUpTestSuite()
-    {
-        setenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + (busFolder() / "bus").string()).c_str(), 1);
-    }
-
     /// Installs an "xdg-open" that writes down what it was given.
     void installOpener() const
     {
@@ -93,6 +81,7 @@ protected:
     char name[5] = "test";
     char* arguments[2] = {name, nullptr};
     QCoreApplication application{argumentCount, arguments};
+    const fs::path& busFolder = sessionBusFolder();
     TemporaryFolder folder;
     RememberedLog log;
     FileManager files{log, variables({{"PATH", programs()}})};
@@ -101,7 +90,7 @@ protected:
 TEST_F(FileManagerTest, asksTheFileManagerForTheFile)
 {
     installOpener();
-    const PrivateBus bus{busFolder()};
+    const PrivateBus bus{busFolder};
     const ShownFiles shown{bus.address, ShownFiles::Answers::always};
 
     files.reveal("/music/My App \xFF.wav");
@@ -117,7 +106,7 @@ TEST_F(FileManagerTest, asksTheFileManagerForTheFile)
 
 TEST_F(FileManagerTest, isReachedThroughTheWorkspace)
 {
-    const PrivateBus bus{busFolder()};
+    const PrivateBus bus{busFolder};
     const ShownFiles shown{bus.address, ShownFiles::Answers::always};
     LinuxWorkspace workspace{LinuxEnvironment{}, files};
 
@@ -128,7 +117,7 @@ TEST_F(FileManagerTest, isReachedThroughTheWorkspace)
 
 TEST_F(FileManagerTest, relativePathIsOneOfTheCurrentFolder)
 {
-    const PrivateBus bus{busFolder()};
+    const PrivateBus bus{busFolder};
     const ShownFiles shown{bus.address, ShownFiles::Answers::always};
 
     files.reveal("");
@@ -173,7 +162,7 @@ TEST_F(FileManagerTest, saysWhenNobodyOpensAddresses)
 TEST_F(FileManagerTest, withoutAFileManagerTheFolderIsOpened)
 {
     installOpener();
-    const PrivateBus bus{busFolder()};
+    const PrivateBus bus{busFolder};
 
     files.reveal("/music of\xFF Anna/recording.wav");
 
@@ -202,7 +191,7 @@ TEST_F(FileManagerTest, withoutASessionTheFolderIsOpened)
         files.reveal("/music/recording.wav");
         const bool isOpened = waitUntil([&] { return openerArguments() == "1\nfile:///music\n"; });
         fs::remove_all(folder.path());
-        fs::remove_all(busFolder());
+        fs::remove_all(sessionBusFolder());
         std::_Exit(isOpened ? 0 : 1);
     };
 
@@ -212,7 +201,7 @@ TEST_F(FileManagerTest, withoutASessionTheFolderIsOpened)
 TEST_F(FileManagerTest, busThatCameAgainIsUsed)
 {
     for (int life = 0; life < 2; ++life) {
-        const PrivateBus bus{busFolder()};
+        const PrivateBus bus{busFolder};
         const ShownFiles shown{bus.address, ShownFiles::Answers::always};
 
         files.reveal("/music/recording.wav");
@@ -233,7 +222,7 @@ TEST_F(FileManagerTest, whatCanBeShownInNoWayIsLogged)
 TEST_F(FileManagerTest, missingAnswerHoldsNobodyUp)
 {
     const auto begin = std::chrono::steady_clock::now();
-    const PrivateBus bus{busFolder()};
+    const PrivateBus bus{busFolder};
     const ShownFiles shown{bus.address, ShownFiles::Answers::never};
     {
         FileManager waiting{log, variables({})};
@@ -249,7 +238,7 @@ TEST_F(FileManagerTest, missingAnswerHoldsNobodyUp)
 TEST_F(FileManagerTest, stuckBusHoldsNobodyUp)
 {
     installOpener();
-    auto bus = std::make_unique<StuckBus>(busFolder());
+    auto bus = std::make_unique<StuckBus>(sessionBusFolder());
 
     const auto begin = std::chrono::steady_clock::now();
     files.reveal("/music/recording.wav");

@@ -2,9 +2,12 @@
 // A message bus of a test's own, which starts no services.
 #pragma once
 
+#include "tests/support/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -16,6 +19,17 @@
 #include <unistd.h>
 
 namespace fadeloom {
+
+/// The folder of the bus that this process takes for the session's, if a test starts one there: the address is looked
+/// up once in a process.
+inline const std::filesystem::path& sessionBusFolder()
+{
+    static const TemporaryFolder folder;
+    static const int isKnown =
+        setenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + (folder.path() / "bus").string()).c_str(), 1);
+    static_cast<void>(isKnown);
+    return folder.path();
+}
 
 /// Ends with the test program, however that ends.
 class PrivateBus {

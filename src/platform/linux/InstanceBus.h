@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// Where instances of the program meet: a name on the session bus.
+#pragma once
+
+#include "platform/linux/InstanceRequest.h"
+
+#include <QDBusConnection>
+
+#include <chrono>
+#include <memory>
+#include <optional>
+
+namespace fadeloom {
+
+/// The name is "com.fadeloom.app", the object "/com/fadeloom/app", the interface called as the name; its methods "Open",
+/// "Toggle", "Quit" and "Ping" take and give nothing. Errors are "com.fadeloom.app.Error.NoPanel" and "….Ending".
+///
+/// Needs Qt's application object; questions are answered by its running event loop. Thread: the one that makes it.
+class InstanceBus {
+public:
+    /// Connects, on a connection of its own.
+    explicit InstanceBus(AnswerInstanceRequest answer);
+    /// Gives the name back.
+    ~InstanceBus();
+    InstanceBus(const InstanceBus&) = delete;
+    InstanceBus& operator=(const InstanceBus&) = delete;
+
+    [[nodiscard]] bool isConnected() const { return bus_.isConnected(); }
+    /// Puts the object there, then takes the name. False when somebody has it.
+    [[nodiscard]] bool claim();
+    /// Asks whoever has the name. Absent when nobody answers in time; waits for that.
+    [[nodiscard]] std::optional<InstanceAnswer> ask(
+        InstanceRequest request, std::chrono::milliseconds patience);
+
+private:
+    class Object;
+
+    const QString connectionName_;
+    QDBusConnection bus_;
+    const std::unique_ptr<Object> object_;
+};
+
+}  // namespace fadeloom
