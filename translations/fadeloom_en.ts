@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>AppDelegate</name>
+    <message>
+        <source>About Fadeloom</source>
+        <translation>About Fadeloom</translation>
+    </message>
+    <message>
+        <source>Open Mixer</source>
+        <translation>Open Mixer</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Settings…</translation>
+    </message>
+    <message>
+        <source>Launch at Login</source>
+        <translation>Launch at Login</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Check for Updates…</translation>
+    </message>
+    <message>
+        <source>Quit Fadeloom</source>
+        <translation>Quit Fadeloom</translation>
+    </message>
+</context>
+<context>
     <name>AppRowView</name>
     <message>
         <source>Retry</source>
@@ -366,6 +393,14 @@
         <source>Open System Settings</source>
         <translation>Open System Settings</translation>
     </message>
+    <message>
+        <source>Free per-app volume, output routing, equalizer and recording for macOS.</source>
+        <translation>Free per-app volume, output routing, equalizer and recording for Linux.</translation>
+    </message>
+    <message>
+        <source>You have version %1. Download the new version and replace Fadeloom in Applications.</source>
+        <translation>You have version %1. Download the new version and install it in the place of this one.</translation>
+    </message>
 </context>
 <context>
     <name>PresetEntries</name>
@@ -613,6 +648,37 @@
     <message>
         <source>Idle</source>
         <translation>Idle</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateChecker</name>
+    <message>
+        <source>Fadeloom is up to date</source>
+        <translation>Fadeloom is up to date</translation>
+    </message>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>You have the latest version.</translation>
+    </message>
+    <message>
+        <source>Could not check for updates</source>
+        <translation>Could not check for updates</translation>
+    </message>
+    <message>
+        <source>Check your internet connection and try again.</source>
+        <translation>Check your internet connection and try again.</translation>
+    </message>
+    <message>
+        <source>Fadeloom %1 is available</source>
+        <translation>Fadeloom %1 is available</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Download</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Later</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>AppDelegate</name>
+    <message>
+        <source>About Fadeloom</source>
+        <translation>O aplikacji Fadeloom</translation>
+    </message>
+    <message>
+        <source>Open Mixer</source>
+        <translation>Otwórz mikser</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Ustawienia…</translation>
+    </message>
+    <message>
+        <source>Launch at Login</source>
+        <translation>Uruchamiaj przy logowaniu</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Sprawdź uaktualnienia…</translation>
+    </message>
+    <message>
+        <source>Quit Fadeloom</source>
+        <translation>Zakończ Fadeloom</translation>
+    </message>
+</context>
+<context>
     <name>AppRowView</name>
     <message>
         <source>Retry</source>
@@ -367,6 +394,14 @@
         <source>Open System Settings</source>
         <translation>Otwórz ustawienia systemowe</translation>
     </message>
+    <message>
+        <source>Free per-app volume, output routing, equalizer and recording for macOS.</source>
+        <translation>Bezpłatna regulacja głośności, wybór wyjścia, korektor i nagrywanie dla każdej aplikacji w systemie Linux.</translation>
+    </message>
+    <message>
+        <source>You have version %1. Download the new version and replace Fadeloom in Applications.</source>
+        <translation>Masz wersję %1. Pobierz nową wersję i zainstaluj ją w miejsce obecnej.</translation>
+    </message>
 </context>
 <context>
     <name>PresetEntries</name>
@@ -614,6 +649,37 @@
     <message>
         <source>Idle</source>
         <translation>Bezczynna</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateChecker</name>
+    <message>
+        <source>Fadeloom is up to date</source>
+        <translation>Fadeloom jest aktualny</translation>
+    </message>
+    <message>
+        <source>You have the latest version.</source>
+        <translation>Masz najnowszą wersję.</translation>
+    </message>
+    <message>
+        <source>Could not check for updates</source>
+        <translation>Nie można sprawdzić uaktualnień</translation>
+    </message>
+    <message>
+        <source>Check your internet connection and try again.</source>
+        <translation>Sprawdź połączenie z internetem i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>Fadeloom %1 is available</source>
+        <translation>Dostępny jest Fadeloom %1</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Pobierz</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Później</translation>
     </message>
 </context>
 <context>

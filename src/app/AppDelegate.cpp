@@ -54,22 +54,33 @@ void AppDelegate::openSettings()
 StatusMenu AppDelegate::menu()
 {
     popover_.close();  // The menu would take the keyboard from it.
-    const auto& text = actions_.translate;
+    const auto& translate = actions_.translate;
     const bool isLaunching = *controller_.state().launchAtLogin;
     StatusMenu entries = {
-        {.title = text("About Fadeloom"), .action = actions_.showAbout},
+        {.title = translate("AppDelegate", "About Fadeloom"), .action = afterClosing(actions_.showAbout)},
         {},
-        {.title = text("Open Mixer"), .action = [this] { openMixer(); }},
-        {.title = text("Settings…"), .action = [this] { openSettings(); }, .key = ","},
-        {.title = text("Launch at Login"),
+        {.title = translate("AppDelegate", "Open Mixer"), .action = [this] { openMixer(); }},
+        {.title = translate("AppDelegate", "Settings…"), .action = [this] { openSettings(); }, .key = ","},
+        {.title = translate("AppDelegate", "Launch at Login"),
             .action = [this] { controller_.setLaunchAtLogin(!*controller_.state().launchAtLogin); },
             .isChecked = isLaunching},
     };
     if (actions_.checkForUpdates)
-        entries.push_back({.title = text("Check for Updates…"), .action = actions_.checkForUpdates});
+        entries.push_back({.title = translate("AppDelegate", "Check for Updates…"),
+            .action = afterClosing(actions_.checkForUpdates)});
     entries.push_back({});
-    entries.push_back({.title = text("Quit Fadeloom"), .action = actions_.quit, .key = "q"});
+    entries.push_back(
+        {.title = translate("AppDelegate", "Quit Fadeloom"), .action = actions_.quit, .key = "q"});
     return entries;
+}
+
+// Some desktops show a menu that they asked for long before, when the popover was not open yet.
+std::function<void()> AppDelegate::afterClosing(std::function<void()> action)
+{
+    return [this, action = std::move(action)] {
+        popover_.close();
+        action();
+    };
 }
 
 }  // namespace fadeloom

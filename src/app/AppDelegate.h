@@ -3,9 +3,9 @@
 #pragma once
 
 #include "platform/StatusItem.h"
+#include "shell/Translate.h"
 
 #include <functional>
-#include <string_view>
 
 namespace fadeloom {
 
@@ -22,8 +22,7 @@ public:
         std::function<void()> checkForUpdates = nullptr;  // Without it the menu does not offer that.
         std::function<void()> showAbout;
         std::function<void()> quit;
-        /// A text of the interface in the user's language, by its English form.
-        std::function<std::string(std::string_view)> translate = [](auto text) { return std::string(text); };
+        Translate translate = [](const char*, const char* text) { return std::string(text); };
     };
 
     /// Shows the icon. All must outlive this.
@@ -34,12 +33,13 @@ public:
 
     /// Opens the popover as it is, with the keyboard in it.
     void showPopover();
+    void togglePopover();
     void openMixer();
     void openSettings();
 
 private:
-    void togglePopover();
     [[nodiscard]] StatusMenu menu();
+    [[nodiscard]] std::function<void()> afterClosing(std::function<void()> action);
 
     AudioController& controller_;
     Popover& popover_;

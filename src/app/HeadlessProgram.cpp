@@ -6,6 +6,7 @@
 #include "app/PlatformLinux.h"
 #include "app/PrintedLog.h"
 #include "app/ScratchFolder.h"
+#include "app/SecondStart.h"
 #include "app/SimulatedHome.h"
 #include "app/TerminalSize.h"
 #include "app/Version.h"
@@ -17,6 +18,7 @@
 
 #include <QCoreApplication>
 
+#include <functional>
 #include <iostream>
 #include <string>
 
@@ -25,14 +27,15 @@
 namespace fadeloom {
 namespace {
 
-void runOn(const Platform& platform, QtMainLoop& mainLoop, Console& console)
+void runOn(
+    const Platform& platform, QtMainLoop& mainLoop, Console& console, const std::function<void()>& quit)
 {
     // First, so that a signal during the start ends in good order, too.
-    const QuitSignals quitSignals([&] { mainLoop.quit(); });
+    const QuitSignals quitSignals(quit);
     HeadlessRun run(platform, console,
         {
             .version = std::string(programVersion()),
-            .quit = [&] { mainLoop.quit(); },
+            .quit = quit,
             .terminalSize = [] { return terminalSize(STDOUT_FILENO); },
         });
     const bool isEchoedBelowTable = isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
@@ -63,16 +66,26 @@ int runSimulated(QtMainLoop& mainLoop, Console& console)
     SimulatedHome home(folder->path(), mainLoop, text);
     PrintedLog log(home.world().systemLog(), console, mainLoop);
     home.start();
-    runOn(home.platform(log), mainLoop, console);
+    runOn(home.platform(log), mainLoop, console, [&] { mainLoop.quit(); });
     return 0;
 }
 
 int runOnThisMachine(QtMainLoop& mainLoop, Console& console)
 {
+    SingleInstance instance(instanceFolder());
+    if (const auto second = secondStart(instance.claim(InstanceRequest::ping), InstanceRequest::ping)) {
+        std::cerr << "fadeloom: " << second->message << '\n';
+        return second->exitStatus;
+    }
+    const auto quit = [&] {
+        instance.beginEnding();
+        mainLoop.quit();
+    };
+    instance.serve({.quit = quit});
     SyslogSystemLog systemLog;
     PrintedLog log(systemLog, console, mainLoop);
     PlatformLinux home(mainLoop, log);
-    runOn(home.platform(), mainLoop, console);
+    runOn(home.platform(), mainLoop, console, quit);
     return 0;
 }
 

@@ -4,19 +4,40 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include <optional>
+
 namespace fadeloom {
 
-InterfaceLanguage::InterfaceLanguage(const std::string& code)
+InterfaceLanguage::InterfaceLanguage(const std::vector<std::string>& preferred)
 {
-    const QString folder = QStringLiteral(":/i18n");
-    const QString prefix = QStringLiteral("fadeloom");
-    if (code != "system")
-        QLocale::setDefault(QLocale(QString::fromStdString(code)));
+    std::optional<QLocale> chosen;
+    bool isLoaded = false;
+    for (const auto& code : preferred) {
+        const QLocale locale(QString::fromStdString(code));
+        if (isLoaded || locale.language() == QLocale::C)
+            continue;  // Found, or no language.
+        isLoaded = load(locale);
+        if (isLoaded || !chosen)
+            chosen = locale;
+    }
+    if (chosen)
+        QLocale::setDefault(*chosen);
     // English has texts of its own, too: those that Linux words otherwise.
-    const bool isLoaded = translator_.load(QLocale(), prefix, QStringLiteral("_"), folder)
-        || translator_.load(QLocale(QLocale::English), prefix, QStringLiteral("_"), folder);
-    if (isLoaded)
+    if (isLoaded || (!chosen && load(QLocale())) || load(QLocale(QLocale::English)))
         QCoreApplication::installTranslator(&translator_);
+}
+
+bool InterfaceLanguage::load(const QLocale& locale)
+{
+    return translator_.load(
+        locale, QStringLiteral("fadeloom"), QStringLiteral("_"), QStringLiteral(":/i18n"));
+}
+
+Translate InterfaceLanguage::texts()
+{
+    return [](const char* context, const char* text) {
+        return QCoreApplication::translate(context, text).toStdString();
+    };
 }
 
 }  // namespace fadeloom

@@ -1,63 +1,60 @@
 // SPDX-License-Identifier: MIT
-// What the panel asks of the program around it, answered by Qt.
+// What the panel asks of the program around it, handed to those who know.
 #pragma once
 
+#include "shell/Translate.h"
 #include "ui/PanelHost.h"
 
-#include <QPointer>
-
-#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
 
-class QMessageBox;
-class QFileDialog;
-
 namespace fadeloom {
 
-/// Needs a QApplication. Thread: main.
+class Application;
+class Dialogs;
+class UpdateChecker;
+class UserDefaults;
+class Workspace;
+
+/// Thread: main.
 class PanelServices final : public PanelHost {
 public:
-    struct Desktop {
+    /// All must outlive it.
+    struct Parts {
+        Workspace& workspace;
+        Application& application;
+        Dialogs& dialogs;
+        UserDefaults& userDefaults;
+        UpdateChecker* updates;  // Null in a program that looks for none.
+        Translate translate;
         std::function<void()> quit;
-        /// The name of an installed application, by its bundle identifier.
-        std::function<std::optional<std::string>(const std::string&)> installedName;
     };
 
-    /// `preferences`: the file in which the choice of a language is kept.
-    PanelServices(Desktop desktop, const std::filesystem::path& preferences);
+    explicit PanelServices(Parts parts);
     PanelServices(const PanelServices&) = delete;
     PanelServices& operator=(const PanelServices&) = delete;
-    ~PanelServices() override;
 
     std::string version() const override;
-    void quit() override { desktop_.quit(); }
+    void quit() override { parts_.quit(); }
     void openAboutPanel() override;
     std::string webPageHost() const override;
     void openWebPage() override;
     void openPrivacySettings() override { }  // Linux asks for no permission, so none is ever missing.
 
-    // This version looks for no newer one.
-    std::optional<std::string> availableVersion() const override { return std::nullopt; }
-    Subscription whenAvailableVersionChanges(std::function<void()>) override { return {}; }
-    void openDownloadPage() override { openWebPage(); }
+    std::optional<std::string> availableVersion() const override;
+    Subscription whenAvailableVersionChanges(std::function<void()> changed) override;
+    void openDownloadPage() override;
 
     std::string language() const override;
     void setLanguage(const std::string& code) override;
     void restart() override;
 
-    std::optional<std::string> installedName(const std::string& bundleID) const override
-    {
-        return desktop_.installedName(bundleID);
-    }
+    std::optional<std::string> installedName(const std::string& bundleID) const override;
     void chooseApplication(std::function<void(const std::string& bundleID)> chosen) override;
 
 private:
-    Desktop desktop_;
-    const std::filesystem::path preferences_;
-    QPointer<QMessageBox> about_;
-    QPointer<QFileDialog> applications_;
+    const Parts parts_;
 };
 
 }  // namespace fadeloom

@@ -27,11 +27,6 @@ public:
     PlatformLinux& operator=(const PlatformLinux&) = delete;
 
     [[nodiscard]] Platform platform();
-    /// The name of an installed application, running or not.
-    [[nodiscard]] std::optional<std::string> installedName(const std::string& bundleID) const
-    {
-        return workspace_.installedName(bundleID);
-    }
 
 private:
     [[nodiscard]] ProcessID processOf(const std::string& portalAppID) const;

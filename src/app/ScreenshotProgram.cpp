@@ -35,9 +35,14 @@ int runScreenshots(int argumentCount, char** arguments, const CommandLine& comma
         own.mainLoop, own.utilityQueue, own.logQueue, folders, own.systemLog, own.text, own.clock,
         own.userDefaults, own.http};
     EngineLog engineLog(platform.systemLog, platform.logQueue, folder->path());
-    PanelServices services({.quit = [] {}, .installedName = [](const auto&) { return std::nullopt; }},
-        folder->path() / "preferences.ini");
-    const InterfaceLanguage language("system");
+    PanelServices services({.workspace = own.workspace,
+        .application = world.application(),
+        .dialogs = world.dialogs(),
+        .userDefaults = own.userDefaults,
+        .updates = nullptr,
+        .translate = InterfaceLanguage::texts(),
+        .quit = [] { }});
+    const InterfaceLanguage language({});
     ScreenshotRenderer::run(platform, engineLog, services, commandLine.outputFolder,
         commandLine.languageSuffix, commandLine.isLight ? Theme::light : Theme::dark, std::cout);
     return 0;

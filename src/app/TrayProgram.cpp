@@ -5,13 +5,19 @@
 #include "app/InterfaceLanguage.h"
 #include "app/PanelServices.h"
 #include "app/PlatformLinux.h"
+#include "app/ProductPages.h"
 #include "app/ScratchFolder.h"
+#include "app/SecondStart.h"
 #include "app/SimulatedHome.h"
 #include "app/TrayPicture.h"
 #include "app/Version.h"
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
+#include "platform/linux/FileManager.h"
+#include "platform/linux/LinuxEnvironment.h"
+#include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/SyslogSystemLog.h"
+#include "platform/linux/Variables.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QuitSignals.h"
 #include "platform/qtdesktop/QtApplication.h"
@@ -20,13 +26,14 @@
 #include "platform/qtdesktop/QtTrayIcon.h"
 #include "platform/qtdesktop/SystemLook.h"
 #include "settings/SettingsFile.h"
+#include "shell/AppLanguage.h"
+#include "shell/UpdateChecker.h"
 #include "ui/PanelEngine.h"
 #include "ui/PanelModel.h"
 
 #include <QApplication>
-#include <QLockFile>
+#include <QIcon>
 #include <QQuickItem>
-#include <QStandardPaths>
 
 #include <functional>
 #include <iostream>
@@ -50,54 +57,143 @@ void choosePlatform()
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");
 }
 
-using InstalledName = std::function<std::optional<std::string>(const std::string&)>;
+/// What the program is on that a simulated world does not have, too.
+struct Desktop {
+    Workspace& workspace;  // Opens addresses, names applications, starts us anew.
+    SingleInstance* instance;  // Null for one of many.
+};
 
-int runOn(Platform platform, QtMainLoop& mainLoop, InstalledName installedName)
+std::optional<UpdateChecker> makeUpdateChecker(const Platform& platform, Workspace& workspace)
 {
-    const QuitSignals quitSignals([&] { mainLoop.quit(); });
-    QtApplication application([](auto) { });  // The panel reads the choice from the settings.
-    QtDialogs dialogs;
-    platform.application = &application;
-    platform.dialogs = &dialogs;
+    const auto endpoint = updateEndpoint();
+    if (!endpoint)
+        return std::nullopt;
+    return std::optional<UpdateChecker>(std::in_place,
+        UpdateChecker::Product{.version = std::string(programVersion()),
+            .build = std::string(programBuild()),
+            .endpoint = *endpoint},
+        UpdateChecker::Parts{.mainLoop = platform.mainLoop,
+            .http = platform.http,
+            .workspace = workspace,
+            .application = *platform.application,
+            .dialogs = *platform.dialogs,
+            .translate = InterfaceLanguage::texts()});
+}
 
-    const auto folder = SettingsFile::defaultURL(platform.folders).parent_path();
-    EngineLog engineLog(platform.systemLog, platform.logQueue, folder);
-    AudioController controller(platform, engineLog, std::string(programVersion()));
-    PanelServices services({.quit = [&] { mainLoop.quit(); }, .installedName = std::move(installedName)},
-        folder / "preferences.ini");
-    const InterfaceLanguage language(services.language());
-    PanelModel panel(controller, platform, services);
-    SystemLook systemLook([&](bool isDark) { panel.setSystemIsDark(isDark); });
-    panel.setSystemIsDark(systemLook.isDark());
+/// The program with its icon and its panel, from the start to the end.
+class TrayRun {
+public:
+    TrayRun(const Platform& platform, QtMainLoop& mainLoop, Desktop desktop);
+    TrayRun(const TrayRun&) = delete;
+    TrayRun& operator=(const TrayRun&) = delete;
+    ~TrayRun();
 
-    PanelEngine engine;
-    auto view = engine.makeRootView(panel);
+    /// Returns the exit status.
+    int run();
+
+private:
+    [[nodiscard]] Platform withWindows(Platform platform);
+    [[nodiscard]] AppDelegate::Actions actions();
+    void beOrdinary();
+    void quit();
+
+    QtMainLoop& mainLoop_;
+    const Desktop desktop_;
+    const QuitSignals quitSignals_{[this] { quit(); }};
+    QtApplication application_{[](auto) { }};  // The panel reads the choice from the settings.
+    QtDialogs dialogs_;
+    const Platform platform_;
+    const InterfaceLanguage language_;
+    EngineLog engineLog_;
+    AudioController controller_;
+    std::optional<UpdateChecker> updates_;
+    PanelServices services_;
+    PanelModel panel_;
+    SystemLook systemLook_{[this](bool isDark) { panel_.setSystemIsDark(isDark); }};
+    PanelEngine engine_;
+    QtTrayIcon icon_;
+    QtPopover popover_{[this] { return icon_.place(); }};
+    std::optional<AppDelegate> delegate_;  // Shows the icon.
+};
+
+TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Desktop desktop)
+    : mainLoop_(mainLoop)
+    , desktop_(desktop)
+    , platform_(withWindows(platform))
+    , language_(AppLanguage::preferred(platform_.userDefaults))
+    , engineLog_(
+          platform_.systemLog, platform_.logQueue, SettingsFile::defaultURL(platform_.folders).parent_path())
+    , controller_(platform_, engineLog_, std::string(programVersion()))
+    , updates_(makeUpdateChecker(platform_, desktop_.workspace))
+    , services_({.workspace = desktop_.workspace,
+          .application = application_,
+          .dialogs = dialogs_,
+          .userDefaults = platform_.userDefaults,
+          .updates = updates_ ? &*updates_ : nullptr,
+          .translate = InterfaceLanguage::texts(),
+          .quit = [this] { quit(); }})
+    , panel_(controller_, platform_, services_)
+    , icon_(trayPicture(systemLook_.isDark()), [this] { beOrdinary(); })
+{
+    panel_.setSystemIsDark(systemLook_.isDark());
+    if (updates_)
+        updates_->start();
+}
+
+TrayRun::~TrayRun()
+{
+    if (desktop_.instance != nullptr)
+        desktop_.instance->serve({});
+}
+
+int TrayRun::run()
+{
+    auto view = engine_.makeRootView(panel_);
     if (!view)
         return 1;
-    QtPopover* shown = nullptr;
-    QtTrayIcon icon(trayPicture(systemLook.isDark()), [&] {
-        std::cerr << "fadeloom: this desktop shows no status icons; the panel is an ordinary window\n";
-        shown->becomeOrdinaryWindow();
-        shown->show();
-    });
-    QtPopover popover([&] { return icon.place(); });
-    shown = &popover;
-    popover.setContent(std::move(view));
-    AppDelegate delegate(controller, icon, popover, application,
-        {
-            .showPage = [&](bool isSettings) { panel.setShowsSettings(isSettings); },
-            .showAbout = [&] { services.openAboutPanel(); },
-            .quit = [&] { mainLoop.quit(); },
-            .translate =
-                [](std::string_view text) {
-                    return QCoreApplication::translate("AppDelegate", std::string(text).c_str())
-                        .toStdString();
-                },
-        });
-
-    mainLoop.run();
-    controller.shutdown();
+    popover_.setContent(std::move(view));
+    delegate_.emplace(controller_, icon_, popover_, application_, actions());
+    if (desktop_.instance != nullptr)
+        desktop_.instance->serve({.open = [this] { delegate_->showPopover(); },
+            .toggle = [this] { delegate_->togglePopover(); },
+            .quit = [this] { quit(); }});
+    mainLoop_.run();
+    controller_.shutdown();
     return 0;
+}
+
+Platform TrayRun::withWindows(Platform platform)
+{
+    platform.application = &application_;
+    platform.dialogs = &dialogs_;
+    return platform;
+}
+
+AppDelegate::Actions TrayRun::actions()
+{
+    AppDelegate::Actions actions{
+        .showPage = [this](bool isSettings) { panel_.setShowsSettings(isSettings); },
+        .showAbout = [this] { services_.openAboutPanel(); },
+        .quit = [this] { quit(); },
+        .translate = InterfaceLanguage::texts(),
+    };
+    if (updates_)
+        actions.checkForUpdates = [this] { updates_->checkInteractively(); };
+    return actions;
+}
+
+void TrayRun::beOrdinary()
+{
+    std::cerr << "fadeloom: this desktop shows no status icons; the panel is an ordinary window\n";
+    popover_.becomeOrdinaryWindow();
+    popover_.show();
+}
+
+void TrayRun::quit()
+{
+    if (desktop_.instance != nullptr)
+        desktop_.instance->beginEnding();
+    mainLoop_.quit();
 }
 
 int runSimulated(QtMainLoop& mainLoop)
@@ -109,24 +205,24 @@ int runSimulated(QtMainLoop& mainLoop)
     }
     QtText text;
     SimulatedHome home(folder->path(), mainLoop, text);
+    SyslogSystemLog systemLog;
+    FileManager fileManager(systemLog);
+    LinuxWorkspace workspace(linuxEnvironment(processVariables()), fileManager);
     home.start();
-    return runOn(home.platform(home.world().systemLog()), mainLoop, [](const auto&) { return std::nullopt; });
+    return TrayRun(home.platform(home.world().systemLog()), mainLoop, {workspace, nullptr}).run();
 }
 
-// Two of us would take each other's applications away.
 int runOnThisMachine(QtMainLoop& mainLoop)
 {
-    QLockFile lock(
-        QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QStringLiteral("/fadeloom.lock"));
-    lock.setStaleLockTime(0);  // Only the end of its process frees it, however long that runs.
-    if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) {
-        std::cerr << "fadeloom: it is running already, and shows its icon among the status icons\n";
-        return 0;
+    SingleInstance instance(instanceFolder());
+    if (const auto second = secondStart(instance.claim(InstanceRequest::open), InstanceRequest::open)) {
+        std::cerr << "fadeloom: " << second->message << '\n';
+        return second->exitStatus;
     }
     SyslogSystemLog systemLog;
     PlatformLinux home(mainLoop, systemLog);
-    return runOn(
-        home.platform(), mainLoop, [&](const std::string& bundleID) { return home.installedName(bundleID); });
+    const auto platform = home.platform();
+    return TrayRun(platform, mainLoop, {platform.workspace, &instance}).run();
 }
 
 }  // namespace
@@ -142,7 +238,9 @@ int runTray(int argumentCount, char** arguments, bool isSimulated)
     const QApplication application(argumentCount, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("fadeloom"));
+    QApplication::setApplicationVersion(QString::fromStdString(std::string(programVersion())));
     QApplication::setDesktopFileName(QStringLiteral("com.fadeloom.app"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app-icon.svg")));
     QtMainLoop mainLoop;
     return isSimulated ? runSimulated(mainLoop) : runOnThisMachine(mainLoop);
 }

@@ -8,4 +8,9 @@ std::string_view programVersion()
     return FADELOOM_VERSION;
 }
 
+std::string_view programBuild()
+{
+    return FADELOOM_BUILD;
+}
+
 }  // namespace fadeloom

@@ -161,5 +161,42 @@ TEST_F(AppDelegateStory, theOtherEntriesDoWhatTheySay)
     EXPECT_FALSE(popover.isShown());
 }
 
+TEST_F(AppDelegateStory, anEntryClosesThePopoverAlsoWhenTheMenuIsOld)
+{
+    const auto about = entry("About Fadeloom");
+    const auto updates = entry("Check for Updates…");
+    icon.click();
+
+    about->action();
+    EXPECT_FALSE(popover.isShown());
+    icon.click();
+    updates->action();
+
+    EXPECT_FALSE(popover.isShown());
+    EXPECT_THAT(done, ElementsAre("about", "updates"));
+}
+
+TEST_F(AppDelegateStory, whereNobodyLooksForUpdatesTheMenuOffersNone)
+{
+    SimulatedStatusItem silentIcon;
+    const AppDelegate silent{controller, silentIcon, popover, world.application(),
+        {.showPage = [](bool) { }, .showAbout = [] { }, .quit = [] { }}};
+
+    for (const auto& each : silentIcon.openMenu())
+        EXPECT_NE(each.title, "Check for Updates…");
+}
+
+TEST_F(AppDelegateStory, itsTextsAreLookedUp)
+{
+    SimulatedStatusItem foreignIcon;
+    const AppDelegate foreign{controller, foreignIcon, popover, world.application(),
+        {.showPage = [](bool) {},
+            .showAbout = [] {},
+            .quit = [] {},
+            .translate = [](const char* context, const char* text) { return std::string(context) + text; }}};
+
+    EXPECT_EQ(foreignIcon.openMenu().front().title, "AppDelegateAbout Fadeloom");
+}
+
 }  // namespace
 }  // namespace fadeloom

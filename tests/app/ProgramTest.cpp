@@ -200,8 +200,8 @@ protected:
         EXPECT_TRUE(SettingsFile::save(settings, settingsFile));
         const auto here = folder.path().string();
         program.emplace(std::vector<std::string>{"--headless"},
-            std::map<std::string, std::string>{
-                {"XDG_CONFIG_HOME", here}, {"XDG_RUNTIME_DIR", here}, {"PIPEWIRE_RUNTIME_DIR", here}});
+            std::map<std::string, std::string>{{"XDG_CONFIG_HOME", here}, {"XDG_RUNTIME_DIR", here},
+                {"PIPEWIRE_RUNTIME_DIR", here}, {"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent"}});
         EXPECT_TRUE(program->lineWith("default none"));
     }
 

@@ -21,7 +21,8 @@ protected:
         EXPECT_TRUE(QFile::copy(QStringLiteral(PROJECT_SOURCES "/translations/") + name, copy));
         QProcess update;
         update.start(QStringLiteral(LUPDATE),
-            {"-silent", "-no-obsolete", "-locations", "none", PROJECT_SOURCES "/src/ui", "-ts", copy});
+            {"-silent", "-no-obsolete", "-locations", "none", PROJECT_SOURCES "/src/ui",
+                PROJECT_SOURCES "/src/shell", PROJECT_SOURCES "/src/app", "-ts", copy});
         EXPECT_TRUE(update.waitForFinished() && update.exitCode() == 0);
         return unfinishedIn(copy);
     }
