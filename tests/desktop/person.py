@@ -11,7 +11,7 @@ from audioSession import waitUntil
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-EVERYWHERE = (0, 0, 1 << 16, 1 << 16)
+BAR = 30  # Pixels; every tray here is that high or less.
 
 
 class Control:
@@ -122,6 +122,12 @@ class Person:
         focused = [control for control in self.controls() if control.has(Atspi.StateType.FOCUSED)]
         return focused[-1] if focused else None
 
+    def press(self, name):
+        """By the screen reader, wherever on a page that scrolls it is."""
+        def named():
+            return next((control for control in self.controls(showing=False) if control.name == name), None)
+        waitUntil(named, f"{name} on the panel").press()
+
     # Hands
 
     def click(self, control, button=1):
@@ -143,15 +149,15 @@ class Person:
 
     # The icon
 
-    def iconAppears(self, before, within=EVERYWHERE, seconds=8.0):
-        """Waits for something new on the screen that was `before`, and until it is drawn; returns its middle."""
-        x, y, width, height = within
+    def iconAppears(self, before, seconds=8.0):
+        """Waits for something new in the bar along the top of the screen, which was `before`, and until it is drawn;
+        returns its middle."""
         seen = []
 
         def search():
             changed = numpy.abs(self.session.pixels() - before).sum(axis=2) > 60
-            rows, columns = changed[y:y + height, x:x + width].nonzero()
-            seen.append((int(columns.min() + columns.max()) // 2 + x, int(rows.min() + rows.max()) // 2 + y)
+            rows, columns = changed[:BAR].nonzero()
+            seen.append((int(columns.min() + columns.max()) // 2, int(rows.min() + rows.max()) // 2)
                         if len(rows) > 20 else None)
             return seen[-1] if len(seen) > 1 and seen[-1] == seen[-2] else None
         return waitUntil(search, "the icon", seconds, 0.2)

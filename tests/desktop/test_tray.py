@@ -3,43 +3,14 @@
 
 import time
 
-import dbus
-
 from audioSession import waitUntil
+from busMenu import BusMenu, findMenu
 from conftest import use
 from desktopSession import SIZE
 from fadeloomProcess import app, settings
 from person import Atspi
 
-MENU = ["About Fadeloom", "Open Mixer", "Settings…", "Launch at Login", "Quit Fadeloom"]
-
-
-class BusMenu:
-    """The icon's menu as the desktop's panel gets it over the message bus."""
-
-    def __init__(self, session):
-        bus = dbus.bus.BusConnection(session.environment["DBUS_SESSION_BUS_ADDRESS"])
-        watcher = bus.get_object("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher")
-        items = watcher.Get("org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems",
-                            dbus_interface="org.freedesktop.DBus.Properties")
-        name, _, path = next(item for item in items if "StatusNotifierItem" in item).partition("/")
-        self.item = bus.get_object(name, "/" + path)
-        menu = self.property("Menu")
-        self.menu = dbus.Interface(bus.get_object(name, menu), "com.canonical.dbusmenu")
-
-    def property(self, name):
-        return self.item.Get("org.kde.StatusNotifierItem", name, dbus_interface="org.freedesktop.DBus.Properties")
-
-    def entries(self):
-        """What is in it now: label -> (id, is checked)."""
-        self.menu.AboutToShow(0)
-        time.sleep(0.2)
-        _, (_, _, children) = self.menu.GetLayout(0, -1, [])
-        return {str(properties["label"]).replace("_", ""): (int(number), bool(properties.get("toggle-state", 0)))
-                for number, properties, _ in children if "label" in properties}
-
-    def choose(self, label):
-        self.menu.Event(self.entries()[label][0], "clicked", "", 0)
+MENU = ["About Fadeloom", "Open Mixer", "Settings…", "Launch at Login", "Check for Updates…", "Quit Fadeloom"]
 
 
 def isBelow(panel, icon):
@@ -147,21 +118,13 @@ def test_quittingFromTheMenuLeavesThePlayersAudible(desk):
     desk.waitForLevel(0.2)
 
 
-def hasIcon(session):
-    """Whether the tray has our icon, over the message bus."""
-    try:
-        return BusMenu(session).property("Status") == "Active"
-    except (dbus.DBusException, StopIteration):  # No tray yet, or no icon in it.
-        return False
-
-
 def test_theIconComesBackWithATrayThatRestarts(desk):
     desk.start()
     desk.session.endTray()
 
     desk.session.startXfcePanel()
 
-    waitUntil(lambda: hasIcon(desk.session), "the icon")
+    waitUntil(lambda: findMenu(desk.session), "the icon")
     time.sleep(0.5)  # The tray draws it where it was.
     assert isBelow(desk.open(), desk.icon)
 
@@ -203,7 +166,7 @@ def test_aTrayThatComesLaterGetsTheIcon(makeDesk):
 
     use(desk.session, "xfce4-panel")
 
-    waitUntil(lambda: hasIcon(desk.session), "the icon")
+    waitUntil(lambda: findMenu(desk.session), "the icon")
     assert desk.panel() is None
 
 
