@@ -4,8 +4,9 @@
 
 A private PipeWire session with two virtual devices; two real players, one native and one on PulseAudio; Fadeloom with
 settings that turn one down and boost, equalize and move the other; then it records an app, and an app makes a call.
-What arrives at the devices is recorded before and after, and the measured levels are printed. The recording is left in
-build/demo/.
+What arrives at the devices is recorded before and after, and the measured levels are printed. At last it is started
+among the status icons of a desktop that nobody sees, and its panel is opened. The recording and a picture of the panel
+are left in build/demo/.
 
     tools/demo.py PROGRAM
 """
@@ -19,7 +20,8 @@ import time
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 
 import signals  # noqa: E402
-from audioSession import AudioSession, SessionError, waitUntil  # noqa: E402
+from audioSession import SessionError, waitUntil  # noqa: E402
+from desktopSession import DesktopSession  # noqa: E402
 from fadeloomProcess import FadeloomProcess, app, settings  # noqa: E402
 
 DEVICES = ("speakers", "headphones")
@@ -109,6 +111,21 @@ def call(session, fadeloom):
     return during["speakers", MUSIC] - before["speakers", MUSIC]
 
 
+def showPanel(session, program):
+    """Starts the program with its icon, and once more, which opens the panel; the picture of that is kept."""
+    session.startXfcePanel()
+    session.spawn("panel", [str(program)])
+    waitUntil(lambda: session.ownsName("com.fadeloom.app"), "the program")
+    time.sleep(1)  # The tray takes the focus while it adds the icon, and a panel without it closes.
+    session.run(str(program))
+    window = waitUntil(lambda: session.windows("^Fadeloom$"), "the panel")[0]
+    time.sleep(2)  # Sound has to come through the taps before a level can be seen.
+    picture = RESULTS / "panel.png"
+    session.screenshot(picture, session.geometry(window))
+    session.end("panel")
+    print(f"\nIts panel, with both players: {picture.relative_to(RESULTS.parent.parent)}")
+
+
 def demonstrate(session, program):
     session.setQuantum(QUANTUM)
     music = signals.sine(MUSIC, 0.25, 60) + signals.noise(0.02, 60)  # The noise is for finding the delay.
@@ -154,6 +171,7 @@ def demonstrate(session, program):
     print("\nFadeloom has ended; the players are on their own again:")
     end = measure(session, "end")
     show(end)
+    showPanel(session, program)
     isRight = (abs(change + 6.02) < 0.05 and tapped == direct and after["speakers", RADIO] < SILENCE
                and abs(after["headphones", RADIO] + 1) < 0.1 and abs(recorded - signals.decibels(0.4)) < 0.05
                and abs(lowered + 13.98) < 0.1
@@ -167,7 +185,7 @@ def main(arguments):
         print(__doc__, file=sys.stderr)
         return 2
     try:
-        with AudioSession() as session:
+        with DesktopSession() as session:
             return demonstrate(session, pathlib.Path(arguments[0]).resolve())
     except SessionError as error:
         print(f"The demo session failed: {error}", file=sys.stderr)
