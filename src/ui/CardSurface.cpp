@@ -51,15 +51,15 @@ void CardSurface::paintFill(QPainter& painter) const
     painter.setBrush(fill);
     painter.drawRoundedRect(boundingRect(), radius_, radius_);
 
-    // The light on the upper edge: it ends where the corners turn down.
+    // The light on the upper edge, under the border: it ends where the corners turn down.
     painter.save();
     painter.setClipRect(QRectF(0, 0, width(), radius_));
-    QLinearGradient light(0, 1, 0, radius_);
+    QLinearGradient light(0, 0, 0, radius_);
     light.setColorAt(0, white(isDark_ ? 0.07 : 0.90));
     light.setColorAt(1, white(0));
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(light, 1));
-    painter.drawRoundedRect(boundingRect().adjusted(1.5, 1.5, -1.5, -1.5), radius_ - 1.5, radius_ - 1.5);
+    painter.drawRoundedRect(boundingRect().adjusted(0.5, 0.5, -0.5, -0.5), radius_ - 0.5, radius_ - 0.5);
     painter.restore();
 }
 

@@ -36,7 +36,7 @@ Item {
         Label {
             id: title
             x: 48
-            y: 10
+            y: 9.5
             width: mute.x - x - 8
             elide: Text.ElideRight
             size: 13
@@ -46,7 +46,7 @@ Item {
         Row {
             id: statusLine
             x: 48
-            y: 26
+            y: 26.5
             spacing: 4
             Symbol {
                 visible: name !== ""
