@@ -20,6 +20,7 @@ AppDelegate::AppDelegate(AudioController& controller, StatusItem& statusItem, Po
     popover_.whenShown([this] { controller_.levels().setWanted(true); });
     popover_.whenClosed([this] { controller_.levels().setWanted(false); });
     statusItem.whenClicked([this] { togglePopover(); });
+    statusItem.whenMenuOpens([this] { popover_.close(); });  // The menu would take the keyboard from it.
     statusItem.setMenu([this] { return menu(); });
     statusItem.show("Fadeloom");
 }
@@ -53,7 +54,6 @@ void AppDelegate::openSettings()
 
 StatusMenu AppDelegate::menu()
 {
-    popover_.close();  // The menu would take the keyboard from it.
     const auto& translate = actions_.translate;
     const bool isLaunching = *controller_.state().launchAtLogin;
     StatusMenu entries = {

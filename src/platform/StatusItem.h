@@ -29,7 +29,10 @@ public:
     virtual void show(const std::string& name) = 0;
     /// Called for a click that opens no menu.
     virtual void whenClicked(std::function<void()> clicked) = 0;
-    /// The menu of a right click, and of a click with Control held. It is built when it is about to open.
+    /// Called before the menu opens.
+    virtual void whenMenuOpens(std::function<void()> willOpen) = 0;
+    /// The menu of a right click, and of a click with Control held. It is built when it is about to open; a desktop may
+    /// ask for it sooner, too.
     virtual void setMenu(std::function<StatusMenu()> build) = 0;
 };
 

@@ -15,7 +15,10 @@ QtTrayIcon::QtTrayIcon(const QIcon& icon, std::function<void()> withoutHost)
     : icon_(icon)
     , withoutHost_(std::move(withoutHost))
 {
-    QObject::connect(&menu_, &QMenu::aboutToShow, &menu_, [this] { fillMenu(); });
+    QObject::connect(&menu_, &QMenu::aboutToShow, &menu_, [this] {
+        menuOpens_();
+        fillMenu();
+    });
 }
 
 void QtTrayIcon::show(const std::string& name)
@@ -47,7 +50,7 @@ void QtTrayIcon::activated(QSystemTrayIcon::ActivationReason reason)
     lastClick_ = QGuiApplication::platformName() == QLatin1String("xcb") ? QRect(QCursor::pos(), QSize(1, 1))
                                                                          : QRect();
     if (QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ControlModifier)) {
-        // In a turn of its own: building the menu closes the panel, which would take a menu along.
+        // In a turn of its own: the panel closes before the menu opens, which would take a menu along.
         QTimer::singleShot(0, &menu_, [this] { menu_.popup(QCursor::pos()); });
         return;
     }

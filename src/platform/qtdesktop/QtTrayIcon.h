@@ -26,6 +26,7 @@ public:
 
     void show(const std::string& name) override;
     void whenClicked(std::function<void()> clicked) override { clicked_ = std::move(clicked); }
+    void whenMenuOpens(std::function<void()> willOpen) override { menuOpens_ = std::move(willOpen); }
     void setMenu(std::function<StatusMenu()> build) override { build_ = std::move(build); }
 
     /// Where the icon is on the screen, or was clicked last; null when nobody knows.
@@ -39,6 +40,7 @@ private:
     const QIcon icon_;
     std::function<void()> withoutHost_;
     std::function<void()> clicked_ = [] { };
+    std::function<void()> menuOpens_ = [] { };
     std::function<StatusMenu()> build_ = [] { return StatusMenu{}; };
     QString name_;
     QRect lastClick_;

@@ -13,17 +13,22 @@ class SimulatedStatusItem final : public StatusItem {
 public:
     void show(const std::string& name) override { name_ = name; }
     void whenClicked(std::function<void()> clicked) override { clicked_ = std::move(clicked); }
+    void whenMenuOpens(std::function<void()> willOpen) override { menuOpens_ = std::move(willOpen); }
     void setMenu(std::function<StatusMenu()> build) override { build_ = std::move(build); }
 
     /// The name under which it is shown; empty before.
     [[nodiscard]] const std::string& name() const { return name_; }
     void click() { clicked_(); }
     /// What a right click shows.
-    [[nodiscard]] StatusMenu openMenu() { return build_(); }
+    [[nodiscard]] StatusMenu openMenu()
+    {
+        menuOpens_();
+        return build_();
+    }
     /// Opens the menu and chooses the entry with this title; says whether there is one.
     bool choose(const std::string& title)
     {
-        const auto menu = build_();
+        const auto menu = openMenu();
         const auto entry = std::ranges::find(menu, title, &StatusMenuEntry::title);
         if (entry == menu.end())
             return false;
@@ -34,6 +39,7 @@ public:
 private:
     std::string name_;
     std::function<void()> clicked_ = [] { };
+    std::function<void()> menuOpens_ = [] { };
     std::function<StatusMenu()> build_ = [] { return StatusMenu{}; };
 };
 
