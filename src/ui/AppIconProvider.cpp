@@ -7,6 +7,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPixmap>
+#include <QSvgRenderer>
 #include <QTextBoundaryFinder>
 #include <QUrl>
 #include <QUrlQuery>
@@ -24,16 +25,34 @@ QString initialOf(const QString& name)
     return end > 0 ? name.left(end).toUpper() : QString();
 }
 
-QIcon iconOf(const QUrlQuery& query)
+// By ourselves: whether an image format plugin for such files is installed is the desktop's affair.
+QPixmap drawing(const QString& file, QSize size)
 {
-    const auto value = [&](const char* key) {
-        return query.queryItemValue(QLatin1String(key), QUrl::FullyDecoded);
-    };
-    if (const auto theme = value("theme"); !theme.isEmpty() && QIcon::hasThemeIcon(theme))
-        return QIcon::fromTheme(theme);
-    if (const auto file = value("file"); !file.isEmpty() && QFile::exists(file))
-        return QIcon(file);
-    return {};
+    QSvgRenderer renderer(file);
+    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+    if (!renderer.isValid())
+        return {};
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    renderer.render(&painter);
+    return pixmap;
+}
+
+QString valueOf(const QUrlQuery& query, const char* key)
+{
+    return query.queryItemValue(QLatin1String(key), QUrl::FullyDecoded);
+}
+
+// Null when neither the theme nor the file has a picture. `size`: in device pixels, so that nothing is to be scaled.
+QPixmap pictureOf(const QUrlQuery& query, QSize size)
+{
+    if (const auto theme = valueOf(query, "theme"); !theme.isEmpty() && QIcon::hasThemeIcon(theme))
+        return QIcon::fromTheme(theme).pixmap(size, 1.0);
+    const auto file = valueOf(query, "file");
+    if (file.isEmpty() || !QFile::exists(file))
+        return {};
+    return file.endsWith(QLatin1String(".svg")) ? drawing(file, size) : QIcon(file).pixmap(size, 1.0);
 }
 
 // The measures are those of a tile of 28, as our other tiles have them.
@@ -87,11 +106,10 @@ QPixmap AppIconProvider::requestPixmap(const QString& id, QSize* size, const QSi
     if (size)
         *size = wanted;
     const QUrlQuery query(id.mid(id.indexOf(u'?') + 1));
-    // The request is for device pixels already.
-    if (auto pixmap = iconOf(query).pixmap(wanted, 1.0); !pixmap.isNull())
+    if (auto pixmap = pictureOf(query, wanted); !pixmap.isNull())
         return pixmap.size() == wanted ? pixmap
                                        : pixmap.scaled(wanted, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    return tile(initialOf(query.queryItemValue(QStringLiteral("name"), QUrl::FullyDecoded)), wanted);
+    return tile(initialOf(valueOf(query, "name")), wanted);
 }
 
 }  // namespace fadeloom

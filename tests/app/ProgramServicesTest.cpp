@@ -99,7 +99,7 @@ TEST_F(ProgramServicesTest, asksForUpdatesAtTheStartUnlessItIsBuiltNotTo)
 
     EXPECT_THAT(server.requests(),
         Each(AllOf(StartsWith("GET /updates/version.json HTTP/1.1\r\n"),
-            HasSubstr("\r\nUser-Agent: Fadeloom/" + std::string(programBuild()) + "\r\n"))));
+            HasSubstr("\r\nuser-agent: Fadeloom/" + std::string(programBuild()) + "\r\n"))));
     program->signal(SIGTERM);
     EXPECT_EQ(program->exitStatus(), 0);
 }

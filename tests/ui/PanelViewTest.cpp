@@ -55,7 +55,12 @@ protected:
         }
         return nullptr;
     }
-    QQuickItem* button(const QString& name) { return find(name, QAccessible::Button); }
+    /// A button, also one that opens a menu. Qt 6.4 calls both buttons, later ones know more.
+    QQuickItem* button(const QString& name)
+    {
+        auto* const found = find(name, QAccessible::Button);
+        return found ? found : find(name, QAccessible::ComboBox);
+    }
     QQuickItem* slider(const QString& name) { return find(name, QAccessible::Slider); }
     bool isSeen(const QString& text) { return find(text, QAccessible::StaticText) != nullptr; }
 

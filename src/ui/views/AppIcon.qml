@@ -6,5 +6,5 @@ Image {
     width: 26
     height: 26
     sourceSize: Qt.size(26, 26)
-    source: "qrc:/icons/app-icon-small.svg"
+    source: "image://appicon/?file=:/icons/app-icon-small.svg"
 }

@@ -35,7 +35,8 @@ public:
     {
         return "http://127.0.0.1:" + std::to_string(server_.serverPort()) + path;
     }
-    /// Every request with its headers, in the order in which they came.
+    /// Every request in the order in which they came; the names of its headers in lower case, which differs between
+    /// versions of Qt.
     [[nodiscard]] const std::vector<std::string>& requests() const { return requests_; }
     [[nodiscard]] int disconnections() const { return disconnections_; }
 
@@ -49,6 +50,17 @@ public:
     }
 
 private:
+    static std::string withLowerNames(std::string request)
+    {
+        bool isName = false;  // The first line is no header.
+        for (char& letter : request) {
+            if (isName && letter >= 'A' && letter <= 'Z')
+                letter = static_cast<char>(letter - 'A' + 'a');
+            isName = letter == '\n' || (isName && letter != ':');
+        }
+        return request;
+    }
+
     void accept()
     {
         auto* const connection = server_.nextPendingConnection();
@@ -58,7 +70,7 @@ private:
                 request += connection->readAll().toStdString();
                 if (!request.ends_with("\r\n\r\n"))
                     return;
-                requests_.push_back(request);
+                requests_.push_back(withLowerNames(request));
                 answer_(*connection, std::exchange(request, {}));
             });
     }

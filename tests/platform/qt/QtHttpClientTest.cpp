@@ -34,8 +34,8 @@ TEST_F(QtHttpClientTest, tellsWhoItIsAndNothingElseOfTheUser)
     statusOf(server.url("/page"));
 
     EXPECT_THAT(server.requests().at(0),
-        AllOf(StartsWith("GET /page HTTP/1.1\r\n"), HasSubstr("\r\nUser-Agent: Fadeloom/42\r\n"),
-            Not(HasSubstr("pl")), Not(HasSubstr("Cookie"))));
+        AllOf(StartsWith("GET /page HTTP/1.1\r\n"), HasSubstr("\r\nuser-agent: Fadeloom/42\r\n"),
+            Not(HasSubstr("pl")), Not(HasSubstr("\ncookie"))));
 }
 
 TEST_F(QtHttpClientTest, asksPastEveryCache)
@@ -46,15 +46,15 @@ TEST_F(QtHttpClientTest, asksPastEveryCache)
 
     ASSERT_EQ(server.requests().size(), 2U);
     EXPECT_THAT(server.requests().at(1),
-        AllOf(HasSubstr("\r\nCache-Control: no-cache\r\n"), Not(HasSubstr("If-None-Match")),
-            Not(HasSubstr("Cookie"))));
+        AllOf(HasSubstr("\r\ncache-control: no-cache\r\n"), Not(HasSubstr("if-none-match")),
+            Not(HasSubstr("\ncookie"))));
 }
 
 TEST_F(QtHttpClientTest, followsARedirect)
 {
     EXPECT_EQ(statusOf(server.url("/moved")), 200);
     EXPECT_EQ(body, "the page");
-    EXPECT_THAT(server.requests().at(1), HasSubstr("\r\nUser-Agent: Fadeloom/42\r\n"));
+    EXPECT_THAT(server.requests().at(1), HasSubstr("\r\nuser-agent: Fadeloom/42\r\n"));
 }
 
 TEST_F(QtHttpClientTest, runsInNoCircle)

@@ -1,0 +1,151 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""What the icon and the panel cost, on a private desktop: time to the first frame, wakeups, processor, memory.
+
+    tools/panelCosts.py PROGRAM [--rows 10] [--seconds 20]
+"""
+
+import argparse
+import ctypes
+import os
+import pathlib
+import shutil
+import statistics
+import sys
+import time
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
+
+import signals  # noqa: E402
+from audioSession import SessionError, waitUntil  # noqa: E402
+from desktopSession import SIZE, DesktopSession  # noqa: E402
+
+STARTS = 7
+
+
+def wakeups(pid):
+    """How often each thread has waited and gone on so far: name -> count."""
+    counts = {}
+    for task in pathlib.Path(f"/proc/{pid}/task").iterdir():
+        lines = dict(line.split(":\t", 1) for line in (task / "status").read_text().splitlines() if ":\t" in line)
+        counts[f"{lines['Name']} {task.name}"] = int(lines["voluntary_ctxt_switches"])
+    return counts
+
+
+def cpuSeconds(pid):
+    fields = pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()
+    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
+def memory(pid):
+    """Resident, and what is shared with nobody, in megabytes."""
+    lines = dict(line.split(":", 1) for line in pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()[1:])
+    private = sum(int(lines[name].split()[0]) for name in ("Private_Clean", "Private_Dirty"))
+    return int(lines["Rss"].split()[0]) / 1024, private / 1024
+
+
+def watch(pid, seconds):
+    """Wakeups a second of the busiest thread and of all, and the share of a processor in percent."""
+    before, used, started = wakeups(pid), cpuSeconds(pid), time.monotonic()
+    time.sleep(seconds)
+    elapsed = time.monotonic() - started
+    each = {name: (count - before.get(name, 0)) / elapsed for name, count in wakeups(pid).items()}
+    return each, (cpuSeconds(pid) - used) / elapsed * 100
+
+
+def tell(what, pid, seconds):
+    each, cpu = watch(pid, seconds)
+    resident, private = memory(pid)
+    busiest = max(each, key=each.get)
+    print(f"  {what:42} {sum(each.values()):6.1f} wakeups/s (of {busiest.split()[0]} {each[busiest]:.1f}), "
+          f"{cpu:5.2f} % of a processor, {resident:.0f} MB resident, {private:.0f} MB private", flush=True)
+
+
+def openPanel(session):
+    """Asks the program that runs to open its panel."""
+    return session.run("dbus-send", "--session", "--print-reply", "--dest=com.fadeloom.app", "/com/fadeloom/app",
+                       "com.fadeloom.app.Open", check=False)
+
+
+class Eye:
+    """Looks at one pixel of a display, a thousand times a second if need be."""
+
+    def __init__(self, display):
+        self.x11 = ctypes.CDLL("libX11.so.6")
+        for function in ("XOpenDisplay", "XGetImage"):
+            getattr(self.x11, function).restype = ctypes.c_void_p
+        self.x11.XDefaultRootWindow.restype = ctypes.c_ulong
+        self.x11.XGetPixel.restype = ctypes.c_ulong
+        self.display = ctypes.c_void_p(self.x11.XOpenDisplay(display.encode()))
+        self.root = ctypes.c_ulong(self.x11.XDefaultRootWindow(self.display))
+
+    def colour(self, x, y):
+        image = ctypes.c_void_p(self.x11.XGetImage(self.display, self.root, x, y, 1, 1, ctypes.c_ulong(0xFFFFFF), 2))
+        value = self.x11.XGetPixel(image, 0, 0)
+        self.x11.XDestroyImage(image)
+        return value
+
+
+def firstFrame(session, program, eye):
+    """Milliseconds from the start of the process to the first picture of its panel, which is asked for at once."""
+    place = (SIZE[0] - 30, 120)  # The panel stands in the upper right corner.
+    empty = eye.colour(*place)
+    started = time.monotonic()
+    session.spawn("start", [str(program)])
+    waitUntil(lambda: openPanel(session), "the program", interval=0)
+    waitUntil(lambda: eye.colour(*place) != empty, "the first frame", interval=0.001)
+    elapsed = time.monotonic() - started
+    session.end("start")
+    waitUntil(lambda: eye.colour(*place) == empty, "the desktop")
+    return elapsed * 1000
+
+
+def measure(session, program, rows, seconds):
+    session.startXfcePanel()
+    session.spawn("fadeloom", [str(program)])
+    pid = session.processes["fadeloom"].pid
+    waitUntil(lambda: session.ownsName("com.fadeloom.app"), "the program")
+    time.sleep(6)
+    print(f"The program is {pathlib.Path(program).stat().st_size / 1e6:.1f} MB.")
+    tell("icon only, nothing plays", pid, seconds)
+
+    tone = session.folder / "tone.wav"
+    signals.write(tone, signals.sine(440, 0.05, 6 * seconds + 60))
+    for number in range(rows):
+        copy = session.folder / f"player{number}"
+        shutil.copy(shutil.which("pw-cat"), copy)
+        session.spawn(copy.name, [str(copy), "--playback", str(tone)])
+        time.sleep(0.2)
+    time.sleep(6)
+    tell(f"icon only, {rows} applications play", pid, seconds)
+    openPanel(session)
+    time.sleep(3)
+    tell(f"panel open, {rows} rows with meters", pid, seconds)
+    session.press("Escape")
+    waitUntil(lambda: not session.windows("^Fadeloom$"), "the panel to close")
+    time.sleep(1)
+    tell(f"panel closed, {rows} applications play", pid, seconds)
+    session.end("fadeloom")
+    eye = Eye(session.environment["DISPLAY"])
+    frames = sorted(firstFrame(session, program, eye) for _ in range(STARTS))
+    print(f"  first frame after the start of the process: {frames[0]:.0f} to {frames[-1]:.0f} ms, "
+          f"median {statistics.median(frames):.0f} ms")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("program")
+    parser.add_argument("--rows", type=int, default=10)
+    parser.add_argument("--seconds", type=int, default=20)
+    arguments = parser.parse_args()
+    try:
+        with DesktopSession() as session:
+            measure(session, pathlib.Path(arguments.program).resolve(), arguments.rows, arguments.seconds)
+    except SessionError as error:
+        print(f"The session failed: {error}", file=sys.stderr)
+        return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
