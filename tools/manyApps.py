@@ -25,6 +25,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 import signals  # noqa: E402
 from audioSession import AudioSession, SessionError  # noqa: E402
 from fadeloomProcess import FadeloomProcess, app, settings  # noqa: E402
+from processUse import cpuOfThreads  # noqa: E402
 
 TONE = 750  # Its period divides every cycle, so that all players are in step whenever each began.
 GAINS = [3.0, 2.0, 1.0, -1.0, -2.0, 2.0, 1.0, 3.0, -3.0, 2.0]
@@ -73,17 +74,6 @@ def startApps(session, count, seconds):
 def lateNodes(session):
     """The nodes that missed a cycle so far, by name. After one, the server is silent about others for two seconds."""
     return re.findall(r"\((\S+)-\d+\) client too slow", (session.folder / "pipewire.log").read_text())
-
-
-def cpuSeconds(stat):
-    """What a process or thread has taken of the processors so far, in seconds."""
-    fields = pathlib.Path(stat).read_text().rsplit(")", 1)[1].split()
-    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
-
-
-def cpuOfThreads(pid):
-    """The same of each thread of a process, by its id."""
-    return {task.name: cpuSeconds(task / "stat") for task in pathlib.Path(f"/proc/{pid}/task").iterdir()}
 
 
 def measure(session, program, count, quantum, seconds):

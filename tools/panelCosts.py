@@ -7,7 +7,6 @@
 
 import argparse
 import ctypes
-import os
 import pathlib
 import shutil
 import statistics
@@ -19,38 +18,18 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 import signals  # noqa: E402
 from audioSession import SessionError, waitUntil  # noqa: E402
 from desktopSession import SIZE, DesktopSession  # noqa: E402
+from processUse import cpuSeconds, memory, wakeups  # noqa: E402
 
 STARTS = 7
 
 
-def wakeups(pid):
-    """How often each thread has waited and gone on so far: name -> count."""
-    counts = {}
-    for task in pathlib.Path(f"/proc/{pid}/task").iterdir():
-        lines = dict(line.split(":\t", 1) for line in (task / "status").read_text().splitlines() if ":\t" in line)
-        counts[f"{lines['Name']} {task.name}"] = int(lines["voluntary_ctxt_switches"])
-    return counts
-
-
-def cpuSeconds(pid):
-    fields = pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()
-    return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
-
-
-def memory(pid):
-    """Resident, and what is shared with nobody, in megabytes."""
-    lines = dict(line.split(":", 1) for line in pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()[1:])
-    private = sum(int(lines[name].split()[0]) for name in ("Private_Clean", "Private_Dirty"))
-    return int(lines["Rss"].split()[0]) / 1024, private / 1024
-
-
 def watch(pid, seconds):
     """Wakeups a second of the busiest thread and of all, and the share of a processor in percent."""
-    before, used, started = wakeups(pid), cpuSeconds(pid), time.monotonic()
+    before, used, started = wakeups(pid), cpuSeconds(f"/proc/{pid}/stat"), time.monotonic()
     time.sleep(seconds)
     elapsed = time.monotonic() - started
     each = {name: (count - before.get(name, 0)) / elapsed for name, count in wakeups(pid).items()}
-    return each, (cpuSeconds(pid) - used) / elapsed * 100
+    return each, (cpuSeconds(f"/proc/{pid}/stat") - used) / elapsed * 100
 
 
 def tell(what, pid, seconds):
