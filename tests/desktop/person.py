@@ -11,6 +11,9 @@ from audioSession import waitUntil
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
+# What can be pressed, moved or written in. Qt 6.4 calls most of them buttons.
+ACTIVE = (Atspi.Role.PUSH_BUTTON, Atspi.Role.CHECK_BOX, Atspi.Role.SLIDER, Atspi.Role.RADIO_BUTTON, Atspi.Role.MENU_ITEM,
+          Atspi.Role.COMBO_BOX, Atspi.Role.LINK, Atspi.Role.ENTRY, Atspi.Role.TEXT)
 BAR = 30  # Pixels; every tray here is that high or less.
 
 

@@ -5,7 +5,7 @@ import pytest
 
 from audioSession import waitUntil
 from fadeloomProcess import app, settings
-from person import Atspi
+from person import ACTIVE, Atspi
 
 
 def tabOrder(desk, count):
@@ -107,15 +107,16 @@ def test_everyControlOfTheSettingsIsReached(desk):
     desk.open()
     desk.person.click(desk.person.find("Settings"))
     desk.person.waitForText("Focus Mode")
-    roles = (Atspi.Role.PUSH_BUTTON, Atspi.Role.CHECK_BOX, Atspi.Role.SLIDER, Atspi.Role.RADIO_BUTTON)
     # What lies below the edge of the page is there, too, and counts.
     page = [control.name for control in desk.person.controls(showing=False)
-            if control.role in roles and control.has(Atspi.StateType.ENABLED)]
+            if control.role in ACTIVE and control.has(Atspi.StateType.ENABLED)]
     wanted = {name for name in page if name and not name.startswith(("Update", "Restart to Apply"))}
 
-    reached = set(tabOrder(desk, len(wanted)))
+    reached = tabOrder(desk, 1)
+    while reached[-1] not in reached[:-1]:
+        reached += tabOrder(desk, 1)
 
-    assert wanted - reached == set()
+    assert wanted - set(reached) == set()
 
 
 def test_thePageFollowsTheKeyboard(desk):

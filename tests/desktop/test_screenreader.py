@@ -6,11 +6,7 @@ Whether something was done is looked up in the sound or the settings, never in t
 
 from audioSession import waitUntil
 from fadeloomProcess import app, settings
-from person import Atspi
-
-ACTIVE = (Atspi.Role.PUSH_BUTTON, Atspi.Role.CHECK_BOX, Atspi.Role.SLIDER, Atspi.Role.RADIO_BUTTON, Atspi.Role.MENU_ITEM,
-          Atspi.Role.TEXT)
-
+from person import ACTIVE, Atspi
 
 def namelessControls(person):
     return [control.role for control in person.controls() if control.role in ACTIVE and not control.name]
