@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// The program's item in the menu bar.
+#pragma once
+
+#include "platform/StatusItem.h"
+
+#include <memory>
+
+namespace fadeloom {
+
+/// Its picture is the resource "MenuBarIcon", which the system tints; without it the item is empty.
+class MenuBarItem final : public StatusItem {
+public:
+    MenuBarItem();
+    MenuBarItem(const MenuBarItem&) = delete;
+    MenuBarItem& operator=(const MenuBarItem&) = delete;
+    /// Removes it from the menu bar.
+    ~MenuBarItem() override;
+
+    void show(const std::string& name) override;
+    void whenClicked(std::function<void()> clicked) override;
+    void setMenu(std::function<StatusMenu()> build) override;
+
+    /// Its button, an `NSStatusBarButton` that stays the item's; null before `show`.
+    [[nodiscard]] void* button() const;
+
+private:
+    class Shown;
+
+    void clicked();
+
+    std::function<void()> clicked_ = [] { };
+    std::function<StatusMenu()> buildMenu_ = [] { return StatusMenu{}; };
+    std::unique_ptr<Shown> shown_;
+};
+
+}  // namespace fadeloom

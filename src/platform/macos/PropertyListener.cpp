@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "platform/macos/PropertyListener.h"
+
+#include <utility>
+
+namespace fadeloom {
+
+AudioResult<std::unique_ptr<PropertyListener>> PropertyListener::add(AudioObjectID object,
+    const ::AudioObjectPropertyAddress& address, AudioHardware::Listener listener)
+{
+    auto told = std::make_shared<Told>(std::move(listener));
+    std::unique_ptr<PropertyListener> added(new PropertyListener(object, address, std::move(told)));
+    const AudioStatus status = AudioObjectAddPropertyListenerBlock(
+        object, &added->address_, dispatch_get_main_queue(), added->block_.get());
+    if (status != kAudioHardwareNoError)
+        return std::unexpected(status);
+    added->isAdded_ = true;
+    return added;
+}
+
+PropertyListener::PropertyListener(
+    AudioObjectID object, const ::AudioObjectPropertyAddress& address, std::shared_ptr<Told> told)
+    : object_(object)
+    , address_(address)
+    , told_(told)
+    , block_(^(UInt32, const ::AudioObjectPropertyAddress*) {
+        const auto kept = told;  // The listener may end its own subscription, and this block with it.
+        if (!kept->isOver)
+            kept->listener();
+    })
+{
+}
+
+PropertyListener::~PropertyListener()
+{
+    told_->isOver = true;
+    if (isAdded_)
+        AudioObjectRemovePropertyListenerBlock(object_, &address_, dispatch_get_main_queue(), block_.get());
+}
+
+}  // namespace fadeloom

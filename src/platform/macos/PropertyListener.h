@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// One listener to one property of one audio object.
+#pragma once
+
+#include "platform/AudioHardware.h"
+#include "platform/macos/BlockRef.h"
+
+#include <CoreAudio/CoreAudio.h>
+
+#include <memory>
+
+namespace fadeloom {
+
+/// Hears on the main queue, until its end. Thread: main.
+class PropertyListener {
+public:
+    [[nodiscard]] static AudioResult<std::unique_ptr<PropertyListener>> add(AudioObjectID object,
+        const ::AudioObjectPropertyAddress& address, AudioHardware::Listener listener);
+    PropertyListener(const PropertyListener&) = delete;
+    PropertyListener& operator=(const PropertyListener&) = delete;
+    ~PropertyListener();
+
+private:
+    /// Outlives the listener: a call that is on its way to the main queue when it ends still arrives.
+    struct Told {
+        AudioHardware::Listener listener;
+        bool isOver = false;
+    };
+
+    PropertyListener(
+        AudioObjectID object, const ::AudioObjectPropertyAddress& address, std::shared_ptr<Told> told);
+
+    const AudioObjectID object_;
+    const ::AudioObjectPropertyAddress address_;
+    const std::shared_ptr<Told> told_;
+    const BlockRef<AudioObjectPropertyListenerBlock> block_;
+    bool isAdded_ = false;
+};
+
+}  // namespace fadeloom

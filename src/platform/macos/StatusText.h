@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// A status of the platform, in words.
+#pragma once
+
+#include "platform/AudioObject.h"
+
+#include <string>
+
+namespace fadeloom {
+
+/// "OSStatus -50", or "OSStatus 560947818 ('!obj')" when the number is four printable characters.
+[[nodiscard]] std::string statusText(AudioStatus status);
+
+}  // namespace fadeloom
