@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// A double of the audio hardware layer: devices, processes, taps, aggregate devices and their IO in memory.
+//
+// It keeps to what is documented of the real one: texts are handed out with a reference that the reader releases, a
+// property that is set changes a moment later, listeners are called on their queue and are known by their block, IO
+// buffers of streams that are switched off have a size but no data, and a taken tap shows as the last input stream.
+#pragma once
+
+#include "tests/macos/doubles/Journal.h"
+
+#import <CoreAudio/CATapDescription.h>
+#import <CoreAudio/CoreAudio.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <expected>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace fadeloom::doubles {
+
+struct Device {
+    std::string uid;
+    std::optional<std::string> name = "A device";
+    std::vector<std::uint32_t> inputs{};  // Channels of each stream.
+    std::vector<std::uint32_t> outputs{2};
+    double rate = 48000;
+    std::array<std::uint32_t, 2> stereoPair{1, 2};
+};
+
+struct Process {
+    std::int32_t pid = -1;
+    std::optional<std::string> bundleID{};
+    bool isRunningOutput = false;
+    bool isRunningInput = false;
+    float amplitude = 0;
+};
+
+/// As the audio system keeps it: a copy of what its description said.
+struct Tap {
+    std::string uuid;
+    std::string name;
+    std::vector<AudioObjectID> processes;
+    bool isPrivate = false;
+    CATapMuteBehavior muteBehavior = CATapUnmuted;
+};
+
+struct Proc {
+    AudioDeviceIOBlock block;
+    bool isRunning = false;
+    std::vector<std::uint32_t> inputIsOn;
+};
+
+struct Aggregate {
+    std::string description;  // The whole dictionary as text.
+    std::string uid;
+    std::string name;
+    std::string master;
+    std::string tapUID;
+    std::map<AudioDeviceIOProcID, Proc> procs{};
+};
+
+/// A value, or the status of asking for it.
+struct Property {
+    std::vector<std::byte> bytes{};
+    bool isText = false;
+    std::optional<std::string> text{};
+    std::function<OSStatus(const void* data)> write{};
+};
+
+class AudioWorld {
+public:
+    static constexpr std::uint32_t framesInCycle = 512;
+
+    /// The one that the functions of the audio hardware layer act on.
+    static AudioWorld& current();
+    /// Begins anew. Ids go on, so that none comes twice.
+    void reset();
+
+    AudioObjectID plug(Device device);
+    void unplug(const std::string& uid);
+    void setDefaultOutput(const std::string& uid);
+    AudioObjectID addProcess(Process process);
+    /// Changes a process and tells its listeners.
+    void change(std::int32_t pid, const std::function<void(Process&)>& how);
+    void endProcess(std::int32_t pid);
+
+    /// The next call that would be noted like this fails.
+    void failNext(const std::string& call, OSStatus status) { failures[call] = status; }
+    /// What was set takes effect now; listeners are called when their queues run.
+    void settleProperties();
+    /// One IO cycle of each procedure that runs.
+    void runCycle();
+
+    // What the functions need.
+    [[nodiscard]] std::expected<Property, OSStatus> property(
+        AudioObjectID object, const AudioObjectPropertyAddress& address);
+    void changed(AudioObjectID object, AudioObjectPropertySelector selector);
+    /// Notes a call and its object, and tells whether it fails; 0 when not.
+    [[nodiscard]] OSStatus begin(const std::string& call, AudioObjectID object);
+    [[nodiscard]] AudioObjectID deviceOf(const std::string& uid) const;
+    [[nodiscard]] const Tap* tapOf(const std::string& uid) const;
+    [[nodiscard]] std::uint32_t inputStreamsOf(const Aggregate& aggregate) const;
+    [[nodiscard]] std::string kindOf(AudioObjectID object) const;
+    AudioObjectID nextID() { return ++lastID; }
+
+    struct Listener {
+        AudioObjectID object;
+        AudioObjectPropertyAddress address;
+        dispatch_queue_t queue;
+        AudioObjectPropertyListenerBlock block;
+    };
+
+    std::map<AudioObjectID, Device> devices;
+    std::map<AudioObjectID, Process> processes;
+    std::map<AudioObjectID, Tap> taps;
+    std::map<AudioObjectID, Aggregate> aggregates;
+    AudioObjectID defaultOutput = kAudioObjectUnknown;
+    std::vector<Listener> listeners;
+    std::deque<std::function<void()>> pending;
+    std::map<std::string, OSStatus> failures;
+    AudioStreamBasicDescription tapFormat{};
+    AudioObjectID lastID = 100;
+
+private:
+    void run(Aggregate& aggregate, Proc& proc);
+};
+
+/// Four characters as text.
+std::string characters(std::uint32_t code);
+
+}  // namespace fadeloom::doubles

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// How a compiler lays out Objective-C classes, for the runtime alone.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <utility>
+
+namespace fadeloom::doubles {
+
+struct MethodList {
+    struct Method {
+        const char* selector;
+        const char* types;
+        void* function;
+    };
+
+    std::uint32_t entrySize;
+    std::uint32_t count;
+    Method methods[1];  // As many as there are.
+};
+
+struct ClassRo {
+    static constexpr std::uint32_t isMeta = 1;
+
+    std::uint32_t flags;
+    std::uint32_t instanceStart;
+    std::uint32_t instanceSize;
+    std::uint32_t reserved;
+    const std::uint8_t* ivarLayout;
+    const char* name;
+    const MethodList* methods;
+};
+
+struct ClassData {
+    const ClassData* type;
+    const ClassData* superclass;
+    void* cache;
+    void* table;
+    const ClassRo* data;
+
+    [[nodiscard]] const ClassRo& ro() const { return *data; }
+    [[nodiscard]] void* ownMethod(const char* selector) const
+    {
+        const MethodList* list = data->methods;
+        for (std::uint32_t i = 0; list != nullptr && i < list->count; ++i)
+            if (std::strcmp((&list->methods[0] + i)->selector, selector) == 0)
+                return (&list->methods[0] + i)->function;
+        return nullptr;
+    }
+    [[nodiscard]] void* method(const char* selector) const
+    {
+        for (const ClassData* each = this; each != nullptr; each = each->superclass)
+            if (void* const found = each->ownMethod(selector))
+                return found;
+        return nullptr;
+    }
+};
+
+struct ObjectData {
+    const ClassData* type;
+};
+
+struct Super {
+    ObjectData* receiver;
+    const ClassData* type;
+};
+
+ObjectData* makeObject(const ClassData* type);
+void disposeOf(ObjectData* object);
+
+}  // namespace fadeloom::doubles
+
+extern "C" {
+fadeloom::doubles::ObjectData* objc_retain(fadeloom::doubles::ObjectData* object);
+void objc_release(fadeloom::doubles::ObjectData* object);
+fadeloom::doubles::ObjectData* objc_autorelease(fadeloom::doubles::ObjectData* object);
+void* objc_autoreleasePoolPush();
+void objc_autoreleasePoolPop(void* pool);
+}
