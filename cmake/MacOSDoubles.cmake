@@ -14,5 +14,6 @@ if(FADELOOM_MACOS_DOUBLES)
     add_compile_options(-fblocks -fobjc-runtime=macosx-14.2)
     include_directories(SYSTEM ${CMAKE_SOURCE_DIR}/tests/macos/declarations)
     link_libraries(BlocksRuntime)
-    add_link_options(-no-pie)  # Addresses of the compiler's class data are absolute.
+    # Addresses in the compiler's class data are absolute.
+    add_link_options($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-no-pie>)
 endif()

@@ -20,8 +20,9 @@ FOREIGN = {
     "Qt": (QT, ("platform/qt", "platform/qtdesktop", "platform/linux", "ui", "app")),
     "PipeWire": (re.compile(r"^(pipewire|spa)/"), ("platform/pipewire",)),
     "libsndfile": (re.compile(r"^sndfile\.hh?$"), ("platform/sndfile",)),
-    "Apple": (re.compile(r"^(CoreAudio|AudioToolbox|CoreFoundation|Foundation|AppKit|Cocoa|os|dispatch)/"),
-              ("platform/macos",)),
+    "Apple": (re.compile(r"^((CoreAudio|AudioToolbox|CoreFoundation|Foundation|AppKit|Cocoa|ServiceManagement|"
+                         r"UniformTypeIdentifiers|dispatch)/|os/(?!lock\.h$)|Block\.h$)"), ("platform/macos",)),
+    "the system lock's": (re.compile(r"^os/lock\.h$"), ("platform",)),  # Tried on the IO thread, so it is inline.
 }
 
 

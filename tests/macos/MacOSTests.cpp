@@ -8,7 +8,7 @@
 
 #include <optional>
 
-namespace fadeloom::doubles {
+namespace doubles {
 namespace {
 
 class NothingStays final : public ::testing::EmptyTestEventListener {
@@ -31,11 +31,11 @@ class NothingStays final : public ::testing::EmptyTestEventListener {
 };
 
 }  // namespace
-}  // namespace fadeloom::doubles
+}  // namespace doubles
 
 int main(int argc, char** argv)
 {
     ::testing::InitGoogleTest(&argc, argv);
-    ::testing::UnitTest::GetInstance()->listeners().Append(new fadeloom::doubles::NothingStays);
+    ::testing::UnitTest::GetInstance()->listeners().Append(new doubles::NothingStays);
     return RUN_ALL_TESTS();
 }

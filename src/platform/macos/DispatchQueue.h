@@ -4,8 +4,6 @@
 
 #include "platform/BackgroundQueue.h"
 
-struct dispatch_queue_s;
-
 namespace fadeloom {
 
 /// Pieces of work never run at the same time, not even when one of them is run by `runNow`. They must not throw.

@@ -3,10 +3,6 @@
 
 #include "platform/macos/BlockRef.h"
 
-#include <CoreFoundation/CoreFoundation.h>
-
-#include <utility>
-
 namespace fadeloom {
 namespace {
 
@@ -31,9 +27,8 @@ std::optional<int> TccPermission::preflight() const
 
 void TccPermission::request(std::function<void(bool isGranted)> answered)
 {
-    using Answered = void (^)(bool isGranted);
     const BlockRef<Answered> block(^(bool isGranted) { answered(isGranted); });
-    request_(service(), nullptr, reinterpret_cast<const void*>(block.get()));
+    request_(service(), nullptr, block.get());
 }
 
 }  // namespace fadeloom

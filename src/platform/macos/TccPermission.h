@@ -5,6 +5,8 @@
 #include "platform/CapturePermission.h"
 #include "platform/macos/DynamicLibrary.h"
 
+#include <CoreFoundation/CoreFoundation.h>
+
 namespace fadeloom {
 
 /// No public function asks for this permission, so the two that do are looked up, once, and may be missing.
@@ -19,9 +21,9 @@ public:
     void request(std::function<void(bool isGranted)> answered) override;
 
 private:
-    // Their first argument is a text, the second a dictionary or null, the third a block that takes the answer.
-    using Preflight = int(const void* service, const void* options);
-    using Request = void(const void* service, const void* options, const void* answered);
+    using Answered = void (^)(bool isGranted);
+    using Preflight = int(CFStringRef service, CFDictionaryRef options);
+    using Request = void(CFStringRef service, CFDictionaryRef options, Answered answered);
 
     const DynamicLibrary library_;
     Preflight* const preflight_;

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cstring>
 
-using namespace fadeloom::doubles;
+using namespace doubles;
 
 @implementation CATapDescription
 

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-namespace fadeloom::doubles {
+namespace doubles {
 namespace {
 
 template <typename T>
@@ -206,4 +206,4 @@ Found AudioWorld::property(AudioObjectID object, const AudioObjectPropertyAddres
     return std::unexpected(OSStatus{kAudioHardwareBadObjectError});
 }
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles

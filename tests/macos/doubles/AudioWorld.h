@@ -22,7 +22,7 @@
 #include <string>
 #include <vector>
 
-namespace fadeloom::doubles {
+namespace doubles {
 
 struct Device {
     std::string uid;
@@ -134,4 +134,4 @@ private:
 /// Four characters as text.
 std::string characters(std::uint32_t code);
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles

@@ -6,7 +6,7 @@
 #include <numbers>
 #include <utility>
 
-namespace fadeloom::doubles {
+namespace doubles {
 
 std::string characters(std::uint32_t code)
 {
@@ -206,4 +206,4 @@ void AudioWorld::run(Aggregate& aggregate, Proc& proc)
     proc.block(&now, input.list(), &now, output.list(), &now);
 }
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles

@@ -18,9 +18,9 @@
 - (void)removeEntryForKey:(NSString*)key;
 @end
 
-namespace fadeloom::doubles {
+namespace doubles {
 
 /// A value as text: strings as they are, truths as yes and no, lists in [], dictionaries in {} in the order given.
 std::string described(id value);
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles

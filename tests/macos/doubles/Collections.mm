@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-using fadeloom::doubles::crash;
+using doubles::crash;
 
 @implementation NSArray {
 @protected
@@ -114,7 +114,7 @@ using fadeloom::doubles::crash;
 
 @end
 
-namespace fadeloom::doubles {
+namespace doubles {
 
 std::string described(id value)
 {
@@ -133,9 +133,13 @@ std::string described(id value)
     return "{" + text + "}";
 }
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles
 
 extern "C" {
+
+// What the compiler makes of @[] and @{}.
+NSArray* __NSArray0__ = [[NSArray alloc] init];
+NSDictionary* __NSDictionary0__ = [[NSDictionary alloc] init];
 
 const CFArrayCallBacks kCFTypeArrayCallBacks{};
 const CFDictionaryKeyCallBacks kCFTypeDictionaryKeyCallBacks{};

@@ -11,7 +11,7 @@
 #include <list>
 #include <mutex>
 
-extern "C" const fadeloom::doubles::ClassData immortalClass __asm__("OBJC_CLASS_$_ImmortalObject");
+extern "C" const doubles::ClassData immortalClass __asm__("OBJC_CLASS_$_ImmortalObject");
 
 /// To Objective-C a queue is an object; to whoever made it in C++, a reference to be released once.
 struct dispatch_queue_s {
@@ -19,7 +19,7 @@ struct dispatch_queue_s {
     int references = 1;
 };
 
-namespace fadeloom::doubles {
+namespace doubles {
 namespace {
 
 struct Waiting {
@@ -100,9 +100,9 @@ void clearQueues()
     std::ranges::for_each(dropped, drop);
 }
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles
 
-using namespace fadeloom::doubles;
+using namespace doubles;
 
 extern "C" {
 

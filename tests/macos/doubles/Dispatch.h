@@ -4,7 +4,7 @@
 
 #include <chrono>
 
-namespace fadeloom::doubles {
+namespace doubles {
 
 /// Runs what is due on all queues, the main queue's included, and what that brings.
 void runQueues();
@@ -13,4 +13,4 @@ void advanceQueues(std::chrono::nanoseconds duration);
 /// Drops what waits.
 void clearQueues();
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles

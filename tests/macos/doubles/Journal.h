@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace fadeloom::doubles {
+namespace doubles {
 
 /// Of the whole test program; each test begins with an empty one.
 inline std::vector<std::string>& journal()
@@ -19,4 +19,4 @@ inline void note(std::string line)
     journal().push_back(std::move(line));
 }
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles

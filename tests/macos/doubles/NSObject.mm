@@ -4,7 +4,7 @@
 
 #import <Foundation/NSObject.h>
 
-using namespace fadeloom::doubles;
+using namespace doubles;
 
 extern "C" {
 bool objc_opt_isKindOfClass(const ObjectData* object, const ClassData* type);

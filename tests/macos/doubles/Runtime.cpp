@@ -20,7 +20,7 @@ void* _Block_copy(const void* block);
 void _Block_release(const void* block);
 }
 
-namespace fadeloom::doubles {
+namespace doubles {
 namespace {
 
 /// Stands before each object on the heap.
@@ -142,9 +142,9 @@ void disposeOf(ObjectData* object)
     std::free(&headOf(object));
 }
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles
 
-using namespace fadeloom::doubles;
+using namespace doubles;
 
 // NOLINTBEGIN: the names are the compiler's.
 extern "C" {

@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <string>
 
-namespace fadeloom::doubles {
+namespace doubles {
 
 /// How many objects live on the heap now.
 std::size_t liveObjects();
@@ -32,4 +32,4 @@ private:
 /// Ends the program with a message: what the platform would crash on.
 [[noreturn]] void crash(const std::string& why);
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles

@@ -7,7 +7,7 @@
 #include <cstring>
 #include <utility>
 
-namespace fadeloom::doubles {
+namespace doubles {
 
 struct MethodList {
     struct Method {
@@ -70,12 +70,12 @@ struct Super {
 ObjectData* makeObject(const ClassData* type);
 void disposeOf(ObjectData* object);
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles
 
 extern "C" {
-fadeloom::doubles::ObjectData* objc_retain(fadeloom::doubles::ObjectData* object);
-void objc_release(fadeloom::doubles::ObjectData* object);
-fadeloom::doubles::ObjectData* objc_autorelease(fadeloom::doubles::ObjectData* object);
+doubles::ObjectData* objc_retain(doubles::ObjectData* object);
+void objc_release(doubles::ObjectData* object);
+doubles::ObjectData* objc_autorelease(doubles::ObjectData* object);
 void* objc_autoreleasePoolPush();
 void objc_autoreleasePoolPop(void* pool);
 }

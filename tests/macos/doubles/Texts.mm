@@ -4,18 +4,41 @@
 #include "tests/macos/doubles/Runtime.h"
 
 #include <cstring>
+#include <map>
 #include <string>
 
-using fadeloom::doubles::crash;
+using doubles::crash;
 
 namespace {
 
 struct CompiledText {
+    static constexpr int isUtf16 = 0x7D0;
+
     const void* type;
     int flags;
     const char* bytes;
     long length;
 };
+
+/// A text in the sources that is more than ASCII is compiled as UTF-16.
+const std::string& converted(const CompiledText& text)
+{
+    static std::map<const char*, std::string> known;
+    auto [entry, isNew] = known.try_emplace(text.bytes);
+    if (isNew)
+        for (long i = 0; i < text.length; ++i) {
+            const auto unit = reinterpret_cast<const char16_t*>(text.bytes)[i];
+            if (unit < 0x80) {
+                entry->second += static_cast<char>(unit);
+                continue;
+            }
+            if (unit >= 0x800)
+                entry->second += static_cast<char>(0xE0 | unit >> 12);
+            entry->second += static_cast<char>(unit < 0x800 ? 0xC0 | unit >> 6 : 0x80 | (unit >> 6 & 0x3F));
+            entry->second += static_cast<char>(0x80 | (unit & 0x3F));
+        }
+    return entry->second;
+}
 
 bool isUtf8(const std::string& bytes)
 {
@@ -87,7 +110,8 @@ bool isUtf8(const std::string& bytes)
 
 - (const char*)UTF8String
 {
-    return ((__bridge const CompiledText*)self)->bytes;
+    const auto& text = *(__bridge const CompiledText*)self;
+    return text.flags == CompiledText::isUtf16 ? converted(text).c_str() : text.bytes;
 }
 
 @end

@@ -4,8 +4,8 @@
 
 #import <Foundation/Foundation.h>
 
-namespace fadeloom::doubles {
+namespace doubles {
 
 NSError* errorSaying(NSString* words);
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles

@@ -2,6 +2,7 @@
 // Addresses, identifiers and moments.
 #import <Foundation/Foundation.h>
 
+#include "tests/macos/doubles/UrlText.h"
 #include "tests/macos/doubles/Values.h"
 
 #include <algorithm>
@@ -99,7 +100,12 @@ extern "C" CFURLRef CFURLCreateFromFileSystemRepresentation(
 @implementation NSNotification
 @end
 
-namespace fadeloom::doubles {
+namespace doubles {
+
+std::string urlPath(CFURLRef location)
+{
+    return ((__bridge NSURL*)location).path.UTF8String;
+}
 
 NSError* errorSaying(NSString* words)
 {
@@ -108,4 +114,4 @@ NSError* errorSaying(NSString* words)
     return error;
 }
 
-}  // namespace fadeloom::doubles
+}  // namespace doubles

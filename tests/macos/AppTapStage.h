@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// A player on an output device of the audio world, and the tap that the engine makes of it. For Objective-C++ only.
+#pragma once
+
+#include "engine/AppTap.h"
+#include "platform/macos/CoreAudioHardware.h"
+#include "tests/macos/doubles/AudioWorld.h"
+#include "tests/macos/doubles/Dispatch.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace fadeloom {
+
+class AppTapStage : public ::testing::Test {
+protected:
+    using Lines = std::vector<std::string>;
+
+    AppTapStage()
+    {
+        world.reset();
+        speakers = world.plug({.uid = "speakers"});
+        player = world.addProcess({.pid = 501, .isRunningOutput = true, .amplitude = 0.5F});
+        doubles::journal().clear();
+    }
+    ~AppTapStage() override
+    {
+        EXPECT_TRUE(world.taps.empty());
+        EXPECT_TRUE(world.aggregates.empty());
+        world.reset();
+    }
+
+    auto create() { return createOn("speakers", speakers); }
+    std::expected<std::unique_ptr<AppTap>, TapError> createOn(const std::string& uid, AudioObjectID device)
+    {
+        return AppTap::create(hardware, {player}, uid, device, parameters, "Music");
+    }
+    /// What was asked since this was asked last.
+    static Lines asked() { return std::exchange(doubles::journal(), {}); }
+    const doubles::Tap& onlyTap() { return world.taps.begin()->second; }
+    const doubles::Aggregate& onlyAggregate() { return world.aggregates.begin()->second; }
+    const doubles::Proc& onlyProc() { return onlyAggregate().procs.begin()->second; }
+
+    doubles::AudioWorld& world = doubles::AudioWorld::current();
+    CoreAudioHardware hardware;
+    std::shared_ptr<TapParameters> parameters = std::make_shared<TapParameters>();
+    AudioObjectID speakers = kAudioObjectUnknown;
+    AudioObjectID player = kAudioObjectUnknown;
+};
+
+}  // namespace fadeloom

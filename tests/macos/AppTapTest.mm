@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+// What the engine's tap asks of CoreAudio, in which order, and in which words.
+#include "tests/macos/AppTapStage.h"
+
+namespace fadeloom {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::MatchesRegex;
+
+class MacOSAppTap : public AppTapStage { };
+
+const std::vector<std::string> steps = {
+    "create tap on system",
+    "get tfmt of tap",
+    "create aggregate on system",
+    "get nsrt of aggregate",
+    "get dch2 outp of device",
+    "create proc on aggregate",
+    "size stm# inpt of device",
+    "start aggregate",
+};
+const std::vector<std::string> undoneAll = {
+    "stop aggregate", "destroy proc of aggregate", "destroy aggregate", "destroy tap"};
+
+TEST_F(MacOSAppTap, isBuiltInThisOrder)
+{
+    const auto tap = create();
+
+    ASSERT_TRUE(tap);
+    EXPECT_EQ(asked(), steps);
+}
+
+TEST_F(MacOSAppTap, isTakenDownInTheOppositeOrderOnce)
+{
+    const auto tap = create();
+    ASSERT_TRUE(tap);
+    asked();
+
+    (*tap)->teardown();
+    EXPECT_EQ(asked(), undoneAll);
+    (*tap)->teardown();
+
+    EXPECT_THAT(asked(), IsEmpty());
+}
+
+TEST_F(MacOSAppTap, describesItsTap)
+{
+    const auto tap = create();
+    ASSERT_TRUE(tap);
+
+    EXPECT_THAT(onlyTap().processes, ElementsAre(player));
+    EXPECT_EQ(onlyTap().name, "Fadeloom Music");
+    EXPECT_TRUE(onlyTap().isPrivate);
+    EXPECT_EQ(onlyTap().muteBehavior, CATapMutedWhenTapped);
+    EXPECT_THAT(onlyTap().uuid, MatchesRegex("[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}"));
+}
+
+TEST_F(MacOSAppTap, describesItsAggregateDeviceByEightEntries)
+{
+    const auto tap = create();
+    ASSERT_TRUE(tap);
+
+    EXPECT_EQ(onlyAggregate().description,
+        "{name: Fadeloom Music, uid: " + onlyAggregate().uid
+            + ", master: speakers, private: yes, stacked: no, tapautostart: yes, "
+              "subdevices: [{uid: speakers}], taps: [{uid: "
+            + onlyTap().uuid + ", drift: yes}]}");
+    EXPECT_THAT(onlyAggregate().uid, MatchesRegex("com\\.fadeloom\\.tap\\.[0-9A-F-]{36}"));
+}
+
+TEST_F(MacOSAppTap, playsTheAppAtTheRateOfTheAggregate)
+{
+    const auto interface = world.plug({.uid = "interface", .rate = 96000});
+    const auto tap = createOn("interface", interface);
+    ASSERT_TRUE(tap);
+
+    world.runCycle();
+
+    EXPECT_EQ((*tap)->sampleRate(), 96000);
+    EXPECT_TRUE(parameters->audioSeen);
+    EXPECT_NEAR(parameters->takePeak(), 0.5F, 0.01F);
+}
+
+TEST_F(MacOSAppTap, readsATapWithABufferForEachChannel)
+{
+    world.tapFormat.mFormatFlags |= kAudioFormatFlagIsNonInterleaved;
+    const auto tap = create();
+    ASSERT_TRUE(tap);
+
+    world.runCycle();
+
+    EXPECT_NEAR(parameters->takePeak(), 0.5F, 0.01F);
+}
+
+TEST_F(MacOSAppTap, switchesTheMicrophoneOfItsDeviceOffAndLeavesTheTapOn)
+{
+    const auto headset = world.plug({.uid = "headset", .inputs = {1}});
+    asked();
+
+    const auto tap = createOn("headset", headset);
+
+    ASSERT_TRUE(tap);
+    EXPECT_EQ((*tap)->disabledInputs(), 1);
+    EXPECT_THAT(onlyProc().inputIsOn, ElementsAre(0, 1));
+    Lines expected(steps.begin(), steps.end() - 1);
+    for (const char* step : {"get stm# inpt of device", "size suse inpt of aggregate",
+             "get suse inpt of aggregate", "set suse inpt of aggregate", "start aggregate"})
+        expected.emplace_back(step);
+    EXPECT_EQ(asked(), expected);
+    world.runCycle();
+    EXPECT_NEAR(parameters->takePeak(), 0.5F, 0.01F);
+}
+
+TEST_F(MacOSAppTap, switchesEachInputOfItsDeviceOff)
+{
+    const auto desk = world.plug({.uid = "desk", .inputs = {2, 2, 8}});
+
+    const auto tap = createOn("desk", desk);
+
+    ASSERT_TRUE(tap);
+    EXPECT_EQ((*tap)->disabledInputs(), 3);
+    EXPECT_THAT(onlyProc().inputIsOn, ElementsAre(0, 0, 0, 1));
+}
+
+TEST_F(MacOSAppTap, playsWithTheMicrophoneWhenThatCannotBeSwitchedOff)
+{
+    const auto headset = world.plug({.uid = "headset", .inputs = {1}});
+    for (const char* call : {"size suse inpt of aggregate", "get suse inpt of aggregate", "set suse inpt of aggregate"}) {
+        world.failNext(call, kAudioHardwareUnspecifiedError);
+
+        const auto tap = createOn("headset", headset);
+
+        ASSERT_TRUE(tap) << call;
+        EXPECT_EQ((*tap)->disabledInputs(), 0) << call;
+        EXPECT_THAT(onlyProc().inputIsOn, ElementsAre(1, 1)) << call;
+    }
+}
+
+TEST_F(MacOSAppTap, followsANewListOfProcessesWithoutBeingBuiltAnew)
+{
+    const auto other = world.addProcess({.pid = 502, .isRunningOutput = true, .amplitude = 0.25F});
+    const auto tap = create();
+    ASSERT_TRUE(tap);
+    const std::string uuid = onlyTap().uuid;
+    asked();
+
+    EXPECT_TRUE((*tap)->update({player, other}));
+    world.settleProperties();
+
+    EXPECT_THAT(asked(), ElementsAre("set tdsc of tap"));
+    EXPECT_THAT(onlyTap().processes, ElementsAre(player, other));
+    EXPECT_EQ(onlyTap().uuid, uuid);
+    EXPECT_EQ(onlyTap().name, "Fadeloom Music");
+    EXPECT_EQ(onlyTap().muteBehavior, CATapMutedWhenTapped);
+    EXPECT_TRUE(onlyTap().isPrivate);
+}
+
+TEST_F(MacOSAppTap, keepsItsProcessesWhenANewListIsRefused)
+{
+    const auto tap = create();
+    ASSERT_TRUE(tap);
+    world.failNext("set tdsc of tap", kAudioHardwareIllegalOperationError);
+
+    EXPECT_FALSE((*tap)->update({player, 4711}));
+    world.settleProperties();
+
+    EXPECT_THAT((*tap)->processIDs(), ElementsAre(player));
+    EXPECT_THAT(onlyTap().processes, ElementsAre(player));
+    EXPECT_TRUE((*tap)->update({}));
+    world.settleProperties();
+    EXPECT_THAT(onlyTap().processes, IsEmpty());
+}
+
+}  // namespace
+}  // namespace fadeloom

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// The audio files of macOS keep the contract of audio files, and a recording makes its calls in order.
+#include "engine/Recording.h"
+#include "platform/WaveFormats.h"
+#include "platform/macos/ExtendedAudioFiles.h"
+#include "tests/macos/doubles/AudioFileDouble.h"
+#include "tests/macos/doubles/Journal.h"
+#include "tests/platform/AudioFilesContract.h"
+#include "tests/platform/sndfile/WaveReading.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <array>
+
+namespace fadeloom {
+namespace {
+
+using doubles::failNextFileCall;
+using doubles::journal;
+using doubles::openAudioFiles;
+using ::testing::ElementsAre;
+
+class MacOSFilesWorld final : public ContractFilesWorld {
+public:
+    AudioFiles& files() override { return files_; }
+    std::filesystem::path folder() override { return folder_.path(); }
+    std::optional<WrittenSound> read(const std::filesystem::path& location) override
+    {
+        return readWave(location);
+    }
+
+private:
+    TemporaryFolder folder_;
+    ExtendedAudioFiles files_;
+};
+
+std::unique_ptr<ContractFilesWorld> makeMacOSFilesWorld()
+{
+    return std::make_unique<MacOSFilesWorld>();
+}
+
+class MacOSRecording : public ::testing::Test {
+protected:
+    auto record(double rate = 44100) { return Recording::create(files, file, rate, {}); }
+
+    static constexpr auto created = "ExtAudioFileCreateWithURL type 1463899717 flags 1";  // 'WAVE', erase.
+    static constexpr auto formatted = "ExtAudioFileSetProperty 40";
+    static constexpr auto primed = "ExtAudioFileWriteAsync 0";
+    static constexpr auto disposed = "ExtAudioFileDispose";
+
+    TemporaryFolder folder;
+    std::filesystem::path file = folder.path() / "recording.wav";
+    ExtendedAudioFiles files;
+};
+
+}  // namespace
+
+INSTANTIATE_TEST_SUITE_P(MacOS, AudioFilesContract, ::testing::Values(&makeMacOSFilesWorld));
+
+TEST_F(MacOSRecording, isCreatedFormattedAndPrimedInThisOrderAndClosedOnce)
+{
+    const auto recording = record();
+    ASSERT_TRUE(recording);
+    const std::array samples{0.5F, -0.5F};
+    (*recording)->file().write(1, samples.data());
+
+    (*recording)->finish();
+    (*recording)->finish();
+
+    EXPECT_THAT(journal(), ElementsAre(created, formatted, primed, "ExtAudioFileWriteAsync 1", disposed));
+    EXPECT_EQ(readWave(file), WrittenSound(44100, {1 << 22, -(1 << 22)}));
+}
+
+TEST_F(MacOSRecording, thatCannotBeCreatedLeavesNoHandle)
+{
+    failNextFileCall("ExtAudioFileCreateWithURL", {-54});
+
+    const auto recording = record();
+
+    ASSERT_FALSE(recording);
+    EXPECT_EQ(recording.error(), (TapError{"Create recording file", -54}));
+    EXPECT_EQ(openAudioFiles(), 0U);
+    EXPECT_THAT(journal(), ElementsAre(created));
+}
+
+TEST_F(MacOSRecording, inAFolderThatIsNotThereCannotBeCreated)
+{
+    file = folder.path() / "nowhere" / "recording.wav";
+
+    const auto recording = record();
+
+    ASSERT_FALSE(recording);
+    EXPECT_EQ(recording.error(), (TapError{"Create recording file", -43}));
+}
+
+TEST_F(MacOSRecording, whoseFormatIsRefusedIsClosed)
+{
+    failNextFileCall("ExtAudioFileSetProperty", {-66566});
+
+    const auto recording = record();
+
+    ASSERT_FALSE(recording);
+    EXPECT_EQ(recording.error(), (TapError{"Set recording format", -66566}));
+    EXPECT_EQ(openAudioFiles(), 0U);
+    EXPECT_THAT(journal(), ElementsAre(created, formatted, disposed));
+}
+
+TEST_F(MacOSRecording, tellsLostWritesAndTheFirstFailureApart)
+{
+    const auto recording = record();
+    ASSERT_TRUE(recording);
+    const std::array samples{0.5F, -0.5F};
+    failNextFileCall("ExtAudioFileWriteAsync", {-66570, -66570, -34, -36});
+    for (int i = 0; i < 4; ++i)
+        (*recording)->file().write(1, samples.data());
+
+    EXPECT_EQ((*recording)->health(), (AudioFileHealth{.status = -34, .droppedWrites = 2}));
+    (*recording)->finish();
+}
+
+TEST_F(MacOSRecording, thatNobodyFinishedIsClosedWithItsFiles)
+{
+    {
+        ExtendedAudioFiles others;
+        ASSERT_TRUE(others.create(file, waveFileFormat(48000)));
+        EXPECT_EQ(openAudioFiles(), 1U);
+    }
+
+    EXPECT_EQ(openAudioFiles(), 0U);
+}
+
+TEST_F(MacOSRecording, hasAStatusInWordsWithItsCharacters)
+{
+    EXPECT_EQ(files.describe(-50), "OSStatus -50");
+    EXPECT_EQ(files.describe(statusCode("fmt?")), "OSStatus 1718449215 ('fmt?')");
+}
+
+}  // namespace fadeloom

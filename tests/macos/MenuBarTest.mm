@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+// The item in the menu bar, its menu, and the popover below it.
+#include "platform/macos/AppKitPopover.h"
+#include "platform/macos/MenuBarItem.h"
+#include "tests/macos/DesktopStage.h"
+
+#include <optional>
+
+namespace fadeloom {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class MacOSMenuBar : public DesktopStage {
+protected:
+    MacOSMenuBar()
+    {
+        item->whenClicked([this] { happened.emplace_back("clicked"); });
+        item->setMenu([this] {
+            return StatusMenu{
+                {.title = "Open Mixer", .action = [this] { happened.emplace_back("mixer"); }},
+                {},
+                {.title = "Settings…", .action = [this] { happened.emplace_back("settings"); }, .key = ","},
+                {.title = "Launch at Login", .action = [] { }, .isChecked = true},
+            };
+        });
+        item->show("Fadeloom");
+    }
+    NSStatusBarButton* button() { return NSStatusBar.systemStatusBar.onlyItem.button; }
+
+    std::optional<MenuBarItem> item{std::in_place};
+    std::vector<std::string> happened;
+};
+
+TEST_F(MacOSMenuBar, showsATintedPictureUnderItsName)
+{
+    EXPECT_THAT(done(), ElementsAre("square item"));
+    EXPECT_TRUE(button().image.isTemplate);
+    EXPECT_STREQ(button().toolTip.UTF8String, "Fadeloom");
+    EXPECT_STREQ(button().accessibilityLabel.UTF8String, "Fadeloom");
+}
+
+TEST_F(MacOSMenuBar, tellsOfALeftClick)
+{
+    [button() click:NSEventTypeLeftMouseUp modifiers:0];
+
+    EXPECT_THAT(happened, ElementsAre("clicked"));
+}
+
+TEST_F(MacOSMenuBar, opensItsMenuOnARightClickAndWithControl)
+{
+    done();
+    [button() click:NSEventTypeRightMouseUp modifiers:0];
+    [button() click:NSEventTypeLeftMouseUp modifiers:NSEventModifierFlagControl];
+
+    EXPECT_THAT(happened, IsEmpty());
+    EXPECT_THAT(done(), ElementsAre("menu opens", "menu opens"));
+    EXPECT_EQ(NSStatusBar.systemStatusBar.onlyItem.menu, nil);  // Or the next left click would open it.
+    [button() click:NSEventTypeLeftMouseUp modifiers:0];
+    EXPECT_THAT(happened, ElementsAre("clicked"));
+}
+
+TEST_F(MacOSMenuBar, hasTheEntriesOfTheMomentInItsMenu)
+{
+    std::vector<std::string> titles;
+    desktop.whenMenuOpens = [&](NSMenu* menu) {
+        titles = doubles::titles(menu);
+        EXPECT_TRUE(menu.itemArray[1].separatorItem);
+        EXPECT_STREQ(menu.itemArray[2].keyEquivalent.UTF8String, ",");
+        EXPECT_EQ(menu.itemArray[2].state, NSControlStateValueOff);
+        EXPECT_EQ(menu.itemArray[3].state, NSControlStateValueOn);
+        doubles::choose(menu.itemArray[2]);
+    };
+
+    [button() click:NSEventTypeRightMouseUp modifiers:0];
+
+    EXPECT_THAT(titles, ElementsAre("Open Mixer", "", "Settings…", "Launch at Login"));
+    EXPECT_THAT(happened, ElementsAre("settings"));
+}
+
+TEST_F(MacOSMenuBar, letsAChoiceBeMadeAfterTheMenuHasClosed)
+{
+    NSMenuItem* chosen = nil;
+    desktop.whenMenuOpens = [&](NSMenu* menu) { chosen = menu.itemArray[0]; };
+
+    [button() click:NSEventTypeRightMouseUp modifiers:0];
+    doubles::choose(chosen);
+
+    EXPECT_THAT(happened, ElementsAre("mixer"));
+    chosen = nil;
+}
+
+TEST_F(MacOSMenuBar, removesItsItemAtItsEnd)
+{
+    done();
+    item.reset();
+
+    EXPECT_THAT(done(), ElementsAre("item removed"));
+}
+
+class MacOSPopover : public MacOSMenuBar {
+protected:
+    MacOSPopover()
+    {
+        popover->whenShown([this] { happened.emplace_back("will show"); });
+        popover->whenClosed([this] { happened.emplace_back("did close"); });
+        done();
+    }
+
+    std::optional<AppKitPopover> popover{std::in_place, *item};
+};
+
+TEST_F(MacOSPopover, opensBelowTheItemWithTheKeyboard)
+{
+    popover->setAnimated(false);
+    EXPECT_FALSE(popover->isShown());
+
+    popover->show();
+
+    EXPECT_TRUE(popover->isShown());
+    EXPECT_THAT(done(), ElementsAre("popover opens", "make key"));
+    EXPECT_THAT(happened, ElementsAre("will show"));
+}
+
+TEST_F(MacOSPopover, isAnimatedWhenThatIsWanted)
+{
+    popover->setAnimated(true);
+
+    popover->show();
+
+    EXPECT_THAT(done(), ElementsAre("popover opens slowly", "make key"));
+}
+
+TEST_F(MacOSPopover, tellsWhenItHasClosed)
+{
+    popover->show();
+
+    popover->close();
+    popover->close();
+
+    EXPECT_FALSE(popover->isShown());
+    EXPECT_THAT(happened, ElementsAre("will show", "did close"));
+}
+
+TEST_F(MacOSPopover, handsOutAViewForItsContent)
+{
+    EXPECT_NE(popover->contentView(), nullptr);
+    EXPECT_EQ(popover->contentView(), popover->contentView());
+    popover->setContentSize(380, 520);
+}
+
+TEST_F(MacOSPopover, endsWithoutTellingItsOwnerWhoMayBeGone)
+{
+    popover->show();
+    happened.clear();
+
+    popover.reset();
+
+    EXPECT_THAT(happened, IsEmpty());
+    EXPECT_THAT(done(), ElementsAre("popover opens", "make key", "popover closes"));
+}
+
+}  // namespace
+}  // namespace fadeloom

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+// A double of the desktop: applications, defaults, the login item, the menu bar and its popover, dialogs.
+//
+// Tests set what the world is like and read what it was asked to show.
+#pragma once
+
+#import <AppKit/AppKit.h>
+#import <ServiceManagement/ServiceManagement.h>
+#import <UniformTypeIdentifiers/UniformTypeIdentifiers.h>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+@interface NSRunningApplication ()
+@property (getter=isTerminated) BOOL terminated;
+@property NSApplicationActivationPolicy activationPolicy;
+@property (nullable, copy) NSString* localizedName;
+@property (nullable, copy) NSString* bundleIdentifier;
+@property (nullable, copy) NSURL* bundleURL;
+@property pid_t processIdentifier;
+@property (nullable, copy) NSDate* launchDate;
+@property (nullable, strong) NSImage* icon;
+@end
+
+@interface NSEvent ()
+@property NSEventType type;
+@property NSEventModifierFlags modifierFlags;
+@end
+
+@interface NSApplication ()
+@property (nullable, strong) NSEvent* currentEvent;
+@property (nullable, strong) NSAppearance* systemAppearance;
+@property (nullable, strong) NSDictionary* aboutOptions;
+@property BOOL isActive;
+@end
+
+@interface NSStatusBar ()
+@property (readonly) NSStatusItem* onlyItem;
+@end
+
+@interface NSStatusBarButton ()
+@property NSEventMask mask;
+@property (unsafe_unretained) NSStatusItem* owner;
+/// As a user clicks: what is listened for reaches the target.
+- (void)click:(NSEventType)type modifiers:(NSEventModifierFlags)modifiers;
+@end
+
+@interface NSPopover ()
+@property (getter=isShown) BOOL shown;
+@property NSRectEdge edge;
+@property NSRect place;
+@property (unsafe_unretained) NSView* anchor;
+@end
+
+@interface NSOpenPanel ()
+@property (copy) NSArray<NSURL*>* URLs;
+@end
+
+@interface NSMenuItem ()
+@property (getter=isSeparatorItem) BOOL separatorItem;
+@end
+
+@interface NSAttributedString ()
+/// Each run: its text, and the names and values of its attributes.
+@property (readonly) std::vector<std::pair<std::string, NSDictionary*>> runs;
+@end
+
+namespace doubles {
+
+struct Desktop {
+    NSMutableArray<NSRunningApplication*>* applications = [NSMutableArray array];
+    std::map<std::string, std::string> installed{};  // Bundle locations by bundle identifier.
+    std::map<std::string, std::string> displayNames{};  // By path.
+    NSString* ownBundle = @"com.fadeloom.app";
+    NSDictionary* defaults = [NSDictionary dictionaryWithObjects:nil forKeys:nil count:0];
+    SMAppServiceStatus loginItem = SMAppServiceStatusNotRegistered;
+    NSError* loginItemError = nil;
+    bool isNewInstanceRefused = false;
+    long secondsFromGMT = 3600;
+    std::string folders = "/Users/someone";  // The user's home.
+
+    // What is shown.
+    std::function<void(NSOpenPanel*, std::function<void(NSModalResponse)>)> whenPanelOpens =
+        [](NSOpenPanel*, const auto&) { };
+    NSModalResponse alertAnswer = NSAlertFirstButtonReturn;
+    /// Called while a menu is open; what it chooses is done after the menu has closed.
+    std::function<void(NSMenu*)> whenMenuOpens = [](NSMenu*) { };
+};
+
+/// Of the running test, between these two. The application object is there as long.
+Desktop& desktop();
+Desktop& beginDesktop();
+void endDesktop();
+NSRunningApplication* launch(const std::string& name, pid_t pid, const std::string& bundle);
+/// Does what a menu's entry does.
+void choose(NSMenuItem* item);
+std::vector<std::string> titles(NSMenu* menu);
+
+}  // namespace doubles
