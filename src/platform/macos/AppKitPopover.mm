@@ -81,7 +81,9 @@ void AppKitPopover::show()
     @autoreleasepool {
         NSView* button = (__bridge NSView*)item_.button();
         [parts_->popover showRelativeToRect:button.bounds ofView:button preferredEdge:NSRectEdgeMinY];
-        [parts_->popover.contentViewController.view.window makeKeyWindow];
+        NSView* content = parts_->popover.contentViewController.view;
+        [content.window makeKeyWindow];
+        [content.window makeFirstResponder:content.subviews.firstObject];  // Whoever draws gets the keys.
     }
 }
 

@@ -192,6 +192,11 @@ __kindof NSApplication* NSApp = nil;
 {
     note("make key");
 }
+- (BOOL)makeFirstResponder:(NSView*)responder
+{
+    note(responder == nil ? "keys to nobody" : "keys to the content");
+    return YES;
+}
 
 @end
 

@@ -148,11 +148,15 @@ API_AVAILABLE(macos(10.15))
 
 typedef NS_ENUM(NSUInteger, NSRectEdge) { NSRectEdgeMinX = 0, NSRectEdgeMinY = 1, NSRectEdgeMaxX = 2, NSRectEdgeMaxY = 3 };
 
+@class NSView;
+
 @interface NSWindow : NSObject
 - (void)makeKeyWindow;
+- (BOOL)makeFirstResponder:(nullable NSView*)responder;
 @end
 
 @interface NSView : NSObject
+@property (copy) NSArray<__kindof NSView*>* subviews;
 - (instancetype)initWithFrame:(NSRect)frame;
 @property NSRect bounds;
 @property (nullable, readonly, unsafe_unretained) NSWindow* window;

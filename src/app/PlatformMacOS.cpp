@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "app/PlatformMacOS.h"
+
+namespace fadeloom {
+
+PlatformMacOS::PlatformMacOS(MainLoop& mainLoop, SystemLog& systemLog)
+    : mainLoop_(mainLoop)
+    , systemLog_(systemLog)
+    , workspace_(folders_.caches() / "com.fadeloom.app" / "icons")
+    , utilityQueue_("com.fadeloom.settings")
+    , logQueue_("com.fadeloom.log")
+{
+}
+
+Platform PlatformMacOS::platform()
+{
+    return {audio_, audioFiles_, workspace_, capturePermission_, loginItem_, mainLoop_, utilityQueue_,
+        logQueue_, folders_, systemLog_, text_, clock_};
+}
+
+}  // namespace fadeloom
