@@ -15,7 +15,7 @@ import renderInstructions
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
 SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
-SPECIAL = ("pipewire", "desktop", "instructions", "sanitizers", "fuzz", "checks")
+SPECIAL = ("pipewire", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks")
 LONG_FORMS = ("engine", "platform/sndfile")  # Folders with test suites that are named LongForm.
 
 
@@ -176,6 +176,25 @@ def runSanitizers(tally, isLong):
         tally.addJUnit(preset, file, status)
 
 
+def runMacOS(tally):
+    """The adapters for macOS on doubles of the platform, and their compilation for the processors of a Mac."""
+    build("macos", "macosTests")
+    file = results("macosTests")
+    status = run(ROOT / "build/macos/tests/macos/macosTests", f"--gtest_output=xml:{file}", quiet=True,
+                 env={**os.environ, "ASAN_OPTIONS": "detect_leaks=1", "UBSAN_OPTIONS": "halt_on_error=1"})
+    tally.addJUnit("macos", file, status)
+
+    tally.add("macos: bundle", run("/usr/bin/python3", "tools/checkBundle.py", quiet=True) == 0)
+
+    # What does not compile leaves no object behind.
+    run("cmake", "--build", "--preset", "macos", "--target", "macosObjects", "--", "-k", "0", quiet=True)
+    objects = ROOT / "build/macos/tests/macos/objects"
+    for source in [*sources(".cpp", ".mm", below=["src/platform/macos"]), "src/app/PlatformMacOS.cpp"]:
+        for processor in ("arm64", "x86_64"):
+            tally.add(f"macos: {source} compiles for {processor}",
+                      (objects / f"{processor}-apple-macos14.2" / f"{source}.o").is_file())
+
+
 def runFuzz(tally, isLong):
     """Looks for inputs that the settings reader does not survive: for half a minute, or ten."""
     seconds = 600 if isLong else 30
@@ -190,21 +209,20 @@ def runFuzz(tally, isLong):
     tally.add("fuzz: settings", isPassed)
 
 
-def sources(*suffixes):
-    listed = subprocess.run(["git", "ls-files", "src", "tests", "benchmarks"], cwd=ROOT, text=True,
-                            capture_output=True)
+def sources(*suffixes, below=("src", "tests", "benchmarks")):
+    listed = subprocess.run(["git", "ls-files", *below], cwd=ROOT, text=True, capture_output=True)
     return [name for name in listed.stdout.split("\n") if name.endswith(suffixes)]
 
 
 def runChecks(tally, isLong):
     """What tools can say of the sources without running them."""
     tally.add("checks: formatting",
-              run("clang-format-19", "--dry-run", "-Werror", *sources(".cpp", ".h"), quiet=True) == 0)
+              run("clang-format-19", "--dry-run", "-Werror", *sources(".cpp", ".h", ".mm"), quiet=True) == 0)
     tally.add("checks: layers", run("/usr/bin/python3", "tools/checkLayers.py", quiet=True) == 0)
     if not isLong:
         return
-    # The plain build's commands: one for each source.
-    looked = [name for name in sources(".cpp") if name.startswith("src/")]
+    # The plain build's commands: one for each source that it has.
+    looked = [name for name in sources(".cpp", below=["src"]) if "macos" not in name.lower()]
     tally.add("checks: static analysis", run("cmake", "--preset", "dev", quiet=True) == 0 and
               run("xargs", "-P", "2", "-n", "4", "clang-tidy-19", "--quiet", "--extra-arg=-Wno-unknown-warning-option",
                   "-p", "build/dev", quiet=True, input="\n".join(looked)) == 0)
@@ -221,7 +239,8 @@ def main():
         parser.error("no suite is called " + ", ".join(unknown))
 
     tally = Tally()
-    build("test")
+    if arguments.suites != ["macos"]:  # It has a build of its own.
+        build("test")
     everything = not arguments.suites
     if everything or folders:
         runUnits(tally, folders)
@@ -237,6 +256,8 @@ def main():
         runChecks(tally, arguments.long)
     if everything or "sanitizers" in arguments.suites:
         runSanitizers(tally, arguments.long)
+    if everything or "macos" in arguments.suites:
+        runMacOS(tally)
     if everything or "fuzz" in arguments.suites:
         runFuzz(tally, arguments.long)
     return tally.conclude()

@@ -127,7 +127,8 @@ TEST_F(MacOSAppTap, switchesEachInputOfItsDeviceOff)
 TEST_F(MacOSAppTap, playsWithTheMicrophoneWhenThatCannotBeSwitchedOff)
 {
     const auto headset = world.plug({.uid = "headset", .inputs = {1}});
-    for (const char* call : {"size suse inpt of aggregate", "get suse inpt of aggregate", "set suse inpt of aggregate"}) {
+    for (const char* call :
+        {"size suse inpt of aggregate", "get suse inpt of aggregate", "set suse inpt of aggregate"}) {
         world.failNext(call, kAudioHardwareUnspecifiedError);
 
         const auto tap = createOn("headset", headset);

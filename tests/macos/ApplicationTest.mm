@@ -52,7 +52,8 @@ TEST_F(MacOSApplication, comesToTheFront)
 
 TEST_F(MacOSApplication, showsItsCreditsCentredWithALink)
 {
-    own.showAboutPanel({.text = "Free.", .linkText = "fadeloom.example", .linkURL = "https://fadeloom.example"});
+    own.showAboutPanel(
+        {.text = "Free.", .linkText = "fadeloom.example", .linkURL = "https://fadeloom.example"});
 
     EXPECT_THAT(done(), ElementsAre("activate", "style all with paragraph 2", "about"));
     NSAttributedString* credits = application().aboutOptions[@"credits"];
@@ -97,7 +98,8 @@ TEST_F(MacOSApplication, letsAnApplicationBeChosen)
         EXPECT_FALSE(panel.canChooseDirectories);
         EXPECT_TRUE(panel.canChooseFiles);
         EXPECT_STREQ(panel.directoryURL.path.UTF8String, "/Applications");
-        EXPECT_STREQ(panel.allowedContentTypes.firstObject.identifier.UTF8String, "com.apple.application-bundle");
+        EXPECT_STREQ(
+            panel.allowedContentTypes.firstObject.identifier.UTF8String, "com.apple.application-bundle");
         panel.URLs = @[ [NSURL fileURLWithPath:@"/Applications/Calls.app/"] ];
         answer(NSModalResponseOK);
         panel.URLs = @[ [NSURL fileURLWithPath:@"/Applications/nothing"] ];

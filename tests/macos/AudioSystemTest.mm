@@ -42,10 +42,15 @@ TEST_F(MacOSAudioSystem, offersDevicesWithOutputUniqueIdAndName)
 TEST_F(MacOSAudioSystem, neverOffersItsOwnAggregateDevices)
 {
     world.plug({.uid = "speakers"});
-    const auto ours = hardware.createAggregateDevice({.name = "Fadeloom Music", .uid = "com.fadeloom.tap.1", .master = "speakers", .subDevices = {"speakers"}, .taps = {}});
+    const auto ours = hardware.createAggregateDevice({.name = "Fadeloom Music",
+        .uid = "com.fadeloom.tap.1",
+        .master = "speakers",
+        .subDevices = {"speakers"},
+        .taps = {}});
     ASSERT_TRUE(ours);
 
-    EXPECT_THAT(HAL::getArray(hardware, kAudioObjectSystemObject, kAudioHardwarePropertyDevices, kAudioObjectPropertyScopeGlobal),
+    EXPECT_THAT(HAL::getArray(hardware, kAudioObjectSystemObject, kAudioHardwarePropertyDevices,
+                    kAudioObjectPropertyScopeGlobal),
         ::testing::Contains(*ours));
     EXPECT_EQ(OutputDevices::all(hardware).size(), 1U);
 }
@@ -72,12 +77,15 @@ TEST_F(MacOSAudioSystem, placesStereoWhereTheDeviceWantsIt)
 
 TEST_F(MacOSAudioSystem, readsAProcessOnceAndWhatItDoesEveryTime)
 {
-    const auto process = world.addProcess({.pid = 501, .bundleID = "com.example.player", .isRunningOutput = true, .isRunningInput = true});
+    const auto process = world.addProcess(
+        {.pid = 501, .bundleID = "com.example.player", .isRunningOutput = true, .isRunningInput = true});
     AudioProcesses processes(hardware);
 
-    EXPECT_THAT(processes.all(ReadMic::yes), ElementsAre(AudioProcess{process, 501, "com.example.player", true, true}));
+    EXPECT_THAT(processes.all(ReadMic::yes),
+        ElementsAre(AudioProcess{process, 501, "com.example.player", true, true}));
     journal().clear();
-    EXPECT_THAT(processes.all(ReadMic::no), ElementsAre(AudioProcess{process, 501, "com.example.player", true, false}));
+    EXPECT_THAT(processes.all(ReadMic::no),
+        ElementsAre(AudioProcess{process, 501, "com.example.player", true, false}));
 
     EXPECT_THAT(journal(), ElementsAre("size prs# of system", "get prs# of system", "get piro of process"));
 }
@@ -87,7 +95,8 @@ TEST_F(MacOSAudioSystem, readsAProcessWithoutPidOrBundle)
     const auto process = world.addProcess({.pid = 501, .bundleID = std::nullopt});
     world.failNext("get ppid of process", kAudioHardwareUnspecifiedError);
 
-    EXPECT_THAT(AudioProcesses(hardware).all(ReadMic::no), ElementsAre(AudioProcess{process, -1, "", false, false}));
+    EXPECT_THAT(
+        AudioProcesses(hardware).all(ReadMic::no), ElementsAre(AudioProcess{process, -1, "", false, false}));
 }
 
 TEST_F(MacOSAudioSystem, readsAListAgainThatGrewWhileItWasRead)
@@ -121,7 +130,8 @@ TEST_F(MacOSAudioSystem, readsNoTextFromANumber)
 TEST_F(MacOSAudioSystem, tellsAChangeOnTheMainQueueAndTakesTheSameListenerBack)
 {
     int calls = 0;
-    auto subscription = hardware.listen(kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}, [&] { ++calls; });
+    auto subscription =
+        hardware.listen(kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}, [&] { ++calls; });
     ASSERT_TRUE(subscription);
     journal().clear();
 
@@ -138,7 +148,8 @@ TEST_F(MacOSAudioSystem, tellsAChangeOnTheMainQueueAndTakesTheSameListenerBack)
 TEST_F(MacOSAudioSystem, doesNotTellWhatWasOnItsWayWhenTheListenerEnded)
 {
     int calls = 0;
-    auto subscription = hardware.listen(kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}, [&] { ++calls; });
+    auto subscription =
+        hardware.listen(kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}, [&] { ++calls; });
     ASSERT_TRUE(subscription);
 
     world.plug({.uid = "speakers"});
@@ -153,7 +164,8 @@ TEST_F(MacOSAudioSystem, letsGoOfAListenerThatWasRefused)
     const auto held = std::make_shared<int>(1);
     world.failNext("listen to dev# of system", kAudioHardwareIllegalOperationError);
 
-    const auto subscription = hardware.listen(kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}, [held] { });
+    const auto subscription =
+        hardware.listen(kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}, [held] { });
 
     ASSERT_FALSE(subscription);
     EXPECT_EQ(subscription.error(), kAudioHardwareIllegalOperationError);

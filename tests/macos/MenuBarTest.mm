@@ -22,7 +22,7 @@ protected:
                 {.title = "Open Mixer", .action = [this] { happened.emplace_back("mixer"); }},
                 {},
                 {.title = "Settings…", .action = [this] { happened.emplace_back("settings"); }, .key = ","},
-                {.title = "Launch at Login", .action = [] { }, .isChecked = true},
+                {.title = "Launch at Login", .action = [] {}, .isChecked = true},
             };
         });
         item->show("Fadeloom");

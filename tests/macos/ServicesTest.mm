@@ -102,9 +102,11 @@ TEST_F(MacOSServices, localTimeIsThatOfTheZoneAtThatMoment)
     const FoundationClock clock;
     desktop.secondsFromGMT = -4 * 3600;
 
-    EXPECT_EQ(clock.localTime(sys_days{2024y / 7 / 1} + 12h + 30min + 999ms), local_days{2024y / 7 / 1} + 8h + 30min);
+    EXPECT_EQ(clock.localTime(sys_days{2024y / 7 / 1} + 12h + 30min + 999ms),
+        local_days{2024y / 7 / 1} + 8h + 30min);
     EXPECT_THAT(done(), ElementsAre("zone at 741529800"));  // Seconds since 2001.
-    EXPECT_EQ(clock.localTime(system_clock::time_point{-1ms}), local_days{1969y / 12 / 31} + 19h + 59min + 59s);
+    EXPECT_EQ(
+        clock.localTime(system_clock::time_point{-1ms}), local_days{1969y / 12 / 31} + 19h + 59min + 59s);
 }
 
 TEST_F(MacOSServices, logLinesCanBeRead)
@@ -114,7 +116,8 @@ TEST_F(MacOSServices, logLinesCanBeRead)
     log.write(SystemLog::Level::notice, "started 100%");
     log.write(SystemLog::Level::error, "tap failed");
 
-    EXPECT_THAT(done(), ElementsAre("com.fadeloom.app engine 0 started 100%", "com.fadeloom.app engine 16 tap failed"));
+    EXPECT_THAT(done(),
+        ElementsAre("com.fadeloom.app engine 0 started 100%", "com.fadeloom.app engine 16 tap failed"));
 }
 
 TEST_F(MacOSServices, lockIsTheSystems)

@@ -110,7 +110,8 @@ TEST_F(MacOSWorkspace, seesAnEndBehindAnotherApplicationWithThatPid)
     const auto asked = *workspace.runningApplication(501);
 
     desktop.applications = [NSMutableArray array];
-    launch("Films", 501, "/Applications/Films.app").launchDate = [NSDate dateWithTimeIntervalSince1970:1'800'000'000];
+    launch("Films", 501, "/Applications/Films.app").launchDate =
+        [NSDate dateWithTimeIntervalSince1970:1'800'000'000];
 
     EXPECT_TRUE(workspace.isTerminated(asked));
 }
@@ -163,7 +164,8 @@ TEST_F(MacOSWorkspace, showsFilesAndOpensAddresses)
     workspace.open("no address");
 
     EXPECT_THAT(done(),
-        ElementsAre("reveal file:///Users/someone/Music/Säge 1.wav", "open https://fadeloom.example/download.php"));
+        ElementsAre(
+            "reveal file:///Users/someone/Music/Säge 1.wav", "open https://fadeloom.example/download.php"));
 }
 
 TEST_F(MacOSWorkspace, startsAnotherInstanceAndReportsOnTheMainQueue)

@@ -11,7 +11,8 @@
 namespace fadeloom {
 namespace {
 
-constexpr double side = 128;  // Points: the panel shows it at 28, on screens with up to three pixels to a point.
+// Pixels: the panel shows it at 28 points, of up to three pixels each.
+constexpr double side = 128;
 
 NSData* pngOf(NSImage* image)
 {
@@ -20,7 +21,7 @@ NSData* pngOf(NSImage* image)
     if (drawn == nullptr)
         return nil;
     return [[[NSBitmapImageRep alloc] initWithCGImage:drawn] representationUsingType:NSBitmapImageFileTypePNG
-                                                                         properties:@{}];
+                                                                          properties:@{}];
 }
 
 }  // namespace

@@ -18,9 +18,8 @@ void open(NSOpenPanel* panel, const std::filesystem::path& start, std::function<
     panel.allowsMultipleSelection = NO;
     panel.directoryURL = nsURL(start);
     [NSApp activateIgnoringOtherApps:YES];
-    [panel beginWithCompletionHandler:^(NSModalResponse response) {
-        done(response == NSModalResponseOK ? panel.URLs.firstObject : nil);
-    }];
+    [panel beginWithCompletionHandler:^(
+        NSModalResponse response) { done(response == NSModalResponseOK ? panel.URLs.firstObject : nil); }];
 }
 
 /// A message that was closed by other means than its buttons counts as its last one.

@@ -108,7 +108,7 @@ bool AppKitWorkspace::isApplicationBundle(const std::filesystem::path& location)
 void AppKitWorkspace::reveal(const std::filesystem::path& file)
 {
     @autoreleasepool {
-        [NSWorkspace.sharedWorkspace activateFileViewerSelectingURLs:@[nsURL(file)]];
+        [NSWorkspace.sharedWorkspace activateFileViewerSelectingURLs:@[ nsURL(file) ]];
     }
 }
 

@@ -28,7 +28,8 @@ AudioStatus AudioFileHandle::setClientFormat(const AudioStreamBasicDescription& 
     return ExtAudioFileSetProperty(file_, kExtAudioFileProperty_ClientDataFormat, sizeof format, &format);
 }
 
-AudioStatus AudioFileHandle::write(std::uint32_t frameCount, const float* samples) noexcept FADELOOM_NONBLOCKING
+AudioStatus AudioFileHandle::write(
+    std::uint32_t frameCount, const float* samples) noexcept FADELOOM_NONBLOCKING
 {
     ::AudioBufferList list{1, {{2, frameCount * 2 * UInt32{sizeof(float)}, const_cast<float*>(samples)}}};
     const AudioStatus status =

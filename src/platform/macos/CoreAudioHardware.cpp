@@ -50,8 +50,7 @@ AudioResult<std::size_t> CoreAudioHardware::readProperty(
 {
     const auto where = addressOf(address);
     auto size = static_cast<UInt32>(value.size());
-    const AudioStatus status =
-        AudioObjectGetPropertyData(object, &where, 0, nullptr, &size, value.data());
+    const AudioStatus status = AudioObjectGetPropertyData(object, &where, 0, nullptr, &size, value.data());
     if (status != kAudioHardwareNoError)
         return std::unexpected(status);
     return size;

@@ -9,8 +9,9 @@
 
 #include <cstddef>
 
-#define FADELOOM_SAME(name) static_assert(static_cast<long long>(fadeloom::name) == static_cast<long long>(::name))
-#define FADELOOM_SAME_PLACE(type, ours, theirs) \
+#define FADELOOM_SAME(name)                                                                                  \
+    static_assert(static_cast<long long>(fadeloom::name) == static_cast<long long>(::name))
+#define FADELOOM_SAME_PLACE(type, ours, theirs)                                                              \
     static_assert(offsetof(fadeloom::type, ours) == offsetof(::type, theirs))
 
 FADELOOM_SAME(kAudioObjectUnknown);

@@ -10,7 +10,8 @@ LocalTime FoundationClock::localTime(std::chrono::system_clock::time_point momen
     @autoreleasepool {
         const auto seconds = std::chrono::floor<std::chrono::seconds>(moment).time_since_epoch();
         NSDate* date = [NSDate dateWithTimeIntervalSince1970:static_cast<double>(seconds.count())];
-        return LocalTime(seconds + std::chrono::seconds([NSTimeZone.localTimeZone secondsFromGMTForDate:date]));
+        return LocalTime(
+            seconds + std::chrono::seconds([NSTimeZone.localTimeZone secondsFromGMTForDate:date]));
     }
 }
 

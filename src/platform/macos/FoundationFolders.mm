@@ -9,8 +9,8 @@ namespace {
 std::filesystem::path folder(NSSearchPathDirectory which)
 {
     @autoreleasepool {
-        NSURL* found = [NSFileManager.defaultManager URLsForDirectory:which
-                                                            inDomains:NSUserDomainMask].firstObject;
+        NSURL* found =
+            [NSFileManager.defaultManager URLsForDirectory:which inDomains:NSUserDomainMask].firstObject;
         return pathOf(found).value_or(std::filesystem::path());
     }
 }

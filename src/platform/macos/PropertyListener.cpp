@@ -5,8 +5,8 @@
 
 namespace fadeloom {
 
-AudioResult<std::unique_ptr<PropertyListener>> PropertyListener::add(AudioObjectID object,
-    const ::AudioObjectPropertyAddress& address, AudioHardware::Listener listener)
+AudioResult<std::unique_ptr<PropertyListener>> PropertyListener::add(
+    AudioObjectID object, const ::AudioObjectPropertyAddress& address, AudioHardware::Listener listener)
 {
     auto told = std::make_shared<Told>(std::move(listener));
     std::unique_ptr<PropertyListener> added(new PropertyListener(object, address, std::move(told)));

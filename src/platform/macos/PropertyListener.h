@@ -14,8 +14,8 @@ namespace fadeloom {
 /// Hears on the main queue, until its end. Thread: main.
 class PropertyListener {
 public:
-    [[nodiscard]] static AudioResult<std::unique_ptr<PropertyListener>> add(AudioObjectID object,
-        const ::AudioObjectPropertyAddress& address, AudioHardware::Listener listener);
+    [[nodiscard]] static AudioResult<std::unique_ptr<PropertyListener>> add(
+        AudioObjectID object, const ::AudioObjectPropertyAddress& address, AudioHardware::Listener listener);
     PropertyListener(const PropertyListener&) = delete;
     PropertyListener& operator=(const PropertyListener&) = delete;
     ~PropertyListener();

@@ -21,7 +21,8 @@ std::string statusText(AudioStatus status)
 {
     const std::string number = "OSStatus " + std::to_string(status);
     const std::string characters = charactersOf(status);
-    const bool isPrintable = std::ranges::all_of(characters, [](char each) { return each >= ' ' && each <= '~'; });
+    const bool isPrintable =
+        std::ranges::all_of(characters, [](char each) { return each >= ' ' && each <= '~'; });
     return isPrintable ? number + " ('" + characters + "')" : number;
 }
 

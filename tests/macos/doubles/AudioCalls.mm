@@ -66,8 +66,8 @@ void fillInUsage(AudioObjectID device, const void* given, std::vector<std::byte>
     std::memcpy(&proc, given, sizeof proc);
     std::memcpy(bytes.data(), given, sizeof proc);
     if (const Proc* const found = procOf(device, proc))
-        std::memcpy(bytes.data() + offsetof(AudioHardwareIOProcStreamUsage, mStreamIsOn), found->inputIsOn.data(),
-            found->inputIsOn.size() * sizeof(UInt32));
+        std::memcpy(bytes.data() + offsetof(AudioHardwareIOProcStreamUsage, mStreamIsOn),
+            found->inputIsOn.data(), found->inputIsOn.size() * sizeof(UInt32));
 }
 
 }  // namespace
@@ -107,7 +107,8 @@ OSStatus AudioObjectGetPropertyData(AudioObjectID object, const AudioObjectPrope
     // With a reference that the caller releases.
     const void* text = nullptr;
     if (property->text)
-        text = CFStringCreateWithBytes(kCFAllocatorDefault, reinterpret_cast<const UInt8*>(property->text->data()),
+        text = CFStringCreateWithBytes(kCFAllocatorDefault,
+            reinterpret_cast<const UInt8*>(property->text->data()),
             static_cast<CFIndex>(property->text->size()), kCFStringEncodingUTF8, false);
     std::memcpy(data, &text, sizeof text);
     return kAudioHardwareNoError;
@@ -139,8 +140,9 @@ OSStatus AudioObjectAddPropertyListenerBlock(AudioObjectID object, const AudioOb
     return kAudioHardwareNoError;
 }
 
-OSStatus AudioObjectRemovePropertyListenerBlock(AudioObjectID object, const AudioObjectPropertyAddress* address,
-    dispatch_queue_t queue, AudioObjectPropertyListenerBlock listener)
+OSStatus AudioObjectRemovePropertyListenerBlock(AudioObjectID object,
+    const AudioObjectPropertyAddress* address, dispatch_queue_t queue,
+    AudioObjectPropertyListenerBlock listener)
 {
     if (const OSStatus status = world().begin(asked("forget", *address), object))
         return status;
@@ -157,7 +159,8 @@ OSStatus AudioHardwareCreateProcessTap(CATapDescription* description, AudioObjec
         return status;
     *tap = world().nextID();
     world().taps[*tap].uuid = description.UUID.UUIDString.UTF8String;
-    const AudioObjectPropertyAddress address{kAudioTapPropertyDescription, kAudioObjectPropertyScopeGlobal, 0};
+    const AudioObjectPropertyAddress address{
+        kAudioTapPropertyDescription, kAudioObjectPropertyScopeGlobal, 0};
     const void* const value = (__bridge const void*)description;
     const OSStatus status = world().property(*tap, address)->write(&value);
     world().settleProperties();

@@ -70,7 +70,8 @@ Found ofSystem(AudioWorld& world, AudioObjectPropertySelector selector)
             std::memcpy(&wanted, data, sizeof wanted);
             if (!world.devices.contains(wanted))
                 return kAudioHardwareBadDeviceError;
-            world.pending.emplace_back([&world, wanted] { world.setDefaultOutput(world.devices.at(wanted).uid); });
+            world.pending.emplace_back(
+                [&world, wanted] { world.setDefaultOutput(world.devices.at(wanted).uid); });
             return kAudioHardwareNoError;
         };
         return property;
@@ -90,7 +91,8 @@ Found ofDevice(const Device& device, const AudioObjectPropertyAddress& address)
     case kAudioDevicePropertyNominalSampleRate:
         return valued(device.rate);
     case kAudioDevicePropertyStreams:
-        return streams(address.mScope == kAudioObjectPropertyScopeInput ? device.inputs.size() : device.outputs.size());
+        return streams(
+            address.mScope == kAudioObjectPropertyScopeInput ? device.inputs.size() : device.outputs.size());
     case kAudioDevicePropertyPreferredChannelsForStereo:
         return address.mScope == kAudioObjectPropertyScopeOutput ? Found(valued(device.stereoPair)) : unknown;
     default:
@@ -154,14 +156,16 @@ Property streamUsage(AudioWorld& world, Aggregate& aggregate)
     const std::uint32_t count = world.inputStreamsOf(aggregate);
     Property property;
     property.bytes.resize(flags + count * sizeof(UInt32));
-    std::memcpy(property.bytes.data() + offsetof(AudioHardwareIOProcStreamUsage, mNumberStreams), &count, sizeof count);
+    std::memcpy(property.bytes.data() + offsetof(AudioHardwareIOProcStreamUsage, mNumberStreams), &count,
+        sizeof count);
     property.write = [&aggregate, count](const void* data) -> OSStatus {
         AudioHardwareIOProcStreamUsage head{};
         std::memcpy(&head, data, flags);
         const auto proc = aggregate.procs.find(reinterpret_cast<AudioDeviceIOProcID>(head.mIOProc));
         if (proc == aggregate.procs.end() || head.mNumberStreams != count)
             return kAudioHardwareIllegalOperationError;
-        std::memcpy(proc->second.inputIsOn.data(), static_cast<const std::byte*>(data) + flags, count * sizeof(UInt32));
+        std::memcpy(proc->second.inputIsOn.data(), static_cast<const std::byte*>(data) + flags,
+            count * sizeof(UInt32));
         return kAudioHardwareNoError;
     };
     return property;
@@ -179,7 +183,7 @@ Found ofAggregate(AudioWorld& world, Aggregate& aggregate, const AudioObjectProp
     case kAudioDevicePropertyNominalSampleRate:
         return device == world.devices.end() ? unknown : Found(valued(device->second.rate));
     case kAudioDevicePropertyStreams:
-        return streams(isInput                         ? world.inputStreamsOf(aggregate)
+        return streams(isInput                  ? world.inputStreamsOf(aggregate)
                 : device == world.devices.end() ? 0
                                                 : device->second.outputs.size());
     case kAudioDevicePropertyIOProcStreamUsage:

@@ -108,7 +108,8 @@ OSStatus AudioWorld::begin(const std::string& call, AudioObjectID object)
 
 AudioObjectID AudioWorld::deviceOf(const std::string& uid) const
 {
-    const auto found = std::ranges::find_if(devices, [&](const auto& each) { return each.second.uid == uid; });
+    const auto found =
+        std::ranges::find_if(devices, [&](const auto& each) { return each.second.uid == uid; });
     return found == devices.end() ? AudioObjectID{kAudioObjectUnknown} : found->first;
 }
 
@@ -162,7 +163,8 @@ public:
         bytes_.resize(offsetof(AudioBufferList, mBuffers) + samples_.size() * sizeof(AudioBuffer));
         auto* const list = reinterpret_cast<AudioBufferList*>(bytes_.data());
         list->mNumberBuffers = static_cast<UInt32>(samples_.size());
-        auto* const buffers = reinterpret_cast<AudioBuffer*>(bytes_.data() + offsetof(AudioBufferList, mBuffers));
+        auto* const buffers =
+            reinterpret_cast<AudioBuffer*>(bytes_.data() + offsetof(AudioBufferList, mBuffers));
         for (std::size_t i = 0; i < samples_.size(); ++i)
             buffers[i] = {channels_[i], channels_[i] * AudioWorld::framesInCycle * UInt32{sizeof(float)},
                 samples_[i].empty() ? nullptr : samples_[i].data()};
@@ -194,9 +196,11 @@ void AudioWorld::run(Aggregate& aggregate, Proc& proc)
             input.add(channels, proc.inputIsOn.back() != 0);
             for (std::size_t i = 0; i < input.last().size(); ++i)
                 for (const AudioObjectID id : tap->processes)
-                    if (const auto found = processes.find(id); found != processes.end() && found->second.isRunningOutput)
+                    if (const auto found = processes.find(id);
+                        found != processes.end() && found->second.isRunningOutput)
                         input.last()[i] += found->second.amplitude
-                            * static_cast<float>(std::sin(2 * std::numbers::pi * 441 / 48000 * static_cast<double>(i / channels)));
+                            * static_cast<float>(std::sin(
+                                2 * std::numbers::pi * 441 / 48000 * static_cast<double>(i / channels)));
         }
     }
     Buffers output;

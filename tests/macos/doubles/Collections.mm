@@ -145,7 +145,8 @@ const CFArrayCallBacks kCFTypeArrayCallBacks{};
 const CFDictionaryKeyCallBacks kCFTypeDictionaryKeyCallBacks{};
 const CFDictionaryValueCallBacks kCFTypeDictionaryValueCallBacks{};
 
-CFArrayRef CFArrayCreate(CFAllocatorRef, const void** values, CFIndex count, const CFArrayCallBacks* callBacks)
+CFArrayRef CFArrayCreate(
+    CFAllocatorRef, const void** values, CFIndex count, const CFArrayCallBacks* callBacks)
 {
     if (callBacks != &kCFTypeArrayCallBacks)
         crash("a list that would not keep its elements");

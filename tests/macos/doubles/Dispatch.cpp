@@ -45,8 +45,7 @@ void add(std::uint64_t due, dispatch_queue_t queue, dispatch_block_t block)
     const std::scoped_lock guard(queues().mutex);
     auto& waiting = queues().waiting;
     ++queue->references;
-    const auto place =
-        std::ranges::find_if(waiting, [due](const Waiting& other) { return other.due > due; });
+    const auto place = std::ranges::find_if(waiting, [due](const Waiting& other) { return other.due > due; });
     waiting.insert(place, {due, queue, Block_copy(block)});
 }
 

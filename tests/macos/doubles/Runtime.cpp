@@ -103,7 +103,9 @@ std::string describeLiveObjects()
 int retainCount(const void* object)
 {
     const std::scoped_lock guard(world().mutex);
-    return world().live.contains(object) ? static_cast<int>(headOf(static_cast<const ObjectData*>(object)).count) : 0;
+    return world().live.contains(object)
+        ? static_cast<int>(headOf(static_cast<const ObjectData*>(object)).count)
+        : 0;
 }
 
 AutoreleasePool::AutoreleasePool()
@@ -193,7 +195,8 @@ void objc_release(ObjectData* object)
     if (!world().live.contains(object))
         crash("released what is no object");
     if (--headOf(object).count == 0)
-        reinterpret_cast<void (*)(ObjectData*, const char*)>(fadeloomMethod(object, "dealloc"))(object, "dealloc");
+        reinterpret_cast<void (*)(ObjectData*, const char*)>(fadeloomMethod(object, "dealloc"))(
+            object, "dealloc");
 }
 
 void* objc_autoreleasePoolPush()
@@ -295,7 +298,8 @@ const ClassData* objc_opt_class(const ObjectData* object)
 }
 bool objc_opt_isKindOfClass(const ObjectData* object, const ClassData* type)
 {
-    for (const ClassData* each = object == nullptr ? nullptr : object->type; each != nullptr; each = each->superclass)
+    for (const ClassData* each = object == nullptr ? nullptr : object->type; each != nullptr;
+        each = each->superclass)
         if (each == type)
             return true;
     return false;
@@ -307,7 +311,8 @@ bool objc_opt_respondsToSelector(const ObjectData* object, const char* selector)
 ObjectData* objc_alloc_init(const ClassData* type)
 {
     ObjectData* const made = makeObject(type);
-    return reinterpret_cast<ObjectData* (*)(ObjectData*, const char*)>(fadeloomMethod(made, "init"))(made, "init");
+    return reinterpret_cast<ObjectData* (*)(ObjectData*, const char*)>(fadeloomMethod(made, "init"))(
+        made, "init");
 }
 ObjectData* objc_opt_new(const ClassData* type)
 {
@@ -330,14 +335,17 @@ void objc_setProperty_atomic_copy(ObjectData* object, const char*, ObjectData* v
 {
     ObjectData* copied = value;
     if (value != nullptr)
-        copied = reinterpret_cast<ObjectData* (*)(ObjectData*, const char*)>(fadeloomMethod(value, "copy"))(value, "copy");
+        copied = reinterpret_cast<ObjectData* (*)(ObjectData*, const char*)>(fadeloomMethod(value, "copy"))(
+            value, "copy");
     objc_release(std::exchange(fieldAt(object, offset), copied));
 }
-void objc_setProperty_nonatomic(ObjectData* object, const char* selector, ObjectData* value, std::ptrdiff_t offset)
+void objc_setProperty_nonatomic(
+    ObjectData* object, const char* selector, ObjectData* value, std::ptrdiff_t offset)
 {
     objc_setProperty_atomic(object, selector, value, offset);
 }
-void objc_setProperty_nonatomic_copy(ObjectData* object, const char* selector, ObjectData* value, std::ptrdiff_t offset)
+void objc_setProperty_nonatomic_copy(
+    ObjectData* object, const char* selector, ObjectData* value, std::ptrdiff_t offset)
 {
     objc_setProperty_atomic_copy(object, selector, value, offset);
 }
@@ -353,23 +361,28 @@ void objc_enumerationMutation(ObjectData*)
 // NOLINTEND
 
 // Sends a message: finds the method, and jumps there with the registers as they came. What is sent to nothing is zero.
-#define FADELOOM_SEND(NAME, OBJECT, SELECTOR, FIND, LAST, WHEN_NOTHING)                                          \
-    __asm__(".text\n.globl " NAME "\n.type " NAME ", @function\n" NAME ":\n" WHEN_NOTHING                         \
-            "pushq %rbp\nmovq %rsp, %rbp\nsubq $208, %rsp\n"                                                      \
-            "movq %rdi, 0(%rsp)\nmovq %rsi, 8(%rsp)\nmovq %rdx, 16(%rsp)\nmovq %rcx, 24(%rsp)\n"                  \
-            "movq %r8, 32(%rsp)\nmovq %r9, 40(%rsp)\nmovq %rax, 48(%rsp)\n"                                       \
-            "movups %xmm0, 64(%rsp)\nmovups %xmm1, 80(%rsp)\nmovups %xmm2, 96(%rsp)\nmovups %xmm3, 112(%rsp)\n"   \
-            "movups %xmm4, 128(%rsp)\nmovups %xmm5, 144(%rsp)\nmovups %xmm6, 160(%rsp)\nmovups %xmm7, 176(%rsp)\n" \
-            "movq " OBJECT ", %rax\nmovq " SELECTOR ", %rsi\nmovq %rax, %rdi\n"                                   \
-            "call " FIND "\nmovq %rax, %r11\n"                                                                    \
-            "movups 64(%rsp), %xmm0\nmovups 80(%rsp), %xmm1\nmovups 96(%rsp), %xmm2\nmovups 112(%rsp), %xmm3\n"   \
-            "movups 128(%rsp), %xmm4\nmovups 144(%rsp), %xmm5\nmovups 160(%rsp), %xmm6\nmovups 176(%rsp), %xmm7\n" \
-            "movq 0(%rsp), %rdi\nmovq 8(%rsp), %rsi\nmovq 16(%rsp), %rdx\nmovq 24(%rsp), %rcx\n"                  \
-            "movq 32(%rsp), %r8\nmovq 40(%rsp), %r9\nmovq 48(%rsp), %rax\nleave\n" LAST "jmp *%r11\n")
+#define FADELOOM_SEND(NAME, OBJECT, SELECTOR, FIND, LAST, WHEN_NOTHING)                                      \
+    __asm__(                                                                                                 \
+        ".text\n.globl " NAME "\n.type " NAME ", @function\n" NAME ":\n" WHEN_NOTHING                        \
+        "pushq %rbp\nmovq %rsp, %rbp\nsubq $208, %rsp\n"                                                     \
+        "movq %rdi, 0(%rsp)\nmovq %rsi, 8(%rsp)\nmovq %rdx, 16(%rsp)\nmovq %rcx, 24(%rsp)\n"                 \
+        "movq %r8, 32(%rsp)\nmovq %r9, 40(%rsp)\nmovq %rax, 48(%rsp)\n"                                      \
+        "movups %xmm0, 64(%rsp)\nmovups %xmm1, 80(%rsp)\nmovups %xmm2, 96(%rsp)\nmovups %xmm3, 112(%rsp)\n"  \
+        "movups %xmm4, 128(%rsp)\nmovups %xmm5, 144(%rsp)\nmovups %xmm6, 160(%rsp)\nmovups %xmm7, "          \
+        "176(%rsp)\n"                                                                                        \
+        "movq " OBJECT ", %rax\nmovq " SELECTOR ", %rsi\nmovq %rax, %rdi\n"                                  \
+        "call " FIND "\nmovq %rax, %r11\n"                                                                   \
+        "movups 64(%rsp), %xmm0\nmovups 80(%rsp), %xmm1\nmovups 96(%rsp), %xmm2\nmovups 112(%rsp), %xmm3\n"  \
+        "movups 128(%rsp), %xmm4\nmovups 144(%rsp), %xmm5\nmovups 160(%rsp), %xmm6\nmovups 176(%rsp), "      \
+        "%xmm7\n"                                                                                            \
+        "movq 0(%rsp), %rdi\nmovq 8(%rsp), %rsi\nmovq 16(%rsp), %rdx\nmovq 24(%rsp), %rcx\n"                 \
+        "movq 32(%rsp), %r8\nmovq 40(%rsp), %r9\nmovq 48(%rsp), %rax\nleave\n" LAST "jmp *%r11\n")
 
 FADELOOM_SEND("objc_msgSend", "%rdi", "%rsi", "fadeloomMethod", "",
-    "testq %rdi, %rdi\njne 1f\nxorl %eax, %eax\nxorl %edx, %edx\nxorps %xmm0, %xmm0\nxorps %xmm1, %xmm1\nret\n1:\n");
+    "testq %rdi, %rdi\njne 1f\nxorl %eax, %eax\nxorl %edx, %edx\nxorps %xmm0, %xmm0\nxorps %xmm1, "
+    "%xmm1\nret\n1:\n");
 FADELOOM_SEND("objc_msgSend_stret", "%rsi", "%rdx", "fadeloomMethod", "",
-    "testq %rsi, %rsi\njne 1f\nxorps %xmm0, %xmm0\nmovups %xmm0, 0(%rdi)\nmovups %xmm0, 16(%rdi)\nmovq %rdi, %rax\n"
+    "testq %rsi, %rsi\njne 1f\nxorps %xmm0, %xmm0\nmovups %xmm0, 0(%rdi)\nmovups %xmm0, 16(%rdi)\nmovq %rdi, "
+    "%rax\n"
     "ret\n1:\n");
 FADELOOM_SEND("objc_msgSendSuper2", "%rdi", "%rsi", "fadeloomSuperMethod", "movq (%rdi), %rdi\n", "");

@@ -44,7 +44,11 @@ bool isUtf8(const std::string& bytes)
 {
     for (std::size_t i = 0; i < bytes.size();) {
         const auto lead = static_cast<unsigned char>(bytes[i]);
-        const std::size_t length = lead < 0x80 ? 1 : lead >> 5 == 6 ? 2 : lead >> 4 == 14 ? 3 : lead >> 3 == 30 ? 4 : 0;
+        const std::size_t length = lead < 0x80 ? 1
+            : lead >> 5 == 6                   ? 2
+            : lead >> 4 == 14                  ? 3
+            : lead >> 3 == 30                  ? 4
+                                               : 0;
         if (length == 0 || i + length > bytes.size())
             return false;
         for (std::size_t next = 1; next < length; ++next)

@@ -66,9 +66,8 @@ using namespace doubles;
         + (configuration.createsNewApplicationInstance ? " once more" : ""));
     // The answer comes on a queue of the system's.
     static dispatch_queue_t queue = dispatch_queue_create("answers", nil);
-    dispatch_async(queue, ^{
-        answered(nil, desktop().isNewInstanceRefused ? errorSaying(@"It did not start.") : nil);
-    });
+    dispatch_async(
+        queue, ^{ answered(nil, desktop().isNewInstanceRefused ? errorSaying(@"It did not start.") : nil); });
 }
 
 @end
@@ -135,7 +134,8 @@ using namespace doubles;
 {
     return [[self alloc] init];
 }
-- (NSArray<NSURL*>*)URLsForDirectory:(NSSearchPathDirectory)directory inDomains:(NSSearchPathDomainMask)domains
+- (NSArray<NSURL*>*)URLsForDirectory:(NSSearchPathDirectory)directory
+                           inDomains:(NSSearchPathDomainMask)domains
 {
     if (domains != NSUserDomainMask)
         return @[];
@@ -147,7 +147,8 @@ using namespace doubles;
 - (NSString*)displayNameAtPath:(NSString*)path
 {
     const auto found = desktop().displayNames.find(path.UTF8String);
-    return found == desktop().displayNames.end() ? path : [NSString stringWithUTF8String:found->second.c_str()];
+    return found == desktop().displayNames.end() ? path
+                                                 : [NSString stringWithUTF8String:found->second.c_str()];
 }
 
 @end

@@ -25,7 +25,8 @@ APPKIT_EXTERN NSAttributedStringKey const NSLinkAttributeName;
 APPKIT_EXTERN NSAttributedStringKey const NSParagraphStyleAttributeName;
 
 @interface NSAttributedString : NSObject
-- (instancetype)initWithString:(NSString*)text attributes:(nullable NSDictionary<NSAttributedStringKey, id>*)attributes;
+- (instancetype)initWithString:(NSString*)text
+                    attributes:(nullable NSDictionary<NSAttributedStringKey, id>*)attributes;
 @property (readonly, copy) NSString* string;
 @property (readonly) NSUInteger length;
 @end
@@ -44,7 +45,11 @@ APPKIT_EXTERN NSAttributedStringKey const NSParagraphStyleAttributeName;
 @property (class, readonly, strong) NSColor* labelColor;
 @end
 
-typedef NS_ENUM(NSInteger, NSTextAlignment) { NSTextAlignmentLeft = 0, NSTextAlignmentRight = 1, NSTextAlignmentCenter = 2 };
+typedef NS_ENUM(NSInteger, NSTextAlignment) {
+    NSTextAlignmentLeft = 0,
+    NSTextAlignmentRight = 1,
+    NSTextAlignmentCenter = 2
+};
 
 @interface NSMutableParagraphStyle : NSObject
 @property NSTextAlignment alignment;
@@ -146,7 +151,12 @@ API_AVAILABLE(macos(10.15))
 
 // Views.
 
-typedef NS_ENUM(NSUInteger, NSRectEdge) { NSRectEdgeMinX = 0, NSRectEdgeMinY = 1, NSRectEdgeMaxX = 2, NSRectEdgeMaxY = 3 };
+typedef NS_ENUM(NSUInteger, NSRectEdge) {
+    NSRectEdgeMinX = 0,
+    NSRectEdgeMinY = 1,
+    NSRectEdgeMaxX = 2,
+    NSRectEdgeMaxY = 3
+};
 
 @class NSView;
 
@@ -176,7 +186,10 @@ typedef NS_ENUM(NSUInteger, NSRectEdge) { NSRectEdgeMinX = 0, NSRectEdgeMinY = 1
 - (void)popoverDidClose:(NSNotification*)notification;
 @end
 
-typedef NS_ENUM(NSInteger, NSPopoverBehavior) { NSPopoverBehaviorApplicationDefined = 0, NSPopoverBehaviorTransient = 1 };
+typedef NS_ENUM(NSInteger, NSPopoverBehavior) {
+    NSPopoverBehaviorApplicationDefined = 0,
+    NSPopoverBehaviorTransient = 1
+};
 
 @interface NSPopover : NSObject
 @property (nullable, weak) id<NSPopoverDelegate> delegate;

@@ -5,11 +5,7 @@
 #include <CoreAudio/CoreAudio.h>
 #include <Foundation/Foundation.h>
 
-typedef NS_ENUM(NSInteger, CATapMuteBehavior) {
-    CATapUnmuted = 0,
-    CATapMuted = 1,
-    CATapMutedWhenTapped = 2
-};
+typedef NS_ENUM(NSInteger, CATapMuteBehavior) { CATapUnmuted = 0, CATapMuted = 1, CATapMutedWhenTapped = 2 };
 
 NS_ASSUME_NONNULL_BEGIN
 

@@ -27,15 +27,15 @@ typedef struct {
 
 static inline NSSize NSMakeSize(double width, double height)
 {
-    return (NSSize) {width, height};
+    return (NSSize){width, height};
 }
 static inline NSRect NSMakeRect(double x, double y, double width, double height)
 {
-    return (NSRect) {{x, y}, {width, height}};
+    return (NSRect){{x, y}, {width, height}};
 }
 static inline NSRange NSMakeRange(NSUInteger location, NSUInteger length)
 {
-    return (NSRange) {location, length};
+    return (NSRange){location, length};
 }
 
 NS_ASSUME_NONNULL_BEGIN

@@ -18,8 +18,12 @@ typedef signed char BOOL;
 #define NO __objc_no
 #define nil nullptr
 
-#define NS_ENUM(type, name) enum name : type name; enum name : type
-#define NS_OPTIONS(type, name) type name; enum : type
+#define NS_ENUM(type, name)                                                                                  \
+    enum name : type name;                                                                                   \
+    enum name : type
+#define NS_OPTIONS(type, name)                                                                               \
+    type name;                                                                                               \
+    enum : type
 #define NS_ASSUME_NONNULL_BEGIN _Pragma("clang assume_nonnull begin")
 #define NS_ASSUME_NONNULL_END _Pragma("clang assume_nonnull end")
 
@@ -35,7 +39,7 @@ NS_ASSUME_NONNULL_BEGIN
 @end
 
 __attribute__((objc_root_class))
-@interface NSObject <NSObject> {
+@interface NSObject<NSObject> {
     Class isa;
 }
 + (instancetype)alloc;

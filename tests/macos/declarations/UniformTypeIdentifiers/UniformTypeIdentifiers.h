@@ -16,6 +16,6 @@ extern "C"
 #else
 extern
 #endif
-UTType* const UTTypeApplicationBundle API_AVAILABLE(macos(11.0));
+    UTType* const UTTypeApplicationBundle API_AVAILABLE(macos(11.0));
 
 NS_ASSUME_NONNULL_END

@@ -9,7 +9,7 @@ typedef struct os_unfair_lock_s {
     uint32_t _os_unfair_lock_opaque;
 } os_unfair_lock, *os_unfair_lock_t;
 
-#define OS_UNFAIR_LOCK_INIT ((os_unfair_lock) {0})
+#define OS_UNFAIR_LOCK_INIT ((os_unfair_lock){0})
 
 #ifdef __cplusplus
 extern "C" {

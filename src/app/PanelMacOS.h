@@ -13,13 +13,13 @@ class AppKitPopover;
 
 /// A Qt window without a frame, laid into the view that the popover hands out. Its content gives the popover its size.
 /// Needs a QGuiApplication. Thread: main.
-class PopoverContent {
+class PanelMacOS {
 public:
     /// `popover` must outlive this. `content`: its implicit size is the panel's.
-    PopoverContent(AppKitPopover& popover, std::unique_ptr<QQuickItem> content);
-    PopoverContent(const PopoverContent&) = delete;
-    PopoverContent& operator=(const PopoverContent&) = delete;
-    ~PopoverContent();
+    PanelMacOS(AppKitPopover& popover, std::unique_ptr<QQuickItem> content);
+    PanelMacOS(const PanelMacOS&) = delete;
+    PanelMacOS& operator=(const PanelMacOS&) = delete;
+    ~PanelMacOS();
 
     [[nodiscard]] QQuickView& view();
 

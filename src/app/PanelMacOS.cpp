@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/PopoverContent.h"
+#include "app/PanelMacOS.h"
 
 #include "platform/macos/AppKitPopover.h"
 
@@ -9,7 +9,7 @@
 namespace fadeloom {
 
 /// Escape closes the popover when nothing inside has a use for the key.
-class PopoverContent::View final : public QQuickView {
+class PanelMacOS::View final : public QQuickView {
 public:
     View(QWindow& host, AppKitPopover& popover)
         : QQuickView(&host)
@@ -30,7 +30,7 @@ private:
     AppKitPopover& popover_;
 };
 
-PopoverContent::PopoverContent(AppKitPopover& popover, std::unique_ptr<QQuickItem> content)
+PanelMacOS::PanelMacOS(AppKitPopover& popover, std::unique_ptr<QQuickItem> content)
     : popover_(popover)
     , host_(QWindow::fromWinId(reinterpret_cast<WId>(popover.contentView())))
     , view_(std::make_unique<View>(*host_, popover))
@@ -45,18 +45,18 @@ PopoverContent::PopoverContent(AppKitPopover& popover, std::unique_ptr<QQuickIte
     fitPopover();
 }
 
-PopoverContent::~PopoverContent()
+PanelMacOS::~PanelMacOS()
 {
     view_->disconnect();
     view_.reset();  // Before its host, which would end it as a child.
 }
 
-QQuickView& PopoverContent::view()
+QQuickView& PanelMacOS::view()
 {
     return *view_;
 }
 
-void PopoverContent::fitPopover()
+void PanelMacOS::fitPopover()
 {
     popover_.setContentSize(view_->width(), view_->height());
 }
