@@ -44,7 +44,7 @@ protected:
 
     static constexpr auto created = "ExtAudioFileCreateWithURL type 1463899717 flags 1";  // 'WAVE', erase.
     static constexpr auto formatted = "ExtAudioFileSetProperty 40";
-    static constexpr auto primed = "ExtAudioFileWriteAsync 0";
+    static constexpr auto primed = "ExtAudioFileWriteAsync nothing";
     static constexpr auto disposed = "ExtAudioFileDispose";
 
     TemporaryFolder folder;
@@ -66,7 +66,8 @@ TEST_F(MacOSRecording, isCreatedFormattedAndPrimedInThisOrderAndClosedOnce)
     (*recording)->finish();
     (*recording)->finish();
 
-    EXPECT_THAT(journal(), ElementsAre(created, formatted, primed, "ExtAudioFileWriteAsync 1", disposed));
+    EXPECT_THAT(
+        journal(), ElementsAre(created, formatted, primed, "ExtAudioFileWriteAsync 1 frames", disposed));
     EXPECT_EQ(readWave(file), WrittenSound(44100, {1 << 22, -(1 << 22)}));
 }
 

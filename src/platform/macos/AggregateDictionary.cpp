@@ -16,7 +16,7 @@ CFTypeRef cfTruth(bool isTrue)
     return isTrue ? kCFBooleanTrue : kCFBooleanFalse;
 }
 
-/// A dictionary or list in the making: it keeps what its values need until it is made.
+/// A dictionary in the making: it keeps what its values need until it is made.
 class Entries {
 public:
     void add(const char* key, CFTypeRef value)

@@ -130,7 +130,8 @@ OSStatus ExtAudioFileSetProperty(
 
 OSStatus ExtAudioFileWriteAsync(ExtAudioFileRef file, UInt32 frames, const AudioBufferList* samples)
 {
-    if (const OSStatus status = begin("ExtAudioFileWriteAsync " + std::to_string(frames)))
+    if (const OSStatus status = begin("ExtAudioFileWriteAsync "
+            + (samples == nullptr ? "nothing" : std::to_string(frames) + " frames")))
         return status;
     if (!file->hasClientFormat)
         return kExtAudioFileError_InvalidOperationOrder;
