@@ -187,7 +187,9 @@ def runMacOS(tally):
     tally.add("macos: bundle", run("/usr/bin/python3", "tools/checkBundle.py", quiet=True) == 0)
 
     # What does not compile leaves no object behind.
-    run("cmake", "--build", "--preset", "macos", "--target", "macosObjects", "--", "-k", "0", quiet=True)
+    isCompiled = run("cmake", "--build", "--preset", "macos", "--target", "macosObjects", "--", "-k", "0",
+                     quiet=True) == 0
+    tally.add("macos: all that it needs compiles for a Mac", isCompiled)
     objects = ROOT / "build/macos/tests/macos/objects"
     for source in [*sources(".cpp", ".mm", below=["src/platform/macos"]), "src/app/PlatformMacOS.cpp"]:
         for processor in ("arm64", "x86_64"):

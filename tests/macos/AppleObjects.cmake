@@ -10,21 +10,33 @@ set(dialect -fblocks -std=c++23 -Wall -Wextra -Wconversion -Wshadow -Wunguarded-
     -isystem ${CMAKE_CURRENT_SOURCE_DIR}/declarations -isystem /usr/include/x86_64-linux-musl
     -U__nonnull -D_GNU_SOURCE -D_LIBCPP_HAS_MUSL_LIBC -I${CMAKE_SOURCE_DIR}/src)
 
-file(GLOB sources CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}
-    ${CMAKE_SOURCE_DIR}/src/platform/*.cpp ${CMAKE_SOURCE_DIR}/src/hal/*.cpp ${CMAKE_SOURCE_DIR}/src/engine/*.cpp
-    ${CMAKE_SOURCE_DIR}/src/platform/macos/*.cpp ${CMAKE_SOURCE_DIR}/src/platform/macos/*.mm)
-list(APPEND sources src/app/PlatformMacOS.cpp)
+# The one library of the program's core is a folder of headers.
+file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/libraries)
+file(CREATE_LINK /usr/include/nlohmann ${CMAKE_CURRENT_BINARY_DIR}/libraries/nlohmann SYMBOLIC)
+list(APPEND dialect -isystem ${CMAKE_CURRENT_BINARY_DIR}/libraries)
+
+function(globSources result)
+    set(patterns ${ARGN})
+    list(TRANSFORM patterns PREPEND ${CMAKE_SOURCE_DIR}/src/)
+    file(GLOB found CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} ${patterns})
+    set(${result} ${found} PARENT_SCOPE)
+endfunction()
+# What differs between processors for both, the rest of the program's core for one.
+globSources(sources_x86_64 platform/macos/*.cpp platform/macos/*.mm engine/*.cpp app/PlatformMacOS.cpp)
+globSources(core platform/*.cpp hal/*.cpp settings/*.cpp log/*.cpp control/*.cpp)
+set(sources_arm64 ${sources_x86_64} ${core})
 
 set(objects)
-foreach(triple IN ITEMS arm64-apple-macos14.2 x86_64-apple-macos14.2)
-    foreach(source IN LISTS sources)
+foreach(processor IN ITEMS arm64 x86_64)
+    set(triple ${processor}-apple-macos14.2)
+    foreach(source IN LISTS sources_${processor})
         set(object ${CMAKE_CURRENT_BINARY_DIR}/objects/${triple}/${source}.o)
         cmake_path(GET object PARENT_PATH folder)
         file(MAKE_DIRECTORY ${folder})
         set(language -x c++)
         if(source MATCHES "\\.mm$")
             set(language -x objective-c++ -fobjc-arc)
-        elseif(source MATCHES "AVX2" AND triple MATCHES "^x86_64")
+        elseif(source MATCHES "AVX2" AND processor STREQUAL x86_64)
             list(APPEND language -mavx2)
         endif()
         add_custom_command(OUTPUT ${object}
