@@ -4,7 +4,6 @@
 #include "platform/macos/AppKitPopover.h"
 
 #include <QKeyEvent>
-#include <QQuickItem>
 
 namespace fadeloom {
 

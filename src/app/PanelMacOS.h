@@ -2,6 +2,7 @@
 // The panel inside of the popover of macOS.
 #pragma once
 
+#include <QQuickItem>
 #include <QQuickView>
 #include <QWindow>
 
