@@ -120,6 +120,9 @@ AutoreleasePool::~AutoreleasePool()
 
 ObjectData* makeObject(const ClassData* type)
 {
+    // The platform moves fields then; here a class and the one above it with fields are compiled in one source.
+    if (type->superclass != nullptr && type->ro().instanceStart < type->superclass->ro().instanceSize)
+        crash(std::string(type->ro().name) + " was compiled without knowing the fields above it");
     const std::size_t size = sizeof(Head) + type->ro().instanceSize;
     auto* const head = new (std::calloc(1, size)) Head;
     auto* const object = reinterpret_cast<ObjectData*>(head + 1);
@@ -282,107 +285,5 @@ ObjectData* objc_loadWeakRetained(void** place)
     const std::scoped_lock guard(world().mutex);
     return objc_retain(static_cast<ObjectData*>(*place));
 }
-
-ObjectData* objc_alloc(const ClassData* type)
-{
-    return makeObject(type);
-}
-ObjectData* objc_opt_self(ObjectData* object)
-{
-    return object;
-}
-const ClassData* objc_opt_class(const ObjectData* object)
-{
-    const bool isClass = (object->type->ro().flags & ClassRo::isMeta) != 0;
-    return isClass ? reinterpret_cast<const ClassData*>(object) : object->type;
-}
-bool objc_opt_isKindOfClass(const ObjectData* object, const ClassData* type)
-{
-    for (const ClassData* each = object == nullptr ? nullptr : object->type; each != nullptr;
-        each = each->superclass)
-        if (each == type)
-            return true;
-    return false;
-}
-bool objc_opt_respondsToSelector(const ObjectData* object, const char* selector)
-{
-    return object != nullptr && object->type->method(selector) != nullptr;
-}
-ObjectData* objc_alloc_init(const ClassData* type)
-{
-    ObjectData* const made = makeObject(type);
-    return reinterpret_cast<ObjectData* (*)(ObjectData*, const char*)>(fadeloomMethod(made, "init"))(
-        made, "init");
-}
-ObjectData* objc_opt_new(const ClassData* type)
-{
-    return objc_alloc_init(type);
-}
-
-static ObjectData*& fieldAt(ObjectData* object, std::ptrdiff_t offset)
-{
-    return *reinterpret_cast<ObjectData**>(reinterpret_cast<char*>(object) + offset);
-}
-ObjectData* objc_getProperty(ObjectData* object, const char*, std::ptrdiff_t offset, bool)
-{
-    return objc_retainAutorelease(fieldAt(object, offset));
-}
-void objc_setProperty_atomic(ObjectData* object, const char*, ObjectData* value, std::ptrdiff_t offset)
-{
-    objc_storeStrong(&fieldAt(object, offset), value);
-}
-void objc_setProperty_atomic_copy(ObjectData* object, const char*, ObjectData* value, std::ptrdiff_t offset)
-{
-    ObjectData* copied = value;
-    if (value != nullptr)
-        copied = reinterpret_cast<ObjectData* (*)(ObjectData*, const char*)>(fadeloomMethod(value, "copy"))(
-            value, "copy");
-    objc_release(std::exchange(fieldAt(object, offset), copied));
-}
-void objc_setProperty_nonatomic(
-    ObjectData* object, const char* selector, ObjectData* value, std::ptrdiff_t offset)
-{
-    objc_setProperty_atomic(object, selector, value, offset);
-}
-void objc_setProperty_nonatomic_copy(
-    ObjectData* object, const char* selector, ObjectData* value, std::ptrdiff_t offset)
-{
-    objc_setProperty_atomic_copy(object, selector, value, offset);
-}
-void objc_copyStruct(void* to, const void* from, std::ptrdiff_t size, bool, bool)
-{
-    std::memcpy(to, from, static_cast<std::size_t>(size));
-}
-void objc_enumerationMutation(ObjectData*)
-{
-    crash("a collection changed while it was read");
-}
 }
 // NOLINTEND
-
-// Sends a message: finds the method, and jumps there with the registers as they came. What is sent to nothing is zero.
-#define FADELOOM_SEND(NAME, OBJECT, SELECTOR, FIND, LAST, WHEN_NOTHING)                                      \
-    __asm__(                                                                                                 \
-        ".text\n.globl " NAME "\n.type " NAME ", @function\n" NAME ":\n" WHEN_NOTHING                        \
-        "pushq %rbp\nmovq %rsp, %rbp\nsubq $208, %rsp\n"                                                     \
-        "movq %rdi, 0(%rsp)\nmovq %rsi, 8(%rsp)\nmovq %rdx, 16(%rsp)\nmovq %rcx, 24(%rsp)\n"                 \
-        "movq %r8, 32(%rsp)\nmovq %r9, 40(%rsp)\nmovq %rax, 48(%rsp)\n"                                      \
-        "movups %xmm0, 64(%rsp)\nmovups %xmm1, 80(%rsp)\nmovups %xmm2, 96(%rsp)\nmovups %xmm3, 112(%rsp)\n"  \
-        "movups %xmm4, 128(%rsp)\nmovups %xmm5, 144(%rsp)\nmovups %xmm6, 160(%rsp)\nmovups %xmm7, "          \
-        "176(%rsp)\n"                                                                                        \
-        "movq " OBJECT ", %rax\nmovq " SELECTOR ", %rsi\nmovq %rax, %rdi\n"                                  \
-        "call " FIND "\nmovq %rax, %r11\n"                                                                   \
-        "movups 64(%rsp), %xmm0\nmovups 80(%rsp), %xmm1\nmovups 96(%rsp), %xmm2\nmovups 112(%rsp), %xmm3\n"  \
-        "movups 128(%rsp), %xmm4\nmovups 144(%rsp), %xmm5\nmovups 160(%rsp), %xmm6\nmovups 176(%rsp), "      \
-        "%xmm7\n"                                                                                            \
-        "movq 0(%rsp), %rdi\nmovq 8(%rsp), %rsi\nmovq 16(%rsp), %rdx\nmovq 24(%rsp), %rcx\n"                 \
-        "movq 32(%rsp), %r8\nmovq 40(%rsp), %r9\nmovq 48(%rsp), %rax\nleave\n" LAST "jmp *%r11\n")
-
-FADELOOM_SEND("objc_msgSend", "%rdi", "%rsi", "fadeloomMethod", "",
-    "testq %rdi, %rdi\njne 1f\nxorl %eax, %eax\nxorl %edx, %edx\nxorps %xmm0, %xmm0\nxorps %xmm1, "
-    "%xmm1\nret\n1:\n");
-FADELOOM_SEND("objc_msgSend_stret", "%rsi", "%rdx", "fadeloomMethod", "",
-    "testq %rsi, %rsi\njne 1f\nxorps %xmm0, %xmm0\nmovups %xmm0, 0(%rdi)\nmovups %xmm0, 16(%rdi)\nmovq %rdi, "
-    "%rax\n"
-    "ret\n1:\n");
-FADELOOM_SEND("objc_msgSendSuper2", "%rdi", "%rsi", "fadeloomSuperMethod", "movq (%rdi), %rdi\n", "");

@@ -76,6 +76,9 @@ extern "C" {
 doubles::ObjectData* objc_retain(doubles::ObjectData* object);
 void objc_release(doubles::ObjectData* object);
 doubles::ObjectData* objc_autorelease(doubles::ObjectData* object);
+doubles::ObjectData* objc_retainAutorelease(doubles::ObjectData* object);
+void objc_storeStrong(doubles::ObjectData** place, doubles::ObjectData* object);
+void* fadeloomMethod(const doubles::ObjectData* object, const char* selector);
 void* objc_autoreleasePoolPush();
 void objc_autoreleasePoolPop(void* pool);
 }
