@@ -1,7 +1,5 @@
 # SPDX-License-Identifier: MIT
 # Makes a bundle of the program: its name, what it declares, its icons and texts.
-set(FADELOOM_BUILD 0 CACHE STRING "The build's number, by which versions are compared; 0 for development")
-
 set(resources
     ${CMAKE_CURRENT_LIST_DIR}/AppIcon.icns
     ${CMAKE_CURRENT_LIST_DIR}/MenuBarIcon.png

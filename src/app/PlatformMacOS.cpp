@@ -3,9 +3,10 @@
 
 namespace fadeloom {
 
-PlatformMacOS::PlatformMacOS(MainLoop& mainLoop, SystemLog& systemLog)
+PlatformMacOS::PlatformMacOS(MainLoop& mainLoop, SystemLog& systemLog, HttpClient& http)
     : mainLoop_(mainLoop)
     , systemLog_(systemLog)
+    , http_(http)
     , workspace_(folders_.caches() / "com.fadeloom.app" / "icons")
     , utilityQueue_("com.fadeloom.settings")
     , logQueue_("com.fadeloom.log")
@@ -15,7 +16,7 @@ PlatformMacOS::PlatformMacOS(MainLoop& mainLoop, SystemLog& systemLog)
 Platform PlatformMacOS::platform()
 {
     return {audio_, audioFiles_, workspace_, capturePermission_, loginItem_, mainLoop_, utilityQueue_,
-        logQueue_, folders_, systemLog_, text_, clock_};
+        logQueue_, folders_, systemLog_, text_, clock_, userDefaults_, http_};
 }
 
 }  // namespace fadeloom

@@ -19,22 +19,17 @@ namespace fadeloom {
 /// Thread: main.
 class PlatformMacOS {
 public:
-    /// The main loop has to serve the main dispatch queue, as Qt's does. Both must outlive this.
-    PlatformMacOS(MainLoop& mainLoop, SystemLog& systemLog);
+    /// The main loop has to serve the main dispatch queue, as Qt's does. All must outlive this.
+    PlatformMacOS(MainLoop& mainLoop, SystemLog& systemLog, HttpClient& http);
     PlatformMacOS(const PlatformMacOS&) = delete;
     PlatformMacOS& operator=(const PlatformMacOS&) = delete;
 
     [[nodiscard]] Platform platform();
-    [[nodiscard]] UserDefaults& userDefaults() { return userDefaults_; }
-    /// The name of an installed application, running or not.
-    [[nodiscard]] std::optional<std::string> installedName(const std::string& bundleID) const
-    {
-        return workspace_.installedName(bundleID);
-    }
 
 private:
     MainLoop& mainLoop_;
     SystemLog& systemLog_;
+    HttpClient& http_;
     FoundationFolders folders_;
     AppKitWorkspace workspace_;
     MainAppLoginItem loginItem_;

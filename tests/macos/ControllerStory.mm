@@ -2,6 +2,7 @@
 // The whole controller on the adapters of macOS, from an application that begins to play to the end of the program.
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
+#include "platform/HttpClient.h"
 #include "platform/macos/AppKitWorkspace.h"
 #include "platform/macos/CoreAudioHardware.h"
 #include "platform/macos/DispatchQueue.h"
@@ -9,6 +10,7 @@
 #include "platform/macos/FoundationClock.h"
 #include "platform/macos/FoundationFolders.h"
 #include "platform/macos/MainAppLoginItem.h"
+#include "platform/macos/StandardUserDefaults.h"
 #include "platform/macos/TccPermission.h"
 #include "platform/macos/UnifiedLog.h"
 #include "platform/simulated/SimulatedText.h"
@@ -33,6 +35,13 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+
+class UnaskedWeb final : public HttpClient {
+    void get(const HttpRequest& /*request*/, Answered /*answered*/) override
+    {
+        ADD_FAILURE() << "the controller asks no web server";
+    }
+};
 
 class MacOSController : public DesktopStage {
 protected:
@@ -89,12 +98,14 @@ protected:
     TccPermission permission{TCC_DOUBLE};
     SimulatedText text;
     FoundationClock clock;
+    StandardUserDefaults userDefaults;
+    UnaskedWeb web;
     DispatchQueue utilityQueue{"com.fadeloom.settings"};
     DispatchQueue logQueue{"com.fadeloom.log"};
     CoreAudioHardware audio;
     ExtendedAudioFiles files;
     Platform platform{audio, files, workspace, permission, loginItem, mainLoop, utilityQueue, logQueue,
-        folders, systemLog, text, clock};
+        folders, systemLog, text, clock, userDefaults, web};
     EngineLog engineLog{systemLog, logQueue, folder.path() / "Library/Application Support/Fadeloom"};
     std::optional<AudioController> controller;
 };

@@ -5,6 +5,7 @@
 #include "tests/macos/DesktopStage.h"
 
 #include <optional>
+#include <utility>
 
 namespace fadeloom {
 namespace {
@@ -17,6 +18,7 @@ protected:
     MacOSMenuBar()
     {
         item->whenClicked([this] { happened.emplace_back("clicked"); });
+        item->whenMenuOpens([this] { happened.emplace_back("menu will open"); });
         item->setMenu([this] {
             return StatusMenu{
                 {.title = "Open Mixer", .action = [this] { happened.emplace_back("mixer"); }},
@@ -54,7 +56,7 @@ TEST_F(MacOSMenuBar, opensItsMenuOnARightClickAndWithControl)
     [button() click:NSEventTypeRightMouseUp modifiers:0];
     [button() click:NSEventTypeLeftMouseUp modifiers:NSEventModifierFlagControl];
 
-    EXPECT_THAT(happened, IsEmpty());
+    EXPECT_THAT(std::exchange(happened, {}), ElementsAre("menu will open", "menu will open"));
     EXPECT_THAT(done(), ElementsAre("menu opens", "menu opens"));
     EXPECT_EQ(NSStatusBar.systemStatusBar.onlyItem.menu, nil);  // Or the next left click would open it.
     [button() click:NSEventTypeLeftMouseUp modifiers:0];
@@ -76,7 +78,7 @@ TEST_F(MacOSMenuBar, hasTheEntriesOfTheMomentInItsMenu)
     [button() click:NSEventTypeRightMouseUp modifiers:0];
 
     EXPECT_THAT(titles, ElementsAre("Open Mixer", "", "Settings…", "Launch at Login"));
-    EXPECT_THAT(happened, ElementsAre("settings"));
+    EXPECT_THAT(happened, ElementsAre("menu will open", "settings"));
 }
 
 TEST_F(MacOSMenuBar, letsAChoiceBeMadeAfterTheMenuHasClosed)
@@ -87,7 +89,7 @@ TEST_F(MacOSMenuBar, letsAChoiceBeMadeAfterTheMenuHasClosed)
     [button() click:NSEventTypeRightMouseUp modifiers:0];
     doubles::choose(chosen);
 
-    EXPECT_THAT(happened, ElementsAre("mixer"));
+    EXPECT_THAT(happened, ElementsAre("menu will open", "mixer"));
     chosen = nil;
 }
 

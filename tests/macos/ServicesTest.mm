@@ -11,6 +11,7 @@
 #include "tests/macos/doubles/Collections.h"
 #include "tests/macos/doubles/Values.h"
 #include "tests/platform/BackgroundQueueContract.h"
+#include "tests/platform/UserDefaultsContract.h"
 
 #include <mutex>
 #include <thread>
@@ -152,6 +153,21 @@ std::unique_ptr<ContractQueueWorld> makeMacOSQueueWorld()
     return std::make_unique<MacOSQueueWorld>();
 }
 
+class MacOSDefaultsWorld final : public ContractDefaultsWorld {
+public:
+    MacOSDefaultsWorld() { doubles::beginDesktop(); }
+    ~MacOSDefaultsWorld() override { doubles::endDesktop(); }
+    UserDefaults& defaults() override { return defaults_; }
+
+private:
+    StandardUserDefaults defaults_;
+};
+
+std::unique_ptr<ContractDefaultsWorld> makeMacOSDefaultsWorld()
+{
+    return std::make_unique<MacOSDefaultsWorld>();
+}
+
 TEST_F(MacOSServices, aQueueThatEndsDoesWhatIsDueAndDropsTheRest)
 {
     std::vector<int> ran;
@@ -169,5 +185,6 @@ TEST_F(MacOSServices, aQueueThatEndsDoesWhatIsDueAndDropsTheRest)
 }  // namespace
 
 INSTANTIATE_TEST_SUITE_P(MacOS, BackgroundQueueContract, ::testing::Values(&makeMacOSQueueWorld));
+INSTANTIATE_TEST_SUITE_P(MacOS, UserDefaultsContract, ::testing::Values(&makeMacOSDefaultsWorld));
 
 }  // namespace fadeloom

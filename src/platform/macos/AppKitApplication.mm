@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/macos/AppKitApplication.h"
 
+#include "platform/macos/Activation.h"
 #include "platform/macos/NSText.h"
 
 #import <AppKit/AppKit.h>
@@ -50,8 +51,7 @@ void AppKitApplication::setAppearance(Appearance appearance)
 
 void AppKitApplication::activate()
 {
-    // Its successor waits for the program in front to give way, which no program does for one without a Dock icon.
-    [NSApp activateIgnoringOtherApps:YES];
+    comeToFront();
 }
 
 void AppKitApplication::showAboutPanel(const AboutCredits& credits)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/macos/AppKitDialogs.h"
 
+#include "platform/macos/Activation.h"
 #include "platform/macos/NSText.h"
 
 #import <AppKit/AppKit.h>
@@ -17,7 +18,7 @@ void open(NSOpenPanel* panel, const std::filesystem::path& start, std::function<
 {
     panel.allowsMultipleSelection = NO;
     panel.directoryURL = nsURL(start);
-    [NSApp activateIgnoringOtherApps:YES];
+    comeToFront();
     [panel beginWithCompletionHandler:^(
         NSModalResponse response) { done(response == NSModalResponseOK ? panel.URLs.firstObject : nil); }];
 }
@@ -68,7 +69,7 @@ void AppKitDialogs::showAlert(const Alert& alert, std::function<void(std::size_t
         shown.informativeText = nsText(alert.text);
         for (const std::string& title : alert.buttons)
             [shown addButtonWithTitle:nsText(title)];
-        [NSApp activateIgnoringOtherApps:YES];
+        comeToFront();
         answered(buttonOf([shown runModal], alert.buttons.size()));
     }
 }

@@ -19,6 +19,7 @@ public:
 
     void show(const std::string& name) override;
     void whenClicked(std::function<void()> clicked) override;
+    void whenMenuOpens(std::function<void()> willOpen) override;
     void setMenu(std::function<StatusMenu()> build) override;
 
     /// Its button, an `NSStatusBarButton` that stays the item's; null before `show`.
@@ -30,6 +31,7 @@ private:
     void clicked();
 
     std::function<void()> clicked_ = [] { };
+    std::function<void()> menuOpens_ = [] { };
     std::function<StatusMenu()> buildMenu_ = [] { return StatusMenu{}; };
     std::unique_ptr<Shown> shown_;
 };

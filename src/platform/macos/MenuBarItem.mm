@@ -70,6 +70,11 @@ void MenuBarItem::whenClicked(std::function<void()> clicked)
     clicked_ = std::move(clicked);
 }
 
+void MenuBarItem::whenMenuOpens(std::function<void()> willOpen)
+{
+    menuOpens_ = std::move(willOpen);
+}
+
 void MenuBarItem::setMenu(std::function<StatusMenu()> build)
 {
     buildMenu_ = std::move(build);
@@ -83,10 +88,10 @@ void* MenuBarItem::button() const
 void MenuBarItem::clicked()
 {
     @autoreleasepool {
-        if (asksForMenu(NSApp.currentEvent))
-            shown_->open(nsMenu(buildMenu_()));
-        else
-            clicked_();
+        if (!asksForMenu(NSApp.currentEvent))
+            return clicked_();
+        menuOpens_();
+        shown_->open(nsMenu(buildMenu_()));
     }
 }
 

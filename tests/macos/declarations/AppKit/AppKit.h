@@ -105,7 +105,8 @@ APPKIT_EXTERN NSAboutPanelOptionKey const NSAboutPanelOptionCredits;
 @property (nullable, strong) NSAppearance* appearance;
 @property (readonly, strong) NSAppearance* effectiveAppearance;
 @property (nullable, readonly, strong) NSEvent* currentEvent;
-- (void)activateIgnoringOtherApps:(BOOL)isIgnoring;
+- (void)activateIgnoringOtherApps:(BOOL)isIgnoring
+    __attribute__((availability(macos, introduced = 10.0, deprecated = 14.0)));
 - (void)orderFrontStandardAboutPanelWithOptions:(NSDictionary<NSAboutPanelOptionKey, id>*)options;
 @end
 
