@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The windows of the program on macOS: the item in the menu bar, the popover with the panel, dialogs, the look.
+// The program on macOS: its item in the menu bar, dialogs, the look; and the popover with the panel.
 #pragma once
 
 #include "app/PanelMacOS.h"
@@ -19,28 +19,49 @@ namespace fadeloom {
 /// Needs a QGuiApplication. Thread: main.
 class DesktopMacOS {
 public:
-    /// `lookChanged` is called whenever windows are drawn dark or light from now on.
-    explicit DesktopMacOS(std::function<void(bool isDark)> lookChanged)
-        : look_(std::move(lookChanged))
-    {
-    }
+    /// Before the application object. Says whether there is a display to draw on.
+    [[nodiscard]] static bool prepare() { return true; }
+
+    DesktopMacOS() = default;
     DesktopMacOS(const DesktopMacOS&) = delete;
     DesktopMacOS& operator=(const DesktopMacOS&) = delete;
 
     [[nodiscard]] Application& application() { return application_; }
     [[nodiscard]] Dialogs& dialogs() { return dialogs_; }
-    [[nodiscard]] StatusItem& icon() { return icon_; }
-    [[nodiscard]] Popover& popover() { return popover_; }
+    [[nodiscard]] MenuBarItem& icon() { return icon_; }
     [[nodiscard]] bool isDark() const { return look_.isDark(); }
-    /// Shows this in the popover; its implicit size is the panel's.
-    void setContent(std::unique_ptr<QQuickItem> content) { panel_.emplace(popover_, std::move(content)); }
+    /// Called from now on whenever windows are to be drawn dark or light.
+    void whenLookChanges(std::function<void(bool isDark)> changed) { lookChanged_ = std::move(changed); }
 
 private:
+    std::function<void(bool)> lookChanged_ = [](bool) { };
     AppKitApplication application_;
     AppKitDialogs dialogs_;
-    AppearanceWatch look_;
+    AppearanceWatch look_{[this](bool isDark) { lookChanged_(isDark); }};
     MenuBarItem icon_;
-    AppKitPopover popover_{icon_};
+};
+
+/// The panel in the popover below the item in the menu bar. Thread: main.
+class PopoverMacOS {
+public:
+    /// `desktop` must outlive this.
+    explicit PopoverMacOS(DesktopMacOS& desktop)
+        : popover_(desktop.icon())
+    {
+    }
+    PopoverMacOS(const PopoverMacOS&) = delete;
+    PopoverMacOS& operator=(const PopoverMacOS&) = delete;
+
+    [[nodiscard]] Popover& popover() { return popover_; }
+    /// What it shows; its implicit size is the panel's.
+    void setContent(const std::function<std::unique_ptr<QQuickItem>()>& make)
+    {
+        if (auto content = make())
+            panel_.emplace(popover_, std::move(content));
+    }
+
+private:
+    AppKitPopover popover_;
     std::optional<PanelMacOS> panel_;
 };
 

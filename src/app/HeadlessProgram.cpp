@@ -3,14 +3,12 @@
 
 #include "app/Console.h"
 #include "app/HeadlessRun.h"
-#include "app/PlatformLinux.h"
+#include "app/Home.h"
 #include "app/PrintedLog.h"
 #include "app/ScratchFolder.h"
-#include "app/SecondStart.h"
 #include "app/SimulatedHome.h"
 #include "app/TerminalSize.h"
 #include "app/Version.h"
-#include "platform/linux/SyslogSystemLog.h"
 #include "platform/qt/LineReader.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QtText.h"
@@ -72,19 +70,19 @@ int runSimulated(QtMainLoop& mainLoop, Console& console)
 
 int runOnThisMachine(QtMainLoop& mainLoop, Console& console)
 {
-    SingleInstance instance(instanceFolder());
-    if (const auto second = secondStart(instance.claim(InstanceRequest::ping), InstanceRequest::ping)) {
-        std::cerr << "fadeloom: " << second->message << '\n';
-        return second->exitStatus;
+    HomeInstance instance;
+    if (const auto end = instance.claim(false)) {
+        std::cerr << "fadeloom: " << end->message << '\n';
+        return end->exitStatus;
     }
     const auto quit = [&] {
         instance.beginEnding();
         mainLoop.quit();
     };
     instance.serve({.quit = quit});
-    SyslogSystemLog systemLog;
+    HomeLog systemLog;
     PrintedLog log(systemLog, console, mainLoop);
-    PlatformLinux home(mainLoop, log);
+    HomePlatform home(mainLoop, log);
     runOn(home.platform(), mainLoop, console, quit);
     return 0;
 }

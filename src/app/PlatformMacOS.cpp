@@ -3,11 +3,16 @@
 
 namespace fadeloom {
 
+std::filesystem::path iconFolder(const FoundationFolders& folders)
+{
+    return folders.caches() / "com.fadeloom.app" / "icons";
+}
+
 PlatformMacOS::PlatformMacOS(MainLoop& mainLoop, SystemLog& systemLog, HttpClient& http)
     : mainLoop_(mainLoop)
     , systemLog_(systemLog)
     , http_(http)
-    , workspace_(folders_.caches() / "com.fadeloom.app" / "icons")
+    , workspace_(iconFolder(folders_))
     , utilityQueue_("com.fadeloom.settings")
     , logQueue_("com.fadeloom.log")
 {

@@ -16,6 +16,9 @@
 
 namespace fadeloom {
 
+/// The folder in which the pictures of applications are kept for the panel.
+[[nodiscard]] std::filesystem::path iconFolder(const FoundationFolders& folders);
+
 /// Thread: main.
 class PlatformMacOS {
 public:

@@ -2,11 +2,11 @@
 #include "app/ScreenshotProgram.h"
 
 #include "app/CommandLine.h"
+#include "app/Home.h"
 #include "app/InterfaceLanguage.h"
 #include "app/PanelServices.h"
 #include "app/ScratchFolder.h"
 #include "log/EngineLog.h"
-#include "platform/linux/XdgFolders.h"
 #include "platform/qt/QtText.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "ui/ScreenshotRenderer.h"
@@ -30,7 +30,7 @@ int runScreenshots(int argumentCount, char** arguments, const CommandLine& comma
     QtText text;
     SimulatedPlatform world(folder->path(), &text);
     const auto own = world.platform();
-    XdgFolders folders;  // The one for recordings is shown, as "~/Music/…".
+    HomeFolders folders;  // The one for recordings is shown, as "~/Music/…".
     const Platform platform = {own.audio, own.audioFiles, own.workspace, own.capturePermission, own.loginItem,
         own.mainLoop, own.utilityQueue, own.logQueue, folders, own.systemLog, own.text, own.clock,
         own.userDefaults, own.http};

@@ -17,22 +17,22 @@ std::filesystem::path instanceFolder()
     return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation)).toStdString();
 }
 
-std::optional<SecondStart> secondStart(SingleInstance::Start start, InstanceRequest request)
+std::optional<EarlyEnd> secondStart(SingleInstance::Start start, InstanceRequest request)
 {
     switch (start) {
     case SingleInstance::Start::first:
         return std::nullopt;
     case SingleInstance::Start::answered:
         if (request == InstanceRequest::open)
-            return SecondStart{"it is running already; its panel is open now", 0};
-        return SecondStart{
+            return EarlyEnd{"it is running already; its panel is open now", 0};
+        return EarlyEnd{
             "it is running already; two would take each other's applications away", isRunningStatus};
     case SingleInstance::Start::withoutPanel:
-        return SecondStart{"it is running already, without a panel (--headless)", isRunningStatus};
+        return EarlyEnd{"it is running already, without a panel (--headless)", isRunningStatus};
     case SingleInstance::Start::unanswered:
         break;
     }
-    return SecondStart{"it is running already, but does not answer", 1};
+    return EarlyEnd{"it is running already, but does not answer", 1};
 }
 
 }  // namespace fadeloom

@@ -2,29 +2,17 @@
 #include "app/TrayProgram.h"
 
 #include "app/AppDelegate.h"
+#include "app/Home.h"
 #include "app/InterfaceLanguage.h"
 #include "app/PanelServices.h"
-#include "app/PlatformLinux.h"
 #include "app/ProductPages.h"
 #include "app/ScratchFolder.h"
-#include "app/SecondStart.h"
 #include "app/SimulatedHome.h"
-#include "app/TrayPicture.h"
 #include "app/Version.h"
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
-#include "platform/linux/FileManager.h"
-#include "platform/linux/LinuxEnvironment.h"
-#include "platform/linux/LinuxWorkspace.h"
-#include "platform/linux/SyslogSystemLog.h"
-#include "platform/linux/Variables.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QuitSignals.h"
-#include "platform/qtdesktop/QtApplication.h"
-#include "platform/qtdesktop/QtDialogs.h"
-#include "platform/qtdesktop/QtPopover.h"
-#include "platform/qtdesktop/QtTrayIcon.h"
-#include "platform/qtdesktop/SystemLook.h"
 #include "settings/SettingsFile.h"
 #include "shell/AppLanguage.h"
 #include "shell/UpdateChecker.h"
@@ -44,23 +32,10 @@
 namespace fadeloom {
 namespace {
 
-bool hasDisplay()
-{
-    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-        || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-}
-
-// On Wayland a window can choose neither its place nor to stay in front, which the panel has to: X11 first.
-void choosePlatform()
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
-}
-
 /// What the program is on that a simulated world does not have, too.
-struct Desktop {
+struct Surroundings {
     Workspace& workspace;  // Opens addresses, names applications, starts us anew.
-    SingleInstance* instance;  // Null for one of many.
+    HomeInstance* instance;  // Null for one of many.
 };
 
 std::optional<UpdateChecker> makeUpdateChecker(const Platform& platform, Workspace& workspace)
@@ -83,7 +58,7 @@ std::optional<UpdateChecker> makeUpdateChecker(const Platform& platform, Workspa
 /// The program with its icon and its panel, from the start to the end.
 class TrayRun {
 public:
-    TrayRun(const Platform& platform, QtMainLoop& mainLoop, Desktop desktop);
+    TrayRun(const Platform& platform, QtMainLoop& mainLoop, Surroundings around);
     TrayRun(const TrayRun&) = delete;
     TrayRun& operator=(const TrayRun&) = delete;
     ~TrayRun();
@@ -94,14 +69,12 @@ public:
 private:
     [[nodiscard]] Platform withWindows(Platform platform);
     [[nodiscard]] AppDelegate::Actions actions();
-    void beOrdinary();
     void quit();
 
     QtMainLoop& mainLoop_;
-    const Desktop desktop_;
+    const Surroundings around_;
     const QuitSignals quitSignals_{[this] { quit(); }};
-    QtApplication application_{[](auto) { }};  // The panel reads the choice from the settings.
-    QtDialogs dialogs_;
+    HomeDesktop desktop_;
     const Platform platform_;
     const InterfaceLanguage language_;
     EngineLog engineLog_;
@@ -109,52 +82,48 @@ private:
     std::optional<UpdateChecker> updates_;
     PanelServices services_;
     PanelModel panel_;
-    SystemLook systemLook_{[this](bool isDark) { panel_.setSystemIsDark(isDark); }};
-    PanelEngine engine_;
-    QtTrayIcon icon_;
-    QtPopover popover_{[this] { return icon_.place(); }};
+    std::optional<PanelEngine> engine_;  // Once the panel has been opened.
+    HomePanel window_{desktop_};
     std::optional<AppDelegate> delegate_;  // Shows the icon.
 };
 
-TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Desktop desktop)
+TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Surroundings around)
     : mainLoop_(mainLoop)
-    , desktop_(desktop)
+    , around_(around)
     , platform_(withWindows(platform))
     , language_(AppLanguage::preferred(platform_.userDefaults))
     , engineLog_(
           platform_.systemLog, platform_.logQueue, SettingsFile::defaultURL(platform_.folders).parent_path())
     , controller_(platform_, engineLog_, std::string(programVersion()))
-    , updates_(makeUpdateChecker(platform_, desktop_.workspace))
-    , services_({.workspace = desktop_.workspace,
-          .application = application_,
-          .dialogs = dialogs_,
+    , updates_(makeUpdateChecker(platform_, around_.workspace))
+    , services_({.workspace = around_.workspace,
+          .application = desktop_.application(),
+          .dialogs = desktop_.dialogs(),
           .userDefaults = platform_.userDefaults,
           .updates = updates_ ? &*updates_ : nullptr,
           .translate = InterfaceLanguage::texts(),
           .quit = [this] { quit(); }})
     , panel_(controller_, platform_, services_)
-    , icon_(trayPicture(systemLook_.isDark()), [this] { beOrdinary(); })
 {
-    panel_.setSystemIsDark(systemLook_.isDark());
+    panel_.setSystemIsDark(desktop_.isDark());
+    desktop_.whenLookChanges([this](bool isDark) { panel_.setSystemIsDark(isDark); });
     if (updates_)
         updates_->start();
 }
 
 TrayRun::~TrayRun()
 {
-    if (desktop_.instance != nullptr)
-        desktop_.instance->serve({});
+    desktop_.whenLookChanges([](bool) { });
+    if (around_.instance != nullptr)
+        around_.instance->serve({});
 }
 
 int TrayRun::run()
 {
-    auto view = engine_.makeRootView(panel_);
-    if (!view)
-        return 1;
-    popover_.setContent(std::move(view));
-    delegate_.emplace(controller_, icon_, popover_, application_, actions());
-    if (desktop_.instance != nullptr)
-        desktop_.instance->serve({.open = [this] { delegate_->showPopover(); },
+    window_.setContent([this] { return engine_.emplace().makeRootView(panel_); });
+    delegate_.emplace(controller_, desktop_.icon(), window_.popover(), desktop_.application(), actions());
+    if (around_.instance != nullptr)
+        around_.instance->serve({.open = [this] { delegate_->showPopover(); },
             .toggle = [this] { delegate_->togglePopover(); },
             .quit = [this] { quit(); }});
     mainLoop_.run();
@@ -164,8 +133,8 @@ int TrayRun::run()
 
 Platform TrayRun::withWindows(Platform platform)
 {
-    platform.application = &application_;
-    platform.dialogs = &dialogs_;
+    platform.application = &desktop_.application();
+    platform.dialogs = &desktop_.dialogs();
     return platform;
 }
 
@@ -182,17 +151,10 @@ AppDelegate::Actions TrayRun::actions()
     return actions;
 }
 
-void TrayRun::beOrdinary()
-{
-    std::cerr << "fadeloom: this desktop shows no status icons; the panel is an ordinary window\n";
-    popover_.becomeOrdinaryWindow();
-    popover_.show();
-}
-
 void TrayRun::quit()
 {
-    if (desktop_.instance != nullptr)
-        desktop_.instance->beginEnding();
+    if (around_.instance != nullptr)
+        around_.instance->beginEnding();
     mainLoop_.quit();
 }
 
@@ -205,22 +167,20 @@ int runSimulated(QtMainLoop& mainLoop)
     }
     QtText text;
     SimulatedHome home(folder->path(), mainLoop, text);
-    SyslogSystemLog systemLog;
-    FileManager fileManager(systemLog);
-    LinuxWorkspace workspace(linuxEnvironment(processVariables()), fileManager);
+    HomeWorkspace real;
     home.start();
-    return TrayRun(home.platform(home.world().systemLog()), mainLoop, {workspace, nullptr}).run();
+    return TrayRun(home.platform(home.world().systemLog()), mainLoop, {real.workspace(), nullptr}).run();
 }
 
 int runOnThisMachine(QtMainLoop& mainLoop)
 {
-    SingleInstance instance(instanceFolder());
-    if (const auto second = secondStart(instance.claim(InstanceRequest::open), InstanceRequest::open)) {
-        std::cerr << "fadeloom: " << second->message << '\n';
-        return second->exitStatus;
+    HomeInstance instance;
+    if (const auto end = instance.claim(true)) {
+        std::cerr << "fadeloom: " << end->message << '\n';
+        return end->exitStatus;
     }
-    SyslogSystemLog systemLog;
-    PlatformLinux home(mainLoop, systemLog);
+    HomeLog systemLog;
+    HomePlatform home(mainLoop, systemLog);
     const auto platform = home.platform();
     return TrayRun(platform, mainLoop, {platform.workspace, &instance}).run();
 }
@@ -229,12 +189,10 @@ int runOnThisMachine(QtMainLoop& mainLoop)
 
 int runTray(int argumentCount, char** arguments, bool isSimulated)
 {
-    if (!hasDisplay()) {
+    if (!HomeDesktop::prepare()) {
         std::cerr << "fadeloom: there is no display to show a panel on; --headless runs without one\n";
         return 1;
     }
-    choosePlatform();
-    drawBySoftware();
     const QApplication application(argumentCount, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("fadeloom"));

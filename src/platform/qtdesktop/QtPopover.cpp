@@ -70,11 +70,6 @@ QtPopover::~QtPopover()
     view_->disconnect();  // The window's end announces itself to somebody half gone.
 }
 
-void QtPopover::setContent(std::unique_ptr<QQuickItem> content)
-{
-    view_->setContent({}, nullptr, content.release());
-}
-
 QQuickView& QtPopover::view()
 {
     return *view_;
@@ -87,8 +82,17 @@ void QtPopover::becomeOrdinaryWindow()
     view_->setColor(QGuiApplication::palette().color(QPalette::Window));  // It has corners.
 }
 
+bool QtPopover::hasContent()
+{
+    if (const auto make = std::exchange(makeContent_, nullptr))
+        view_->setContent({}, nullptr, make().release());
+    return view_->rootObject() != nullptr;
+}
+
 void QtPopover::show()
 {
+    if (!hasContent())
+        return;
     if (!std::exchange(isOpen_, true))
         willShow_();
     wasActive_ = false;
@@ -112,8 +116,6 @@ bool QtPopover::isShown() const
 void QtPopover::fitContent()
 {
     auto* const content = view_->rootObject();
-    if (content == nullptr)
-        return;
     // Without a compositor what is transparent would be black.
     const bool isMixed = !isOrdinary_ && isComposited();
     content->setProperty("hasRoundCorners", isMixed);

@@ -26,9 +26,11 @@ public:
     QtPopover& operator=(const QtPopover&) = delete;
     ~QtPopover() override;
 
-    /// What is shown from now on; its implicit size is the window's. Its properties `availableHeight`,
+    /// May give null, after which the popover does not open.
+    using MakeContent = std::function<std::unique_ptr<QQuickItem>()>;
+    /// What is shown, made when the popover opens for the first time. Its implicit size is the window's, its properties `availableHeight`,
     /// `hasRoundCorners` and `isTranslucent` are told what the screen and the window allow.
-    void setContent(std::unique_ptr<QQuickItem> content);
+    void setContent(MakeContent make) { makeContent_ = std::move(make); }
     [[nodiscard]] QQuickView& view();
     /// From now on it has a frame and a title, and stays open until it is closed.
     void becomeOrdinaryWindow();
@@ -45,12 +47,14 @@ public:
 private:
     class View;
 
+    [[nodiscard]] bool hasContent();
     void fitContent();
     void putInPlace();
     void activeChanged();
     void visibleChanged();
 
     std::function<QRect()> place_;
+    MakeContent makeContent_;  // Until the first opening.
     std::function<void()> willShow_ = [] { };
     std::function<void()> didClose_ = [] { };
     bool isAnimated_ = true;
