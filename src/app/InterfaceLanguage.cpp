@@ -8,7 +8,8 @@
 
 namespace fadeloom {
 
-InterfaceLanguage::InterfaceLanguage(const std::vector<std::string>& preferred)
+InterfaceLanguage::InterfaceLanguage(const std::vector<std::string>& preferred, Wording wording)
+    : wording_(wording)
 {
     std::optional<QLocale> chosen;
     bool isLoaded = false;
@@ -23,14 +24,19 @@ InterfaceLanguage::InterfaceLanguage(const std::vector<std::string>& preferred)
     if (chosen)
         QLocale::setDefault(*chosen);
     // English has texts of its own, too: those that Linux words otherwise.
-    if (isLoaded || (!chosen && load(QLocale())) || load(QLocale(QLocale::English)))
-        QCoreApplication::installTranslator(&translator_);
+    if (isLoaded || (!chosen && load(QLocale())) || load(QLocale(QLocale::English))) {
+        QCoreApplication::installTranslator(&texts_);
+        QCoreApplication::installTranslator(&macOSTexts_);  // The last one is asked first.
+    }
 }
 
 bool InterfaceLanguage::load(const QLocale& locale)
 {
-    return translator_.load(
-        locale, QStringLiteral("fadeloom"), QStringLiteral("_"), QStringLiteral(":/i18n"));
+    const auto folder = QStringLiteral(":/i18n");
+    const auto separator = QStringLiteral("_");
+    return texts_.load(locale, QStringLiteral("fadeloom"), separator, folder)
+        && (wording_ == Wording::ofLinux
+            || macOSTexts_.load(locale, QStringLiteral("macos"), separator, folder));
 }
 
 Translate InterfaceLanguage::texts()

@@ -38,6 +38,17 @@ TEST_F(InterfaceLanguageTest, theChosenLanguageIsSpoken)
     EXPECT_EQ(QLocale().language(), QLocale::Polish);
 }
 
+TEST_F(InterfaceLanguageTest, macOSIsSpokenOfInItsOwnWords)
+{
+    {
+        const InterfaceLanguage language({"en"}, Wording::ofMacOS);
+        EXPECT_EQ(about(), "Free per-app volume, output routing, equalizer and recording for macOS.");
+    }
+    const InterfaceLanguage language({"pl"}, Wording::ofMacOS);
+    EXPECT_EQ(InterfaceLanguage::texts()("PlatformTexts", "Show in Finder"), "Pokaż w Finderze");
+    EXPECT_EQ(later(), "Później");
+}
+
 TEST_F(InterfaceLanguageTest, aRegionIsNoObstacle)
 {
     const InterfaceLanguage language({"pl-PL"});

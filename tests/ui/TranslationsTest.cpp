@@ -59,6 +59,34 @@ TEST_P(TranslationsTest, everyTextIsTranslated)
 
 INSTANTIATE_TEST_SUITE_P(Languages, TranslationsTest, testing::Values("en", "pl"));
 
+/// The texts of a context, in their order.
+QStringList sourcesOf(const QString& context, const QString& table)
+{
+    QFile file(QStringLiteral(PROJECT_SOURCES "/translations/") + table);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QXmlStreamReader xml(&file);
+    QString current;
+    QStringList sources;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("name"))
+            current = xml.readElementText();
+        else if (xml.name() == QLatin1String("source") && current == context)
+            sources += xml.readElementText();
+    }
+    return sources;
+}
+
+TEST(PlatformTextsTest, macOSHasAWordingForEachThatLinuxHas)
+{
+    const auto wanted = sourcesOf(QStringLiteral("PlatformTexts"), QStringLiteral("fadeloom_en.ts"));
+
+    EXPECT_GT(wanted.size(), 5);
+    EXPECT_EQ(sourcesOf(QStringLiteral("PlatformTexts"), QStringLiteral("macos_en.ts")), wanted);
+    EXPECT_EQ(sourcesOf(QStringLiteral("PlatformTexts"), QStringLiteral("macos_pl.ts")), wanted);
+}
+
 class PluralTest : public PanelTest { };
 
 TEST_F(PluralTest, englishKnowsOneAndMany)
