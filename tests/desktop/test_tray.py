@@ -3,6 +3,8 @@
 
 import time
 
+import pytest
+
 from audioSession import waitUntil
 from busMenu import BusMenu, findMenu
 from conftest import use
@@ -157,6 +159,27 @@ def test_withoutATrayThePanelIsAnOrdinaryWindow(makeDesk):
     outside(desk)
     time.sleep(0.3)
     assert desk.panel() is not None, "an ordinary window stays"
+
+
+@pytest.mark.parametrize("tray", ["trayer", None])
+def test_thePanelDoesTheSameWithoutATrayOverTheBus(makeDesk, tray):
+    desk = makeDesk(tray)
+    desk.play()
+    desk.start(waitForIcon=tray is not None)
+    if tray is None:
+        waitUntil(desk.panel, "the panel", 12)
+    else:
+        desk.open()
+    person = desk.person
+    desk.waitForLevel(0.2)
+
+    person.click(person.find("Mute Player"))
+    desk.waitForLevel(0.0)
+    person.click(person.find("Unmute Player"))
+    person.click(person.find("Expand Player"))
+    person.choose("Output, System Output", "Headphones")
+
+    desk.waitForLevel(0.2, device="headphones")
 
 
 def test_aTrayThatComesLaterGetsTheIcon(makeDesk):
