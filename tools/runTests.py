@@ -3,6 +3,7 @@
 """Builds and runs the test suites that `./test` names, and ends with one line that counts them."""
 
 import argparse
+import concurrent.futures
 import os
 import pathlib
 import platform
@@ -112,14 +113,12 @@ def runLongForms(tally, labels):
 
 
 def runPipeWire(tally):
-    """The contract and the real program, in private audio sessions."""
+    """The contract and the callback, in private audio sessions."""
     for name in ("pipewireContractTests", "pipewireRealTimeTests"):
         file = results(name)
         status = run("/usr/bin/python3", "tools/audioSession.py", "run", "--",
                      ROOT / "build/test/tests/pipewire" / name, f"--gtest_output=xml:{file}", quiet=True)
         tally.addJUnit(name, file, status)
-
-    runPlayers(tally, "pipewire")
 
 
 def runPlayers(tally, suite):
@@ -135,11 +134,22 @@ def runPlayers(tally, suite):
     tally.addAll(first)
 
 
+def runPlayersAtOnce(tally, suites):
+    """These mostly wait for sound to be played, each in a session of its own."""
+    tallies = [Tally() for _ in suites]
+    with concurrent.futures.ThreadPoolExecutor() as threads:
+        list(threads.map(runPlayers, tallies, suites))
+    for each in tallies:
+        tally.addAll(each)
+
+
 def runPyTest(tally, suite, name, *options):
     file = results(name)
-    status = run("/usr/bin/python3", "-B", "-m", "pytest", "-q", "-W", "ignore::DeprecationWarning", "-o", f"cache_dir={RESULTS / 'pytest' / suite}",
-                 f"--junitxml={file}", *options, f"tests/{suite}",
-                 env={**os.environ, "FADELOOM": str(ROOT / "build/test/fadeloom")})
+    started = time.monotonic()
+    status = run("/usr/bin/python3", "-B", "-m", "pytest", "-q", "-W", "ignore::DeprecationWarning",
+                 "-o", f"cache_dir={RESULTS / 'pytest' / suite}", f"--junitxml={file}", *options, f"tests/{suite}",
+                 quiet=True, env={**os.environ, "FADELOOM": str(ROOT / "build/test/fadeloom")})
+    print(f"Ran {name} in {time.monotonic() - started:.0f} s", flush=True)
     tally.addJUnit(name, file, status)
     return status
 
@@ -254,8 +264,7 @@ def main():
             runLongForms(tally, folders)
     if everything or "pipewire" in arguments.suites:
         runPipeWire(tally)
-    if everything or "desktop" in arguments.suites:
-        runPlayers(tally, "desktop")
+    runPlayersAtOnce(tally, [suite for suite in ("pipewire", "desktop") if everything or suite in arguments.suites])
     if everything or "instructions" in arguments.suites:
         runInstructions(tally)
     if everything or "checks" in arguments.suites:
