@@ -17,7 +17,7 @@ sys.path.insert(0, str(ROOT / "tools"))
 import signals  # noqa: E402
 from audioSession import waitUntil  # noqa: E402
 from desktopSession import DesktopSession  # noqa: E402
-from fadeloomProcess import app, settings  # noqa: E402
+from fadeloomProcess import settings  # noqa: E402
 
 
 def program():

@@ -1,10 +1,7 @@
 # SPDX-License-Identifier: MIT
 """The panel without a mouse."""
 
-import pytest
-
 from audioSession import waitUntil
-from fadeloomProcess import app, settings
 from person import ACTIVE, Atspi
 
 

@@ -1,8 +1,6 @@
 # SPDX-License-Identifier: MIT
 """What the panel does to the sound of a real player, with the mouse."""
 
-import time
-
 import numpy
 import pytest
 

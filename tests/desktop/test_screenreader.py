@@ -5,7 +5,6 @@ Whether something was done is looked up in the sound or the settings, never in t
 """
 
 from audioSession import waitUntil
-from fadeloomProcess import app, settings
 from person import ACTIVE, Atspi
 
 def namelessControls(person):
