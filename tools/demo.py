@@ -116,7 +116,6 @@ def showPanel(session, program):
     session.startXfcePanel()
     session.spawn("panel", [str(program)])
     waitUntil(lambda: session.ownsName("com.fadeloom.app"), "the program")
-    time.sleep(1)  # The tray takes the focus while it adds the icon, and a panel without it closes.
     session.run(str(program))
     window = waitUntil(lambda: session.windows("^Fadeloom$"), "the panel")[0]
     time.sleep(2)  # Sound has to come through the taps before a level can be seen.
