@@ -133,6 +133,10 @@ class AudioSession:
             raise SessionError(f"{' '.join(command)} ended with {done.returncode}: {done.stderr.strip()}")
         return done.stdout
 
+    def isDone(self, *command):
+        """Runs a command inside the session and returns whether it succeeded."""
+        return subprocess.run(command, env=self.environment, capture_output=True, timeout=20).returncode == 0
+
     # Life of the session
 
     def start(self):
@@ -216,8 +220,7 @@ class AudioSession:
                           "--channels", str(len(ports)), "--channel-map", channels, "--format", "f32",
                           *latency, str(file)])
         for i, port in enumerate(ports):
-            waitUntil(lambda: subprocess.run(["pw-link", port, f"{name}:input_AUX{i}"], env=self.environment,
-                                             capture_output=True).returncode == 0, f"the recorder on {port}")
+            waitUntil(lambda: self.isDone("pw-link", port, f"{name}:input_AUX{i}"), f"the recorder on {port}")
         return file
 
     def recordDevice(self, name, device, channels=("FL", "FR"), **options):

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pipewire/AudioWorld.h"
 
+#include "platform/pipewire/Carriers.h"
+
 #include <algorithm>
 #include <set>
 
@@ -122,10 +124,12 @@ void AudioWorldPainter::paintProcesses(const Graph& graph, AudioWorld& world)
         bool isPlaying = false;
         bool isUsingMicrophone = false;
     };
+    const Carriers carriers{graph};
     std::map<GraphID, Activity> activities;
     for (const auto& [id, node] : graph.nodes) {
         const auto client = node.clientID();
-        if (!node.hasInfo || !client || !(isAppSound(node) || node.isInputStream()))
+        if (!node.hasInfo || !client || !(isAppSound(node) || node.isInputStream())
+            || carriers.contains(node))
             continue;
         auto& activity = activities[*client];
         activity.hasStream = true;

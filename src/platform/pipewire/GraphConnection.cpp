@@ -230,7 +230,8 @@ void GraphConnection::Implementation::globalAppeared(
 
     if (std::strcmp(type, PW_TYPE_INTERFACE_Node) == 0) {
         auto& node = graph.nodes[id] = {.id = id, .serial = serial, .properties = properties};
-        if (node.isOutputStream() || node.isInputStream() || node.isSink())
+        // Only the info event tells which nodes belong together, so every node that makes or takes sound is bound.
+        if (node.mediaClass().find("Audio") != std::string_view::npos)
             bindings[id] = std::make_unique<GraphBinding>(registry, node, changed);
     } else if (std::strcmp(type, PW_TYPE_INTERFACE_Client) == 0) {
         auto& client = graph.clients[id] = {.id = id, .serial = serial, .properties = properties};

@@ -84,13 +84,14 @@ void TapRouter::update(const AudioWorld& world)
             std::string{parkNamePrefix} + uniqueSuffix(++nodesMade_),
             [this] { connection_.requestUpdate(); });
 
+    const Carriers carriers{connection_.graph()};
     forgetVanishedStreams();
-    takeHoldOfStreams(world);
+    takeHoldOfStreams(world, carriers);
     for (auto& stream : streams_) {
         if (stream.isBeingGivenBack)
             continue;
         const auto* node = connection_.graph().node(stream.parked.id());
-        auto* path = wantedPath(world, *node);
+        auto* path = wantedPath(world, carriers, *node);
         if (path) {
             stream.path = path;
             keepParked(stream);
@@ -113,13 +114,13 @@ void TapRouter::forgetVanishedStreams()
     });
 }
 
-TapPath* TapRouter::wantedPath(const AudioWorld& world, const GraphNode& stream)
+TapPath* TapRouter::wantedPath(const AudioWorld& world, const Carriers& carriers, const GraphNode& stream)
 {
     const auto& clients = connection_.graph().clients;
     const auto clientID = stream.clientID();
     const auto client = clientID ? clients.find(*clientID) : clients.end();
     const auto* process = client == clients.end() ? nullptr : world.processOfClient(client->second.serial);
-    if (!process || !isTappable(stream))
+    if (!process || !isTappable(stream) || carriers.contains(stream))
         return nullptr;
     // A running path before a stopped one: it is the one that takes over.
     TapPath* wanted = nullptr;
@@ -130,7 +131,7 @@ TapPath* TapRouter::wantedPath(const AudioWorld& world, const GraphNode& stream)
     return wanted;
 }
 
-void TapRouter::takeHoldOfStreams(const AudioWorld& world)
+void TapRouter::takeHoldOfStreams(const AudioWorld& world, const Carriers& carriers)
 {
     if (!park_ || !park_->nodeID())
         return;
@@ -140,7 +141,7 @@ void TapRouter::takeHoldOfStreams(const AudioWorld& world)
             continue;
         const auto known =
             std::ranges::find_if(streams_, [&](const Stream& stream) { return stream.parked.id() == id; });
-        auto* path = wantedPath(world, node);
+        auto* path = wantedPath(world, carriers, node);
         if (!path || !isReady(*path))
             continue;
         if (known == streams_.end()) {

@@ -13,6 +13,7 @@
 #pragma once
 
 #include "platform/pipewire/AudioWorld.h"
+#include "platform/pipewire/Carriers.h"
 #include "platform/pipewire/OwnLinks.h"
 #include "platform/pipewire/Park.h"
 #include "platform/pipewire/ParkedStream.h"
@@ -91,8 +92,9 @@ private:
     };
 
     void forgetVanishedStreams();
-    void takeHoldOfStreams(const AudioWorld& world);
-    [[nodiscard]] TapPath* wantedPath(const AudioWorld& world, const GraphNode& stream);
+    void takeHoldOfStreams(const AudioWorld& world, const Carriers& carriers);
+    [[nodiscard]] TapPath* wantedPath(
+        const AudioWorld& world, const Carriers& carriers, const GraphNode& stream);
     void keepParked(Stream& stream);
     void giveBack(Stream& stream);
     void finishGivingBack();
