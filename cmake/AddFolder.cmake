@@ -2,7 +2,7 @@
 # addFolder declares one folder of src/ as a static library, together with its tests.
 #
 #   addFolder(
-#       SOURCES      Renderer.cpp Renderer.h     files of this folder
+#       SOURCES      Renderer.cpp Renderer.h     files of this folder, and of rooms below it ("linux/HomePanel.h")
 #       USES         platform                    folders seen in our headers (PUBLIC)
 #       USES_INSIDE  hal                         folders that only our sources include (PRIVATE)
 #       LIBRARIES    PkgConfig::PIPEWIRE         outside libraries, for our sources only
@@ -31,9 +31,10 @@ function(addFolder)
 
     set(includeRoot ${CMAKE_BINARY_DIR}/include/${target})
     file(REMOVE_RECURSE ${includeRoot})
-    file(MAKE_DIRECTORY ${includeRoot}/${path})
     foreach(source IN LISTS folder_SOURCES)
         if(source MATCHES "\\.h$")
+            get_filename_component(includeFolder ${includeRoot}/${path}/${source} DIRECTORY)
+            file(MAKE_DIRECTORY ${includeFolder})
             file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${source} ${includeRoot}/${path}/${source} SYMBOLIC)
         endif()
     endforeach()

@@ -205,7 +205,7 @@ def runMacOS(tally):
                      quiet=True) == 0
     tally.add("macos: all that it needs compiles for a Mac", isCompiled)
     objects = ROOT / "build/macos/tests/macos/objects"
-    for source in [*sources(".cpp", ".mm", below=["src/platform/macos"]), "src/app/PlatformMacOS.cpp"]:
+    for source in [*sources(".cpp", ".mm", below=["src/platform/macos"]), "src/app/macos/SystemPlatform.cpp"]:
         for processor in ("arm64", "x86_64"):
             tally.add(f"macos: {source} compiles for {processor}",
                       (objects / f"{processor}-apple-macos14.2" / f"{source}.o").is_file())

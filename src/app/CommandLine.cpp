@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/CommandLine.h"
 
-#include "app/PrintableText.h"
+#include "commands/PrintableText.h"
 
 #include <algorithm>
 #include <optional>

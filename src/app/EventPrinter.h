@@ -2,7 +2,7 @@
 // Prints one line for each thing that happens to the controller.
 #pragma once
 
-#include "app/EventLines.h"
+#include "commands/EventLines.h"
 #include "platform/Subscription.h"
 
 #include <set>

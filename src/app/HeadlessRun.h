@@ -3,9 +3,9 @@
 #pragma once
 
 #include "app/EventPrinter.h"
-#include "app/HeadlessCommands.h"
 #include "app/StatusTable.h"
 #include "app/TerminalSize.h"
+#include "commands/CommandInterpreter.h"
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
 #include "platform/Platform.h"
@@ -52,7 +52,7 @@ private:
     EngineLog engineLog_;
     AudioController controller_;
     EventPrinter eventPrinter_;
-    HeadlessCommands commands_;
+    CommandInterpreter commands_;
     Subscription tableTimer_;
 };
 

@@ -1,10 +1,22 @@
 // SPDX-License-Identifier: MIT
-// This machine, as the program needs it: HomeDesktop, HomeFolders, HomeInstance, HomeLog,
-// HomePanel, HomePlatform, HomeWorkspace.
+// This machine, as the program needs it: a folder for each home, which declares the same types in files of the same
+// names.
 #pragma once
 
 #if defined(__APPLE__) || defined(FADELOOM_AT_HOME_ON_MACOS)
-#include "app/HomeMacOS.h"  // IWYU pragma: export
+// IWYU pragma: begin_exports
+#include "app/macos/HomeDesktop.h"
+#include "app/macos/HomeInstance.h"
+#include "app/macos/HomePanel.h"
+#include "app/macos/HomePlatform.h"
+#include "app/macos/HomeWorkspace.h"
+// IWYU pragma: end_exports
 #else
-#include "app/HomeLinux.h"  // IWYU pragma: export
+// IWYU pragma: begin_exports
+#include "app/linux/HomeDesktop.h"
+#include "app/linux/HomeInstance.h"
+#include "app/linux/HomePanel.h"
+#include "app/linux/HomePlatform.h"
+#include "app/linux/HomeWorkspace.h"
+// IWYU pragma: end_exports
 #endif

@@ -77,6 +77,43 @@ TEST_F(HeadlessRunStory, tellsOfATapThatFails)
         Contains("log-error tap failed: com.example.player: Create process tap failed (OSStatus -50)"));
 }
 
+TEST_F(HeadlessRunStory, tellsOfARecordingBeforeTheAnswer)
+{
+    launchPlaying("Player");
+    start();
+    run->takeLine("record player start");
+    world.advance(1s);
+    lines();
+
+    run->takeLine("record player stop");
+
+    const auto file = folder.path() / "Music" / "Fadeloom Recordings" / "Player 2030-01-02 12.00.00.wav";
+    EXPECT_THAT(lines(),
+        ElementsAre("recording stopped com.example.player", "recording saved \"" + file.string() + "\"",
+            "ok record com.example.player stop"));
+}
+
+TEST_F(HeadlessRunStory, tellsOfACall)
+{
+    start();
+    run->takeLine("call-app com.example.chat on");
+    const auto chat = launchPlaying("Chat");
+    lines();
+
+    world.startUsingMic(chat);
+    world.runPosted();
+
+    EXPECT_THAT(lines(), Contains("call com.example.chat"));
+}
+
+TEST_F(HeadlessRunStory, endsWhenACommandAsksForIt)
+{
+    start();
+
+    EXPECT_EQ(answer("quit"), "ok quit");
+    EXPECT_EQ(quitCount, 1);
+}
+
 TEST_F(HeadlessRunStory, tellsOfPermission)
 {
     start();

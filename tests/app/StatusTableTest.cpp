@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/StatusTable.h"
 
-#include "app/PrintableText.h"
+#include "commands/PrintableText.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -22,7 +22,7 @@ function(globSources result)
     set(${result} ${found} PARENT_SCOPE)
 endfunction()
 # What differs between processors for both, the rest of the program's core for one.
-globSources(sources_x86_64 platform/macos/*.cpp platform/macos/*.mm engine/*.cpp app/PlatformMacOS.cpp)
+globSources(sources_x86_64 platform/macos/*.cpp platform/macos/*.mm engine/*.cpp app/macos/SystemPlatform.cpp)
 globSources(core platform/*.cpp hal/*.cpp settings/*.cpp log/*.cpp control/*.cpp)
 set(sources_arm64 ${sources_x86_64} ${core})
 

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// The program on a Linux desktop: its icon in the tray, dialogs, the look.
+#pragma once
+
+#include "platform/qtdesktop/QtApplication.h"
+#include "platform/qtdesktop/QtDialogs.h"
+#include "platform/qtdesktop/QtTrayIcon.h"
+#include "platform/qtdesktop/SystemLook.h"
+
+#include <functional>
+#include <utility>
+
+namespace fadeloom {
+
+/// Needs a QApplication. Thread: main.
+class HomeDesktop {
+public:
+    /// Before the QApplication: how it draws. Says whether there is a display to draw on.
+    [[nodiscard]] static bool prepare();
+
+    HomeDesktop();
+    HomeDesktop(const HomeDesktop&) = delete;
+    HomeDesktop& operator=(const HomeDesktop&) = delete;
+
+    [[nodiscard]] Application& application() { return application_; }
+    [[nodiscard]] Dialogs& dialogs() { return dialogs_; }
+    [[nodiscard]] QtTrayIcon& icon() { return icon_; }
+    [[nodiscard]] bool isDark() const { return look_.isDark(); }
+    /// Called from now on whenever windows are to be drawn dark or light.
+    void whenLookChanges(std::function<void(bool isDark)> changed) { lookChanged_ = std::move(changed); }
+    /// Called once it turns out that nobody shows the icon.
+    void whenWithoutTray(std::function<void()> withoutTray) { withoutTray_ = std::move(withoutTray); }
+
+private:
+    std::function<void(bool)> lookChanged_ = [](bool) { };
+    std::function<void()> withoutTray_ = [] { };
+    QtApplication application_{[](auto) { }};  // The panel reads the choice from the settings.
+    QtDialogs dialogs_;
+    SystemLook look_{[this](bool isDark) { lookChanged_(isDark); }};
+    QtTrayIcon icon_;
+};
+
+}  // namespace fadeloom

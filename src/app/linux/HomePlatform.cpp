@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "app/linux/HomePlatform.h"
+
+#include "platform/linux/LinuxEnvironment.h"
+#include "platform/linux/Variables.h"
+#include "settings/SettingsFile.h"
+
+namespace fadeloom {
+
+HomePlatform::HomePlatform(MainLoop& mainLoop, SystemLog& systemLog)
+    : mainLoop_(mainLoop)
+    , systemLog_(systemLog)
+    , fileManager_(systemLog)
+    , workspace_(linuxEnvironment(processVariables()), fileManager_)
+    , userDefaults_(SettingsFile::defaultURL(folders_).parent_path() / "preferences.ini")
+    , audio_(mainLoop,
+          {
+              .bundleIdentifier =
+                  [this](ProcessID pid, const std::string& portalAppID) {
+                      return workspace_.bundleIdentifier(pid, portalAppID);
+                  },
+              .portalProcess = [this](const std::string& portalAppID) { return processOf(portalAppID); },
+              .report = [this](SystemLog::Level level,
+                            const std::string& message) { systemLog_.write(level, message); },
+          })
+{
+}
+
+Platform HomePlatform::platform()
+{
+    return {audio_, audioFiles_, workspace_, capturePermission_, loginItem_, mainLoop_, utilityQueue_,
+        logQueue_, folders_, systemLog_, text_, clock_, userDefaults_, http_};
+}
+
+// Any process of the sandboxed application will do: it stands for the application alone.
+ProcessID HomePlatform::processOf(const std::string& portalAppID) const
+{
+    for (const auto& application : workspace_.runningApplications()) {
+        if (application.bundleID == portalAppID)
+            return application.pid;
+    }
+    return -1;
+}
+
+}  // namespace fadeloom

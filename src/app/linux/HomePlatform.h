@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// This machine as the program sees it on Linux: PipeWire, libsndfile, a freedesktop session, Qt.
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/linux/AlwaysGrantedPermission.h"
+#include "platform/linux/AutostartLoginItem.h"
+#include "platform/linux/FileManager.h"
+#include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/SyslogSystemLog.h"
+#include "platform/linux/SystemClock.h"
+#include "platform/linux/UtilityQueue.h"
+#include "platform/linux/XdgFolders.h"
+#include "platform/pipewire/PipeWireHardware.h"
+#include "platform/qt/QtHttpClient.h"
+#include "platform/qt/QtText.h"
+#include "platform/qt/QtUserDefaults.h"
+#include "platform/sndfile/SndfileAudioFiles.h"
+
+namespace fadeloom {
+
+using HomeFolders = XdgFolders;
+using HomeLog = SyslogSystemLog;
+
+/// Thread: main.
+class HomePlatform {
+public:
+    /// `systemLog` also hears what the audio system's connection reports. Both must outlive this.
+    HomePlatform(MainLoop& mainLoop, SystemLog& systemLog);
+    HomePlatform(const HomePlatform&) = delete;
+    HomePlatform& operator=(const HomePlatform&) = delete;
+
+    [[nodiscard]] Platform platform();
+
+private:
+    [[nodiscard]] ProcessID processOf(const std::string& portalAppID) const;
+
+    MainLoop& mainLoop_;
+    SystemLog& systemLog_;
+    XdgFolders folders_;
+    FileManager fileManager_;
+    LinuxWorkspace workspace_;
+    AutostartLoginItem loginItem_;
+    AlwaysGrantedPermission capturePermission_;
+    QtText text_;
+    SystemClock clock_;
+    QtUserDefaults userDefaults_;
+    QtHttpClient http_;
+    UtilityQueue utilityQueue_;
+    UtilityQueue logQueue_;
+    PipeWireHardware audio_;
+    SndfileAudioFiles audioFiles_;
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// The program on macOS: its item in the menu bar, dialogs, the look.
+#pragma once
+
+#include "platform/macos/AppKitApplication.h"
+#include "platform/macos/AppKitDialogs.h"
+#include "platform/macos/AppearanceWatch.h"
+#include "platform/macos/MenuBarItem.h"
+
+#include <functional>
+#include <utility>
+
+namespace fadeloom {
+
+/// Needs a QGuiApplication. Thread: main.
+class HomeDesktop {
+public:
+    /// Before the application object. Says whether there is a display to draw on.
+    [[nodiscard]] static bool prepare() { return true; }
+
+    HomeDesktop() = default;
+    HomeDesktop(const HomeDesktop&) = delete;
+    HomeDesktop& operator=(const HomeDesktop&) = delete;
+
+    [[nodiscard]] Application& application() { return application_; }
+    [[nodiscard]] Dialogs& dialogs() { return dialogs_; }
+    [[nodiscard]] MenuBarItem& icon() { return icon_; }
+    [[nodiscard]] bool isDark() const { return look_.isDark(); }
+    /// Called from now on whenever windows are to be drawn dark or light.
+    void whenLookChanges(std::function<void(bool isDark)> changed) { lookChanged_ = std::move(changed); }
+
+private:
+    std::function<void(bool)> lookChanged_ = [](bool) { };
+    AppKitApplication application_;
+    AppKitDialogs dialogs_;
+    AppearanceWatch look_{[this](bool isDark) { lookChanged_(isDark); }};
+    MenuBarItem icon_;
+};
+
+}  // namespace fadeloom

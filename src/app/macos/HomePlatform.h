@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// This machine as the program sees it on macOS, with requests to a web server, which are Qt's.
+#pragma once
+
+#include "app/macos/SystemPlatform.h"
+#include "platform/macos/UnifiedLog.h"
+#include "platform/qt/QtHttpClient.h"
+
+namespace fadeloom {
+
+using HomeFolders = FoundationFolders;
+using HomeLog = UnifiedLog;
+
+/// Thread: main.
+class HomePlatform {
+public:
+    /// Both must outlive this.
+    HomePlatform(MainLoop& mainLoop, SystemLog& systemLog)
+        : system_(mainLoop, systemLog, http_)
+    {
+    }
+    [[nodiscard]] Platform platform() { return system_.platform(); }
+
+private:
+    QtHttpClient http_;
+    SystemPlatform system_;
+};
+
+}  // namespace fadeloom

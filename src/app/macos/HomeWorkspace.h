@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// The user's applications and files on macOS.
+#pragma once
+
+#include "app/macos/SystemPlatform.h"
+
+namespace fadeloom {
+
+/// The user's applications and files, for a program that is on no platform of this machine.
+class HomeWorkspace {
+public:
+    [[nodiscard]] Workspace& workspace() { return workspace_; }
+
+private:
+    FoundationFolders folders_;
+    AppKitWorkspace workspace_{iconFolder(folders_)};
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "commands/AppLookup.h"
+
+#include "commands/PrintableText.h"
+
+#include <initializer_list>
+#include <map>
+#include <vector>
+
+namespace fadeloom {
+namespace {
+
+using NamesByIdentifier = std::map<std::string, std::string>;
+
+NamesByIdentifier listedApps(const ControllerState& state)
+{
+    NamesByIdentifier names;
+    for (const auto& entry : *state.apps)
+        names.emplace(entry.bundleID, entry.name);
+    return names;
+}
+
+NamesByIdentifier knownApps(const ControllerState& state)
+{
+    NamesByIdentifier names = state.settings->knownAppNames;
+    for (const auto& [id, app] : state.settings->apps)
+        names.emplace(id, id);
+    return names;
+}
+
+std::vector<std::string> identifiersOf(
+    const NamesByIdentifier& apps, const Text& text, const std::string& typed)
+{
+    std::vector<std::string> identifiers;
+    const auto wanted = text.lowercased(typed);
+    for (const auto& [id, name] : apps) {
+        if (text.lowercased(name) == wanted)
+            identifiers.push_back(id);
+    }
+    return identifiers;
+}
+
+std::string ambiguityText(const std::string& typed, const std::vector<std::string>& identifiers)
+{
+    auto text = asWord(typed) + " names several apps:";
+    for (const auto& id : identifiers)
+        text += " " + asWord(id);
+    return text;
+}
+
+}  // namespace
+
+std::expected<std::string, std::string> findApp(
+    const ControllerState& state, const Text& text, const std::string& typed)
+{
+    const auto listed = listedApps(state);
+    const auto known = knownApps(state);
+    if (listed.contains(typed) || known.contains(typed))
+        return typed;
+
+    for (const auto* const apps : {&listed, &known}) {
+        const auto identifiers = identifiersOf(*apps, text, typed);
+        if (identifiers.size() == 1)
+            return identifiers.front();
+        if (identifiers.size() > 1)
+            return std::unexpected(ambiguityText(typed, identifiers));
+    }
+    return std::unexpected("unknown app " + asWord(typed));
+}
+
+}  // namespace fadeloom
