@@ -73,11 +73,11 @@ AudioObjectID AudioObjectIDs::next()
     return last_.fetch_add(1, std::memory_order_relaxed) + 1;
 }
 
-AudioWorld AudioWorldPainter::paint(const Graph& graph)
+AudioWorld AudioWorldPainter::paint(const Graph& graph, const ChosenTargetOf& chosenTarget)
 {
     AudioWorld world;
     paintDevices(graph, world);
-    paintProcesses(graph, world);
+    paintProcesses(graph, chosenTarget, world);
     return world;
 }
 
@@ -117,12 +117,14 @@ void AudioWorldPainter::paintDevices(const Graph& graph, AudioWorld& world)
     std::ranges::sort(world.devices, {}, &AudioWorld::Device::serial);
 }
 
-void AudioWorldPainter::paintProcesses(const Graph& graph, AudioWorld& world)
+void AudioWorldPainter::paintProcesses(
+    const Graph& graph, const ChosenTargetOf& chosenTarget, AudioWorld& world)
 {
     struct Activity {
         bool hasStream = false;
         bool isPlaying = false;
         bool isUsingMicrophone = false;
+        std::set<std::string> ownOutputs;
     };
     const Carriers carriers{graph};
     std::map<GraphID, Activity> activities;
@@ -135,6 +137,9 @@ void AudioWorldPainter::paintProcesses(const Graph& graph, AudioWorld& world)
         activity.hasStream = true;
         activity.isPlaying |= isAppSound(node) && isPlaying(node);
         activity.isUsingMicrophone |= isUsingMicrophone(graph, node);
+        const auto* device = isTappable(node) ? ownDevice(graph, node, chosenTarget(node)) : nullptr;
+        if (device)
+            activity.ownOutputs.emplace(device->name());
     }
 
     // One picture for each process, whichever of its clients comes first.
@@ -155,6 +160,7 @@ void AudioWorldPainter::paintProcesses(const Graph& graph, AudioWorld& world)
         process.clients.insert(client.serial);
         process.isPlaying |= activity.isPlaying;
         process.isUsingMicrophone |= activity.isUsingMicrophone;
+        process.ownOutputs.insert(activity.ownOutputs.begin(), activity.ownOutputs.end());
     }
 
     std::erase_if(processes_,

@@ -4,6 +4,7 @@
 
 #include "platform/AudioObject.h"
 #include "platform/pipewire/GraphRules.h"
+#include "platform/pipewire/StreamTarget.h"
 
 #include <atomic>
 #include <functional>
@@ -36,6 +37,8 @@ struct AudioWorld {
         std::int32_t pid = -1;
         std::string portalAppID;  // Set for sandboxed applications.
         std::set<GraphSerial> clients;
+        /// The uids of the devices that its streams would play to without us; empty while it has none.
+        std::set<std::string> ownOutputs;
         bool isPlaying = false;
         bool isUsingMicrophone = false;
 
@@ -81,7 +84,8 @@ public:
     {
     }
 
-    [[nodiscard]] AudioWorld paint(const Graph& graph);
+    /// `chosenTarget`: what anybody but us has chosen for a stream.
+    [[nodiscard]] AudioWorld paint(const Graph& graph, const ChosenTargetOf& chosenTarget);
     void processEnded(std::int32_t pid);
     /// Another server counts its serials anew.
     void forget();
@@ -106,7 +110,7 @@ private:
     };
 
     void paintDevices(const Graph& graph, AudioWorld& world);
-    void paintProcesses(const Graph& graph, AudioWorld& world);
+    void paintProcesses(const Graph& graph, const ChosenTargetOf& chosenTarget, AudioWorld& world);
     [[nodiscard]] const ProcessKey& keyOf(const GraphClient& client);
 
     AudioObjectIDs& ids_;

@@ -89,11 +89,16 @@ bool GraphSession::setDefaultDevice(const std::string& nodeName)
 }
 
 TapPath* GraphSession::startPath(
-    std::set<AudioObjectID> processes, const AudioWorld::Device& device, AudioIOProc& proc)
+    std::set<AudioObjectID> processes, const AudioWorld::Device& device, AudioIOProc& proc, StreamScope scope)
 {
     const GraphLock lock{connection_};
     const auto* node = connection_.graph().node(device.node, device.serial);
-    return node ? router_.addPath(std::move(processes), *node, device.layout, proc) : nullptr;
+    return node ? router_.addPath({.processes = std::move(processes),
+                                      .deviceNode = node->id,
+                                      .deviceSerial = node->serial,
+                                      .scope = scope},
+                      device.layout, proc)
+                : nullptr;
 }
 
 void GraphSession::setProcesses(TapPath& path, std::set<AudioObjectID> processes)
@@ -116,7 +121,8 @@ void GraphSession::releaseStopped()
 
 void GraphSession::graphChanged()
 {
-    auto world = painter_.paint(connection_.graph());
+    auto world = painter_.paint(
+        connection_.graph(), [this](const GraphNode& stream) { return router_.chosenTarget(stream); });
     router_.update(world);
     std::erase_if(exits_, [&](const auto& entry) {
         return std::ranges::find(world.processes, entry.first, &AudioWorld::Process::pid)

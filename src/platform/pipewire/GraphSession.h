@@ -40,8 +40,8 @@ public:
     bool setDefaultDevice(const std::string& nodeName);
 
     /// Null when there is no server, or the device has gone.
-    [[nodiscard]] TapPath* startPath(
-        std::set<AudioObjectID> processes, const AudioWorld::Device& device, AudioIOProc& proc);
+    [[nodiscard]] TapPath* startPath(std::set<AudioObjectID> processes, const AudioWorld::Device& device,
+        AudioIOProc& proc, StreamScope scope = StreamScope::every);
     void setProcesses(TapPath& path, std::set<AudioObjectID> processes);
     /// When this returns the path's procedure is not running; the path may be gone after `releaseStopped`.
     void stopPath(TapPath& path);

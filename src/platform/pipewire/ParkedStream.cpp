@@ -13,23 +13,14 @@ constexpr const char* targetObject = "target.object";
 constexpr const char* targetNode = "target.node";
 constexpr const char* theDefaultDevice = "-1";
 
-bool isOurs(std::string_view target)
-{
-    return target.starts_with(parkNamePrefix);
-}
-
 }  // namespace
 
 ParkedStream::ParkedStream(GraphConnection& connection, const GraphNode& stream)
     : connection_(connection)
     , id_(stream.id)
     , serial_(stream.serial)
-    , usersObject_(connection.graph().metadataValue(stream.id, targetObject))
-    , usersTargetNode_(connection.graph().metadataValue(stream.id, targetNode))
+    , chosen_(chosenTargetIn(connection.graph(), stream.id))
 {
-    // Left behind by a run of ours that was killed; it names nothing any more.
-    if (isOurs(usersObject_))
-        usersObject_.clear();
 }
 
 void ParkedStream::write(const char* key, const std::optional<std::string>& value)
@@ -49,6 +40,12 @@ bool ParkedStream::keepOn(const std::string& parkName)
     const auto now = std::chrono::steady_clock::now();
     if (now - lastWrite_ < rewriteInterval)
         return false;
+    if (lastWrite_ != std::chrono::steady_clock::time_point{})
+        moves_.push_back(now);
+    while (!moves_.empty() && now - moves_.front() > movesWithin)
+        moves_.pop_front();
+    if (isContested())
+        return true;
     lastWrite_ = now;
     write(targetObject, parkName);
     rememberedNode_.clear();
@@ -58,17 +55,17 @@ bool ParkedStream::keepOn(const std::string& parkName)
 
 void ParkedStream::giveBack()
 {
-    if (!usersObject_.empty()) {
-        if (usersTargetNode_.empty())
+    if (!chosen_.object.empty()) {
+        if (chosen_.node.empty())
             write(targetNode, std::nullopt);
-        write(targetObject, usersObject_);
+        write(targetObject, chosen_.object);
     } else {
         write(targetObject, std::nullopt);
     }
-    if (!usersTargetNode_.empty()) {
+    if (!chosen_.node.empty()) {
         // Removed first: writing the value that is there already would be no change, and would not be stored.
         write(targetNode, std::nullopt);
-        write(targetNode, usersTargetNode_);
+        write(targetNode, chosen_.node);
     }
 }
 
@@ -81,13 +78,13 @@ void ParkedStream::metadataChanged(const std::string& key, const std::string& va
         ownWrites_.erase(ownWrites_.begin(), own + 1);
         return;
     }
-    if (isOurs(value))
-        return;
-    if (key == targetObject) {
-        usersObject_ = value;
-    } else if (value != theDefaultDevice) {
-        usersTargetNode_ = value;
+    if (key == targetNode) {
+        if (value == rememberedNode_)
+            return;  // Told again, because the metadata was asked for anew.
+        chosen_.node = value;
         rememberUsersNode();
+    } else if (!value.starts_with(parkNamePrefix)) {
+        chosen_.object = value;
     }
 }
 
@@ -113,19 +110,8 @@ void ParkedStream::rememberUsersNode()
 
 std::optional<GraphID> ParkedStream::usersNode() const
 {
-    const auto& graph = connection_.graph();
-    const auto asNumber = [](const std::string& text) { return numberOf({{"number", text}}, "number"); };
-    if (!usersObject_.empty() && usersObject_ != theDefaultDevice) {
-        const auto serial = asNumber(usersObject_);
-        const auto* node =
-            serial ? graph.nodeWithSerial(static_cast<GraphSerial>(*serial)) : graph.nodeNamed(usersObject_);
-        if (node)
-            return node->id;
-    }
-    const auto id = asNumber(usersTargetNode_);
-    if (id && *id >= 0 && graph.node(static_cast<GraphID>(*id)))
-        return static_cast<GraphID>(*id);
-    return std::nullopt;
+    const auto* node = targetOf(connection_.graph(), GraphNode{}, chosen_);
+    return node ? std::optional{node->id} : std::nullopt;
 }
 
 }  // namespace fadeloom

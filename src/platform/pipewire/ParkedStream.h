@@ -8,6 +8,7 @@
 #pragma once
 
 #include "platform/pipewire/GraphConnection.h"
+#include "platform/pipewire/StreamTarget.h"
 
 #include <chrono>
 #include <deque>
@@ -28,6 +29,10 @@ public:
     /// Sees to it that the session manager keeps the stream on the park. Somebody else's change is taken as the
     /// user's choice and undone, at most once in `rewriteInterval`; returns false when it must be called again then.
     bool keepOn(const std::string& parkName);
+    /// What anybody but us has chosen for it.
+    [[nodiscard]] const ChosenTarget& chosen() const { return chosen_; }
+    /// Whether somebody keeps moving the stream: then it is theirs.
+    [[nodiscard]] bool isContested() const { return moves_.size() >= movesOfAProgram; }
     /// Puts the user's choice back: the session manager moves the stream to its own device.
     void giveBack();
     /// To be told of every change of this stream's metadata.
@@ -38,6 +43,10 @@ public:
     static constexpr std::chrono::milliseconds rewriteInterval{300};
 
 private:
+    // Nobody moves a stream by hand that often in that time.
+    static constexpr std::size_t movesOfAProgram = 3;
+    static constexpr std::chrono::seconds movesWithin{5};
+
     void write(const char* key, const std::optional<std::string>& value);
     void rememberUsersNode();
     [[nodiscard]] std::optional<GraphID> usersNode() const;
@@ -45,8 +54,8 @@ private:
     GraphConnection& connection_;
     GraphID id_;
     GraphSerial serial_;
-    std::string usersObject_;  // "target.object": a serial, a name, or "-1" for the default device.
-    std::string usersTargetNode_;  // "target.node": an id.
+    ChosenTarget chosen_;
+    std::deque<std::chrono::steady_clock::time_point> moves_;  // When it was taken from us, lately.
     std::string rememberedNode_;  // What `rememberUsersNode` wrote last.
     std::deque<std::pair<std::string, std::string>> ownWrites_;  // Not yet echoed by the server.
     std::chrono::steady_clock::time_point lastWrite_{};

@@ -10,13 +10,6 @@ namespace fadeloom {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-// A session manager moves a stream within milliseconds. One that has not by then is not going to.
-constexpr auto stuckAfter = 300ms;
-// How long a stream that is given back may stay on our links while no session manager takes it.
-constexpr auto giveUpAfter = 1000ms;
-
 std::string uniqueSuffix(unsigned number)
 {
     static const auto run = std::random_device{}();
@@ -34,8 +27,7 @@ TapRouter::TapRouter(GraphConnection& connection, std::function<void(std::string
 
 TapRouter::~TapRouter() = default;
 
-TapPath* TapRouter::addPath(
-    std::set<AudioObjectID> processes, const GraphNode& device, const DeviceLayout& layout, AudioIOProc& proc)
+TapPath* TapRouter::addPath(TapRoute route, const DeviceLayout& layout, AudioIOProc& proc)
 {
     if (!connection_.core())
         return nullptr;
@@ -44,24 +36,20 @@ TapPath* TapRouter::addPath(
         [this] { connection_.requestUpdate(); });
     if (!filter->isConnected())
         return nullptr;
-    paths_.push_back({.processes = std::move(processes),
-        .deviceNode = device.id,
-        .deviceSerial = device.serial,
-        .layout = layout,
-        .filter = std::move(filter)});
+    paths_.push_back({.route = std::move(route), .layout = layout, .filter = std::move(filter)});
     connection_.requestUpdate();
     return &paths_.back();
 }
 
 void TapRouter::setProcesses(TapPath& path, std::set<AudioObjectID> processes)
 {
-    path.processes = std::move(processes);
+    path.route.processes = std::move(processes);
     connection_.requestUpdate();
 }
 
 void TapRouter::stop(TapPath& path)
 {
-    path.isStopped = true;
+    path.route.isStopped = true;
     if (path.filter)
         path.filter->stopRendering();
 }
@@ -69,7 +57,7 @@ void TapRouter::stop(TapPath& path)
 void TapRouter::releaseStopped()
 {
     for (auto& path : paths_) {
-        if (path.isStopped)
+        if (path.route.isStopped)
             path.isReleased = true;
     }
     connection_.requestUpdate();
@@ -84,20 +72,13 @@ void TapRouter::update(const AudioWorld& world)
             std::string{parkNamePrefix} + uniqueSuffix(++nodesMade_),
             [this] { connection_.requestUpdate(); });
 
-    const Carriers carriers{connection_.graph()};
     forgetVanishedStreams();
-    takeHoldOfStreams(world, carriers);
+    const auto wanted = wantedPaths(world);
+    takeHoldOfStreams(wanted);
     for (auto& stream : streams_) {
-        if (stream.isBeingGivenBack)
-            continue;
-        const auto* node = connection_.graph().node(stream.parked.id());
-        auto* path = wantedPath(world, carriers, *node);
-        if (path) {
-            stream.path = path;
-            keepParked(stream);
-        } else {
-            giveBack(stream);
-        }
+        const auto found = wanted.find(stream.parked.id());
+        if (!stream.isBeingGivenBack)
+            follow(stream, found == wanted.end() ? nullptr : found->second);
     }
     finishGivingBack();
     setGates();
@@ -112,93 +93,9 @@ void TapRouter::forgetVanishedStreams()
     streams_.remove_if([&](const Stream& stream) {
         return !connection_.graph().node(stream.parked.id(), stream.parked.serial());
     });
-}
-
-TapPath* TapRouter::wantedPath(const AudioWorld& world, const Carriers& carriers, const GraphNode& stream)
-{
-    const auto& clients = connection_.graph().clients;
-    const auto clientID = stream.clientID();
-    const auto client = clientID ? clients.find(*clientID) : clients.end();
-    const auto* process = client == clients.end() ? nullptr : world.processOfClient(client->second.serial);
-    if (!process || !isTappable(stream) || carriers.contains(stream))
-        return nullptr;
-    // A running path before a stopped one: it is the one that takes over.
-    TapPath* wanted = nullptr;
-    for (auto& path : paths_) {
-        if (!path.isReleased && path.processes.contains(process->id) && (!wanted || wanted->isStopped))
-            wanted = &path;
-    }
-    return wanted;
-}
-
-void TapRouter::takeHoldOfStreams(const AudioWorld& world, const Carriers& carriers)
-{
-    if (!park_ || !park_->nodeID())
-        return;
-    for (const auto& [id, node] : connection_.graph().nodes) {
-        // What a stream insists on is told by its info event only.
-        if (!node.isOutputStream() || !node.hasInfo)
-            continue;
-        const auto known =
-            std::ranges::find_if(streams_, [&](const Stream& stream) { return stream.parked.id() == id; });
-        auto* path = wantedPath(world, carriers, node);
-        if (!path || !isReady(*path))
-            continue;
-        if (known == streams_.end()) {
-            streams_.push_back(Stream{.parked = ParkedStream{connection_, node},
-                .path = path,
-                .since = std::chrono::steady_clock::now(),
-                .parkLinks = {},
-                .cutLinks = {}});
-        } else if (known->isBeingGivenBack) {
-            known->isBeingGivenBack = false;
-            known->since = std::chrono::steady_clock::now();
-        }
-    }
-}
-
-void TapRouter::keepParked(Stream& stream)
-{
-    if (!park_ || !park_->nodeID())
-        return;
-    if (isWaitingForLinks(stream)) {
-        connection_.callBackIn(linksWithin);
-        return;
-    }
-    if (!stream.parked.keepOn(park_->name()))
-        connection_.callBackIn(ParkedStream::rewriteInterval);
-
-    if (!isDirect(stream) || stream.isStuckReported)
-        return;
-    if (std::chrono::steady_clock::now() - stream.since < stuckAfter) {
-        connection_.callBackIn(stuckAfter);
-    } else if (isRunning(stream)) {
-        stream.isStuckReported = true;
-        report_("the session manager does not move a stream to us; is moving streams switched off?");
-    }
-}
-
-void TapRouter::giveBack(Stream& stream)
-{
-    stream.isBeingGivenBack = true;
-    stream.since = std::chrono::steady_clock::now();
-    if (stream.path && stream.path->isReleased && stream.path->filter)
-        stream.path->filter->passThrough();
-    stream.parked.giveBack();
-}
-
-void TapRouter::finishGivingBack()
-{
-    streams_.remove_if([&](const Stream& stream) {
-        if (!stream.isBeingGivenBack)
-            return false;
-        if (isDirect(stream) || !connection_.hasSessionManager())
-            return true;
-        if (std::chrono::steady_clock::now() - stream.since >= giveUpAfter)
-            return true;
-        connection_.callBackIn(giveUpAfter);
-        return false;
-    });
+    for (auto* serials : {&leftAlone_, &circles_})
+        std::erase_if(
+            *serials, [&](GraphSerial serial) { return !connection_.graph().nodeWithSerial(serial); });
 }
 
 bool TapRouter::isDirect(const Stream& stream) const
@@ -274,6 +171,8 @@ void TapRouter::disconnected()
 {
     links_.clear();
     streams_.clear();
+    leftAlone_.clear();
+    circles_.clear();
     park_.reset();
     for (auto& path : paths_)
         path.filter.reset();
@@ -283,7 +182,8 @@ void TapRouter::disconnected()
 double TapRouter::rateOf(GraphSerial deviceSerial) const
 {
     for (const auto& path : paths_) {
-        if (path.deviceSerial == deviceSerial && path.filter && !path.isStopped && path.filter->rate() > 0)
+        if (path.route.deviceSerial == deviceSerial && path.filter && !path.route.isStopped
+            && path.filter->rate() > 0)
             return path.filter->rate();
     }
     return 0;

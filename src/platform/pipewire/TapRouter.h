@@ -13,10 +13,10 @@
 #pragma once
 
 #include "platform/pipewire/AudioWorld.h"
-#include "platform/pipewire/Carriers.h"
 #include "platform/pipewire/OwnLinks.h"
 #include "platform/pipewire/Park.h"
 #include "platform/pipewire/ParkedStream.h"
+#include "platform/pipewire/StreamRouting.h"
 #include "platform/pipewire/TapFilter.h"
 
 #include <chrono>
@@ -32,12 +32,9 @@ namespace fadeloom {
 
 /// The way of one tap: from the streams of some processes to one device.
 struct TapPath {
-    std::set<AudioObjectID> processes;
-    GraphID deviceNode = 0;
-    GraphSerial deviceSerial = 0;
+    TapRoute route;
     DeviceLayout layout;
     std::unique_ptr<TapFilter> filter;
-    bool isStopped = false;  // Its procedure is not called any more; another path may take over its streams.
     bool isReleased = false;  // No other path has: its streams go back to their own devices.
 };
 
@@ -51,8 +48,7 @@ public:
     TapRouter& operator=(const TapRouter&) = delete;
 
     /// Starts a path; null when there is no server or it refuses. Takes effect in the following updates.
-    TapPath* addPath(std::set<AudioObjectID> processes, const GraphNode& device, const DeviceLayout& layout,
-        AudioIOProc& proc);
+    TapPath* addPath(TapRoute route, const DeviceLayout& layout, AudioIOProc& proc);
     void setProcesses(TapPath& path, std::set<AudioObjectID> processes);
     /// When this returns the path's procedure is not running and is not called again.
     void stop(TapPath& path);
@@ -68,6 +64,8 @@ public:
     void metadataChanged(GraphID subject, const std::string& key, const std::string& value);
     void disconnected();
 
+    /// What anybody but us has chosen for a stream.
+    [[nodiscard]] ChosenTarget chosenTarget(const GraphNode& stream) const;
     /// The rate of the cycles in which a device is played to by us, in hertz; 0 when unknown.
     [[nodiscard]] double rateOf(GraphSerial deviceSerial) const;
 
@@ -80,6 +78,7 @@ private:
         TapPath* path = nullptr;
         std::chrono::steady_clock::time_point since;  // Since it was taken hold of, or its giving back began.
         bool isBeingGivenBack = false;
+        std::optional<std::chrono::steady_clock::time_point> homelessSince{};  // Since when no path wants it.
         bool isStuckReported = false;
         std::map<GraphSerial, std::chrono::steady_clock::time_point> parkLinks;  // Since when they are there.
         std::set<GraphSerial> cutLinks;
@@ -92,9 +91,13 @@ private:
     };
 
     void forgetVanishedStreams();
-    void takeHoldOfStreams(const AudioWorld& world, const Carriers& carriers);
-    [[nodiscard]] TapPath* wantedPath(
-        const AudioWorld& world, const Carriers& carriers, const GraphNode& stream);
+    /// By stream.
+    using WantedPaths = std::map<GraphID, TapPath*>;
+    [[nodiscard]] WantedPaths wantedPaths(const AudioWorld& world);
+    void takeHoldOfStreams(const WantedPaths& wanted);
+    void follow(Stream& stream, TapPath* wanted);
+    [[nodiscard]] bool mayStillFindAPath(Stream& stream);
+    [[nodiscard]] Stream* streamWith(GraphID id);
     void keepParked(Stream& stream);
     void giveBack(Stream& stream);
     void finishGivingBack();
@@ -116,6 +119,8 @@ private:
     std::unique_ptr<Park> park_;
     std::list<TapPath> paths_;
     std::list<Stream> streams_;
+    std::set<GraphSerial> leftAlone_;  // Streams that somebody else keeps moving.
+    std::set<GraphSerial> circles_;  // Streams that were reported not to be led in a circle.
     OwnLinks links_;
     unsigned nodesMade_ = 0;
 };

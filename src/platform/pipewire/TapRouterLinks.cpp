@@ -66,14 +66,14 @@ std::set<WantedLink> TapRouter::wantedLinks() const
 void TapRouter::addDeviceLinks(
     std::set<WantedLink>& links, const TapPath& path, const FilterPorts& ports) const
 {
-    if (!connection_.graph().node(path.deviceNode, path.deviceSerial))
+    if (!connection_.graph().node(path.route.deviceNode, path.route.deviceSerial))
         return;
-    const auto devicePorts = connection_.graph().inputPorts(path.deviceNode);
+    const auto devicePorts = connection_.graph().inputPorts(path.route.deviceNode);
     const std::array<std::uint32_t, 2> channels{path.layout.left, path.layout.right};
     for (std::size_t i = 0; i < ports.outputs.size(); ++i) {
         if (channels[i] <= devicePorts.size())
-            links.insert(
-                {ports.node, ports.outputs[i].id, path.deviceNode, devicePorts[channels[i] - 1].id, true});
+            links.insert({ports.node, ports.outputs[i].id, path.route.deviceNode,
+                devicePorts[channels[i] - 1].id, true});
     }
 }
 
@@ -96,10 +96,11 @@ void TapRouter::addStreamLinks(
     }
 
     const auto* node = connection_.graph().node(id);
-    const auto devicePorts = connection_.graph().inputPorts(stream.path->deviceNode);
+    const auto devicePorts = connection_.graph().inputPorts(stream.path->route.deviceNode);
     if (!stream.isBeingGivenBack && node && needsDoorbell(*node) && !streamPorts.empty()
         && !devicePorts.empty())
-        links.insert({id, streamPorts.front().id, stream.path->deviceNode, devicePorts.front().id, true});
+        links.insert(
+            {id, streamPorts.front().id, stream.path->route.deviceNode, devicePorts.front().id, true});
 }
 
 bool TapRouter::isWaitingForLinks(const Stream& stream) const

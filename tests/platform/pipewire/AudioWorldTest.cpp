@@ -12,7 +12,11 @@ namespace {
 
 class AudioWorldPainting : public ::testing::Test {
 protected:
-    AudioWorld paint() { return painter.paint(world.graph); }
+    AudioWorld paint()
+    {
+        return painter.paint(
+            world.graph, [&](const GraphNode& stream) { return chosenTargetIn(world.graph, stream.id); });
+    }
 
     GraphOf world;
     AudioObjectIDs ids;
@@ -162,6 +166,35 @@ TEST_F(AudioWorldPainting, whatDiffersIsTold)
     EXPECT_EQ(changesBetween(playing, plugged),
         (std::vector<ChangedProperty>{{kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}},
             {kAudioObjectSystemObject, {kAudioHardwarePropertyDefaultOutputDevice}}}));
+}
+
+TEST_F(AudioWorldPainting, aProcessHasTheDevicesThatItsStreamsWouldPlayTo)
+{
+    world.sink("speakers", {"FL", "FR"});
+    world.sink("headphones", {"FL", "FR"});
+    world.graph.metadata[0]["default.audio.sink"] = R"({ "name": "speakers" })";
+    const auto client = world.nativeClient(100);
+    const auto stream = world.stream(client);
+    world.stream(
+        client, GraphNode::State::running, {{"node.dont-reconnect", "true"}, {"target.object", "desk"}});
+    EXPECT_EQ(paint().processes.at(0).ownOutputs, std::set<std::string>{"speakers"});
+
+    world.stream(client, GraphNode::State::idle, {{"target.object", "headphones"}});
+    EXPECT_EQ(paint().processes.at(0).ownOutputs, (std::set<std::string>{"headphones", "speakers"}));
+
+    world.graph.metadata[stream]["target.object"] = "headphones";
+    EXPECT_EQ(paint().processes.at(0).ownOutputs, std::set<std::string>{"headphones"});
+}
+
+TEST_F(AudioWorldPainting, whatCarriesSoundOnForOthersIsNoProcess)
+{
+    const auto client = world.nativeClient(100);
+    world.node({{"media.class", "Stream/Input/Audio"}, {"client.id", std::to_string(client)},
+                   {"node.link-group", "loopback-1"}},
+        GraphNode::State::running);
+    world.stream(client, GraphNode::State::running, {{"node.link-group", "loopback-1"}});
+
+    EXPECT_TRUE(paint().processes.empty());
 }
 
 }  // namespace

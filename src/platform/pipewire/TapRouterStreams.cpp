@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+// The streams of the taps: which ones are taken, kept and given back.
+#include "platform/pipewire/TapRouter.h"
+
+#include <algorithm>
+
+namespace fadeloom {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// A session manager moves a stream within milliseconds. One that has not by then is not going to.
+constexpr auto stuckAfter = 300ms;
+// How long a stream that is given back may stay on our links while no session manager takes it.
+constexpr auto giveUpAfter = 1000ms;
+// How long a stream that has changed its device waits for a tap there.
+constexpr auto pathWithin = 500ms;
+
+}  // namespace
+
+ChosenTarget TapRouter::chosenTarget(const GraphNode& stream) const
+{
+    const auto known = std::ranges::find_if(
+        streams_, [&](const Stream& each) { return each.parked.serial() == stream.serial; });
+    return known == streams_.end() ? chosenTargetIn(connection_.graph(), stream.id) : known->parked.chosen();
+}
+
+TapRouter::WantedPaths TapRouter::wantedPaths(const AudioWorld& world)
+{
+    const auto& graph = connection_.graph();
+    std::vector<const TapRoute*> routes;
+    std::map<const TapRoute*, TapPath*> paths;
+    for (auto& path : paths_) {
+        if (path.isReleased)
+            continue;
+        routes.push_back(&path.route);
+        paths[&path.route] = &path;
+    }
+    const auto routing =
+        routeStreams(graph, world, routes, [this](const GraphNode& stream) { return chosenTarget(stream); });
+    for (const auto stream : routing.circles) {
+        if (circles_.insert(graph.node(stream)->serial).second)
+            report_("a stream is not led to a device whose sound its program captures");
+    }
+    WantedPaths wanted;
+    for (const auto& [stream, route] : routing.routes) {
+        if (!leftAlone_.contains(graph.node(stream)->serial))
+            wanted[stream] = paths.at(route);
+    }
+    return wanted;
+}
+
+TapRouter::Stream* TapRouter::streamWith(GraphID id)
+{
+    const auto found =
+        std::ranges::find_if(streams_, [&](const Stream& stream) { return stream.parked.id() == id; });
+    return found == streams_.end() ? nullptr : &*found;
+}
+
+void TapRouter::takeHoldOfStreams(const WantedPaths& wanted)
+{
+    if (!park_ || !park_->nodeID())
+        return;
+    for (const auto& [id, path] : wanted) {
+        if (!isReady(*path))
+            continue;
+        auto* known = streamWith(id);
+        if (!known) {
+            streams_.push_back(Stream{.parked = ParkedStream{connection_, *connection_.graph().node(id)},
+                .path = path,
+                .since = std::chrono::steady_clock::now(),
+                .parkLinks = {},
+                .cutLinks = {}});
+        } else if (known->isBeingGivenBack) {
+            known->isBeingGivenBack = false;
+            known->since = std::chrono::steady_clock::now();
+        }
+    }
+}
+
+void TapRouter::follow(Stream& stream, TapPath* wanted)
+{
+    // A path that changes hands is left when the next one can take over.
+    if (wanted && stream.path && wanted != stream.path && !stream.path->route.isStopped && !isReady(*wanted))
+        wanted = stream.path;
+    if (wanted) {
+        stream.homelessSince.reset();
+        stream.path = wanted;
+        keepParked(stream);
+        if (!stream.parked.isContested())
+            return;
+        leftAlone_.insert(stream.parked.serial());
+        report_("a stream that another program keeps moving is left alone");
+    } else if (mayStillFindAPath(stream)) {
+        keepParked(stream);
+        return;
+    }
+    giveBack(stream);
+}
+
+bool TapRouter::mayStillFindAPath(Stream& stream)
+{
+    // It has changed to a device for which its application has no tap yet. Until there is one, it stays where it is.
+    if (!stream.path || stream.path->isReleased || stream.path->route.scope == StreamScope::every)
+        return false;
+    const auto now = std::chrono::steady_clock::now();
+    if (!stream.homelessSince)
+        stream.homelessSince = now;
+    if (now - *stream.homelessSince >= pathWithin)
+        return false;
+    connection_.callBackIn(pathWithin);
+    return true;
+}
+
+void TapRouter::keepParked(Stream& stream)
+{
+    if (!park_ || !park_->nodeID())
+        return;
+    if (isWaitingForLinks(stream)) {
+        connection_.callBackIn(linksWithin);
+        return;
+    }
+    if (!stream.parked.keepOn(park_->name()))
+        connection_.callBackIn(ParkedStream::rewriteInterval);
+
+    if (!isDirect(stream) || stream.isStuckReported)
+        return;
+    if (std::chrono::steady_clock::now() - stream.since < stuckAfter) {
+        connection_.callBackIn(stuckAfter);
+    } else if (isRunning(stream)) {
+        stream.isStuckReported = true;
+        report_("the session manager does not move a stream to us; is moving streams switched off?");
+    }
+}
+
+void TapRouter::giveBack(Stream& stream)
+{
+    stream.isBeingGivenBack = true;
+    stream.since = std::chrono::steady_clock::now();
+    if (stream.path && stream.path->isReleased && stream.path->filter)
+        stream.path->filter->passThrough();
+    stream.parked.giveBack();
+}
+
+void TapRouter::finishGivingBack()
+{
+    streams_.remove_if([&](const Stream& stream) {
+        if (!stream.isBeingGivenBack)
+            return false;
+        if (isDirect(stream) || !connection_.hasSessionManager())
+            return true;
+        if (std::chrono::steady_clock::now() - stream.since >= giveUpAfter)
+            return true;
+        connection_.callBackIn(giveUpAfter);
+        return false;
+    });
+}
+
+}  // namespace fadeloom
