@@ -3,7 +3,7 @@
 #pragma once
 
 #include "commands/EventLines.h"
-#include "platform/Subscription.h"
+#include "base/Subscription.h"
 
 #include <set>
 #include <string>

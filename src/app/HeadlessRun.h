@@ -9,7 +9,6 @@
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
 #include "platform/Platform.h"
-#include "platform/Subscription.h"
 
 #include <functional>
 #include <optional>

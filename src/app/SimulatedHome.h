@@ -3,7 +3,7 @@
 // and over. It shows the program at work where there is no audio system at all.
 #pragma once
 
-#include "platform/Subscription.h"
+#include "base/Subscription.h"
 #include "platform/simulated/SimulatedPlatform.h"
 
 #include <filesystem>

@@ -33,7 +33,7 @@ namespace fadeloom {
 namespace {
 
 /// What the program is on that a simulated world does not have, too.
-struct Surroundings {
+struct Host {
     Workspace& workspace;  // Opens addresses, names applications, starts us anew.
     HomeInstance* instance;  // Null for one of many.
 };
@@ -58,7 +58,7 @@ std::optional<UpdateChecker> makeUpdateChecker(const Platform& platform, Workspa
 /// The program with its icon and its panel, from the start to the end.
 class TrayRun {
 public:
-    TrayRun(const Platform& platform, QtMainLoop& mainLoop, Surroundings around);
+    TrayRun(const Platform& platform, QtMainLoop& mainLoop, Host host);
     TrayRun(const TrayRun&) = delete;
     TrayRun& operator=(const TrayRun&) = delete;
     ~TrayRun();
@@ -72,7 +72,7 @@ private:
     void quit();
 
     QtMainLoop& mainLoop_;
-    const Surroundings around_;
+    const Host host_;
     const QuitSignals quitSignals_{[this] { quit(); }};
     HomeDesktop desktop_;
     const Platform platform_;
@@ -87,16 +87,16 @@ private:
     std::optional<AppDelegate> delegate_;  // Shows the icon.
 };
 
-TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Surroundings around)
+TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Host host)
     : mainLoop_(mainLoop)
-    , around_(around)
+    , host_(host)
     , platform_(withWindows(platform))
     , language_(AppLanguage::preferred(platform_.userDefaults))
     , engineLog_(
           platform_.systemLog, platform_.logQueue, SettingsFile::defaultURL(platform_.folders).parent_path())
     , controller_(platform_, engineLog_, std::string(programVersion()))
-    , updates_(makeUpdateChecker(platform_, around_.workspace))
-    , services_({.workspace = around_.workspace,
+    , updates_(makeUpdateChecker(platform_, host_.workspace))
+    , services_({.workspace = host_.workspace,
           .application = desktop_.application(),
           .dialogs = desktop_.dialogs(),
           .userDefaults = platform_.userDefaults,
@@ -114,16 +114,16 @@ TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Surroundings ar
 TrayRun::~TrayRun()
 {
     desktop_.whenLookChanges([](bool) { });
-    if (around_.instance != nullptr)
-        around_.instance->serve({});
+    if (host_.instance != nullptr)
+        host_.instance->serve({});
 }
 
 int TrayRun::run()
 {
     window_.setContent([this] { return engine_.emplace().makeRootView(panel_); });
     delegate_.emplace(controller_, desktop_.icon(), window_.popover(), desktop_.application(), actions());
-    if (around_.instance != nullptr)
-        around_.instance->serve({.open = [this] { delegate_->showPopover(); },
+    if (host_.instance != nullptr)
+        host_.instance->serve({.open = [this] { delegate_->showPopover(); },
             .toggle = [this] { delegate_->togglePopover(); },
             .quit = [this] { quit(); }});
     mainLoop_.run();
@@ -153,8 +153,8 @@ AppDelegate::Actions TrayRun::actions()
 
 void TrayRun::quit()
 {
-    if (around_.instance != nullptr)
-        around_.instance->beginEnding();
+    if (host_.instance != nullptr)
+        host_.instance->beginEnding();
     mainLoop_.quit();
 }
 

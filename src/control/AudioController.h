@@ -10,12 +10,12 @@
 // contents for pictures).
 #pragma once
 
+#include "base/LifeToken.h"
 #include "control/AppGroups.h"
 #include "control/AudioPermission.h"
 #include "control/ControllerState.h"
 #include "control/DemoContents.h"
 #include "control/LevelStore.h"
-#include "control/LifeToken.h"
 #include "control/ProcessListeners.h"
 #include "control/SettingsSaver.h"
 #include "engine/AppTap.h"

@@ -2,9 +2,9 @@
 // Everything about the controller that others may watch.
 #pragma once
 
+#include "base/Published.h"
 #include "control/AppEntry.h"
 #include "control/AudioPermission.h"
-#include "control/Published.h"
 #include "hal/OutputDevices.h"
 #include "settings/SettingsData.h"
 

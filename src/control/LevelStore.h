@@ -5,9 +5,9 @@
 // runs while nobody does.
 #pragma once
 
-#include "control/Published.h"
+#include "base/Published.h"
+#include "base/Subscription.h"
 #include "platform/MainLoop.h"
-#include "platform/Subscription.h"
 
 #include <chrono>
 #include <functional>

@@ -4,7 +4,7 @@
 // A slider that is dragged changes the settings at every step; one write, of the last state, is enough.
 #pragma once
 
-#include "control/LifeToken.h"
+#include "base/LifeToken.h"
 #include "platform/BackgroundQueue.h"
 #include "platform/MainLoop.h"
 #include "settings/SettingsData.h"

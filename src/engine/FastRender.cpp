@@ -39,7 +39,7 @@ bool isAtZero(const RenderState& state)
 // can tell. And at 0 the silence that follows costs next to nothing.
 constexpr double inaudible = 1e-60;
 
-void forgetTheInaudible(EQChannelState& memory)
+void flushDenormals(EQChannelState& memory)
 {
     for (auto* values : {&memory.z1, &memory.z2}) {
         for (double& value : *values)
@@ -66,8 +66,8 @@ float FastRender::render(RenderState& state, const RenderSettings& settings, std
     }
 
     if (settings.isEqualized) {
-        forgetTheInaudible(state.left);
-        forgetTheInaudible(state.right);
+        flushDenormals(state.left);
+        flushDenormals(state.right);
     }
     return highest;
 }

@@ -5,11 +5,11 @@
 // silence, gains and a limiter that stand still. docs/rendering.md tells why that is exact.
 #pragma once
 
+#include "base/RealTime.h"
 #include "engine/Equalizer.h"
 #include "engine/RenderKernels.h"
 #include "engine/RenderPath.h"
 #include "engine/SectionPacking.h"
-#include "platform/RealTime.h"
 
 #include <span>
 

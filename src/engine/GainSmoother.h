@@ -2,7 +2,7 @@
 // Glides a gain to its target: a jump would be heard as a click.
 #pragma once
 
-#include "platform/RealTime.h"
+#include "base/RealTime.h"
 
 #include <algorithm>
 #include <cmath>

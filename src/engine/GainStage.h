@@ -2,9 +2,9 @@
 // The fast render path behind the equalizer: gains, limiter, peak.
 #pragma once
 
+#include "base/RealTime.h"
 #include "engine/RenderKernels.h"
 #include "engine/RenderPath.h"
-#include "platform/RealTime.h"
 
 #include <span>
 

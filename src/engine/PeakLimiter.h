@@ -2,7 +2,7 @@
 // Keeps peaks below about −1 dBFS: at once when one comes, letting go slowly after it. It looks at no frame ahead.
 #pragma once
 
-#include "platform/RealTime.h"
+#include "base/RealTime.h"
 
 namespace fadeloom {
 

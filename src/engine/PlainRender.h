@@ -3,8 +3,8 @@
 // form has to give the same bits.
 #pragma once
 
+#include "base/RealTime.h"
 #include "engine/RenderPath.h"
-#include "platform/RealTime.h"
 
 #include <span>
 

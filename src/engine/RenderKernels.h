@@ -6,7 +6,7 @@
 // nothing in this header has a body.
 #pragma once
 
-#include "platform/RealTime.h"
+#include "base/RealTime.h"
 
 #include <cstddef>
 

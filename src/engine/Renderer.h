@@ -2,13 +2,13 @@
 // One app's sound, from its tap to the stereo pair of its output device, in each IO cycle.
 #pragma once
 
+#include "base/RealTime.h"
 #include "engine/FastRender.h"
 #include "engine/RenderChoice.h"
 #include "engine/RenderPath.h"
 #include "engine/TapParameters.h"
 #include "hal/OutputDevices.h"
 #include "platform/AudioHardware.h"
-#include "platform/RealTime.h"
 
 #include <array>
 #include <cstddef>

@@ -2,9 +2,9 @@
 // Lays sections out for the vectors of the render kernels.
 #pragma once
 
+#include "base/RealTime.h"
 #include "engine/Equalizer.h"
 #include "engine/RenderKernels.h"
-#include "platform/RealTime.h"
 
 #include <bitset>
 

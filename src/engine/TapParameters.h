@@ -6,9 +6,9 @@
 // app, so a rebuilt tap goes on where the last one stopped; it never moves, for the IO thread holds its address.
 #pragma once
 
+#include "base/UnfairLock.h"
 #include "engine/Equalizer.h"
 #include "platform/AudioFiles.h"
-#include "platform/UnfairLock.h"
 
 #include <atomic>
 #include <cstdint>

@@ -2,11 +2,11 @@
 // The equalizer from samples to samples: in single precision outside, in double precision in the sections.
 #pragma once
 
+#include "base/RealTime.h"
 #include "engine/RenderKernels.h"
 #include "engine/VectorCascade.h"
 #include "engine/VectorSamples.h"
 #include "engine/VectorTypes.h"
-#include "platform/RealTime.h"
 
 #include <cstddef>
 #include <cstdint>

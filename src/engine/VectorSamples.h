@@ -2,8 +2,8 @@
 // What the render path does to each sample by itself, a vector of them at a time.
 #pragma once
 
+#include "base/RealTime.h"
 #include "engine/VectorTypes.h"
-#include "platform/RealTime.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -35,8 +35,7 @@ FADELOOM_INLINE float highestOf(Bits magnitudes)
 }
 
 /// Returns the highest magnitude of what is left, or `highest`.
-[[gnu::noinline, gnu::cold]] inline float silenceWhatIsNotFinite(
-    float* samples, std::size_t count, float highest)
+[[gnu::noinline, gnu::cold]] inline float zeroNonFinite(float* samples, std::size_t count, float highest)
 {
     for (std::size_t i = 0; i < count; ++i) {
         const float size = __builtin_fabsf(samples[i]);
@@ -67,7 +66,7 @@ FADELOOM_INLINE float scaled(GainsAt gainsAt, float* left, float* right, std::si
     const float highest = highestOf(higher(highestLeft, highestRight));
     if (highest <= __FLT_MAX__)
         return highest;
-    return silenceWhatIsNotFinite(right, frames, silenceWhatIsNotFinite(left, frames, 0));
+    return zeroNonFinite(right, frames, zeroNonFinite(left, frames, 0));
 }
 
 inline float scale(float gain, float* left, float* right, std::size_t frames) noexcept FADELOOM_NONBLOCKING

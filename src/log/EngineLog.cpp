@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "log/EngineLog.h"
 
+#include "base/FileDescriptor.h"
 #include "platform/BackgroundQueue.h"
-#include "platform/FileDescriptor.h"
 #include "platform/SystemLog.h"
 
 #include <fcntl.h>

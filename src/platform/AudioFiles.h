@@ -5,8 +5,8 @@
 // handed over, and a writer of its own behind each file, so that handing over never waits for a disk.
 #pragma once
 
+#include "base/RealTime.h"
 #include "platform/AudioStream.h"
-#include "platform/RealTime.h"
 
 #include <cstdint>
 #include <expected>

@@ -17,10 +17,10 @@
 // written property reads back at once.
 #pragma once
 
+#include "base/RealTime.h"
+#include "base/Subscription.h"
 #include "platform/AudioObject.h"
 #include "platform/AudioStream.h"
-#include "platform/RealTime.h"
-#include "platform/Subscription.h"
 
 #include <cstddef>
 #include <functional>

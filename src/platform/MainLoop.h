@@ -2,7 +2,7 @@
 // The main thread's queue and timers.
 #pragma once
 
-#include "platform/Subscription.h"
+#include "base/Subscription.h"
 
 #include <chrono>
 #include <functional>

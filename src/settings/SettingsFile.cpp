@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "settings/SettingsFile.h"
 
+#include "base/AtomicFile.h"
 #include "platform/StandardFolders.h"
 #include "platform/SystemLog.h"
-#include "platform/WholeFile.h"
 #include "settings/SettingsJson.h"
 
 #include <system_error>
@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 constexpr std::size_t maximumSize = std::size_t{16} * 1024 * 1024;
 
 std::expected<SettingsData, SettingsError> decode(
-    const std::expected<std::string, WholeFile::ReadError>& content)
+    const std::expected<std::string, AtomicFile::ReadError>& content)
 {
     if (!content)
         return std::unexpected(SettingsError{"larger than " + std::to_string(maximumSize) + " bytes"});
@@ -40,8 +40,8 @@ fs::path defaultURL(const StandardFolders& folders)
 
 SettingsData load(const fs::path& file, SystemLog& log)
 {
-    const auto content = WholeFile::read(file, maximumSize);
-    if (!content && content.error() == WholeFile::ReadError::unreadable)
+    const auto content = AtomicFile::read(file, maximumSize);
+    if (!content && content.error() == AtomicFile::ReadError::unreadable)
         return {};
     auto settings = decode(content);
     if (settings)
@@ -65,7 +65,7 @@ std::expected<void, SettingsError> save(const SettingsData& settings, const fs::
     if (error)
         return std::unexpected(
             SettingsError{"Cannot create the folder " + folder.string() + ": " + error.message()});
-    if (const auto replaced = WholeFile::replace(file, encodeSettings(settings)); !replaced)
+    if (const auto replaced = AtomicFile::replace(file, encodeSettings(settings)); !replaced)
         return std::unexpected(SettingsError{replaced.error()});
     return {};
 }

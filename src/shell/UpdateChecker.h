@@ -6,9 +6,9 @@
 // finds the new version.
 #pragma once
 
-#include "control/LifeToken.h"
-#include "control/Published.h"
-#include "platform/Subscription.h"
+#include "base/LifeToken.h"
+#include "base/Published.h"
+#include "base/Subscription.h"
 #include "shell/RemoteVersion.h"
 #include "shell/Translate.h"
 

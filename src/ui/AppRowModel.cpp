@@ -17,7 +17,7 @@ AppRowModel::AppRowModel(AudioController& controller, const WallClock& clock, Ap
     , controller_(controller)
     , clock_(clock)
     , bundleID_(app.bundleID)
-    , shown_(look(std::move(app)))
+    , shown_(readState(std::move(app)))
     , eq_(controller, bundleID_, this)
 {
     refreshLevel();
@@ -97,7 +97,7 @@ void AppRowModel::stopRecording()
 void AppRowModel::refresh(AppEntry app)
 {
     const bool wasMuted = shown_.isMuted;
-    if (auto now = look(std::move(app)); now != shown_) {
+    if (auto now = readState(std::move(app)); now != shown_) {
         shown_ = std::move(now);
         Q_EMIT changed();
     }
@@ -125,7 +125,7 @@ void AppRowModel::refreshElapsed()
         Q_EMIT elapsedChanged();
 }
 
-AppRowModel::Shown AppRowModel::look(AppEntry app) const
+AppRowModel::Shown AppRowModel::readState(AppEntry app) const
 {
     const auto& state = controller_.state();
     const auto settings = appSettings(*state.settings, bundleID_);

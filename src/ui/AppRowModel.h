@@ -106,7 +106,7 @@ private:
 
         friend bool operator==(const Shown&, const Shown&) = default;
     };
-    [[nodiscard]] Shown look(AppEntry app) const;
+    [[nodiscard]] Shown readState(AppEntry app) const;
 
     AudioController& controller_;
     const WallClock& clock_;

@@ -17,7 +17,7 @@ EQModel::EQModel(AudioController& controller, std::string bundleID, QObject* par
     : QObject(parent)
     , controller_(controller)
     , bundleID_(std::move(bundleID))
-    , shown_(look())
+    , shown_(readState())
 {
 }
 
@@ -102,13 +102,13 @@ void EQModel::deletePreset(const QString& name)
 
 void EQModel::refresh()
 {
-    if (auto now = look(); now != shown_) {
+    if (auto now = readState(); now != shown_) {
         shown_ = std::move(now);
         Q_EMIT changed();
     }
 }
 
-EQModel::Shown EQModel::look() const
+EQModel::Shown EQModel::readState() const
 {
     const auto& settings = *controller_.state().settings;
     const auto app = appSettings(settings, bundleID_);

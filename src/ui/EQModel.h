@@ -80,7 +80,7 @@ private:
 
         friend bool operator==(const Shown&, const Shown&) = default;
     };
-    [[nodiscard]] Shown look() const;
+    [[nodiscard]] Shown readState() const;
 
     AudioController& controller_;
     const std::string bundleID_;

@@ -2,7 +2,7 @@
 // What the panel needs of the program that shows it.
 #pragma once
 
-#include "platform/Subscription.h"
+#include "base/Subscription.h"
 
 #include <functional>
 #include <optional>

@@ -5,8 +5,8 @@
 // controller announces a change, and worded for the views.
 #pragma once
 
+#include "base/Subscription.h"
 #include "platform/Platform.h"
-#include "platform/Subscription.h"
 #include "ui/AppRowList.h"
 #include "ui/MenuEntry.h"
 #include "ui/SettingsModel.h"

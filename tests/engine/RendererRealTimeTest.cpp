@@ -3,7 +3,7 @@
 // the settings is always one whole set of them.
 #include "engine/Renderer.h"
 
-#include "platform/RealTime.h"
+#include "base/RealTime.h"
 #include "tests/engine/CycleBuffers.h"
 #include "tests/support/RealTimeGuard.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The small services: login item, defaults, folders, clock, log, queues, lock.
-#include "platform/UnfairLock.h"
+#include "base/UnfairLock.h"
 #include "platform/macos/DispatchQueue.h"
 #include "platform/macos/FoundationClock.h"
 #include "platform/macos/FoundationFolders.h"

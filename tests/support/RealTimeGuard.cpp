@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/RealTimeGuard.h"
 
-#include "platform/RealTime.h"
+#include "base/RealTime.h"
 
 #include <dlfcn.h>
 #include <poll.h>

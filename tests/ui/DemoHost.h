@@ -2,7 +2,7 @@
 // A program around the panel that only remembers what it was asked for.
 #pragma once
 
-#include "control/Observers.h"
+#include "base/Observers.h"
 #include "ui/PanelHost.h"
 
 #include <string>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/AutostartLoginItem.h"
 
-#include "platform/WholeFile.h"
+#include "base/AtomicFile.h"
 #include "platform/linux/BoundedFile.h"
 #include "platform/linux/DesktopEntry.h"
 #include "platform/linux/LinuxEnvironment.h"
@@ -68,7 +68,7 @@ std::expected<void, std::string> AutostartLoginItem::registerItem()
     // A link to the null device masks an entry. It is switched on by going, for nothing can be written through it.
     if (fs::is_character_file(entry_, error))
         fs::remove(entry_, error);
-    return WholeFile::replace(entry_, entryText(program_));
+    return AtomicFile::replace(entry_, entryText(program_));
 }
 
 std::expected<void, std::string> AutostartLoginItem::unregisterItem()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/BoundedFile.h"
 
-#include "platform/FileDescriptor.h"
+#include "base/FileDescriptor.h"
 
 #include <algorithm>
 #include <array>

@@ -73,22 +73,22 @@ AudioObjectID AudioObjectIDs::next()
     return last_.fetch_add(1, std::memory_order_relaxed) + 1;
 }
 
-AudioWorld AudioWorldPainter::paint(const Graph& graph, const ChosenTargetOf& chosenTarget)
+AudioWorld AudioWorldBuilder::build(const Graph& graph, const ChosenTargetOf& chosenTarget)
 {
     AudioWorld world;
-    paintDevices(graph, world);
-    paintProcesses(graph, chosenTarget, world);
+    addDevices(graph, world);
+    addProcesses(graph, chosenTarget, world);
     return world;
 }
 
-void AudioWorldPainter::forget()
+void AudioWorldBuilder::forget()
 {
     devices_.clear();
     processes_.clear();
     keys_.clear();
 }
 
-void AudioWorldPainter::paintDevices(const Graph& graph, AudioWorld& world)
+void AudioWorldBuilder::addDevices(const Graph& graph, AudioWorld& world)
 {
     std::set<GraphSerial> present;
     const auto defaultName = graph.defaultSinkName();
@@ -117,7 +117,7 @@ void AudioWorldPainter::paintDevices(const Graph& graph, AudioWorld& world)
     std::ranges::sort(world.devices, {}, &AudioWorld::Device::serial);
 }
 
-void AudioWorldPainter::paintProcesses(
+void AudioWorldBuilder::addProcesses(
     const Graph& graph, const ChosenTargetOf& chosenTarget, AudioWorld& world)
 {
     struct Activity {
@@ -178,14 +178,14 @@ void AudioWorldPainter::paintProcesses(
     });
 }
 
-void AudioWorldPainter::processEnded(std::int32_t pid)
+void AudioWorldBuilder::processEnded(std::int32_t pid)
 {
     const auto found = processes_.find({.pid = pid});
     if (found != processes_.end())
         found->second.isWatched = false;
 }
 
-const AudioWorldPainter::ProcessKey& AudioWorldPainter::keyOf(const GraphClient& client)
+const AudioWorldBuilder::ProcessKey& AudioWorldBuilder::keyOf(const GraphClient& client)
 {
     const auto found = keys_.find(client.serial);
     if (found != keys_.end())

@@ -69,7 +69,7 @@ private:
 };
 
 /// Draws the picture, and remembers which object stands for what. Thread: the graph thread.
-class AudioWorldPainter {
+class AudioWorldBuilder {
 public:
     struct Questions {
         /// Whether the process runs the program that its client names: pids are reused.
@@ -78,14 +78,14 @@ public:
         std::function<bool(std::int32_t pid)> watch;
     };
 
-    AudioWorldPainter(AudioObjectIDs& ids, Questions questions)
+    AudioWorldBuilder(AudioObjectIDs& ids, Questions questions)
         : ids_(ids)
         , questions_(std::move(questions))
     {
     }
 
     /// `chosenTarget`: what anybody but us has chosen for a stream.
-    [[nodiscard]] AudioWorld paint(const Graph& graph, const ChosenTargetOf& chosenTarget);
+    [[nodiscard]] AudioWorld build(const Graph& graph, const ChosenTargetOf& chosenTarget);
     void processEnded(std::int32_t pid);
     /// Another server counts its serials anew.
     void forget();
@@ -109,8 +109,8 @@ private:
         bool isWatched = false;  // Stays without a client until it ends.
     };
 
-    void paintDevices(const Graph& graph, AudioWorld& world);
-    void paintProcesses(const Graph& graph, const ChosenTargetOf& chosenTarget, AudioWorld& world);
+    void addDevices(const Graph& graph, AudioWorld& world);
+    void addProcesses(const Graph& graph, const ChosenTargetOf& chosenTarget, AudioWorld& world);
     [[nodiscard]] const ProcessKey& keyOf(const GraphClient& client);
 
     AudioObjectIDs& ids_;

@@ -29,7 +29,7 @@ constexpr auto slowRetry = 1000ms;
 constexpr int quickRetries = 25;
 // While a client binds the metadata, the server holds back what changes from the clients that have bound it already,
 // and never sends it. So once the tool that made a change has gone, the metadata is asked for anew.
-constexpr auto secondLook = 300ms;
+constexpr auto rebindDelay = 300ms;
 
 timespec toTimespec(std::chrono::milliseconds duration)
 {
@@ -50,14 +50,14 @@ public:
             pw_properties_new(PW_KEY_CONFIG_NAME, "client-rt.conf", nullptr), 0);
         update = pw_loop_add_event(pw_thread_loop_get_loop(loop), &onUpdate, this);
         callBack = pw_loop_add_timer(pw_thread_loop_get_loop(loop), &onCallBack, this);
-        lookAgain = pw_loop_add_timer(pw_thread_loop_get_loop(loop), &onLookAgain, this);
+        rebindTimer = pw_loop_add_timer(pw_thread_loop_get_loop(loop), &onRebind, this);
         retry = pw_loop_add_timer(pw_thread_loop_get_loop(loop), &onRetry, this);
     }
 
     ~Implementation()
     {
         stop();
-        for (auto* source : {update, callBack, lookAgain, retry})
+        for (auto* source : {update, callBack, rebindTimer, retry})
             pw_loop_destroy_source(pw_thread_loop_get_loop(loop), source);
         pw_context_destroy(context);
         pw_thread_loop_destroy(loop);
@@ -86,7 +86,7 @@ public:
         static_cast<Implementation*>(self)->callBackAt.reset();
         static_cast<Implementation*>(self)->runUpdate();
     }
-    static void onLookAgain(void* self, std::uint64_t)
+    static void onRebind(void* self, std::uint64_t)
     {
         static_cast<Implementation*>(self)->bindMetadataAgain();
     }
@@ -109,7 +109,7 @@ public:
     pw_context* context = nullptr;
     spa_source* update = nullptr;
     spa_source* callBack = nullptr;
-    spa_source* lookAgain = nullptr;
+    spa_source* rebindTimer = nullptr;
     spa_source* retry = nullptr;
     std::optional<std::chrono::steady_clock::time_point> callBackAt;
     int failedAttempts = 0;
@@ -245,7 +245,7 @@ void GraphConnection::Implementation::globalAppeared(
         if (name == "default" && !metadata) {
             metadata = bindMetadata(id);
             metadataSync = pw_core_sync(core, PW_ID_CORE, 0);
-            setTimer(lookAgain, secondLook);
+            setTimer(rebindTimer, rebindDelay);
         } else if (name == "settings" && !settings) {
             settings = std::make_unique<MetadataBinding>(registry, id,
                 [this](GraphID, const char* key, const char* value) { settingProperty(key, value); });
@@ -270,7 +270,7 @@ void GraphConnection::Implementation::globalVanished(GraphID id)
     bindings.erase(id);
     graph.nodes.erase(id);
     if (graph.clients.erase(id) > 0)
-        setTimer(lookAgain, secondLook);
+        setTimer(rebindTimer, rebindDelay);
     graph.ports.erase(id);
     graph.links.erase(id);
     graph.metadata.erase(id);  // The id may be given to another object at once.

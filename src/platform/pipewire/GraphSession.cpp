@@ -15,12 +15,12 @@ namespace {
 using namespace std::chrono_literals;
 
 // How long the start may wait for the first picture.
-constexpr auto welcome = 300ms;
+constexpr auto startTimeout = 300ms;
 // How long the end may wait for the applications to be back on their own devices.
-constexpr auto farewell = 1000ms;
+constexpr auto stopTimeout = 1000ms;
 // A device's new rate shows only in its first cycle, of which no event tells; so each burst of events is followed by
 // one more look.
-constexpr auto lookBack = 150ms;
+constexpr auto recheckDelay = 150ms;
 
 bool runs(std::int32_t pid, const std::string& binary)
 {
@@ -36,20 +36,20 @@ GraphSession::GraphSession(AudioObjectIDs& ids, Callbacks callbacks)
     , connection_(static_cast<GraphListener&>(*this))
     , router_(connection_,
           [this](std::string text) { callbacks_.report(SystemLog::Level::error, std::move(text)); })
-    , painter_(ids, {.runs = &runs, .watch = [this](std::int32_t pid) { return watch(pid); }})
+    , builder_(ids, {.runs = &runs, .watch = [this](std::int32_t pid) { return watch(pid); }})
     , world_(std::make_shared<AudioWorld>())
 {
     connection_.start();
     // Whoever asks first finds the devices there, as with any other audio system.
-    const auto deadline = std::chrono::steady_clock::now() + welcome;
-    while (!isWelcome_.load(std::memory_order_acquire) && std::chrono::steady_clock::now() < deadline)
+    const auto deadline = std::chrono::steady_clock::now() + startTimeout;
+    while (!isReady_.load(std::memory_order_acquire) && std::chrono::steady_clock::now() < deadline)
         std::this_thread::sleep_for(1ms);
 }
 
 GraphSession::~GraphSession()
 {
     releaseStopped();
-    const auto deadline = std::chrono::steady_clock::now() + farewell;
+    const auto deadline = std::chrono::steady_clock::now() + stopTimeout;
     const auto isIdle = [this] {
         const GraphLock lock{connection_};
         return !connection_.core() || router_.isIdle();
@@ -121,7 +121,7 @@ void GraphSession::releaseStopped()
 
 void GraphSession::graphChanged()
 {
-    auto world = painter_.paint(
+    auto world = builder_.build(
         connection_.graph(), [this](const GraphNode& stream) { return router_.chosenTarget(stream); });
     router_.update(world);
     std::erase_if(exits_, [&](const auto& entry) {
@@ -130,10 +130,10 @@ void GraphSession::graphChanged()
     });
     publish(std::move(world));
     if (connection_.hasSessionManager())
-        isWelcome_.store(true, std::memory_order_release);
-    isLookBackDue_ = !isLookBackDue_;
-    if (isLookBackDue_)
-        connection_.callBackIn(lookBack);
+        isReady_.store(true, std::memory_order_release);
+    isRecheckDue_ = !isRecheckDue_;
+    if (isRecheckDue_)
+        connection_.callBackIn(recheckDelay);
 }
 
 void GraphSession::publish(AudioWorld next)
@@ -152,7 +152,7 @@ bool GraphSession::watch(std::int32_t pid)
 {
     auto* loop = pw_thread_loop_get_loop(connection_.threadLoop());
     auto exit = std::make_unique<ProcessExit>(loop, pid, [this, pid] {
-        painter_.processEnded(pid);
+        builder_.processEnded(pid);
         connection_.requestUpdate();
     });
     const bool isWatching = exit->isWatching();
@@ -200,9 +200,9 @@ void GraphSession::connected()
 void GraphSession::disconnected()
 {
     callbacks_.report(SystemLog::Level::error, "no PipeWire server; waiting for one");
-    isWelcome_.store(true, std::memory_order_release);
+    isReady_.store(true, std::memory_order_release);
     router_.disconnected();
-    painter_.forget();
+    builder_.forget();
     exits_.clear();
 }
 

@@ -62,11 +62,11 @@ private:
     Callbacks callbacks_;
     GraphConnection connection_;
     TapRouter router_;
-    AudioWorldPainter painter_;
+    AudioWorldBuilder builder_;
     std::map<std::int32_t, std::unique_ptr<ProcessExit>> exits_;  // By pid.
     std::map<AudioObjectID, double> rates_;  // As last told.
-    std::atomic<bool> isWelcome_ = false;  // There is a picture, or nothing to draw one of.
-    bool isLookBackDue_ = false;
+    std::atomic<bool> isReady_ = false;  // There is a picture, or nothing to draw one of.
+    bool isRecheckDue_ = false;
 
     mutable std::mutex worldMutex_;  // Held for the copy of a pointer; the IO thread never meets it.
     std::shared_ptr<const AudioWorld> world_;

@@ -94,7 +94,7 @@ OwnLinks::OwnLinks(std::function<void()> changed)
 
 OwnLinks::~OwnLinks() = default;
 
-bool OwnLinks::bringAbout(pw_core* core, const std::set<WantedLink>& wanted)
+bool OwnLinks::reconcile(pw_core* core, const std::set<WantedLink>& wanted)
 {
     std::erase_if(links_, [&](const auto& entry) {
         return !wanted.contains(entry.first) || (entry.second->hasFailed() && entry.second->mayRetry());

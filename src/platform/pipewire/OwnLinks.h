@@ -37,7 +37,7 @@ public:
     OwnLinks& operator=(const OwnLinks&) = delete;
 
     /// Returns whether a link was refused and will be tried again: call once more after `retryDelay`.
-    bool bringAbout(pw_core* core, const std::set<WantedLink>& wanted);
+    bool reconcile(pw_core* core, const std::set<WantedLink>& wanted);
     /// Whether a link between these ports is one of ours.
     [[nodiscard]] bool has(GraphID outputPort, GraphID inputPort) const;
     /// Whether the link is set up and carries what it is given.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pipewire/TapFilter.h"
 
-#include "platform/RealTime.h"
+#include "base/RealTime.h"
 
 #include <pipewire/filter.h>
 #include <pipewire/keys.h>

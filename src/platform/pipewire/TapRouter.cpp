@@ -82,7 +82,7 @@ void TapRouter::update(const AudioWorld& world)
     }
     finishGivingBack();
     setGates();
-    if (links_.bringAbout(connection_.core(), wantedLinks()))
+    if (links_.reconcile(connection_.core(), wantedLinks()))
         connection_.callBackIn(OwnLinks::retryDelay);
     cutParkLinks();
     destroyReleasedPaths();

@@ -2,8 +2,8 @@
 // A web whose only server is the test.
 #pragma once
 
+#include "base/Subscription.h"
 #include "platform/HttpClient.h"
-#include "platform/Subscription.h"
 
 #include <cstdint>
 #include <list>

@@ -2,7 +2,7 @@
 // Carries samples from the thread that captures them to the thread that writes them down; neither waits for the other.
 #pragma once
 
-#include "platform/RealTime.h"
+#include "base/RealTime.h"
 
 #include <algorithm>
 #include <atomic>

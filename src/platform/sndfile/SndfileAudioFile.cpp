@@ -95,14 +95,14 @@ void SndfileAudioFile::work(const std::stop_token& stop)
     std::condition_variable_any stopped;  // A request to stop notifies it; nothing else does.
     std::unique_lock lock{mutex};
     while (!stop.stop_requested()) {
-        writeWhatWaits();
+        drainRing();
         stopped.wait_for(lock, stop, pause, [] { return false; });
     }
-    writeWhatWaits();
+    drainRing();
     note(file_->close());
 }
 
-void SndfileAudioFile::writeWhatWaits()
+void SndfileAudioFile::drainRing()
 {
     while (status_.load(std::memory_order_relaxed) == kAudioHardwareNoError) {
         const auto waiting = ring_.oldest();

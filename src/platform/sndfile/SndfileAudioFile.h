@@ -42,7 +42,7 @@ private:
 
     /// The writer's life.
     void work(const std::stop_token& stop);
-    void writeWhatWaits();
+    void drainRing();
     /// Keeps the first failure.
     void note(AudioStatus status);
 

@@ -12,16 +12,16 @@ namespace {
 
 class AudioWorldPainting : public ::testing::Test {
 protected:
-    AudioWorld paint()
+    AudioWorld build()
     {
-        return painter.paint(
+        return builder.build(
             world.graph, [&](const GraphNode& stream) { return chosenTargetIn(world.graph, stream.id); });
     }
 
     GraphOf world;
     AudioObjectIDs ids;
     bool canWatch = true;
-    AudioWorldPainter painter{ids,
+    AudioWorldBuilder builder{ids,
         {.runs = [](std::int32_t, const std::string& binary) { return binary == "pacat"; },
             .watch = [this](std::int32_t) { return canWatch; }}};
 };
@@ -30,7 +30,7 @@ TEST_F(AudioWorldPainting, aClientWithoutAStreamIsNoProcess)
 {
     world.nativeClient(100);
 
-    EXPECT_TRUE(paint().processes.empty());
+    EXPECT_TRUE(build().processes.empty());
 }
 
 TEST_F(AudioWorldPainting, clientsOfOnePidAreOneProcess)
@@ -40,7 +40,7 @@ TEST_F(AudioWorldPainting, clientsOfOnePidAreOneProcess)
     world.stream(first, GraphNode::State::idle);
     world.stream(second);
 
-    const auto picture = paint();
+    const auto picture = build();
 
     ASSERT_EQ(picture.processes.size(), 1U);
     EXPECT_EQ(picture.processes[0].pid, 100);
@@ -52,17 +52,17 @@ TEST_F(AudioWorldPainting, aProcessStaysWithoutClientsUntilItEnds)
 {
     const auto client = world.nativeClient(100);
     const auto stream = world.stream(client);
-    const auto id = paint().processes.at(0).id;
+    const auto id = build().processes.at(0).id;
 
     world.graph.nodes.erase(stream);
     world.graph.clients.erase(client);
-    const auto alone = paint();
-    painter.processEnded(100);
+    const auto alone = build();
+    builder.processEnded(100);
 
     ASSERT_EQ(alone.processes.size(), 1U);
     EXPECT_EQ(alone.processes[0].id, id);
     EXPECT_FALSE(alone.processes[0].isPlaying);
-    EXPECT_TRUE(paint().processes.empty());
+    EXPECT_TRUE(build().processes.empty());
 }
 
 TEST_F(AudioWorldPainting, aProcessThatCannotBeWatchedEndsWithItsLastClient)
@@ -71,11 +71,11 @@ TEST_F(AudioWorldPainting, aProcessThatCannotBeWatchedEndsWithItsLastClient)
     const auto client = world.nativeClient(100);
     world.graph.nodes.erase(world.stream(client));
     world.stream(client);
-    EXPECT_EQ(paint().processes.size(), 1U);
+    EXPECT_EQ(build().processes.size(), 1U);
 
     world.graph.clients.erase(client);
 
-    EXPECT_TRUE(paint().processes.empty());
+    EXPECT_TRUE(build().processes.empty());
 }
 
 TEST_F(AudioWorldPainting, aClaimedPidIsBelievedOnlyWhenItsProgramFits)
@@ -87,7 +87,7 @@ TEST_F(AudioWorldPainting, aClaimedPidIsBelievedOnlyWhenItsProgramFits)
     pulse("pacat");
     pulse("liar");
 
-    const auto picture = paint();
+    const auto picture = build();
 
     ASSERT_EQ(picture.processes.size(), 2U);
     EXPECT_EQ(std::ranges::count(picture.processes, 7, &AudioWorld::Process::pid), 1);
@@ -98,37 +98,37 @@ TEST_F(AudioWorldPainting, aNewProcessWithAnOldPidHasANewId)
 {
     const auto client = world.nativeClient(100);
     world.stream(client);
-    const auto id = paint().processes.at(0).id;
+    const auto id = build().processes.at(0).id;
     world.graph.clients.clear();
     world.graph.nodes.clear();
-    painter.processEnded(100);
-    EXPECT_TRUE(paint().processes.empty());
+    builder.processEnded(100);
+    EXPECT_TRUE(build().processes.empty());
 
     world.stream(world.nativeClient(100));
 
-    EXPECT_NE(paint().processes.at(0).id, id);
+    EXPECT_NE(build().processes.at(0).id, id);
 }
 
 TEST_F(AudioWorldPainting, aDeviceIsListedOnceAllItsPortsAreThere)
 {
     const auto sink = world.sink("speakers", {"FL"});
     world.graph.nodes[sink].inputPortCount = 2;
-    EXPECT_TRUE(paint().devices.empty());
+    EXPECT_TRUE(build().devices.empty());
 
     world.port(sink, "FR");
 
-    EXPECT_EQ(paint().devices.size(), 1U);
+    EXPECT_EQ(build().devices.size(), 1U);
 }
 
 TEST_F(AudioWorldPainting, aDeviceWhoseChannelsChangeIsAnotherDevice)
 {
     const auto sink = world.sink("speakers", {"FL", "FR"});
-    const auto before = paint().devices.at(0);
+    const auto before = build().devices.at(0);
 
     world.graph.nodes[sink].inputPortCount = 4;
     world.port(sink, "RL");
     world.port(sink, "RR");
-    const auto after = paint().devices.at(0);
+    const auto after = build().devices.at(0);
 
     EXPECT_EQ(after.uid, before.uid);
     EXPECT_NE(after.id, before.id);
@@ -140,7 +140,7 @@ TEST_F(AudioWorldPainting, namesOfAnyBytesAreKeptAsTheyAre)
     world.sink("quo\"ted\n\xff", {"FL", "FR"});
     world.sink(longName, {"FL", "FR"});
 
-    const auto picture = paint();
+    const auto picture = build();
 
     ASSERT_EQ(picture.devices.size(), 2U);
     EXPECT_EQ(picture.devices[0].uid, "quo\"ted\n\xff");
@@ -151,14 +151,14 @@ TEST_F(AudioWorldPainting, whatDiffersIsTold)
 {
     const auto client = world.nativeClient(100);
     const auto stream = world.stream(client, GraphNode::State::idle);
-    const auto before = paint();
+    const auto before = build();
     const auto process = before.processes.at(0).id;
 
     world.graph.nodes[stream].state = GraphNode::State::running;
-    const auto playing = paint();
+    const auto playing = build();
     world.sink("speakers", {"FL", "FR"});
     world.graph.metadata[0]["default.audio.sink"] = R"({"name":"speakers"})";
-    const auto plugged = paint();
+    const auto plugged = build();
 
     EXPECT_TRUE(changesBetween(before, before).empty());
     EXPECT_EQ(changesBetween(before, playing),
@@ -177,13 +177,13 @@ TEST_F(AudioWorldPainting, aProcessHasTheDevicesThatItsStreamsWouldPlayTo)
     const auto stream = world.stream(client);
     world.stream(
         client, GraphNode::State::running, {{"node.dont-reconnect", "true"}, {"target.object", "desk"}});
-    EXPECT_EQ(paint().processes.at(0).ownOutputs, std::set<std::string>{"speakers"});
+    EXPECT_EQ(build().processes.at(0).ownOutputs, std::set<std::string>{"speakers"});
 
     world.stream(client, GraphNode::State::idle, {{"target.object", "headphones"}});
-    EXPECT_EQ(paint().processes.at(0).ownOutputs, (std::set<std::string>{"headphones", "speakers"}));
+    EXPECT_EQ(build().processes.at(0).ownOutputs, (std::set<std::string>{"headphones", "speakers"}));
 
     world.graph.metadata[stream]["target.object"] = "headphones";
-    EXPECT_EQ(paint().processes.at(0).ownOutputs, std::set<std::string>{"headphones"});
+    EXPECT_EQ(build().processes.at(0).ownOutputs, std::set<std::string>{"headphones"});
 }
 
 TEST_F(AudioWorldPainting, whatCarriesSoundOnForOthersIsNoProcess)
@@ -194,7 +194,7 @@ TEST_F(AudioWorldPainting, whatCarriesSoundOnForOthersIsNoProcess)
         GraphNode::State::running);
     world.stream(client, GraphNode::State::running, {{"node.link-group", "loopback-1"}});
 
-    EXPECT_TRUE(paint().processes.empty());
+    EXPECT_TRUE(build().processes.empty());
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ class StreamRoutingTest : public ::testing::Test {
 protected:
     StreamRoutingTest() { world.graph.metadata[0]["default.audio.sink"] = R"({ "name": "speakers" })"; }
 
-    AudioWorld picture() { return painter.paint(world.graph, chosenTarget); }
+    AudioWorld picture() { return builder.build(world.graph, chosenTarget); }
     // A process of its own with one stream.
     GraphID player(const std::string& target = {}, int pid = 0)
     {
@@ -66,7 +66,7 @@ protected:
         return chosenTargetIn(world.graph, stream.id);
     };
     AudioObjectIDs ids;
-    AudioWorldPainter painter{ids,
+    AudioWorldBuilder builder{ids,
         {.runs = [](std::int32_t, const std::string&) { return true; },
             .watch = [](std::int32_t) { return true; }}};
     std::list<TapRoute> taps;

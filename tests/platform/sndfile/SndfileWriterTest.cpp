@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Handing samples over, and the thread that writes them.
-#include "platform/RealTime.h"
+#include "base/RealTime.h"
 #include "tests/platform/sndfile/SndfileStage.h"
 #include "tests/support/RealTimeGuard.h"
 

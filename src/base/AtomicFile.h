@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-namespace fadeloom::WholeFile {
+namespace fadeloom::AtomicFile {
 
 enum class ReadError { unreadable, tooLarge };
 
@@ -26,4 +26,4 @@ enum class ReadError { unreadable, tooLarge };
 [[nodiscard]] std::expected<void, std::string> replace(
     const std::filesystem::path& file, std::string_view content);
 
-}  // namespace fadeloom::WholeFile
+}  // namespace fadeloom::AtomicFile

@@ -8,7 +8,7 @@
 // Its owner hands it out as const: whoever sees it may read and observe it, and only the owner assigns.
 #pragma once
 
-#include "control/Observers.h"
+#include "base/Observers.h"
 
 #include <functional>
 #include <utility>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/WholeFile.h"
+#include "base/AtomicFile.h"
 
-#include "platform/FileDescriptor.h"
+#include "base/FileDescriptor.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -11,7 +11,7 @@
 #include <optional>
 #include <system_error>
 
-namespace fadeloom::WholeFile {
+namespace fadeloom::AtomicFile {
 
 namespace {
 
@@ -160,4 +160,4 @@ std::expected<void, std::string> replace(const fs::path& file, std::string_view 
     return {};
 }
 
-}  // namespace fadeloom::WholeFile
+}  // namespace fadeloom::AtomicFile

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "control/Observers.h"
+#include "base/Observers.h"
 
 #include <utility>
 

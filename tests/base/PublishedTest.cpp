@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "control/Published.h"
+#include "base/Published.h"
 
-#include "control/LifeToken.h"
+#include "base/LifeToken.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // Those who want to be told when something has happened.
 #pragma once
 
-#include "platform/Subscription.h"
+#include "base/Subscription.h"
 
 #include <functional>
 #include <memory>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/WholeFile.h"
+#include "base/AtomicFile.h"
 
 #include "tests/support/TemporaryFolder.h"
 
@@ -18,9 +18,9 @@ namespace fadeloom {
 namespace {
 
 namespace fs = std::filesystem;
+using AtomicFile::ReadError;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using WholeFile::ReadError;
 
 /// While one lives, no file of this process can grow beyond `bytes`: the system refuses as it does on a full disk.
 class FullDisk {
@@ -45,7 +45,7 @@ private:
     void (*oldHandler_)(int);
 };
 
-class WholeFileTest : public testing::Test {
+class AtomicFileTest : public testing::Test {
 protected:
     std::string contentOf(const fs::path& path) const
     {
@@ -76,37 +76,37 @@ protected:
     fs::path file = folder.path() / "file.json";
 };
 
-TEST_F(WholeFileTest, isReadToItsEnd)
+TEST_F(AtomicFileTest, isReadToItsEnd)
 {
     const std::string content = std::string(100'000, 'x') + '\0' + "\r\n\xFF";
     put(file, content);
 
-    EXPECT_EQ(WholeFile::read(file, 200'000), content);
+    EXPECT_EQ(AtomicFile::read(file, 200'000), content);
     put(file, "");
-    EXPECT_EQ(WholeFile::read(file, 200'000), "");
+    EXPECT_EQ(AtomicFile::read(file, 200'000), "");
 }
 
-TEST_F(WholeFileTest, isReadUpToTheLargestSize)
+TEST_F(AtomicFileTest, isReadUpToTheLargestSize)
 {
     put(file, "12345");
 
-    EXPECT_EQ(WholeFile::read(file, 5), "12345");
-    EXPECT_EQ(WholeFile::read(file, 4), std::unexpected(ReadError::tooLarge));
+    EXPECT_EQ(AtomicFile::read(file, 5), "12345");
+    EXPECT_EQ(AtomicFile::read(file, 4), std::unexpected(ReadError::tooLarge));
 }
 
-TEST_F(WholeFileTest, whatIsNoFileIsUnreadableAndNotWaitedFor)
+TEST_F(AtomicFileTest, whatIsNoFileIsUnreadableAndNotWaitedFor)
 {
     const auto pipe = folder.path() / "pipe";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
 
     for (const auto& path : {file, folder.path(), pipe, fs::path("/dev/zero"), fs::path()})
-        EXPECT_EQ(WholeFile::read(path, 100), std::unexpected(ReadError::unreadable)) << path;
+        EXPECT_EQ(AtomicFile::read(path, 100), std::unexpected(ReadError::unreadable)) << path;
 }
 
-TEST_F(WholeFileTest, newOneIsForItsOwnerAlone)
+TEST_F(AtomicFileTest, newOneIsForItsOwnerAlone)
 {
     const auto oldMask = ::umask(0);
-    ASSERT_TRUE(WholeFile::replace(file, "new"));
+    ASSERT_TRUE(AtomicFile::replace(file, "new"));
     ::umask(oldMask);
 
     EXPECT_EQ(contentOf(file), "new");
@@ -114,32 +114,32 @@ TEST_F(WholeFileTest, newOneIsForItsOwnerAlone)
     EXPECT_THAT(names(), ElementsAre("file.json"));
 }
 
-TEST_F(WholeFileTest, replacedOneKeepsItsPermissions)
+TEST_F(AtomicFileTest, replacedOneKeepsItsPermissions)
 {
     for (const mode_t mode : {0644U, 0640U, 0666U, 0600U}) {
         put(file, "old");
         ASSERT_EQ(::chmod(file.c_str(), mode), 0);
 
-        ASSERT_TRUE(WholeFile::replace(file, "new"));
+        ASSERT_TRUE(AtomicFile::replace(file, "new"));
 
         EXPECT_EQ(modeOf(file), mode);
         EXPECT_EQ(contentOf(file), "new");
     }
 }
 
-TEST_F(WholeFileTest, whoeverHasTheOldOneOpenReadsTheOldOne)
+TEST_F(AtomicFileTest, whoeverHasTheOldOneOpenReadsTheOldOne)
 {
     put(file, "old content");
     std::ifstream reader(file);
 
-    ASSERT_TRUE(WholeFile::replace(file, "new"));
+    ASSERT_TRUE(AtomicFile::replace(file, "new"));
 
     std::ostringstream read;
     read << reader.rdbuf();
     EXPECT_EQ(read.str(), "old content");
 }
 
-TEST_F(WholeFileTest, symbolicLinkStaysOneAndItsTargetIsReplaced)
+TEST_F(AtomicFileTest, symbolicLinkStaysOneAndItsTargetIsReplaced)
 {
     fs::create_directory(folder.path() / "elsewhere");
     const auto target = folder.path() / "elsewhere" / "real.json";
@@ -147,59 +147,59 @@ TEST_F(WholeFileTest, symbolicLinkStaysOneAndItsTargetIsReplaced)
     fs::create_symlink("elsewhere/real.json", folder.path() / "middle");
     fs::create_symlink(folder.path() / "middle", file);
 
-    ASSERT_TRUE(WholeFile::replace(file, "new"));
+    ASSERT_TRUE(AtomicFile::replace(file, "new"));
 
     EXPECT_TRUE(fs::is_symlink(file));
     EXPECT_TRUE(fs::is_symlink(folder.path() / "middle"));
     EXPECT_EQ(contentOf(target), "new");
 }
 
-TEST_F(WholeFileTest, symbolicLinkToNothingGetsItsTarget)
+TEST_F(AtomicFileTest, symbolicLinkToNothingGetsItsTarget)
 {
     fs::create_symlink("real.json", file);
 
-    ASSERT_TRUE(WholeFile::replace(file, "new"));
+    ASSERT_TRUE(AtomicFile::replace(file, "new"));
 
     EXPECT_TRUE(fs::is_symlink(file));
     EXPECT_EQ(contentOf(folder.path() / "real.json"), "new");
 }
 
-TEST_F(WholeFileTest, symbolicLinksInACircleAreRefused)
+TEST_F(AtomicFileTest, symbolicLinksInACircleAreRefused)
 {
     fs::create_symlink("file.json", folder.path() / "other");
     fs::create_symlink("other", file);
 
-    const auto replaced = WholeFile::replace(file, "new");
+    const auto replaced = AtomicFile::replace(file, "new");
 
     ASSERT_FALSE(replaced);
     EXPECT_THAT(replaced.error(), HasSubstr("symbolic links"));
 }
 
-TEST_F(WholeFileTest, whatIsNoFileIsNotReplaced)
+TEST_F(AtomicFileTest, whatIsNoFileIsNotReplaced)
 {
     fs::create_directory(file);
     const auto pipe = folder.path() / "pipe";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
 
-    const auto replaced = WholeFile::replace(file, "new");
+    const auto replaced = AtomicFile::replace(file, "new");
     ASSERT_FALSE(replaced);
     EXPECT_THAT(replaced.error(), HasSubstr("Is a directory"));
-    EXPECT_FALSE(WholeFile::replace(pipe, "new"));
-    EXPECT_FALSE(WholeFile::replace("/dev/null", "new"));
+    EXPECT_FALSE(AtomicFile::replace(pipe, "new"));
+    EXPECT_FALSE(AtomicFile::replace("/dev/null", "new"));
 
     EXPECT_THAT(names(), ElementsAre("file.json", "pipe"));
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
-TEST_F(WholeFileTest, missingFolderIsToldInTheSystemsWords)
+TEST_F(AtomicFileTest, missingFolderIsToldInTheSystemsWords)
 {
-    const auto replaced = WholeFile::replace(folder.path() / "missing" / "file.json", "new");
+    const auto replaced = AtomicFile::replace(folder.path() / "missing" / "file.json", "new");
 
     ASSERT_FALSE(replaced);
     EXPECT_THAT(replaced.error(), HasSubstr("missing/file.json: No such file or directory"));
 }
 
-TEST_F(WholeFileTest, fullDiskLeavesTheOldContentAndNothingElse)
+TEST_F(AtomicFileTest, fullDiskLeavesTheOldContentAndNothingElse)
 {
     put(file, "old");
     const std::string large(100'000, 'x');
@@ -207,21 +207,21 @@ TEST_F(WholeFileTest, fullDiskLeavesTheOldContentAndNothingElse)
     std::expected<void, std::string> replaced;
     {
         const FullDisk disk(4096);
-        replaced = WholeFile::replace(file, large);
+        replaced = AtomicFile::replace(file, large);
     }
 
     ASSERT_FALSE(replaced);
     EXPECT_THAT(replaced.error(), HasSubstr("File too large"));
     EXPECT_EQ(contentOf(file), "old");
     EXPECT_THAT(names(), ElementsAre("file.json"));
-    EXPECT_TRUE(WholeFile::replace(file, large)) << "once there is room";
+    EXPECT_TRUE(AtomicFile::replace(file, large)) << "once there is room";
 }
 
-TEST_F(WholeFileTest, pathWithoutAFolderIsInTheCurrentOne)
+TEST_F(AtomicFileTest, pathWithoutAFolderIsInTheCurrentOne)
 {
     const auto old = fs::current_path();
     fs::current_path(folder.path());
-    const auto replaced = WholeFile::replace("bare.json", "new");
+    const auto replaced = AtomicFile::replace("bare.json", "new");
     fs::current_path(old);
 
     ASSERT_TRUE(replaced);
