@@ -56,7 +56,7 @@ public:
         if (setting.isRecorded)
             parameters_->setRecorder(&file_);
         parameters_->setEQ(eqCoefficients(std::array<float, 10>{6, -4, 3, -2, 7, -6, 4, 2, -3, 5}, 48000));
-        const RenderLayout layout{
+        const TapFormat layout{
             .output = {1, 2},
             .tapBufferCount = setting.isPlanar ? 2U : 1U,
             .isTapInterleaved = !setting.isPlanar,

@@ -21,7 +21,7 @@ void poll(benchmark::State& state)
     const TemporaryFolder folder;
     SimulatedPlatform world{folder.path()};
     EngineLog log{world.systemLog(), world.platform().logQueue, folder.path() / "Fadeloom"};
-    world.audioSystem().setCycleInterval(std::chrono::milliseconds(0));  // Nothing is rendered.
+    world.audioWorld().setCycleInterval(std::chrono::milliseconds(0));  // Nothing is rendered.
     world.plug({.uid = "speakers", .name = "Desk Speakers"});
     for (std::int64_t i = 0; i < state.range(0); ++i)
         world.startPlaying(world.launchApp("App " + std::to_string(i)));

@@ -11,7 +11,7 @@ import pathlib
 import re
 import sys
 
-ORDER = ["base", "platform", "hal", "engine", "settings", "log", "control", "shell", "commands", "ui", "app"]
+ORDER = ["base", "platform", "engine", "settings", "log", "control", "shell", "commands", "ui", "app"]
 ADAPTERS = ["platform/simulated", "platform/linux", "platform/sndfile", "platform/pipewire", "platform/qt",
             "platform/qtdesktop", "platform/macos"]
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s+([<"])([^>"]+)[>"]')

@@ -22,6 +22,7 @@ public:
 
     /// Has `callback` called at each notification, in the order added, until the subscription ends.
     Subscription add(Callback callback);
+    [[nodiscard]] bool isEmpty() const { return list_->empty(); }
     /// Calls everyone who has been there since before this call.
     void notify() const;
 

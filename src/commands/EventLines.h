@@ -13,7 +13,7 @@
 
 #include "control/AppEntry.h"
 #include "control/AudioPermission.h"
-#include "hal/OutputDevices.h"
+#include "platform/OutputDevice.h"
 
 #include <filesystem>
 #include <map>

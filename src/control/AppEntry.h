@@ -2,7 +2,7 @@
 // One row of the mixer, and the order in which rows stand.
 #pragma once
 
-#include "platform/AudioObject.h"
+#include "platform/AudioProcess.h"
 #include "platform/Text.h"
 #include "platform/Workspace.h"
 
@@ -18,7 +18,7 @@ struct AppEntry {
     AppIcon icon{};
     bool isPlaying = false;  // At least one of its processes is.
     bool isUsingMic = false;  // Likewise; false for every app while calls are not looked for.
-    std::vector<AudioObjectID> processIDs{};  // Ascending.
+    std::vector<AudioProcessID> processIDs{};  // Ascending.
 
     friend bool operator==(const AppEntry&, const AppEntry&) = default;
 };

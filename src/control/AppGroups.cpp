@@ -16,12 +16,12 @@ bool AppGroup::isUsingMic() const
     return std::ranges::any_of(processes, &AudioProcess::isUsingMic);
 }
 
-std::vector<AudioObjectID> AppGroup::processIDs() const
+std::vector<AudioProcessID> AppGroup::processIDs() const
 {
-    std::vector<AudioObjectID> ids;
+    std::vector<AudioProcessID> ids;
     ids.reserve(processes.size());
     for (const auto& process : processes)
-        ids.push_back(process.objectID);
+        ids.push_back(process.id);
     std::ranges::sort(ids);
     return ids;
 }

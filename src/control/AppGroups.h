@@ -3,7 +3,7 @@
 #pragma once
 
 #include "control/AppResolver.h"
-#include "hal/AudioProcesses.h"
+#include "platform/AudioProcess.h"
 #include "platform/Workspace.h"
 
 #include <map>
@@ -23,7 +23,7 @@ struct AppGroup {
     [[nodiscard]] bool isPlaying() const;
     [[nodiscard]] bool isUsingMic() const;
     /// Ascending.
-    [[nodiscard]] std::vector<AudioObjectID> processIDs() const;
+    [[nodiscard]] std::vector<AudioProcessID> processIDs() const;
 };
 
 /// By bundle identifier.

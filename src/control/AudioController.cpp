@@ -2,7 +2,7 @@
 // How the controller starts, is called, and ends.
 #include "control/AudioController.h"
 
-#include "platform/AudioHardware.h"
+#include "platform/AudioSystem.h"
 #include "platform/LoginItem.h"
 #include "platform/MainLoop.h"
 #include "settings/SettingsFile.h"
@@ -21,7 +21,6 @@ AudioController::AudioController(const Platform& platform, EngineLog& engineLog,
           [this](const std::string& description) {
               state_.errorMessage.assign("Could not save settings: " + description);
           })
-    , processListeners_(platform.audio, onMainThread(&AudioController::schedulePoll))
 {
     applyAppearance();
     refreshDevices();
@@ -43,15 +42,11 @@ std::function<void()> AudioController::onMainThread(void (AudioController::*acti
 
 void AudioController::listenToSystem()
 {
-    const auto listen = [this](AudioObjectPropertySelector selector, void (AudioController::*action)()) {
-        auto listener =
-            platform_.audio.listen(kAudioObjectSystemObject, {.selector = selector}, onMainThread(action));
-        if (listener)
-            systemListeners_.push_back(std::move(*listener));
-    };
-    listen(kAudioHardwarePropertyDevices, &AudioController::devicesChanged);
-    listen(kAudioHardwarePropertyDefaultOutputDevice, &AudioController::devicesChanged);
-    listen(kAudioHardwarePropertyProcessObjectList, &AudioController::schedulePoll);
+    auto& audio = platform_.audio;
+    systemListeners_.push_back(audio.whenOutputDevicesChange(onMainThread(&AudioController::devicesChanged)));
+    systemListeners_.push_back(
+        audio.whenDefaultOutputChanges(onMainThread(&AudioController::devicesChanged)));
+    systemListeners_.push_back(audio.whenProcessesChange(onMainThread(&AudioController::schedulePoll)));
 }
 
 void AudioController::schedulePoll()
@@ -83,7 +78,6 @@ void AudioController::shutdown()
     timer_.reset();
     // A poll after this point would make the taps again.
     systemListeners_.clear();
-    processListeners_.sync({});
     life_.end();
 
     recordingCheck_.reset();

@@ -16,12 +16,10 @@
 #include "control/ControllerState.h"
 #include "control/DemoContents.h"
 #include "control/LevelStore.h"
-#include "control/ProcessListeners.h"
 #include "control/SettingsSaver.h"
 #include "engine/AppTap.h"
 #include "engine/Recording.h"
 #include "engine/TapParameters.h"
-#include "hal/AudioProcesses.h"
 #include "log/EngineLog.h"
 #include "platform/Platform.h"
 
@@ -152,7 +150,6 @@ private:
     EngineLog& engineLog_;
     bool isDemo_ = false;
     AudioPermission audioPermission_{platform_.capturePermission, platform_.mainLoop};
-    AudioProcesses processes_{platform_.audio};
     AppGrouper grouper_{platform_.workspace};
 
     ControllerState state_;
@@ -176,7 +173,6 @@ private:
     bool isPollScheduled_ = false;
 
     // Last, so that they end first: no callback comes into an object that is going.
-    ProcessListeners processListeners_;
     std::vector<Subscription> systemListeners_;
     Subscription timer_;
     std::optional<Subscription> recordingCheck_;  // While anything is recorded.

@@ -15,7 +15,6 @@ AudioController::AudioController(const Platform& platform, EngineLog& engineLog,
           .permission = AudioPermission::State::granted,
           .settings = demo.settings}
     , saver_(platform.utilityQueue, platform.mainLoop, SettingsFile::defaultURL(platform.folders), {})
-    , processListeners_(platform.audio, onMainThread(&AudioController::schedulePoll))
 {
     applyAppearance();
     levels_.show(demo.levels);

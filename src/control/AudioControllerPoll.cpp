@@ -2,6 +2,8 @@
 // The controller's regular look at the world: from audio processes to the mixer's rows.
 #include "control/AudioController.h"
 
+#include "platform/AudioSystem.h"
+
 #include <iterator>
 #include <utility>
 
@@ -12,12 +14,9 @@ void AudioController::poll()
     if (isDemo_)
         return;
     updatePermission();
-    const auto processes = processes_.all(state_.settings->focus.enabled ? ReadMic::yes : ReadMic::no);
+    const auto processes =
+        platform_.audio.processes(state_.settings->focus.enabled ? ReadMic::yes : ReadMic::no);
     const auto groups = grouper_.group(processes);
-    std::set<AudioObjectID> objects;
-    for (const auto& process : processes)
-        objects.insert(process.objectID);
-    processListeners_.sync(objects);
 
     updateSeen(groups);
     updateApps(groups);

@@ -2,7 +2,7 @@
 // The controller's devices: which there are, which one an app plays through, and which chosen ones are away.
 #include "control/AudioController.h"
 #include "control/OutputChoice.h"
-#include "hal/HAL.h"
+#include "platform/AudioSystem.h"
 
 #include <utility>
 
@@ -16,8 +16,8 @@ void AudioController::devicesChanged()
 
 void AudioController::refreshDevices()
 {
-    state_.devices.assignIfDifferent(OutputDevices::all(platform_.audio));
-    state_.defaultDeviceUID.assignIfDifferent(OutputDevices::defaultOutputUID(platform_.audio));
+    state_.devices.assignIfDifferent(platform_.audio.outputDevices());
+    state_.defaultDeviceUID.assignIfDifferent(platform_.audio.defaultOutput());
 }
 
 std::optional<std::string> AudioController::outputUID(const std::string& bundleID) const
@@ -52,12 +52,11 @@ void AudioController::updateMissingOutput()
 
 bool AudioController::setSystemOutput(const OutputDevice& device)
 {
-    const auto status = HAL::setValue(platform_.audio, kAudioObjectSystemObject,
-        {.selector = kAudioHardwarePropertyDefaultOutputDevice}, device.id);
-    if (status != kAudioHardwareNoError)
+    const bool isAccepted = platform_.audio.setDefaultOutput(device);
+    if (!isAccepted)
         state_.errorMessage.assign("Could not switch output to " + device.name + ".");
     poll();
-    return status == kAudioHardwareNoError;
+    return isAccepted;
 }
 
 }  // namespace fadeloom

@@ -3,7 +3,7 @@
 #include "control/AudioController.h"
 #include "control/OutputChoice.h"
 #include "control/TapTexts.h"
-#include "hal/HAL.h"
+#include "platform/AudioSystem.h"
 
 #include <ranges>
 #include <utility>
@@ -40,9 +40,8 @@ bool AudioController::adaptTap(AppTap& tap, const AppEntry& entry, const OutputD
 {
     if (tap.outputUID() != device.uid || tap.outputID() != device.id)
         return false;
-    const auto rate =
-        HAL::value<double>(platform_.audio, device.id, {.selector = kAudioDevicePropertyNominalSampleRate});
-    if (rate && *rate > 0 && *rate != tap.sampleRate())
+    const double rate = platform_.audio.sampleRate(device.id);
+    if (rate > 0 && rate != tap.sampleRate())
         return false;
     if (tap.processIDs() == entry.processIDs)
         return true;
@@ -67,7 +66,7 @@ void AudioController::createTap(const AppEntry& entry, const OutputDevice& devic
     const auto old = taps_.find(id);
     const double oldRate = old == taps_.end() ? 0 : old->second->sampleRate();
     taps_.erase(id);  // Two taps of one app would mute each other's source.
-    auto tap = AppTap::create(platform_.audio, entry.processIDs, device.uid, device.id, block, entry.name);
+    auto tap = AppTap::create(platform_.audio, entry.processIDs, device, block, entry.name);
     if (!tap) {
         stopRecording(id);
         const auto description = tap.error().description();

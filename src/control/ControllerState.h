@@ -5,7 +5,7 @@
 #include "base/Published.h"
 #include "control/AppEntry.h"
 #include "control/AudioPermission.h"
-#include "hal/OutputDevices.h"
+#include "platform/OutputDevice.h"
 #include "settings/SettingsData.h"
 
 #include <chrono>

@@ -4,7 +4,7 @@
 
 #include "control/AppEntry.h"
 #include "control/LevelStore.h"
-#include "hal/OutputDevices.h"
+#include "platform/OutputDevice.h"
 #include "settings/SettingsData.h"
 
 #include <vector>

@@ -5,7 +5,7 @@
 // jumps to another device by surprise.
 #pragma once
 
-#include "hal/OutputDevices.h"
+#include "platform/OutputDevice.h"
 #include "settings/SettingsData.h"
 
 #include <optional>

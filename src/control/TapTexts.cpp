@@ -15,7 +15,7 @@ std::string processCountText(std::size_t count)
 
 }  // namespace
 
-std::string failureKey(std::span<const AudioObjectID> processIDs, std::string_view outputUID)
+std::string failureKey(std::span<const AudioProcessID> processIDs, std::string_view outputUID)
 {
     std::string key = "[";
     for (const auto id : processIDs) {

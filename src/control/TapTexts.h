@@ -3,7 +3,7 @@
 #pragma once
 
 #include "engine/AppTap.h"
-#include "platform/AudioObject.h"
+#include "platform/AudioProcess.h"
 
 #include <span>
 #include <string>
@@ -12,7 +12,7 @@
 namespace fadeloom {
 
 /// Equal exactly for attempts with the same processes on the same output: "[412, 415]|uid".
-[[nodiscard]] std::string failureKey(std::span<const AudioObjectID> processIDs, std::string_view outputUID);
+[[nodiscard]] std::string failureKey(std::span<const AudioProcessID> processIDs, std::string_view outputUID);
 
 [[nodiscard]] std::string tapReadyText(std::string_view bundleID, const AppTap& tap);
 [[nodiscard]] std::string tapUpdatedText(std::string_view bundleID, const AppTap& tap);

@@ -2,8 +2,8 @@
 // One app's sound on its way into one WAVE file.
 #pragma once
 
-#include "engine/TapError.h"
 #include "platform/AudioFiles.h"
+#include "platform/TapError.h"
 
 #include <chrono>
 #include <expected>

@@ -53,7 +53,7 @@ void spread(const float* samples, std::size_t count, float* to, std::size_t stri
 }  // namespace
 
 Renderer::Renderer(
-    std::shared_ptr<TapParameters> parameters, const RenderLayout& layout, const RenderKernels* kernels)
+    std::shared_ptr<TapParameters> parameters, const TapFormat& layout, const RenderKernels* kernels)
     : parameters_(std::move(parameters))
     , layout_(layout)
     , snapshot_{.eqVersion = noVersion}

@@ -7,8 +7,7 @@
 #include "engine/RenderChoice.h"
 #include "engine/RenderPath.h"
 #include "engine/TapParameters.h"
-#include "hal/OutputDevices.h"
-#include "platform/AudioHardware.h"
+#include "platform/ProcessTap.h"
 
 #include <array>
 #include <cstddef>
@@ -17,15 +16,6 @@
 #include <span>
 
 namespace fadeloom {
-
-/// How the buffers of a cycle are laid out.
-struct RenderLayout {
-    double sampleRate = 48000;  // Hertz; taken as at least 1.
-    StereoChannels output{};  // The same channel twice: both sides are mixed into it.
-    std::size_t tapBufferCount =
-        1;  // The tap's buffers are the last of the input; what comes before is not ours.
-    bool isTapInterleaved = true;
-};
 
 /// Made and destroyed on the main thread, run on the IO thread. Everything it needs in a cycle is part of it.
 /// Buffers that are missing or malformed give a silent cycle; nothing here fails.
@@ -37,7 +27,7 @@ public:
     /// Starts at the gain that `parameters` asks for, without fading in. The block is shared: the next tap of this app
     /// goes on with it, and an IO thread may still read it while the app's owner lets go.
     /// `kernels`: those of the fast render path; null for the plain one.
-    Renderer(std::shared_ptr<TapParameters> parameters, const RenderLayout& layout,
+    Renderer(std::shared_ptr<TapParameters> parameters, const TapFormat& layout,
         const RenderKernels* kernels = chosenKernels());
     Renderer(const Renderer&) = delete;
     Renderer& operator=(const Renderer&) = delete;
@@ -64,7 +54,7 @@ private:
     void writeOutput(AudioBuffers output, std::size_t frames) noexcept FADELOOM_NONBLOCKING;
 
     const std::shared_ptr<TapParameters> parameters_;
-    const RenderLayout layout_;
+    const TapFormat layout_;
     TapParameters::Values snapshot_;
     EQCoefficients sections_{};
     RenderState state_;

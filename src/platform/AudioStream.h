@@ -1,25 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Sample buffers and stream formats, laid out as the audio hardware layer lays them out.
+// Stream formats, laid out as the audio hardware layer lays them out.
 #pragma once
 
 #include "platform/AudioObject.h"
 
-#include <cstddef>
 #include <cstdint>
-#include <span>
 
 namespace fadeloom {
-
-/// One buffer of an IO cycle: 32-bit float samples, `channels` of them interleaved per frame.
-/// `data` may be null (a stream that is switched off); `byteSize` may then still be set.
-struct AudioBuffer {
-    std::uint32_t channels = 0;
-    std::uint32_t byteSize = 0;
-    void* data = nullptr;
-};
-
-/// The buffers of one direction in one IO cycle, in the device's stream order.
-using AudioBuffers = std::span<const AudioBuffer>;
 
 inline constexpr std::uint32_t kAudioFormatLinearPCM = fourCharacterCode("lpcm");
 inline constexpr std::uint32_t kAudioFormatFlagIsFloat = 1U << 0;
@@ -40,21 +27,5 @@ struct AudioStreamBasicDescription {
     std::uint32_t reserved = 0;
 };
 static_assert(sizeof(AudioStreamBasicDescription) == 40);
-
-/// Identifies an IO procedure on its device; opaque.
-using AudioDeviceIOProcID = void*;
-
-/// Head of the record behind `kAudioDevicePropertyIOProcStreamUsage`. One uint32 flag per stream of the scope
-/// follows at `flagsOffset`: 1 while the stream is used by the procedure.
-struct AudioHardwareIOProcStreamUsage {
-    AudioDeviceIOProcID ioProc = nullptr;
-    std::uint32_t streamCount = 0;
-    std::uint32_t firstFlag = 0;
-
-    static constexpr std::size_t flagsOffset = 12;
-};
-static_assert(sizeof(AudioHardwareIOProcStreamUsage) == 16);
-static_assert(
-    offsetof(AudioHardwareIOProcStreamUsage, firstFlag) == AudioHardwareIOProcStreamUsage::flagsOffset);
 
 }  // namespace fadeloom

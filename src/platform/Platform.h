@@ -6,7 +6,7 @@ namespace fadeloom {
 
 class Application;
 class AudioFiles;
-class AudioHardware;
+class AudioSystem;
 class BackgroundQueue;
 class CapturePermission;
 class Dialogs;
@@ -22,7 +22,7 @@ class Workspace;
 
 /// References only: whoever builds a platform keeps its parts alive for as long as the program runs on it.
 struct Platform {
-    AudioHardware& audio;
+    AudioSystem& audio;
     AudioFiles& audioFiles;
     Workspace& workspace;
     CapturePermission& capturePermission;

@@ -69,7 +69,7 @@ TEST_F(HeadlessRunStory, tellsOfATapThatFails)
 {
     start();
     lines();
-    world.refuse(AudioOperation::createProcessTap, HowOften::always, -50);
+    world.refuse(AudioOperation::createTap, HowOften::always, -50);
 
     launchPlaying("Player");
 
@@ -161,7 +161,7 @@ TEST_F(HeadlessRunStory, shutdownSavesWhatWaitsAndGivesEveryAppBack)
 
     EXPECT_EQ(saved().apps.at("com.example.player").volume, 0.5F);
     EXPECT_NEAR(heardAt("speakers"), source, tolerance);
-    EXPECT_THAT(world.audio().operations(), Contains(AudioOperation::destroyProcessTap));
+    EXPECT_THAT(world.audio().operations(), Contains(AudioOperation::destroyTap));
 }
 
 TEST_F(HeadlessRunStory, showsATableEverySecondOnATerminal)

@@ -83,7 +83,7 @@ TEST_F(SettingsCommandsStory, defaultSetsTheSystemsOutput)
 
 TEST_F(SettingsCommandsStory, aDefaultThatTheSystemRefusesIsAnError)
 {
-    world.refuse(AudioOperation::writeProperty, HowOften::once);
+    world.refuse(AudioOperation::setDefaultOutput, HowOften::once);
 
     EXPECT_EQ(
         answer("default headphones"), "error the system did not accept headphones as its default output");

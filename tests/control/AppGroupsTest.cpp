@@ -13,9 +13,9 @@ using testing::ElementsAre;
 
 class AppGroupsTest : public testing::Test {
 protected:
-    static AudioProcess process(AudioObjectID object, ProcessID pid, bool isPlaying = false)
+    static AudioProcess process(AudioProcessID object, ProcessID pid, bool isPlaying = false)
     {
-        return {.objectID = object, .pid = pid, .bundleID = {}, .isPlaying = isPlaying};
+        return {.id = object, .pid = pid, .bundleID = {}, .isPlaying = isPlaying};
     }
     /// The identifiers of the apps that own the processes.
     std::vector<std::string> ownersOf(const std::vector<AudioProcess>& processes)
@@ -87,8 +87,8 @@ TEST_F(AppGroupsTest, leaveOutProcessesWithoutAPid)
 {
     workspace.launchApp("Player", {});
 
-    EXPECT_THAT(ownersOf({{.objectID = 5, .pid = -1, .bundleID = "com.example.player"},
-                    {.objectID = 6, .pid = 0, .bundleID = "com.example.player"}}),
+    EXPECT_THAT(ownersOf({{.id = 5, .pid = -1, .bundleID = "com.example.player"},
+                    {.id = 6, .pid = 0, .bundleID = "com.example.player"}}),
         ElementsAre());
 }
 

@@ -125,7 +125,7 @@ protected:
         return std::ranges::count(world.audio().operations(), operation);
     }
     /// How often a tap was asked for since the world began.
-    [[nodiscard]] long tapAttempts() { return callCount(AudioOperation::createProcessTap); }
+    [[nodiscard]] long tapAttempts() { return callCount(AudioOperation::createTap); }
 
     [[nodiscard]] std::filesystem::path settingsFile()
     {

@@ -53,7 +53,7 @@ TEST_F(PermissionStory, withdrawingItRemovesEveryTapWithinAPollAndKeepsTheRows)
 
     EXPECT_EQ(*state().permission, State::denied);
     EXPECT_TRUE(hasLogged("permission: denied"));
-    EXPECT_EQ(callCount(AudioOperation::destroyProcessTap), 2);
+    EXPECT_EQ(callCount(AudioOperation::destroyTap), 2);
     EXPECT_EQ(mixer(), "com.example.chat▶, com.example.player▶");
     EXPECT_NE(controller->parametersOf("com.example.player"), nullptr);
 }

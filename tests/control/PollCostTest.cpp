@@ -8,52 +8,40 @@ namespace {
 class PollCost : public ControllerStory {
 protected:
     // No sound is rendered: what is counted here are questions.
-    PollCost() { world.audioSystem().setCycleInterval(0ms); }
+    PollCost() { world.audioWorld().setCycleInterval(0ms); }
 
     void playEverywhere(int apps)
     {
         for (int i = 0; i < apps; ++i)
             world.startPlaying(world.launchApp("App " + std::to_string(i)));
     }
-    int readsOfAPoll()
+    int callsOfAPoll()
     {
-        world.audio().clearReadCounts();
+        world.audio().clearCallCounts();
         controller->poll();
-        return world.audio().readCount();
+        return world.audio().callCount();
     }
 };
 
 class PollCostFor : public PollCost, public testing::WithParamInterface<int> { };
 
-TEST_P(PollCostFor, isThreeReadsForEachTappedProcessAndOneForTheList)
+TEST_P(PollCostFor, isOneCallForAllProcessesAndOneForTheRateOfEachTap)
 {
     playEverywhere(GetParam());
     start();
     ASSERT_EQ(state().apps->size(), GetParam());
 
-    // Whether it plays, whether it uses the microphone, and the rate of the device that its tap plays on.
-    EXPECT_EQ(readsOfAPoll(), 1 + 3 * GetParam());
+    EXPECT_EQ(callsOfAPoll(), 1 + GetParam());
 }
 
-TEST_P(PollCostFor, isTwoReadsForEachWhileCallsAreNotLookedFor)
-{
-    SettingsData settings;
-    settings.focus.enabled = false;
-    givenSettings(settings);
-    playEverywhere(GetParam());
-    start();
-
-    EXPECT_EQ(readsOfAPoll(), 1 + 2 * GetParam());
-}
-
-TEST_P(PollCostFor, isTwoReadsMoreForEachNewProcess)
+TEST_P(PollCostFor, isOneCallHoweverManyProcessesAreNew)
 {
     start();
     world.setPermission(SimulatedCapturePermission::denied);  // No taps: the processes alone.
     playEverywhere(GetParam());
 
-    EXPECT_EQ(readsOfAPoll(), 1 + 4 * GetParam());
-    EXPECT_EQ(readsOfAPoll(), 1 + 2 * GetParam());
+    EXPECT_EQ(callsOfAPoll(), 1);
+    EXPECT_EQ(callsOfAPoll(), 1);
 }
 
 TEST_P(PollCostFor, asksForTheRunningAppsOnceAndOnlyForNewProcesses)
@@ -87,12 +75,12 @@ TEST_F(PollCost, aProcessWithoutAnOwnerIsLookedUpOnce)
 TEST_F(PollCost, aBurstOfAnnouncementsCostsOnePoll)
 {
     start();
-    world.audio().clearReadCounts();
+    world.audio().clearCallCounts();
 
     playEverywhere(20);
     world.runPosted();
 
-    EXPECT_LE(world.audio().readCount(kAudioHardwarePropertyProcessObjectList), 2);
+    EXPECT_LE(world.audio().callCount(AudioOperation::processes), 2);
 }
 
 }  // namespace

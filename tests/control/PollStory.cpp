@@ -94,7 +94,7 @@ TEST_F(PollStory, helpersCountForTheirApplication)
     ASSERT_EQ(mixer(), "com.example.browser▶");
     const auto& entry = state().apps->front();
     EXPECT_EQ(entry.processIDs,
-        (std::vector{world.audioSystem().audioObjectOf(service), world.audioSystem().audioObjectOf(tab)}));
+        (std::vector{world.audioWorld().audioProcessOf(service), world.audioWorld().audioProcessOf(tab)}));
     EXPECT_TRUE(std::ranges::is_sorted(entry.processIDs));
 }
 
@@ -134,10 +134,9 @@ TEST_F(PollStory, whatAnEndedAppLeavesBehindIsNotListed)
 TEST_F(PollStory, aProcessWithoutAPidIsNeverListed)
 {
     world.launchApp("Player");
-    auto& audio = world.audioSystem();
+    auto& audio = world.audioWorld();
     audio.startPlaying(audio.openAudio(0, "com.example.player"), SimulatedSignal::constant(source));
-    world.refuse({AudioOperation::readProperty, kAudioProcessPropertyPID}, HowOften::always);
-    audio.startPlaying(audio.openAudio(1500, "com.example.player"), SimulatedSignal::constant(source));
+    audio.startPlaying(audio.openAudio(-1, "com.example.player"), SimulatedSignal::constant(source));
     world.runPosted();
 
     EXPECT_EQ(mixer(), "");
@@ -207,28 +206,15 @@ TEST_F(PollStory, theMicrophoneIsReadOnlyWhileCallsAreLookedFor)
     auto changed = settings();
     changed.focus.enabled = false;
     controller->setSettings(changed);
-    world.audio().clearReadCounts();
     controller->poll();
 
-    EXPECT_EQ(world.audio().readCount(kAudioProcessPropertyIsRunningInput), 0);
+    EXPECT_FALSE(world.audio().wasMicRead());
     EXPECT_FALSE(state().apps->front().isUsingMic);
 }
 
-TEST_F(PollStory, eachProcessIsListenedToWhileItIsThere)
+TEST_F(PollStory, whatIsNotAnnouncedIsSeenByTheTimer)
 {
-    const auto before = world.audio().listenerCount();
-
-    const auto player = launchPlaying("Player");
-    EXPECT_EQ(world.audio().listenerCount(), before + 2);
-
-    world.quitApp(player);
-    world.runPosted();
-    EXPECT_EQ(world.audio().listenerCount(), before);
-}
-
-TEST_F(PollStory, aProcessThatCannotBeListenedToIsSeenByTheTimer)
-{
-    world.refuse(AudioOperation::listen, HowOften::always);
+    world.audioWorld().processesChanged.silence();
     const auto player = world.launchApp("Player");
     world.openAudio(player);
     world.advance(5s);

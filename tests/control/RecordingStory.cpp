@@ -279,7 +279,7 @@ TEST_F(RecordingStory, endsWhenItsTapCannotBeMadeAgain)
 {
     launchPlaying("Player");
     record(player);
-    world.refuse(AudioOperation::createProcessTap, HowOften::always, -50);
+    world.refuse(AudioOperation::createTap, HowOften::always, -50);
 
     chooseOutput(player, "headphones");
 

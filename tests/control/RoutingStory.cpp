@@ -178,19 +178,19 @@ TEST_F(RoutingStory, theSystemsDefaultOutputCanBeSet)
 TEST_F(RoutingStory, aDefaultOutputThatCannotBeSetIsToldToTheUser)
 {
     launchPlaying("Player");
-    world.refuse(AudioOperation::writeProperty, HowOften::once);
-    world.audio().clearReadCounts();
+    world.refuse(AudioOperation::setDefaultOutput, HowOften::once);
+    world.audio().clearCallCounts();
 
     EXPECT_FALSE(controller->setSystemOutput(state().devices->at(1)));
 
     EXPECT_EQ(*state().errorMessage, "Could not switch output to Headphones.");
     EXPECT_EQ(*state().defaultDeviceUID, "speakers");
-    EXPECT_EQ(world.audio().readCount(kAudioHardwarePropertyProcessObjectList), 1);
+    EXPECT_EQ(world.audio().callCount(AudioOperation::processes), 1);
 }
 
 TEST_F(RoutingStory, theMessageStaysUntilItIsDismissed)
 {
-    world.refuse(AudioOperation::writeProperty, HowOften::once);
+    world.refuse(AudioOperation::setDefaultOutput, HowOften::once);
     controller->setSystemOutput(state().devices->at(1));
     world.advance(1min);
     EXPECT_NE(*state().errorMessage, std::nullopt);

@@ -68,7 +68,7 @@ TEST_F(ShutdownStory, takesTheTapsDownBeforeItClosesTheFiles)
     launchPlaying("Player");
     controller->startRecording(player);
     long tapsDown = 0;
-    world.audioFiles().whenDisposed([&] { tapsDown = callCount(AudioOperation::destroyProcessTap); });
+    world.audioFiles().whenDisposed([&] { tapsDown = callCount(AudioOperation::destroyTap); });
 
     controller->shutdown();
 

@@ -10,7 +10,7 @@ protected:
     TapStory() { start(); }
 
     // A tap that cannot be made, for whichever reason the audio system has.
-    void refuseTaps() { world.refuse(AudioOperation::createProcessTap, HowOften::always, -50); }
+    void refuseTaps() { world.refuse(AudioOperation::createTap, HowOften::always, -50); }
 
     const std::string player = "com.example.player";
 };
@@ -30,7 +30,7 @@ TEST_F(TapStory, aPlayingAppIsTappedAtOnce)
 TEST_F(TapStory, theBlockIsFilledBeforeAnyAudioFlows)
 {
     change(player, [](auto& app) { app.volume = 0.5F; });
-    world.refuse(AudioOperation::start, HowOften::once);
+    world.refuse(AudioOperation::createTap, HowOften::once);
 
     launchPlaying("Player");
 
@@ -66,14 +66,14 @@ TEST_F(TapStory, aNewProcessJoinsTheTapWithoutAGap)
 TEST_F(TapStory, aTapThatCannotBeAdaptedIsMadeAnew)
 {
     const auto pid = launchPlaying("Player");
-    world.refuse(AudioOperation::describeProcessTap, HowOften::once);
+    world.refuse(AudioOperation::setTapProcesses, HowOften::once);
 
     world.openAudio(pid);
     world.runPosted();
 
     EXPECT_EQ(tapOf(player)->processIDs().size(), 2);
     EXPECT_EQ(tapAttempts(), 2);
-    EXPECT_EQ(callCount(AudioOperation::destroyProcessTap), 1);
+    EXPECT_EQ(callCount(AudioOperation::destroyTap), 1);
 }
 
 TEST_F(TapStory, aNewRateOfTheOutputMakesTheTapAnew)
@@ -103,7 +103,7 @@ TEST_F(TapStory, aRateThatCannotBeReadLeavesTheTapAlone)
 {
     launchPlaying("Player");
     const auto* const tap = tapOf(player);
-    world.refuse({AudioOperation::readProperty, kAudioDevicePropertyNominalSampleRate}, HowOften::always);
+    world.refuse(AudioOperation::sampleRate, HowOften::always);
 
     world.advance(10s);
 
@@ -130,7 +130,7 @@ TEST_F(TapStory, aFailedTapIsNotTriedAgainForTheSameProcessesAndOutput)
     world.openAudio(pid);
     world.runPosted();
     ASSERT_EQ(tapAttempts(), 2);
-    world.allow(AudioOperation::createProcessTap);
+    world.allow(AudioOperation::createTap);
 
     world.advance(1min);
     EXPECT_EQ(tapAttempts(), 2);
@@ -146,7 +146,7 @@ TEST_F(TapStory, anotherOutputGivesAFailedTapAnotherChance)
 {
     refuseTaps();
     launchPlaying("Player");
-    world.allow(AudioOperation::createProcessTap);
+    world.allow(AudioOperation::createTap);
 
     chooseOutput(player, "headphones");
 
@@ -158,7 +158,7 @@ TEST_F(TapStory, choosingTheOutputThatTheAppHasAnywayGivesAFailedTapAnotherChanc
 {
     refuseTaps();
     launchPlaying("Player");
-    world.allow(AudioOperation::createProcessTap);
+    world.allow(AudioOperation::createTap);
 
     chooseOutput(player, "speakers");
 
@@ -169,13 +169,13 @@ TEST_F(TapStory, aTapThatWasMadeForgetsTheFailureBefore)
 {
     refuseTaps();
     const auto pid = launchPlaying("Player");
-    world.allow(AudioOperation::createProcessTap);
+    world.allow(AudioOperation::createTap);
     const auto helper = world.launchHelper(pid, "com.example.player.helper");
     world.openAudio(helper);
     world.runPosted();
     ASSERT_NE(tapOf(player), nullptr);
 
-    world.refuse(AudioOperation::describeProcessTap, HowOften::once);
+    world.refuse(AudioOperation::setTapProcesses, HowOften::once);
     world.quitApp(helper);  // The same processes as when it failed.
     world.runPosted();
 
@@ -201,7 +201,7 @@ TEST_F(TapStory, anAppThatComesBackAfterAFailureIsTriedAgain)
     refuseTaps();
     world.quitApp(launchPlaying("Player"));
     world.runPosted();
-    world.allow(AudioOperation::createProcessTap);
+    world.allow(AudioOperation::createTap);
 
     launchPlaying("Player");
 

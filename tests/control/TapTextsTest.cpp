@@ -10,8 +10,8 @@ namespace {
 
 TEST(FailureKey, namesTheProcessesAndTheOutput)
 {
-    EXPECT_EQ(failureKey(std::array<AudioObjectID, 2>{412, 415}, "speakers"), "[412, 415]|speakers");
-    EXPECT_EQ(failureKey(std::array<AudioObjectID, 1>{9}, ""), "[9]|");
+    EXPECT_EQ(failureKey(std::array<AudioProcessID, 2>{412, 415}, "speakers"), "[412, 415]|speakers");
+    EXPECT_EQ(failureKey(std::array<AudioProcessID, 1>{9}, ""), "[9]|");
     EXPECT_EQ(failureKey({}, "speakers"), "[]|speakers");
 }
 

@@ -7,43 +7,38 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <set>
 
 namespace fadeloom {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using enum AudioOperation;
 
 class AppTapTest : public testing::Test {
 protected:
     AppTapTest()
     {
-        speakers = world.plug({.uid = "speakers", .name = "Speakers"});
+        speakers = plug({.uid = "speakers", .name = "Speakers"});
         music = world.launchApp("Music");
         world.startPlaying(music, SimulatedSignal::constant(0.5F));
-        process = world.audioSystem().audioObjectOf(music);
+        process = world.audioWorld().audioProcessOf(music);
     }
 
-    std::expected<std::unique_ptr<AppTap>, TapError> createOn(const std::string& uid, AudioObjectID device)
+    OutputDevice plug(const SimulatedDeviceTraits& traits)
     {
-        return AppTap::create(world.audio(), {process}, uid, device, parameters, "Music");
+        return {.id = world.plug(traits), .uid = traits.uid, .name = traits.name};
     }
-    std::expected<std::unique_ptr<AppTap>, TapError> create() { return createOn("speakers", speakers); }
-
-    void expectNothingOfOursIsLeft()
+    std::expected<std::unique_ptr<AppTap>, TapError> createOn(const OutputDevice& device)
     {
-        EXPECT_THAT(world.audioSystem().objects().taps, IsEmpty());
-        for (const auto& [id, device] : world.audioSystem().objects().devices)
-            EXPECT_FALSE(device.aggregate) << id;
+        return AppTap::create(world.audio(), {process}, device, parameters, "Music");
     }
+    std::expected<std::unique_ptr<AppTap>, TapError> create() { return createOn(speakers); }
 
     SimulatedPlatform world{testing::TempDir()};
     std::shared_ptr<TapParameters> parameters = std::make_shared<TapParameters>();
-    AudioObjectID speakers = kAudioObjectUnknown;
+    OutputDevice speakers;
     ProcessID music = -1;
-    AudioObjectID process = kAudioObjectUnknown;
+    AudioProcessID process = 0;
 };
 
 TEST_F(AppTapTest, playsTheAppThroughItsRenderer)
@@ -68,92 +63,63 @@ TEST_F(AppTapTest, knowsWhatItWasMadeOf)
 
     EXPECT_THAT((*tap)->processIDs(), ElementsAre(process));
     EXPECT_EQ((*tap)->outputUID(), "speakers");
-    EXPECT_EQ((*tap)->outputID(), speakers);
+    EXPECT_EQ((*tap)->outputID(), speakers.id);
     EXPECT_EQ((*tap)->sampleRate(), 96000);
     EXPECT_EQ((*tap)->disabledInputs(), 0);
 }
 
-TEST_F(AppTapTest, describesItsTap)
+TEST_F(AppTapTest, knowsHowManyInputsOfItsDeviceAreSwitchedOff)
+{
+    const auto tap = createOn(plug({.uid = "headset", .name = "Headset", .inputStreams = 2}));
+    ASSERT_TRUE(tap);
+
+    EXPECT_EQ((*tap)->disabledInputs(), 2);
+}
+
+TEST_F(AppTapTest, asksForItsProcessesOnItsDeviceUnderTheAppsName)
 {
     const auto tap = create();
     ASSERT_TRUE(tap);
 
-    const auto& description = world.audio().tapDescriptions().back();
+    const auto& request = world.audio().tapRequests().back();
 
-    EXPECT_THAT(description.processes, ElementsAre(process));
-    EXPECT_EQ(description.name, "Fadeloom Music");
-    EXPECT_TRUE(description.isPrivate);
-    EXPECT_EQ(description.muteBehavior, TapMuteBehavior::mutedWhenTapped);
-    EXPECT_EQ(description.uuid.size(), 36U);
+    EXPECT_THAT(request.processes, ElementsAre(process));
+    EXPECT_EQ(request.output, speakers);
+    EXPECT_EQ(request.name, "Music");
 }
 
-TEST_F(AppTapTest, describesItsAggregateDevice)
-{
-    const auto tap = create();
-    ASSERT_TRUE(tap);
-
-    const auto& description = world.audio().aggregateDescriptions().back();
-
-    EXPECT_EQ(description.name, "Fadeloom Music");
-    EXPECT_THAT(description.uid, testing::MatchesRegex("com\\.fadeloom\\.tap\\.[0-9A-F-]{36}"));
-    EXPECT_EQ(description.master, "speakers");
-    EXPECT_TRUE(description.isPrivate);
-    EXPECT_FALSE(description.isStacked);
-    EXPECT_TRUE(description.tapAutoStart);
-    EXPECT_THAT(description.subDevices, ElementsAre("speakers"));
-    ASSERT_EQ(description.taps.size(), 1U);
-    EXPECT_EQ(description.taps[0].uid, world.audio().tapDescriptions().back().uuid);
-    EXPECT_TRUE(description.taps[0].drift);
-}
-
-TEST_F(AppTapTest, namesItsObjectsAnewEveryTime)
-{
-    std::set<std::string> names;
-    for (int i = 0; i < 3; ++i)
-        ASSERT_TRUE(create());
-
-    for (const auto& description : world.audio().aggregateDescriptions())
-        names.insert(description.uid);
-    for (const auto& description : world.audio().tapDescriptions())
-        names.insert(description.uuid);
-    EXPECT_EQ(names.size(), 6U);
-}
-
-TEST_F(AppTapTest, isTakenDownInTheOppositeOrder)
+TEST_F(AppTapTest, leavesNothingWhenItEnds)
 {
     auto tap = create();
     ASSERT_TRUE(tap);
 
     tap->reset();
+    world.runCycle(64);
 
-    EXPECT_THAT(world.audio().operations(),
-        ElementsAre(createProcessTap, createAggregateDevice, createIOProc, start, stop, destroyIOProc,
-            destroyAggregateDevice, destroyProcessTap));
-    expectNothingOfOursIsLeft();
+    EXPECT_THAT(world.audioWorld().state().taps, IsEmpty());
+    EXPECT_EQ(world.heard("speakers").peak(1), 0.5F) << "the app is heard as without us";
 }
 
-TEST_F(AppTapTest, tearingDownTwiceDoesNothingTheSecondTime)
+TEST_F(AppTapTest, refusalIsHandedOnAndLeavesNothing)
 {
+    world.refuse(AudioOperation::createTap, HowOften::once, -50);
+
     const auto tap = create();
-    ASSERT_TRUE(tap);
-    (*tap)->teardown();
-    world.audio().clearJournal();
+    world.runCycle(64);
 
-    (*tap)->teardown();
-
-    EXPECT_THAT(world.audio().operations(), IsEmpty());
+    ASSERT_FALSE(tap);
+    EXPECT_EQ(tap.error(), (TapError{.step = "Create process tap", .status = -50}));
+    EXPECT_EQ(world.heard("speakers").peak(1), 0.5F) << "the app is heard as without us";
 }
 
-TEST_F(AppTapTest, refusedTeardownGoesOnToTheEnd)
+TEST_F(AppTapTest, deviceThatIsGoneIsRefused)
 {
+    world.unplug("speakers");
+
     const auto tap = create();
-    ASSERT_TRUE(tap);
-    world.refuse(stop, HowOften::always);
-    world.refuse(destroyIOProc, HowOften::always);
 
-    (*tap)->teardown();
-
-    expectNothingOfOursIsLeft();
+    ASSERT_FALSE(tap);
+    EXPECT_THAT(world.audioWorld().state().taps, IsEmpty());
 }
 
 TEST_F(AppTapTest, followsAnotherListOfProcesses)
@@ -165,22 +131,21 @@ TEST_F(AppTapTest, followsAnotherListOfProcesses)
     EXPECT_TRUE((*tap)->update({process, second}));
 
     EXPECT_THAT((*tap)->processIDs(), ElementsAre(process, second));
-    const auto& descriptions = world.audio().tapDescriptions();
-    EXPECT_THAT(descriptions.back().processes, ElementsAre(process, second));
-    EXPECT_EQ(descriptions.back().uuid, descriptions.front().uuid);
+    EXPECT_THAT(world.audioWorld().state().taps.begin()->second.processes, ElementsAre(process, second));
 }
 
 TEST_F(AppTapTest, refusedUpdateLeavesTheOldProcesses)
 {
     const auto tap = create();
     ASSERT_TRUE(tap);
-    world.refuse(describeProcessTap, HowOften::once);
+    const auto second = world.openAudio(music);
+    world.refuse(AudioOperation::setTapProcesses, HowOften::once);
 
-    EXPECT_FALSE((*tap)->update({process + 1}));
+    EXPECT_FALSE((*tap)->update({second}));
     EXPECT_THAT((*tap)->processIDs(), ElementsAre(process));
 
-    EXPECT_TRUE((*tap)->update({process}));
-    EXPECT_THAT(world.audio().tapDescriptions().back().processes, ElementsAre(process));
+    EXPECT_TRUE((*tap)->update({second}));
+    EXPECT_THAT((*tap)->processIDs(), ElementsAre(second));
 }
 
 TEST_F(AppTapTest, rebuiltTapGoesOnWithTheSameParameters)
@@ -198,9 +163,10 @@ TEST_F(AppTapTest, rebuiltTapGoesOnWithTheSameParameters)
 
 TEST_F(AppTapTest, playsOnTheStereoPairThatTheDevicePrefers)
 {
-    const auto interface =
-        world.plug({.uid = "interface", .name = "Interface", .outputStreams = {4}, .stereoPair = {{3, 4}}});
-    const auto tap = createOn("interface", interface);
+    const auto tap = createOn(plug({.uid = "interface",
+        .name = "Interface",
+        .outputStreams = {4},
+        .stereoPair = {.left = 3, .right = 4}}));
     ASSERT_TRUE(tap);
 
     world.runCycle(64);
@@ -211,33 +177,14 @@ TEST_F(AppTapTest, playsOnTheStereoPairThatTheDevicePrefers)
     EXPECT_EQ(world.heard("interface").peak(4), 0.5F);
 }
 
-TEST_F(AppTapTest, readsATapThatIsNotInterleaved)
+TEST(TapError, describesItselfByItsStatusOrItsReason)
 {
-    auto format = world.audioSystem().tapFormat();
-    format.formatFlags |= kAudioFormatFlagIsNonInterleaved;
-    world.audioSystem().setTapFormat(format);
-    world.startPlaying(music, SimulatedSignal::constant(0.5F, 0.25F));
-    const auto tap = create();
-    ASSERT_TRUE(tap);
-
-    world.runCycle(64);
-
-    EXPECT_EQ(world.heard("speakers").peak(1), 0.5F);
-    EXPECT_EQ(world.heard("speakers").peak(2), 0.25F);
-}
-
-TEST_F(AppTapTest, usesTheTapsRateWhenTheAggregateTellsNone)
-{
-    auto format = world.audioSystem().tapFormat();
-    format.sampleRate = 22050;
-    world.audioSystem().setTapFormat(format);
-    world.refuse(
-        {.operation = readProperty, .selector = kAudioDevicePropertyNominalSampleRate}, HowOften::once);
-
-    const auto tap = create();
-
-    ASSERT_TRUE(tap);
-    EXPECT_EQ((*tap)->sampleRate(), 22050);
+    EXPECT_EQ((TapError{.step = "Create aggregate device", .status = -50}.description()),
+        "Create aggregate device failed (OSStatus -50)");
+    EXPECT_EQ((TapError{.step = "Unsupported tap format"}.description()),
+        "Unsupported tap format failed (OSStatus 0)");
+    EXPECT_EQ((TapError{.step = "Start device", .reason = "the device is gone"}.description()),
+        "Start device failed: the device is gone");
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 // The buffers of one direction of an IO cycle, with the memory behind them.
 #pragma once
 
-#include "platform/AudioStream.h"
+#include "platform/AudioBuffers.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -18,16 +18,13 @@ namespace {
 using testing::Each;
 using testing::ElementsAre;
 
-constexpr RenderLayout interleaved{};
-constexpr RenderLayout planar{.tapBufferCount = 2, .isTapInterleaved = false};
+constexpr TapFormat interleaved{};
+constexpr TapFormat planar{.tapBufferCount = 2, .isTapInterleaved = false};
 constexpr float stale = 9;  // What an output buffer holds before it is written.
 
 class RendererLayoutTest : public testing::Test {
 protected:
-    void render(const RenderLayout& layout)
-    {
-        Renderer(parameters, layout).render(input.view(), output.view());
-    }
+    void render(const TapFormat& layout) { Renderer(parameters, layout).render(input.view(), output.view()); }
 
     std::shared_ptr<TapParameters> parameters = std::make_shared<TapParameters>();
     CycleBuffers input;

@@ -52,7 +52,7 @@ public:
     {
         changeSettings();
         const auto& layout = scene.layout;
-        const RenderLayout rendererLayout{
+        const TapFormat rendererLayout{
             .sampleRate = layout.sampleRate,
             .output = {static_cast<std::uint32_t>(layout.leftChannel),
                 static_cast<std::uint32_t>(layout.rightChannel)},

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Each step of building a tap can be refused: what was built is undone, no more and no less, and the step is told.
+// Each step of building a tap can be refused: what was built is undone, no more and no less, and the step is named.
 #include "tests/macos/AppTapStage.h"
 
 namespace fadeloom {
@@ -7,7 +7,7 @@ namespace {
 
 struct Refusal {
     std::string call;
-    AudioStatus status;
+    OSStatus status;
     TapError error;
     std::vector<std::string> undone;
 };
@@ -30,28 +30,59 @@ TEST_P(MacOSAppTapFailure, undoesWhatWasBuilt)
 
 INSTANTIATE_TEST_SUITE_P(EachStep, MacOSAppTapFailure,
     ::testing::Values(Refusal{"create tap on system", -50, {"Create process tap", -50}, {}},
-        Refusal{"get tfmt of tap", statusCode("!obj"), {"Unsupported tap format", 0}, {"destroy tap"}},
-        Refusal{"create aggregate on system", statusCode("nope"),
-            {"Create aggregate device", statusCode("nope")}, {"destroy tap"}},
-        Refusal{"create proc on aggregate", statusCode("!obj"), {"Create IOProc", statusCode("!obj")},
-            {"destroy aggregate", "destroy tap"}},
-        Refusal{"start aggregate", statusCode("what"), {"Start device", statusCode("what")},
+        Refusal{"get tfmt of tap", OSStatus{kAudioHardwareBadObjectError}, {"Unsupported tap format", 0},
+            {"destroy tap"}},
+        Refusal{"create aggregate on system", OSStatus{kAudioHardwareIllegalOperationError},
+            {"Create aggregate device", OSStatus{kAudioHardwareIllegalOperationError}}, {"destroy tap"}},
+        Refusal{"create proc on aggregate", OSStatus{kAudioHardwareBadObjectError},
+            {"Create IOProc", OSStatus{kAudioHardwareBadObjectError}}, {"destroy aggregate", "destroy tap"}},
+        Refusal{"start aggregate", OSStatus{kAudioHardwareUnspecifiedError},
+            {"Start device", OSStatus{kAudioHardwareUnspecifiedError}},
             {"stop aggregate", "destroy proc of aggregate", "destroy aggregate", "destroy tap"}}));
 
 class MacOSTapFormat : public AppTapStage { };
 
-TEST_F(MacOSTapFormat, ofIntegersIsRefused)
+TEST_F(MacOSTapFormat, withOtherSamplesIsRefused)
 {
-    world.tapFormat.mFormatFlags = kAudioFormatFlagIsSignedInteger | kAudioFormatFlagIsPacked;
-    world.tapFormat.mBitsPerChannel = 16;
+    const auto good = world.tapFormat;
+    auto integers = good;
+    integers.mFormatFlags = kAudioFormatFlagIsSignedInteger | kAudioFormatFlagIsPacked;
+    integers.mBitsPerChannel = 16;
+    auto wholeNumbers = good;
+    wholeNumbers.mFormatFlags &= ~UInt32{kAudioFormatFlagIsFloat};
+    auto doubles = good;
+    doubles.mBitsPerChannel = 64;
+
+    for (const auto& format : {integers, wholeNumbers, doubles}) {
+        world.tapFormat = format;
+        const auto tap = create();
+
+        ASSERT_FALSE(tap);
+        EXPECT_EQ(tap.error(), (TapError{"Unsupported tap format", OSStatus{kAudioFormatLinearPCM}}));
+    }
+}
+
+TEST_F(MacOSTapFormat, thatIsNotLinearIsRefusedWithItsCode)
+{
+    world.tapFormat.mFormatID = 'aac ';
 
     const auto tap = create();
 
     ASSERT_FALSE(tap);
-    EXPECT_EQ(tap.error(), (TapError{"Unsupported tap format", statusCode("lpcm")}));
+    EXPECT_EQ(tap.error(), (TapError{"Unsupported tap format", OSStatus{'aac '}}));
 }
 
-TEST_F(MacOSTapFormat, countsWhenTheAggregateTellsNoRate)
+TEST_F(MacOSTapFormat, ofADeviceThatIsGoneIsNotAskedFor)
+{
+    world.unplug("speakers");
+
+    const auto tap = create();
+
+    ASSERT_FALSE(tap);
+    EXPECT_EQ(tap.error().step, "Create aggregate device");
+}
+
+TEST_F(MacOSTapFormat, countsWhenTheAggregateHasNoRate)
 {
     world.tapFormat.mSampleRate = 44100;
     world.failNext("get nsrt of aggregate", kAudioHardwareUnknownPropertyError);

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "engine/AppTap.h"
-#include "platform/macos/CoreAudioHardware.h"
+#include "platform/macos/CoreAudioSystem.h"
 #include "tests/macos/doubles/AudioWorld.h"
 #include "tests/macos/doubles/Dispatch.h"
 
@@ -37,7 +37,8 @@ protected:
     auto create() { return createOn("speakers", speakers); }
     std::expected<std::unique_ptr<AppTap>, TapError> createOn(const std::string& uid, AudioObjectID device)
     {
-        return AppTap::create(hardware, {player}, uid, device, parameters, "Music");
+        return AppTap::create(
+            audio, {player}, {.id = device, .uid = uid, .name = "A device"}, parameters, "Music");
     }
     /// What was asked since this was asked last.
     static Lines asked() { return std::exchange(doubles::journal(), {}); }
@@ -46,7 +47,7 @@ protected:
     const doubles::Proc& onlyProc() { return onlyAggregate().procs.begin()->second; }
 
     doubles::AudioWorld& world = doubles::AudioWorld::current();
-    CoreAudioHardware hardware;
+    CoreAudioSystem audio;
     std::shared_ptr<TapParameters> parameters = std::make_shared<TapParameters>();
     AudioObjectID speakers = kAudioObjectUnknown;
     AudioObjectID player = kAudioObjectUnknown;

@@ -2,6 +2,8 @@
 // What the engine's tap asks of CoreAudio, in which order, and in which words.
 #include "tests/macos/AppTapStage.h"
 
+#include <set>
+
 namespace fadeloom {
 namespace {
 
@@ -32,17 +34,41 @@ TEST_F(MacOSAppTap, isBuiltInThisOrder)
     EXPECT_EQ(asked(), steps);
 }
 
-TEST_F(MacOSAppTap, isTakenDownInTheOppositeOrderOnce)
+TEST_F(MacOSAppTap, isTakenDownInTheOppositeOrder)
 {
-    const auto tap = create();
+    auto tap = create();
     ASSERT_TRUE(tap);
     asked();
 
-    (*tap)->teardown();
-    EXPECT_EQ(asked(), undoneAll);
-    (*tap)->teardown();
+    tap->reset();
 
-    EXPECT_THAT(asked(), IsEmpty());
+    EXPECT_EQ(asked(), undoneAll);
+}
+
+TEST_F(MacOSAppTap, refusedTeardownGoesOnToTheEnd)
+{
+    auto tap = create();
+    ASSERT_TRUE(tap);
+    asked();
+    world.failNext("stop aggregate", kAudioHardwareUnspecifiedError);
+    world.failNext("destroy proc of aggregate", kAudioHardwareUnspecifiedError);
+
+    tap->reset();
+
+    EXPECT_EQ(asked(), undoneAll);
+}
+
+TEST_F(MacOSAppTap, givesItsObjectsNewNamesEveryTime)
+{
+    std::set<std::string> names;
+    for (int i = 0; i < 3; ++i) {
+        const auto tap = create();
+        ASSERT_TRUE(tap);
+        names.insert(onlyTap().uuid);
+        names.insert(onlyAggregate().uid);
+    }
+
+    EXPECT_EQ(names.size(), 6U);
 }
 
 TEST_F(MacOSAppTap, describesItsTap)
@@ -139,7 +165,7 @@ TEST_F(MacOSAppTap, playsWithTheMicrophoneWhenThatCannotBeSwitchedOff)
     }
 }
 
-TEST_F(MacOSAppTap, followsANewListOfProcessesWithoutBeingBuiltAnew)
+TEST_F(MacOSAppTap, followsANewListOfProcessesWithoutBeingRebuilt)
 {
     const auto other = world.addProcess({.pid = 502, .isRunningOutput = true, .amplitude = 0.25F});
     const auto tap = create();

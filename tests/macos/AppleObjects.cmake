@@ -23,7 +23,7 @@ function(globSources result)
 endfunction()
 # What differs between processors for both, the rest of the program's core for one.
 globSources(sources_x86_64 platform/macos/*.cpp platform/macos/*.mm engine/*.cpp app/macos/SystemPlatform.cpp)
-globSources(core platform/*.cpp hal/*.cpp settings/*.cpp log/*.cpp control/*.cpp)
+globSources(core base/*.cpp platform/*.cpp settings/*.cpp log/*.cpp control/*.cpp)
 set(sources_arm64 ${sources_x86_64} ${core})
 
 set(objects)

@@ -1,15 +1,20 @@
 // SPDX-License-Identifier: MIT
 // Devices, processes and listeners as the rest of the program reads them.
-#include "hal/AudioProcesses.h"
-#include "hal/HAL.h"
-#include "hal/OutputDevices.h"
-#include "platform/macos/CoreAudioHardware.h"
+#include "platform/macos/CoreAudioSystem.h"
+#include "platform/macos/HAL.h"
+#include "platform/macos/OutputDevices.h"
+#include "platform/macos/PropertyListener.h"
 #include "tests/macos/doubles/AudioWorld.h"
 #include "tests/macos/doubles/Dispatch.h"
 #include "tests/macos/doubles/Runtime.h"
+#include "tests/platform/ContractTap.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <utility>
 
 namespace fadeloom {
 namespace {
@@ -26,7 +31,7 @@ protected:
     ~MacOSAudioSystem() override { world.reset(); }
 
     doubles::AudioWorld& world = doubles::AudioWorld::current();
-    CoreAudioHardware hardware;
+    CoreAudioSystem audio;
 };
 
 TEST_F(MacOSAudioSystem, offersDevicesWithOutputUniqueIdAndName)
@@ -35,33 +40,30 @@ TEST_F(MacOSAudioSystem, offersDevicesWithOutputUniqueIdAndName)
     world.plug({.uid = "microphone", .inputs = {1}, .outputs = {}});
     world.plug({.uid = "nameless", .name = std::nullopt});
 
-    EXPECT_THAT(OutputDevices::all(hardware),
-        ElementsAre(OutputDevice{speakers, "speakers", "Lautsprecher für den Tisch"}));
+    EXPECT_THAT(
+        audio.outputDevices(), ElementsAre(OutputDevice{speakers, "speakers", "Lautsprecher für den Tisch"}));
 }
 
 TEST_F(MacOSAudioSystem, neverOffersItsOwnAggregateDevices)
 {
-    world.plug({.uid = "speakers"});
-    const auto ours = hardware.createAggregateDevice({.name = "Fadeloom Music",
-        .uid = "com.fadeloom.tap.1",
-        .master = "speakers",
-        .subDevices = {"speakers"},
-        .taps = {}});
-    ASSERT_TRUE(ours);
+    const auto speakers = world.plug({.uid = "speakers"});
+    const ContractTap tap(audio, {}, {.id = speakers, .uid = "speakers", .name = "A device"});
+    ASSERT_TRUE(tap.isRunning());
 
-    EXPECT_THAT(HAL::getArray(hardware, kAudioObjectSystemObject, kAudioHardwarePropertyDevices,
-                    kAudioObjectPropertyScopeGlobal),
-        ::testing::Contains(*ours));
-    EXPECT_EQ(OutputDevices::all(hardware).size(), 1U);
+    EXPECT_EQ(HAL::getArray(
+                  kAudioObjectSystemObject, kAudioHardwarePropertyDevices, kAudioObjectPropertyScopeGlobal)
+                  .size(),
+        2U);
+    EXPECT_EQ(audio.outputDevices().size(), 1U);
 }
 
 TEST_F(MacOSAudioSystem, hasNoDefaultOutputWithoutADevice)
 {
-    EXPECT_EQ(OutputDevices::defaultOutputUID(hardware), std::nullopt);
+    EXPECT_EQ(audio.defaultOutput(), std::nullopt);
 
     world.plug({.uid = "speakers"});
 
-    EXPECT_EQ(OutputDevices::defaultOutputUID(hardware), "speakers");
+    EXPECT_EQ(audio.defaultOutput(), "speakers");
 }
 
 TEST_F(MacOSAudioSystem, placesStereoWhereTheDeviceWantsIt)
@@ -69,22 +71,21 @@ TEST_F(MacOSAudioSystem, placesStereoWhereTheDeviceWantsIt)
     const auto interface = world.plug({.uid = "interface", .stereoPair = {3, 4}});
     const auto odd = world.plug({.uid = "odd", .stereoPair = {0, 0}});
 
-    EXPECT_EQ(OutputDevices::stereoChannels(hardware, interface), (StereoChannels{3, 4}));
-    EXPECT_EQ(OutputDevices::stereoChannels(hardware, odd), (StereoChannels{1, 2}));
+    EXPECT_EQ(OutputDevices::stereoChannels(interface), (StereoChannels{3, 4}));
+    EXPECT_EQ(OutputDevices::stereoChannels(odd), (StereoChannels{1, 2}));
     world.failNext("get dch2 outp of device", kAudioHardwareUnspecifiedError);
-    EXPECT_EQ(OutputDevices::stereoChannels(hardware, interface), (StereoChannels{1, 2}));
+    EXPECT_EQ(OutputDevices::stereoChannels(interface), (StereoChannels{1, 2}));
 }
 
 TEST_F(MacOSAudioSystem, readsAProcessOnceAndWhatItDoesEveryTime)
 {
     const auto process = world.addProcess(
         {.pid = 501, .bundleID = "com.example.player", .isRunningOutput = true, .isRunningInput = true});
-    AudioProcesses processes(hardware);
 
-    EXPECT_THAT(processes.all(ReadMic::yes),
+    EXPECT_THAT(audio.processes(ReadMic::yes),
         ElementsAre(AudioProcess{process, 501, "com.example.player", true, true}));
     journal().clear();
-    EXPECT_THAT(processes.all(ReadMic::no),
+    EXPECT_THAT(audio.processes(ReadMic::no),
         ElementsAre(AudioProcess{process, 501, "com.example.player", true, false}));
 
     EXPECT_THAT(journal(), ElementsAre("size prs# of system", "get prs# of system", "get piro of process"));
@@ -95,8 +96,7 @@ TEST_F(MacOSAudioSystem, readsAProcessWithoutPidOrBundle)
     const auto process = world.addProcess({.pid = 501, .bundleID = std::nullopt});
     world.failNext("get ppid of process", kAudioHardwareUnspecifiedError);
 
-    EXPECT_THAT(
-        AudioProcesses(hardware).all(ReadMic::no), ElementsAre(AudioProcess{process, -1, "", false, false}));
+    EXPECT_THAT(audio.processes(ReadMic::no), ElementsAre(AudioProcess{process, -1, "", false, false}));
 }
 
 TEST_F(MacOSAudioSystem, readsAListAgainThatGrewWhileItWasRead)
@@ -104,7 +104,7 @@ TEST_F(MacOSAudioSystem, readsAListAgainThatGrewWhileItWasRead)
     world.plug({.uid = "speakers"});
     world.failNext("get dev# of system", kAudioHardwareBadPropertySizeError);
 
-    EXPECT_EQ(OutputDevices::all(hardware).size(), 1U);
+    EXPECT_EQ(audio.outputDevices().size(), 1U);
 }
 
 TEST_F(MacOSAudioSystem, releasesEachTextThatItReads)
@@ -114,7 +114,7 @@ TEST_F(MacOSAudioSystem, releasesEachTextThatItReads)
 
     {
         const doubles::AutoreleasePool pool;
-        EXPECT_EQ(HAL::string(hardware, speakers, kAudioObjectPropertyName), "Speakers");
+        EXPECT_EQ(HAL::string(speakers, kAudioObjectPropertyName), "Speakers");
     }
 
     EXPECT_EQ(liveObjects(), before);
@@ -124,36 +124,32 @@ TEST_F(MacOSAudioSystem, readsNoTextFromANumber)
 {
     const auto speakers = world.addProcess({.pid = 501});
 
-    EXPECT_EQ(HAL::string(hardware, speakers, kAudioProcessPropertyPID), std::nullopt);
+    EXPECT_EQ(HAL::string(speakers, kAudioProcessPropertyPID), std::nullopt);
 }
 
-TEST_F(MacOSAudioSystem, tellsAChangeOnTheMainQueueAndTakesTheSameListenerBack)
+TEST_F(MacOSAudioSystem, announcesAChangeOnTheMainQueueAndTakesTheSameListenerBack)
 {
     int calls = 0;
-    auto subscription =
-        hardware.listen(kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}, [&] { ++calls; });
-    ASSERT_TRUE(subscription);
+    auto subscription = audio.whenOutputDevicesChange([&] { ++calls; });
     journal().clear();
 
     world.plug({.uid = "speakers"});
     EXPECT_EQ(calls, 0);
     runQueues();
     EXPECT_EQ(calls, 1);
-    subscription->reset();
+    subscription.reset();
 
     EXPECT_THAT(journal(), ElementsAre("forget dev# of system"));
     EXPECT_THAT(world.listeners, IsEmpty());
 }
 
-TEST_F(MacOSAudioSystem, doesNotTellWhatWasOnItsWayWhenTheListenerEnded)
+TEST_F(MacOSAudioSystem, doesNotAnnounceWhatWasOnItsWayWhenTheSubscriptionEnded)
 {
     int calls = 0;
-    auto subscription =
-        hardware.listen(kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}, [&] { ++calls; });
-    ASSERT_TRUE(subscription);
+    auto subscription = audio.whenOutputDevicesChange([&] { ++calls; });
 
     world.plug({.uid = "speakers"});
-    subscription->reset();
+    subscription.reset();
     runQueues();
 
     EXPECT_EQ(calls, 0);
@@ -164,13 +160,87 @@ TEST_F(MacOSAudioSystem, letsGoOfAListenerThatWasRefused)
     const auto held = std::make_shared<int>(1);
     world.failNext("listen to dev# of system", kAudioHardwareIllegalOperationError);
 
-    const auto subscription =
-        hardware.listen(kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}, [held] { });
+    const auto subscription = audio.whenOutputDevicesChange([held] { });
 
-    ASSERT_FALSE(subscription);
-    EXPECT_EQ(subscription.error(), kAudioHardwareIllegalOperationError);
+    EXPECT_FALSE(subscription);
     EXPECT_EQ(held.use_count(), 1);
     EXPECT_THAT(journal(), ElementsAre("listen to dev# of system"));
+}
+
+TEST_F(MacOSAudioSystem, givesTheStatusOfARefusedListener)
+{
+    world.failNext("listen to dev# of system", kAudioHardwareIllegalOperationError);
+
+    const auto listener =
+        PropertyListener::add(kAudioObjectSystemObject, HAL::address(kAudioHardwarePropertyDevices), [] { });
+
+    ASSERT_FALSE(listener);
+    EXPECT_EQ(listener.error(), OSStatus{kAudioHardwareIllegalOperationError});
+}
+
+TEST_F(MacOSAudioSystem, listensToEachProcessWhileItIsThereAndSomebodyWantsToHear)
+{
+    int calls = 0;
+    world.addProcess({.pid = 501});
+    (void)audio.processes(ReadMic::no);
+    EXPECT_THAT(world.listeners, IsEmpty());
+    auto subscription = audio.whenProcessesChange([&] { ++calls; });
+    (void)audio.processes(ReadMic::no);
+    EXPECT_EQ(world.listeners.size(), 3U) << "the list, playing, using the microphone";
+
+    world.change(501, [](doubles::Process& process) { process.isRunningOutput = true; });
+    runQueues();
+    EXPECT_EQ(calls, 1);
+    world.change(501, [](doubles::Process& process) { process.isRunningInput = true; });
+    runQueues();
+    EXPECT_EQ(calls, 2);
+    world.endProcess(501);
+    runQueues();
+    EXPECT_EQ(calls, 3);
+    (void)audio.processes(ReadMic::no);
+    EXPECT_EQ(world.listeners.size(), 1U);
+
+    world.addProcess({.pid = 502});
+    (void)audio.processes(ReadMic::no);
+    subscription.reset();
+    EXPECT_THAT(world.listeners, IsEmpty());
+}
+
+TEST_F(MacOSAudioSystem, doesNotAskAgainForAListenerThatWasRefused)
+{
+    world.addProcess({.pid = 501});
+    world.failNext("listen to piro of process", kAudioHardwareIllegalOperationError);
+    const auto subscription = audio.whenProcessesChange([] { });
+    (void)audio.processes(ReadMic::no);
+    EXPECT_EQ(world.listeners.size(), 2U);
+
+    (void)audio.processes(ReadMic::no);
+
+    EXPECT_EQ(world.listeners.size(), 2U);
+}
+
+TEST_F(MacOSAudioSystem, aSubscriptionMayOutliveIt)
+{
+    std::optional<CoreAudioSystem> system(std::in_place);
+    auto subscription = system->whenProcessesChange([] { });
+
+    system.reset();
+    subscription.reset();
+
+    EXPECT_THAT(world.listeners, IsEmpty());
+}
+
+TEST_F(MacOSAudioSystem, asksForAnotherDefaultOutput)
+{
+    world.plug({.uid = "speakers"});
+    const auto other = world.plug({.uid = "headphones"});
+
+    EXPECT_TRUE(audio.setDefaultOutput({.id = other, .uid = "headphones", .name = "A device"}));
+    world.settleProperties();
+    EXPECT_EQ(audio.defaultOutput(), "headphones");
+
+    world.failNext("set dOut of system", kAudioHardwareIllegalOperationError);
+    EXPECT_FALSE(audio.setDefaultOutput({.id = other, .uid = "headphones", .name = "A device"}));
 }
 
 }  // namespace

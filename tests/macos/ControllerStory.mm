@@ -4,7 +4,7 @@
 #include "log/EngineLog.h"
 #include "platform/HttpClient.h"
 #include "platform/macos/AppKitWorkspace.h"
-#include "platform/macos/CoreAudioHardware.h"
+#include "platform/macos/CoreAudioSystem.h"
 #include "platform/macos/DispatchQueue.h"
 #include "platform/macos/ExtendedAudioFiles.h"
 #include "platform/macos/FoundationClock.h"
@@ -102,7 +102,7 @@ protected:
     UnaskedWeb web;
     DispatchQueue utilityQueue{"com.fadeloom.settings"};
     DispatchQueue logQueue{"com.fadeloom.log"};
-    CoreAudioHardware audio;
+    CoreAudioSystem audio;
     ExtendedAudioFiles files;
     Platform platform{audio, files, workspace, permission, loginItem, mainLoop, utilityQueue, logQueue,
         folders, systemLog, text, clock, userDefaults, web};

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The audio hardware of macOS, on doubles of the platform, keeps the contract of the platform interfaces.
-#include "platform/macos/CoreAudioHardware.h"
+// The audio system of macOS, on doubles of the platform, keeps the contract of the platform interfaces.
+#include "platform/macos/CoreAudioSystem.h"
 #include "tests/macos/QueueMainLoop.h"
 #include "tests/macos/doubles/AudioWorld.h"
 #include "tests/macos/doubles/Dispatch.h"
@@ -21,7 +21,7 @@ public:
         world_.reset();
     }
 
-    AudioHardware& hardware() override { return hardware_; }
+    AudioSystem& audio() override { return audio_; }
     MainLoop& mainLoop() override { return mainLoop_; }
 
     ProcessID startPlayer(float amplitude) override
@@ -90,7 +90,7 @@ private:
 
     AudioWorld& world_ = AudioWorld::current();
     QueueMainLoop mainLoop_;
-    CoreAudioHardware hardware_;
+    CoreAudioSystem audio_;
     ProcessID lastPid_ = 500;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // PipeWire, with real players and virtual devices, keeps the contract of the platform interfaces.
-#include "platform/pipewire/PipeWireHardware.h"
+#include "platform/pipewire/PipeWireAudioSystem.h"
 #include "platform/qt/QtMainLoop.h"
 #include "tests/pipewire/RealPlayers.h"
 #include "tests/platform/PlatformContract.h"
@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 class PipeWireContractWorld final : public ContractWorld {
 public:
-    AudioHardware& hardware() override { return hardware_; }
+    AudioSystem& audio() override { return audio_; }
     MainLoop& mainLoop() override { return mainLoop_; }
 
     ProcessID startPlayer(float amplitude) override { return players_.startSine(amplitude); }
@@ -54,7 +54,7 @@ private:
 
     RealPlayers players_;
     QtMainLoop mainLoop_;
-    PipeWireHardware hardware_{mainLoop_,
+    PipeWireAudioSystem audio_{mainLoop_,
         {.bundleIdentifier = [](ProcessID pid, const std::string&) { return bundleIdentifier(pid); },
             .portalProcess = {},
             .report = {}}};

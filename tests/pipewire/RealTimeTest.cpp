@@ -3,7 +3,7 @@
 #include "engine/AppTap.h"
 #include "engine/Equalizer.h"
 #include "engine/Recording.h"
-#include "platform/pipewire/PipeWireHardware.h"
+#include "platform/pipewire/PipeWireAudioSystem.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/sndfile/SndfileAudioFiles.h"
 #include "tests/pipewire/RealPlayers.h"
@@ -41,11 +41,11 @@ protected:
 
     RealPlayers players;
     QtMainLoop loop;
-    PipeWireHardware hardware{loop,
+    PipeWireAudioSystem audio{loop,
         {.bundleIdentifier = [](ProcessID, const std::string&) { return "player"; },
             .portalProcess = {},
             .report = {}}};
-    AudioReading reading{hardware};
+    AudioReading reading{audio};
 };
 
 TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChangeAndItIsRecorded)
@@ -56,12 +56,12 @@ TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChangeAndItIsR
     SndfileAudioFiles files;
     players.plug("device", "A device", "FL FR");
     RealPlayers::setDefaultOutput("device");
-    ASSERT_TRUE(waitUntil([&] { return reading.device("device") != kAudioObjectUnknown; }));
+    ASSERT_TRUE(waitUntil([&] { return reading.hasDevice("device"); }));
     const auto pid = players.startSine(0.5F);
-    ASSERT_TRUE(waitUntil([&] { return reading.isPlaying(reading.process(pid)); }));
+    ASSERT_TRUE(waitUntil([&] { return reading.isPlaying(pid); }));
     auto parameters = std::make_shared<TapParameters>();
-    auto tap = AppTap::create(
-        hardware, {reading.process(pid)}, "device", reading.device("device"), parameters, "Player");
+    auto tap =
+        AppTap::create(audio, {reading.process(pid).id}, reading.device("device"), parameters, "Player");
     ASSERT_TRUE(tap.has_value());
     ASSERT_TRUE(waitUntil([&] { return parameters->audioSeen.load(); }));
     const auto recording = Recording::create(files, location, tap.value()->sampleRate(), {});
@@ -83,7 +83,7 @@ TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChangeAndItIsR
 
     EXPECT_GT(parameters->takePeak(), 0);
     EXPECT_EQ(realTimeViolations() - before, 0) << lastRealTimeViolation();
-    tap.value()->teardown();
+    tap.value().reset();
     (*recording)->finish();
     EXPECT_EQ((*recording)->health(), AudioFileHealth{});
     EXPECT_GT(std::filesystem::file_size(location), 6 * 48000);

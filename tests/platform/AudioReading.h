@@ -1,103 +1,43 @@
 // SPDX-License-Identifier: MIT
-// Short words for reading audio objects in tests. What cannot be read is a default value; the tests compare.
+// Short questions to an audio system.
 #pragma once
 
-#include "platform/AudioHardware.h"
-#include "platform/AudioStream.h"
-#include "platform/Workspace.h"
+#include "platform/AudioSystem.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
+#include <optional>
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace fadeloom {
 
 class AudioReading {
 public:
-    explicit AudioReading(const AudioHardware& hardware)
-        : hardware_(hardware)
+    explicit AudioReading(AudioSystem& audio)
+        : audio_(audio)
     {
     }
 
-    template <typename T>
-    [[nodiscard]] T value(AudioObjectID object, AudioObjectPropertySelector selector,
-        AudioObjectPropertyScope scope = kAudioObjectPropertyScopeGlobal) const
+    /// The device with this unique id; one without an id when it is not listed.
+    [[nodiscard]] OutputDevice device(const std::string& uid) const
     {
-        T read{};
-        const auto size =
-            hardware_.readProperty(object, {selector, scope}, std::as_writable_bytes(std::span{&read, 1}));
-        return size && *size == sizeof read ? read : T{};
+        const auto devices = audio_.outputDevices();
+        const auto found = std::ranges::find(devices, uid, &OutputDevice::uid);
+        return found == devices.end() ? OutputDevice{} : *found;
     }
+    [[nodiscard]] bool hasDevice(const std::string& uid) const { return device(uid).id != 0; }
 
-    [[nodiscard]] std::string text(AudioObjectID object, AudioObjectPropertySelector selector) const
+    /// The audio process with this pid; one without an id when it is not listed.
+    [[nodiscard]] AudioProcess process(ProcessID pid) const
     {
-        return hardware_.readText(object, {selector}).value_or(std::nullopt).value_or("");
+        const auto processes = audio_.processes(ReadMic::yes);
+        const auto found = std::ranges::find(processes, pid, &AudioProcess::pid);
+        return found == processes.end() ? AudioProcess{} : *found;
     }
-
-    [[nodiscard]] std::vector<AudioObjectID> list(AudioObjectID object, AudioObjectPropertySelector selector,
-        AudioObjectPropertyScope scope = kAudioObjectPropertyScopeGlobal) const
-    {
-        const auto size = hardware_.propertySize(object, {selector, scope});
-        std::vector<AudioObjectID> ids(size.value_or(0) / sizeof(AudioObjectID));
-        const auto read =
-            hardware_.readProperty(object, {selector, scope}, std::as_writable_bytes(std::span{ids}));
-        ids.resize(read.value_or(0) / sizeof(AudioObjectID));
-        return ids;
-    }
-
-    /// The device with this unique id; `kAudioObjectUnknown` when it is not listed.
-    [[nodiscard]] AudioObjectID device(const std::string& uid) const
-    {
-        for (const AudioObjectID id : list(kAudioObjectSystemObject, kAudioHardwarePropertyDevices))
-            if (text(id, kAudioDevicePropertyDeviceUID) == uid)
-                return id;
-        return kAudioObjectUnknown;
-    }
-
-    /// The audio object of a process; `kAudioObjectUnknown` when it is not listed.
-    [[nodiscard]] AudioObjectID process(ProcessID pid) const
-    {
-        for (const AudioObjectID id : list(kAudioObjectSystemObject, kAudioHardwarePropertyProcessObjectList))
-            if (value<ProcessID>(id, kAudioProcessPropertyPID) == pid)
-                return id;
-        return kAudioObjectUnknown;
-    }
-
-    [[nodiscard]] bool isPlaying(AudioObjectID process) const
-    {
-        return value<std::uint32_t>(process, kAudioProcessPropertyIsRunningOutput) == 1;
-    }
-
-    [[nodiscard]] AudioObjectID defaultOutput() const
-    {
-        return value<AudioObjectID>(kAudioObjectSystemObject, kAudioHardwarePropertyDefaultOutputDevice);
-    }
-
-    [[nodiscard]] double rate(AudioObjectID device) const
-    {
-        return value<double>(device, kAudioDevicePropertyNominalSampleRate);
-    }
-
-    [[nodiscard]] std::array<std::uint32_t, 2> stereoPair(AudioObjectID device) const
-    {
-        return value<std::array<std::uint32_t, 2>>(
-            device, kAudioDevicePropertyPreferredChannelsForStereo, kAudioObjectPropertyScopeOutput);
-    }
-
-    /// The status of reading a property into `size` bytes.
-    [[nodiscard]] AudioStatus statusOfReading(
-        AudioObjectID object, const AudioObjectPropertyAddress& address, std::size_t size) const
-    {
-        std::vector<std::byte> bytes(size);
-        const auto read = hardware_.readProperty(object, address, bytes);
-        return read ? kAudioHardwareNoError : read.error();
-    }
+    [[nodiscard]] bool hasProcess(ProcessID pid) const { return process(pid).id != 0; }
+    [[nodiscard]] bool isPlaying(ProcessID pid) const { return process(pid).isPlaying; }
 
 private:
-    const AudioHardware& hardware_;
+    AudioSystem& audio_;
 };
 
 }  // namespace fadeloom

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <set>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -17,38 +16,45 @@ namespace fadeloom {
 
 class PlatformContract : public ::testing::TestWithParam<ContractWorldFactory> {
 protected:
-    /// Plugs a device in and returns its id once it is listed.
-    AudioObjectID plugged(
+    /// Plugs a device in and returns it once it is listed.
+    OutputDevice plugged(
         const std::string& uid, const std::string& name = "A device", std::uint32_t channels = 2)
     {
         world->plug(uid, name, channels);
-        EXPECT_TRUE(world->waitUntil([&] { return reading.device(uid) != kAudioObjectUnknown; })) << uid;
+        EXPECT_TRUE(world->waitUntil([&] { return reading.hasDevice(uid); })) << uid;
         return reading.device(uid);
     }
 
     void unplugged(const std::string& uid)
     {
         world->unplug(uid);
-        EXPECT_TRUE(world->waitUntil([&] { return reading.device(uid) == kAudioObjectUnknown; })) << uid;
+        EXPECT_TRUE(world->waitUntil([&] { return !reading.hasDevice(uid); })) << uid;
     }
 
     void makeDefault(const std::string& uid)
     {
         world->setDefaultOutput(uid);
-        EXPECT_TRUE(world->waitUntil([&] { return reading.defaultOutput() == reading.device(uid); })) << uid;
+        EXPECT_TRUE(world->waitUntil([&] { return audio.defaultOutput() == uid; })) << uid;
     }
 
-    /// Starts a player and returns its pid and audio object once it plays.
-    std::pair<ProcessID, AudioObjectID> playing(float amplitude = 0.5F)
+    /// Starts a player and returns its audio process once it plays.
+    AudioProcess playing(float amplitude = 0.5F)
     {
         const ProcessID pid = world->startPlayer(amplitude);
-        EXPECT_TRUE(world->waitUntil([&] { return reading.isPlaying(reading.process(pid)); }));
-        return {pid, reading.process(pid)};
+        EXPECT_TRUE(world->waitUntil([&] { return reading.isPlaying(pid); }));
+        return reading.process(pid);
+    }
+
+    /// Ends a player and waits until it is not listed any more.
+    void ended(ProcessID player)
+    {
+        world->endPlayer(player);
+        EXPECT_TRUE(world->waitUntil([&] { return !reading.hasProcess(player); }));
     }
 
     std::unique_ptr<ContractWorld> world = GetParam()();
-    AudioHardware& hardware = world->hardware();
-    AudioReading reading{hardware};
+    AudioSystem& audio = world->audio();
+    AudioReading reading{audio};
 };
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(PlatformContract);

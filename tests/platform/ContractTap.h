@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// A process tap with its aggregate device and an IO procedure that listens, for the contract of the audio hardware.
+// A process tap with a procedure that listens, for the contract of the audio system.
 #pragma once
 
-#include "platform/AudioHardware.h"
-#include "platform/AudioStream.h"
+#include "platform/AudioSystem.h"
 
 #include <atomic>
 #include <cmath>
 #include <cstdint>
-#include <string>
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace fadeloom {
@@ -50,54 +50,33 @@ public:
     std::atomic<float> lastPeak = 0;  // Of the last input buffer in the last cycle.
 };
 
-/// Builds the three objects in their order and takes them down in the reverse one. Ids are 0 after a failure.
+/// Captures from its making until `end`, unless the system refuses; `error` then says why.
 class ContractTap {
 public:
-    ContractTap(AudioHardware& hardware, std::vector<AudioObjectID> processes, const std::string& outputUID)
-        : hardware_(hardware)
+    ContractTap(AudioSystem& audio, std::vector<AudioProcessID> processes, const OutputDevice& output)
     {
-        static std::atomic<int> count = 0;
-        const std::string number = std::to_string(++count);
-        description = {std::move(processes),
-            "00000000-0000-4000-8000-" + std::string(12 - number.size(), '0') + number, "Fadeloom Contract",
-            true, TapMuteBehavior::mutedWhenTapped};
-        tap = hardware.createProcessTap(description).value_or(kAudioObjectUnknown);
-        aggregate = hardware
-                        .createAggregateDevice({"Fadeloom Contract", "com.fadeloom.tap." + description.uuid,
-                            outputUID, true, false, true, {outputUID}, {{description.uuid, true}}})
-                        .value_or(kAudioObjectUnknown);
-        procID = hardware.createIOProc(aggregate, proc).value_or(nullptr);
-    }
-    ContractTap(const ContractTap&) = delete;
-    ContractTap& operator=(const ContractTap&) = delete;
-    ~ContractTap() { tearDown(); }
-
-    AudioStatus start() { return hardware_.start(aggregate, procID); }
-    AudioStatus stop() { return hardware_.stop(aggregate, procID); }
-
-    /// The statuses of stop, destroy procedure, destroy aggregate, destroy tap; empty the second time.
-    std::vector<AudioStatus> tearDown()
-    {
-        if (isDown_)
-            return {};
-        isDown_ = true;
-        std::vector<AudioStatus> statuses;
-        statuses.push_back(stop());
-        statuses.push_back(hardware_.destroyIOProc(aggregate, procID));
-        statuses.push_back(hardware_.destroyAggregateDevice(aggregate));
-        statuses.push_back(hardware_.destroyProcessTap(tap));
-        return statuses;
+        auto made = audio.createTap({.processes = std::move(processes), .output = output, .name = "Contract"},
+            [this](const TapFormat& chosen) {
+                format = chosen;
+                return proc;
+            });
+        if (made)
+            tap_ = std::move(*made);
+        else
+            error = made.error();
     }
 
-    TapDescription description;
-    AudioObjectID tap = kAudioObjectUnknown;
-    AudioObjectID aggregate = kAudioObjectUnknown;
-    AudioDeviceIOProcID procID = nullptr;
-    ListeningProc proc;
+    [[nodiscard]] bool isRunning() const { return tap_ != nullptr; }
+    ProcessTap& operator*() { return *tap_; }
+    ProcessTap* operator->() { return tap_.get(); }
+    void end() { tap_.reset(); }
+
+    const std::shared_ptr<ListeningProc> proc = std::make_shared<ListeningProc>();
+    std::optional<TapFormat> format;
+    std::optional<TapError> error;
 
 private:
-    AudioHardware& hardware_;
-    bool isDown_ = false;
+    std::unique_ptr<ProcessTap> tap_;
 };
 
 }  // namespace fadeloom

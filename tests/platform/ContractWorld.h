@@ -5,7 +5,7 @@
 // conditions and never assume them.
 #pragma once
 
-#include "platform/AudioHardware.h"
+#include "platform/AudioSystem.h"
 #include "platform/MainLoop.h"
 #include "platform/Workspace.h"
 
@@ -21,7 +21,7 @@ class ContractWorld {
 public:
     virtual ~ContractWorld() = default;
 
-    virtual AudioHardware& hardware() = 0;
+    virtual AudioSystem& audio() = 0;
     virtual MainLoop& mainLoop() = 0;
 
     /// Starts a process that plays a sine of 441 Hz without end on both channels to the default output; returns its

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What every implementation of the audio hardware promises, as tests over a world of its kind.
+// What every implementation of the audio system promises, as tests over a world of its kind.
 //
 // A test program includes this in one source and names its world:
 //
@@ -9,5 +9,4 @@
 
 #include "tests/platform/DeviceContract.h"
 #include "tests/platform/ProcessContract.h"
-#include "tests/platform/PropertyContract.h"
 #include "tests/platform/TapContract.h"

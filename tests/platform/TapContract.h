@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The contract of process taps, aggregate devices and IO procedures.
+// The contract of process taps.
 #pragma once
 
 #include "tests/platform/ContractFixture.h"
@@ -14,94 +14,108 @@ protected:
     {
         device = plugged("contract.a");
         makeDefault("contract.a");
-        std::tie(pid, process) = playing(0.5F);
+        player = playing(0.5F);
     }
 
     bool hearsAbout(const ContractTap& tap, float amplitude)
     {
         // A cycle of a sine may miss its top by a little, and a real one may be measured while it fades in.
-        return world->waitUntil([&] { return std::abs(tap.proc.lastPeak - amplitude) < amplitude / 10; });
+        return world->waitUntil([&] { return std::abs(tap.proc->lastPeak - amplitude) < amplitude / 10; });
     }
 
-    AudioObjectID device = kAudioObjectUnknown;
-    ProcessID pid = -1;
-    AudioObjectID process = kAudioObjectUnknown;
+    OutputDevice device;
+    AudioProcess player;
 };
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(TapContract);
 
-TEST_P(TapContract, aTapDeliversFloatStereo)
+TEST_P(TapContract, aTapRunsAtTheRateOfItsDevice)
 {
-    const ContractTap tap{hardware, {process}, "contract.a"};
+    ContractTap tap{audio, {player.id}, device};
+    ASSERT_TRUE(tap.isRunning());
 
-    const auto format = reading.value<AudioStreamBasicDescription>(tap.tap, kAudioTapPropertyFormat);
-
-    EXPECT_EQ(format.formatID, kAudioFormatLinearPCM);
-    EXPECT_NE(format.formatFlags & kAudioFormatFlagIsFloat, 0U);
-    EXPECT_EQ(format.bitsPerChannel, 32U);
-    EXPECT_EQ(format.channelsPerFrame, 2U);
-    EXPECT_GE(format.sampleRate, 8000.0);
+    EXPECT_EQ(tap->sampleRate(), audio.sampleRate(device.id));
+    EXPECT_EQ(tap.format->sampleRate, tap->sampleRate());
+    EXPECT_EQ(tap->disabledInputs(), 0);
 }
 
-TEST_P(TapContract, anAggregateRunsAtTheRateOfItsOutputWithTheTapAsItsInput)
+TEST_P(TapContract, stereoGoesToTheFirstTwoChannels)
 {
-    const ContractTap tap{hardware, {process}, "contract.a"};
+    const ContractTap tap{audio, {player.id}, device};
 
-    EXPECT_EQ(reading.rate(tap.aggregate), reading.rate(device));
-    EXPECT_EQ(
-        reading.list(tap.aggregate, kAudioDevicePropertyStreams, kAudioObjectPropertyScopeInput).size(), 1U);
-    EXPECT_EQ(
-        reading.list(tap.aggregate, kAudioDevicePropertyStreams, kAudioObjectPropertyScopeOutput).size(), 1U);
+    EXPECT_EQ(tap.format->output, (StereoChannels{1, 2}));
 }
 
-TEST_P(TapContract, aStartedProcedureGetsTheTapAndTheDevice)
+TEST_P(TapContract, aMonoDeviceNamesItsChannelTwice)
 {
-    ContractTap tap{hardware, {process}, "contract.a"};
-    const auto format = reading.value<AudioStreamBasicDescription>(tap.tap, kAudioTapPropertyFormat);
-    const bool isInterleaved = (format.formatFlags & kAudioFormatFlagIsNonInterleaved) == 0;
+    const ContractTap tap{audio, {player.id}, plugged("contract.mono", "Contract mono", 1)};
+    ASSERT_TRUE(tap.isRunning());
 
-    EXPECT_EQ(tap.start(), kAudioHardwareNoError);
+    EXPECT_EQ(tap.format->output, (StereoChannels{1, 1}));
+}
+
+TEST_P(TapContract, aSurroundDeviceNamesTwoOfItsChannels)
+{
+    const ContractTap tap{audio, {player.id}, plugged("contract.surround", "Contract surround", 6)};
+    ASSERT_TRUE(tap.isRunning());
+
+    const auto [left, right] = tap.format->output;
+
+    EXPECT_NE(left, right);
+    EXPECT_TRUE(left >= 1 && left <= 6) << left;
+    EXPECT_TRUE(right >= 1 && right <= 6) << right;
+}
+
+TEST_P(TapContract, theProcedureGetsTheTapAndTheDevice)
+{
+    const ContractTap tap{audio, {player.id}, device};
+    ASSERT_TRUE(tap.isRunning());
 
     EXPECT_TRUE(hearsAbout(tap, 0.5F));
-    EXPECT_EQ(tap.proc.inputBuffers, isInterleaved ? 1U : 2U);
-    EXPECT_EQ(tap.proc.inputChannelsOfLast, isInterleaved ? 2U : 1U);
-    EXPECT_EQ(tap.proc.outputChannels, 2U);
-    EXPECT_EQ(tap.proc.inputFrames, tap.proc.outputFrames);
+    EXPECT_EQ(tap.proc->inputBuffers, tap.format->tapBufferCount);
+    EXPECT_EQ(tap.proc->inputChannelsOfLast, tap.format->isTapInterleaved ? 2U : 1U);
+    EXPECT_EQ(tap.proc->outputChannels, 2U);
+    EXPECT_EQ(tap.proc->inputFrames, tap.proc->outputFrames);
 }
 
-TEST_P(TapContract, aStoppedProcedureIsNotCalledUntilItIsStartedAgain)
+TEST_P(TapContract, aTapThatEndedIsNotCalledAnyMore)
 {
-    ContractTap tap{hardware, {process}, "contract.a"};
-    EXPECT_EQ(tap.start(), kAudioHardwareNoError);
-    EXPECT_TRUE(world->waitUntil([&] { return tap.proc.cycles > 0; }));
+    ContractTap tap{audio, {player.id}, device};
+    EXPECT_TRUE(world->waitUntil([&] { return tap.proc->cycles > 0; }));
 
-    EXPECT_EQ(tap.stop(), kAudioHardwareNoError);
-    const int cycles = tap.proc.cycles;
+    tap.end();
+    const int cycles = tap.proc->cycles;
     world->settle();
 
-    EXPECT_EQ(tap.proc.cycles, cycles);
-    EXPECT_EQ(tap.start(), kAudioHardwareNoError);
-    EXPECT_TRUE(world->waitUntil([&] { return tap.proc.cycles > cycles; }));
+    EXPECT_EQ(tap.proc->cycles, cycles);
 }
 
-TEST_P(TapContract, aProcedureThatWasNotStartedIsNotCalled)
+TEST_P(TapContract, theProcedureLivesForAsLongAsItMayBeCalled)
 {
-    const ContractTap tap{hardware, {process}, "contract.a"};
+    std::weak_ptr<AudioIOProc> weakly;
+    auto tap = audio.createTap(
+        {.processes = {player.id}, .output = device, .name = "Contract"}, [&](const TapFormat&) {
+            auto proc = std::make_shared<ListeningProc>();
+            weakly = proc;
+            return proc;
+        });
+    ASSERT_TRUE(tap);
 
     world->settle();
+    EXPECT_FALSE(weakly.expired());
+    tap->reset();
 
-    EXPECT_EQ(tap.proc.cycles, 0);
+    EXPECT_TRUE(world->waitUntil([&] { return weakly.expired(); }));
 }
 
-TEST_P(TapContract, aTapThatIsReadFollowsItsNewDescription)
+TEST_P(TapContract, aTapFollowsAnotherListOfProcesses)
 {
-    const auto [quiet, quietProcess] = playing(0.125F);
-    ContractTap tap{hardware, {process}, "contract.a"};
-    EXPECT_EQ(tap.start(), kAudioHardwareNoError);
+    const AudioProcess quiet = playing(0.125F);
+    ContractTap tap{audio, {player.id}, device};
+    ASSERT_TRUE(tap.isRunning());
     EXPECT_TRUE(hearsAbout(tap, 0.5F));
 
-    tap.description.processes = {quietProcess};
-    EXPECT_EQ(hardware.describeProcessTap(tap.tap, tap.description), kAudioHardwareNoError);
+    EXPECT_TRUE(tap->setProcesses({quiet.id}));
 
     EXPECT_TRUE(hearsAbout(tap, 0.125F));
 }
@@ -109,102 +123,70 @@ TEST_P(TapContract, aTapThatIsReadFollowsItsNewDescription)
 // Some systems go on with silent cycles, others have none while nothing plays.
 TEST_P(TapContract, aTappedProcessThatEndsIsNotHeardAnyMore)
 {
-    ContractTap tap{hardware, {process}, "contract.a"};
-    EXPECT_EQ(tap.start(), kAudioHardwareNoError);
+    const ContractTap tap{audio, {player.id}, device};
     EXPECT_TRUE(hearsAbout(tap, 0.5F));
 
-    world->endPlayer(pid);
+    world->endPlayer(player.pid);
     world->settle();
-    const int cycles = tap.proc.cycles;
+    const int cycles = tap.proc->cycles;
     world->settle();
 
-    EXPECT_TRUE(tap.proc.lastPeak == 0 || tap.proc.cycles == cycles);
+    EXPECT_TRUE(tap.proc->lastPeak == 0 || tap.proc->cycles == cycles);
 }
 
 TEST_P(TapContract, twoTapsPlayOnOneDevice)
 {
-    const auto [other, otherProcess] = playing(0.125F);
-    ContractTap first{hardware, {process}, "contract.a"};
-    ContractTap second{hardware, {otherProcess}, "contract.a"};
-
-    EXPECT_EQ(first.start(), kAudioHardwareNoError);
-    EXPECT_EQ(second.start(), kAudioHardwareNoError);
+    const AudioProcess other = playing(0.125F);
+    const ContractTap first{audio, {player.id}, device};
+    const ContractTap second{audio, {other.id}, device};
 
     EXPECT_TRUE(hearsAbout(first, 0.5F));
     EXPECT_TRUE(hearsAbout(second, 0.125F));
 }
 
-TEST_P(TapContract, everythingComesDownInReverseOrderAndCanBeBuiltAgain)
+TEST_P(TapContract, aTapCanBeMadeAgain)
 {
-    ContractTap tap{hardware, {process}, "contract.a"};
-    EXPECT_EQ(tap.start(), kAudioHardwareNoError);
-    EXPECT_TRUE(world->waitUntil([&] { return tap.proc.cycles > 0; }));
+    ContractTap tap{audio, {player.id}, device};
+    EXPECT_TRUE(world->waitUntil([&] { return tap.proc->cycles > 0; }));
+    tap.end();
+    const int cycles = tap.proc->cycles;
 
-    EXPECT_THAT(tap.tearDown(), ::testing::ElementsAre(0, 0, 0, 0));
+    const ContractTap again{audio, {player.id}, device};
 
-    const int cycles = tap.proc.cycles;
-    ContractTap again{hardware, {process}, "contract.a"};
-    EXPECT_EQ(again.start(), kAudioHardwareNoError);
     EXPECT_TRUE(hearsAbout(again, 0.5F));
-    EXPECT_EQ(tap.proc.cycles, cycles);
-    EXPECT_NE(again.tap, tap.tap);
-    EXPECT_NE(again.aggregate, tap.aggregate);
+    EXPECT_EQ(tap.proc->cycles, cycles);
 }
 
-TEST_P(TapContract, whatIsDestroyedCannotBeDestroyedAgain)
+TEST_P(TapContract, aTapOnADeviceThatIsNotThereIsRefused)
 {
-    ContractTap tap{hardware, {process}, "contract.a"};
-    tap.tearDown();
+    const ContractTap tap{audio, {player.id}, {.id = 4'000'000'000, .uid = "contract.nowhere", .name = ""}};
 
-    EXPECT_NE(hardware.stop(tap.aggregate, tap.procID), kAudioHardwareNoError);
-    EXPECT_NE(hardware.destroyIOProc(tap.aggregate, tap.procID), kAudioHardwareNoError);
-    EXPECT_EQ(hardware.destroyAggregateDevice(tap.aggregate), kAudioHardwareBadObjectError);
-    EXPECT_EQ(hardware.destroyProcessTap(tap.tap), kAudioHardwareBadObjectError);
-    EXPECT_EQ(hardware.describeProcessTap(tap.tap, tap.description), kAudioHardwareBadObjectError);
-    EXPECT_EQ(
-        reading.statusOfReading(tap.tap, {kAudioTapPropertyFormat}, sizeof(AudioStreamBasicDescription)),
-        kAudioHardwareBadObjectError);
+    EXPECT_TRUE(tap.error);
+    EXPECT_EQ(tap.proc->cycles, 0);
 }
 
-TEST_P(TapContract, aRealDeviceIsNotAnAggregateToDestroy)
+TEST_P(TapContract, aTapOnADeviceThatWasUnpluggedIsRefused)
 {
-    EXPECT_NE(hardware.destroyAggregateDevice(device), kAudioHardwareNoError);
-    EXPECT_EQ(reading.device("contract.a"), device);
-}
-
-TEST_P(TapContract, anAggregateOnADeviceThatIsNotThereNeverStarts)
-{
-    ContractTap tap{hardware, {process}, "contract.nowhere"};
-
-    EXPECT_NE(tap.start(), kAudioHardwareNoError);
-    EXPECT_EQ(tap.proc.cycles, 0);
-}
-
-TEST_P(TapContract, anAggregateWhoseDeviceWasUnpluggedDoesNotStart)
-{
-    plugged("contract.b");
-    ContractTap tap{hardware, {process}, "contract.b"};
+    const OutputDevice gone = plugged("contract.b");
     unplugged("contract.b");
 
-    EXPECT_NE(tap.start(), kAudioHardwareNoError);
-    EXPECT_EQ(tap.proc.cycles, 0);
+    const ContractTap tap{audio, {player.id}, gone};
+
+    EXPECT_TRUE(tap.error);
+    EXPECT_EQ(tap.proc->cycles, 0);
 }
 
-TEST_P(TapContract, aTapWhoseDeviceIsUnpluggedCanBeTakenDown)
+TEST_P(TapContract, aTapWhoseDeviceIsUnpluggedCanBeEnded)
 {
-    plugged("contract.b");
-    ContractTap tap{hardware, {process}, "contract.b"};
-    EXPECT_EQ(tap.start(), kAudioHardwareNoError);
-    EXPECT_TRUE(world->waitUntil([&] { return tap.proc.cycles > 0; }));
+    ContractTap tap{audio, {player.id}, plugged("contract.b")};
+    EXPECT_TRUE(world->waitUntil([&] { return tap.proc->cycles > 0; }));
 
     unplugged("contract.b");
-    const auto statuses = tap.tearDown();
-    const int cycles = tap.proc.cycles;
+    tap.end();
+    const int cycles = tap.proc->cycles;
     world->settle();
 
-    EXPECT_EQ(statuses[2], kAudioHardwareNoError);
-    EXPECT_EQ(statuses[3], kAudioHardwareNoError);
-    EXPECT_EQ(tap.proc.cycles, cycles);
+    EXPECT_EQ(tap.proc->cycles, cycles);
 }
 
 }  // namespace fadeloom

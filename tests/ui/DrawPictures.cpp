@@ -162,7 +162,7 @@ std::vector<Story> stories()
                     *live.controller, "com.example.player", [](auto& app) { app.outputUID = "headphones"; });
                 live.world.unplug("headphones");
                 live.world.advance(1s);
-                live.world.refuse(AudioOperation::createProcessTap, HowOften::always);
+                live.world.refuse(AudioOperation::createTap, HowOften::always);
                 live.play("Radio");
             }},
         {"recording",

@@ -11,7 +11,7 @@
 #include "platform/linux/SystemClock.h"
 #include "platform/linux/UtilityQueue.h"
 #include "platform/linux/XdgFolders.h"
-#include "platform/pipewire/PipeWireHardware.h"
+#include "platform/pipewire/PipeWireAudioSystem.h"
 #include "platform/qt/QtHttpClient.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/QtUserDefaults.h"
@@ -48,7 +48,7 @@ private:
     QtHttpClient http_;
     UtilityQueue utilityQueue_;
     UtilityQueue logQueue_;
-    PipeWireHardware audio_;
+    PipeWireAudioSystem audio_;
     SndfileAudioFiles audioFiles_;
 };
 

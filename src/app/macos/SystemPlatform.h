@@ -4,7 +4,7 @@
 
 #include "platform/Platform.h"
 #include "platform/macos/AppKitWorkspace.h"
-#include "platform/macos/CoreAudioHardware.h"
+#include "platform/macos/CoreAudioSystem.h"
 #include "platform/macos/DispatchQueue.h"
 #include "platform/macos/ExtendedAudioFiles.h"
 #include "platform/macos/FoundationClock.h"
@@ -42,7 +42,7 @@ private:
     StandardUserDefaults userDefaults_;
     DispatchQueue utilityQueue_;
     DispatchQueue logQueue_;
-    CoreAudioHardware audio_;
+    CoreAudioSystem audio_;
     ExtendedAudioFiles audioFiles_;
 };
 

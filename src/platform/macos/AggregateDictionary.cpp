@@ -11,11 +11,6 @@
 namespace fadeloom {
 namespace {
 
-CFTypeRef cfTruth(bool isTrue)
-{
-    return isTrue ? kCFBooleanTrue : kCFBooleanFalse;
-}
-
 /// A dictionary in the making: it keeps what its values need until it is made.
 class Entries {
 public:
@@ -44,36 +39,25 @@ private:
     std::vector<const void*> values_;
 };
 
-CFRef<CFArrayRef> cfList(const std::vector<CFRef<CFDictionaryRef>>& entries)
+CFRef<CFArrayRef> listOfOne(const CFRef<CFDictionaryRef>& entry)
 {
-    std::vector<const void*> values;
-    for (const auto& entry : entries)
-        values.push_back(entry.get());
-    return CFRef<CFArrayRef>::adopt(CFArrayCreate(
-        kCFAllocatorDefault, values.data(), static_cast<CFIndex>(values.size()), &kCFTypeArrayCallBacks));
+    const void* value = entry.get();
+    return CFRef<CFArrayRef>::adopt(CFArrayCreate(kCFAllocatorDefault, &value, 1, &kCFTypeArrayCallBacks));
 }
 
 CFRef<CFArrayRef> subDevices(const AggregateDescription& description)
 {
-    std::vector<CFRef<CFDictionaryRef>> devices;
-    for (const std::string& uid : description.subDevices) {
-        Entries entries;
-        entries.add(kAudioSubDeviceUIDKey, uid);
-        devices.push_back(entries.dictionary());
-    }
-    return cfList(devices);
+    Entries output;
+    output.add(kAudioSubDeviceUIDKey, description.outputUID);
+    return listOfOne(output.dictionary());
 }
 
 CFRef<CFArrayRef> subTaps(const AggregateDescription& description)
 {
-    std::vector<CFRef<CFDictionaryRef>> taps;
-    for (const auto& tap : description.taps) {
-        Entries entries;
-        entries.add(kAudioSubTapUIDKey, tap.uid);
-        entries.add(kAudioSubTapDriftCompensationKey, cfTruth(tap.drift));
-        taps.push_back(entries.dictionary());
-    }
-    return cfList(taps);
+    Entries tap;
+    tap.add(kAudioSubTapUIDKey, description.tapUUID);
+    tap.add(kAudioSubTapDriftCompensationKey, kCFBooleanTrue);
+    return listOfOne(tap.dictionary());
 }
 
 }  // namespace
@@ -85,10 +69,10 @@ CFRef<CFDictionaryRef> aggregateDictionary(const AggregateDescription& descripti
     Entries entries;
     entries.add(kAudioAggregateDeviceNameKey, description.name);
     entries.add(kAudioAggregateDeviceUIDKey, description.uid);
-    entries.add(kAudioAggregateDeviceMainSubDeviceKey, description.master);
-    entries.add(kAudioAggregateDeviceIsPrivateKey, cfTruth(description.isPrivate));
-    entries.add(kAudioAggregateDeviceIsStackedKey, cfTruth(description.isStacked));
-    entries.add(kAudioAggregateDeviceTapAutoStartKey, cfTruth(description.tapAutoStart));
+    entries.add(kAudioAggregateDeviceMainSubDeviceKey, description.outputUID);
+    entries.add(kAudioAggregateDeviceIsPrivateKey, kCFBooleanTrue);
+    entries.add(kAudioAggregateDeviceIsStackedKey, kCFBooleanFalse);
+    entries.add(kAudioAggregateDeviceTapAutoStartKey, kCFBooleanTrue);
     entries.add(kAudioAggregateDeviceSubDeviceListKey, devices.get());
     entries.add(kAudioAggregateDeviceTapListKey, taps.get());
     return entries.dictionary();

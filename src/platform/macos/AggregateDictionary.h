@@ -1,11 +1,20 @@
 // SPDX-License-Identifier: MIT
-// What an aggregate device is made of, in the words of the audio hardware layer.
+// What a tap's aggregate device is made of, in the words of the audio hardware layer.
 #pragma once
 
-#include "platform/AudioHardware.h"
 #include "platform/macos/CFRef.h"
 
+#include <string>
+
 namespace fadeloom {
+
+/// A private device that joins one tap to one output device, which gives the clock.
+struct AggregateDescription {
+    std::string name;
+    std::string uid;
+    std::string outputUID;
+    std::string tapUUID;
+};
 
 [[nodiscard]] CFRef<CFDictionaryRef> aggregateDictionary(const AggregateDescription& description);
 

@@ -2,14 +2,31 @@
 // Process taps, whose descriptions are Objective-C objects.
 #pragma once
 
-#include "platform/AudioHardware.h"
+#include "platform/AudioProcess.h"
 
-/// Each call makes a description of its own; the audio system keeps a copy. Thread: main.
-namespace fadeloom::ProcessTaps {
+#include <CoreAudio/CoreAudio.h>
 
-[[nodiscard]] AudioResult<AudioObjectID> create(const TapDescription& description);
-/// Replaces the description of a tap.
-[[nodiscard]] AudioStatus describe(AudioObjectID tap, const TapDescription& description);
-AudioStatus destroy(AudioObjectID tap);
+#include <expected>
+#include <string>
+#include <vector>
 
-}  // namespace fadeloom::ProcessTaps
+namespace fadeloom {
+
+/// A private stereo mixdown of `processes`, which are silent elsewhere while it is read.
+struct ProcessTapDescription {
+    std::vector<AudioProcessID> processes;
+    std::string uuid;
+    std::string name;
+};
+
+/// Each call makes a description object of its own; the audio system keeps a copy. Thread: main.
+namespace ProcessTaps {
+
+[[nodiscard]] std::expected<AudioObjectID, OSStatus> create(const ProcessTapDescription& description);
+/// Replaces the description of a tap. A tap that is being read follows without interruption.
+[[nodiscard]] OSStatus describe(AudioObjectID tap, const ProcessTapDescription& description);
+OSStatus destroy(AudioObjectID tap);
+
+}  // namespace ProcessTaps
+
+}  // namespace fadeloom

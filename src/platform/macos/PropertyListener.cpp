@@ -5,12 +5,12 @@
 
 namespace fadeloom {
 
-AudioResult<std::unique_ptr<PropertyListener>> PropertyListener::add(
-    AudioObjectID object, const ::AudioObjectPropertyAddress& address, AudioHardware::Listener listener)
+std::expected<std::unique_ptr<PropertyListener>, OSStatus> PropertyListener::add(
+    AudioObjectID object, const AudioObjectPropertyAddress& address, std::function<void()> listener)
 {
     auto told = std::make_shared<Told>(std::move(listener));
     std::unique_ptr<PropertyListener> added(new PropertyListener(object, address, std::move(told)));
-    const AudioStatus status = AudioObjectAddPropertyListenerBlock(
+    const OSStatus status = AudioObjectAddPropertyListenerBlock(
         object, &added->address_, dispatch_get_main_queue(), added->block_.get());
     if (status != kAudioHardwareNoError)
         return std::unexpected(status);
@@ -19,11 +19,11 @@ AudioResult<std::unique_ptr<PropertyListener>> PropertyListener::add(
 }
 
 PropertyListener::PropertyListener(
-    AudioObjectID object, const ::AudioObjectPropertyAddress& address, std::shared_ptr<Told> told)
+    AudioObjectID object, const AudioObjectPropertyAddress& address, std::shared_ptr<Told> told)
     : object_(object)
     , address_(address)
     , told_(told)
-    , block_(^(UInt32, const ::AudioObjectPropertyAddress*) {
+    , block_(^(UInt32, const AudioObjectPropertyAddress*) {
         const auto kept = told;  // The listener may end its own subscription, and this block with it.
         if (!kept->isOver)
             kept->listener();

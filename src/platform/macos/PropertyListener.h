@@ -2,11 +2,12 @@
 // One listener to one property of one audio object.
 #pragma once
 
-#include "platform/AudioHardware.h"
 #include "platform/macos/BlockRef.h"
 
 #include <CoreAudio/CoreAudio.h>
 
+#include <expected>
+#include <functional>
 #include <memory>
 
 namespace fadeloom {
@@ -14,8 +15,8 @@ namespace fadeloom {
 /// Hears on the main queue, until its end. Thread: main.
 class PropertyListener {
 public:
-    [[nodiscard]] static AudioResult<std::unique_ptr<PropertyListener>> add(
-        AudioObjectID object, const ::AudioObjectPropertyAddress& address, AudioHardware::Listener listener);
+    [[nodiscard]] static std::expected<std::unique_ptr<PropertyListener>, OSStatus> add(
+        AudioObjectID object, const AudioObjectPropertyAddress& address, std::function<void()> listener);
     PropertyListener(const PropertyListener&) = delete;
     PropertyListener& operator=(const PropertyListener&) = delete;
     ~PropertyListener();
@@ -23,15 +24,15 @@ public:
 private:
     /// Outlives the listener: a call that is on its way to the main queue when it ends still arrives.
     struct Told {
-        AudioHardware::Listener listener;
+        std::function<void()> listener;
         bool isOver = false;
     };
 
     PropertyListener(
-        AudioObjectID object, const ::AudioObjectPropertyAddress& address, std::shared_ptr<Told> told);
+        AudioObjectID object, const AudioObjectPropertyAddress& address, std::shared_ptr<Told> told);
 
     const AudioObjectID object_;
-    const ::AudioObjectPropertyAddress address_;
+    const AudioObjectPropertyAddress address_;
     const std::shared_ptr<Told> told_;
     const BlockRef<AudioObjectPropertyListenerBlock> block_;
     bool isAdded_ = false;

@@ -17,15 +17,9 @@ auto find(const Things& things, const Key& key, Projection projection) -> const 
     return found == things.end() ? nullptr : &*found;
 }
 
-template <typename Things>
-bool haveSameIDs(const Things& one, const Things& other)
-{
-    return std::ranges::equal(one, other, {}, &Things::value_type::id, &Things::value_type::id);
-}
-
 }  // namespace
 
-const AudioWorld::Device* AudioWorld::device(AudioObjectID id) const
+const AudioWorld::Device* AudioWorld::device(OutputDeviceID id) const
 {
     return find(devices, id, &Device::id);
 }
@@ -35,7 +29,7 @@ const AudioWorld::Device* AudioWorld::deviceWithUID(const std::string& uid) cons
     return find(devices, uid, &Device::uid);
 }
 
-const AudioWorld::Process* AudioWorld::process(AudioObjectID id) const
+const AudioWorld::Process* AudioWorld::process(AudioProcessID id) const
 {
     const auto found = std::ranges::lower_bound(processes, id, {}, &Process::id);
     return found == processes.end() || found->id != id ? nullptr : &*found;
@@ -48,29 +42,17 @@ const AudioWorld::Process* AudioWorld::processOfClient(GraphSerial client) const
     return found == processes.end() ? nullptr : &*found;
 }
 
-std::vector<ChangedProperty> changesBetween(const AudioWorld& before, const AudioWorld& after)
+AudioChanges changesBetween(const AudioWorld& before, const AudioWorld& after)
 {
-    std::vector<ChangedProperty> changes;
-    if (before.devices != after.devices)
-        changes.push_back({kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}});
-    if (before.defaultDevice != after.defaultDevice)
-        changes.push_back({kAudioObjectSystemObject, {kAudioHardwarePropertyDefaultOutputDevice}});
-    if (!haveSameIDs(before.processes, after.processes))
-        changes.push_back({kAudioObjectSystemObject, {kAudioHardwarePropertyProcessObjectList}});
-
-    for (const auto& process : after.processes) {
-        const auto* old = before.process(process.id);
-        if (old && old->isPlaying != process.isPlaying)
-            changes.push_back({process.id, {kAudioProcessPropertyIsRunningOutput}});
-        if (old && old->isUsingMicrophone != process.isUsingMicrophone)
-            changes.push_back({process.id, {kAudioProcessPropertyIsRunningInput}});
-    }
-    return changes;
-}
-
-AudioObjectID AudioObjectIDs::next()
-{
-    return last_.fetch_add(1, std::memory_order_relaxed) + 1;
+    const auto doesSame = [](const AudioWorld::Process& one, const AudioWorld::Process& other) {
+        return one.id == other.id && one.isPlaying == other.isPlaying
+            && one.isUsingMicrophone == other.isUsingMicrophone;
+    };
+    return {
+        .processes = !std::ranges::equal(before.processes, after.processes, doesSame),
+        .outputDevices = before.devices != after.devices,
+        .defaultOutput = before.defaultDevice != after.defaultDevice,
+    };
 }
 
 AudioWorld AudioWorldBuilder::build(const Graph& graph, const ChosenTargetOf& chosenTarget)
@@ -102,9 +84,8 @@ void AudioWorldBuilder::addDevices(const Graph& graph, AudioWorld& world)
         present.insert(node.serial);
         auto& known = devices_[node.serial];
         if (known.id == 0 || known.layout != layout)
-            known = {layout, ids_.next(), ids_.next()};
+            known = {layout, ++lastID_};
         world.devices.push_back({.id = known.id,
-            .streamID = known.streamID,
             .node = nodeID,
             .serial = node.serial,
             .uid = std::string{node.name()},
@@ -154,7 +135,7 @@ void AudioWorldBuilder::addProcesses(
             continue;
         auto& known = processes_[key];
         if (known.id == 0)
-            known = {ids_.next(), key.pid > 0 && questions_.watch(key.pid)};
+            known = {++lastID_, key.pid > 0 && questions_.watch(key.pid)};
         auto& process = pictures[key];
         process.portalAppID = identityOf(client).portalAppID;
         process.clients.insert(client.serial);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The graph as the audio hardware layer tells it: devices and audio processes with object ids.
+// The graph in the words of the audio system: output devices and audio processes.
 #pragma once
 
-#include "platform/AudioObject.h"
+#include "platform/AudioProcess.h"
+#include "platform/OutputDevice.h"
 #include "platform/pipewire/GraphRules.h"
 #include "platform/pipewire/StreamTarget.h"
 
-#include <atomic>
 #include <functional>
 #include <map>
 #include <set>
@@ -19,8 +19,7 @@ namespace fadeloom {
 /// A moment's picture; a plain value that any thread may read.
 struct AudioWorld {
     struct Device {
-        AudioObjectID id = 0;
-        AudioObjectID streamID = 0;
+        OutputDeviceID id = 0;
         GraphID node = 0;
         GraphSerial serial = 0;
         std::string uid;
@@ -33,7 +32,7 @@ struct AudioWorld {
     /// last client: a player that opens another for its next track is taken hold of from the first sample on. A
     /// client whose process cannot be told is a process of its own, for as long as it is there.
     struct Process {
-        AudioObjectID id = 0;
+        AudioProcessID id = 0;
         std::int32_t pid = -1;
         std::string portalAppID;  // Set for sandboxed applications.
         std::set<GraphSerial> clients;
@@ -46,29 +45,28 @@ struct AudioWorld {
     };
 
     std::vector<Device> devices;  // In the order in which they appeared.
-    AudioObjectID defaultDevice = kAudioObjectUnknown;
+    OutputDeviceID defaultDevice = 0;  // 0 when there is none.
     std::vector<Process> processes;  // By id, which is the order in which they appeared.
 
-    [[nodiscard]] const Device* device(AudioObjectID id) const;
+    [[nodiscard]] const Device* device(OutputDeviceID id) const;
     [[nodiscard]] const Device* deviceWithUID(const std::string& uid) const;
-    [[nodiscard]] const Process* process(AudioObjectID id) const;
+    [[nodiscard]] const Process* process(AudioProcessID id) const;
     [[nodiscard]] const Process* processOfClient(GraphSerial client) const;
 };
 
-/// What differs between two pictures, as properties of objects whose listeners are to be told.
-using ChangedProperty = std::pair<AudioObjectID, AudioObjectPropertyAddress>;
-[[nodiscard]] std::vector<ChangedProperty> changesBetween(const AudioWorld& before, const AudioWorld& after);
+/// The kinds of change that are announced.
+struct AudioChanges {
+    bool processes = false;  // Which there are, or what one of them does.
+    bool outputDevices = false;
+    bool defaultOutput = false;
 
-/// Gives out object ids, each once. Thread: any.
-class AudioObjectIDs {
-public:
-    [[nodiscard]] AudioObjectID next();
+    [[nodiscard]] bool any() const { return processes || outputDevices || defaultOutput; }
 
-private:
-    std::atomic<AudioObjectID> last_ = kAudioObjectSystemObject;
+    friend bool operator==(const AudioChanges&, const AudioChanges&) = default;
 };
+[[nodiscard]] AudioChanges changesBetween(const AudioWorld& before, const AudioWorld& after);
 
-/// Draws the picture, and remembers which object stands for what. Thread: the graph thread.
+/// Builds it, and gives out the ids. Thread: the graph thread.
 class AudioWorldBuilder {
 public:
     struct Questions {
@@ -78,9 +76,8 @@ public:
         std::function<bool(std::int32_t pid)> watch;
     };
 
-    AudioWorldBuilder(AudioObjectIDs& ids, Questions questions)
-        : ids_(ids)
-        , questions_(std::move(questions))
+    explicit AudioWorldBuilder(Questions questions)
+        : questions_(std::move(questions))
     {
     }
 
@@ -93,8 +90,7 @@ public:
 private:
     struct KnownDevice {
         DeviceLayout layout;
-        AudioObjectID id = 0;
-        AudioObjectID streamID = 0;
+        OutputDeviceID id = 0;
     };
 
     /// What makes two clients one process: the pid, where it can be believed; else the client itself.
@@ -105,7 +101,7 @@ private:
         friend auto operator<=>(const ProcessKey&, const ProcessKey&) = default;
     };
     struct KnownProcess {
-        AudioObjectID id = 0;
+        AudioProcessID id = 0;
         bool isWatched = false;  // Stays without a client until it ends.
     };
 
@@ -113,8 +109,8 @@ private:
     void addProcesses(const Graph& graph, const ChosenTargetOf& chosenTarget, AudioWorld& world);
     [[nodiscard]] const ProcessKey& keyOf(const GraphClient& client);
 
-    AudioObjectIDs& ids_;
     Questions questions_;
+    std::uint32_t lastID_ = 0;  // Of devices and processes; each is given once.
     std::map<GraphSerial, KnownDevice> devices_;
     std::map<ProcessKey, KnownProcess> processes_;  // Those that have, or have had, a stream.
     std::map<GraphSerial, ProcessKey> keys_;  // By client; found out once.

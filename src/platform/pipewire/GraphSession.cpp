@@ -31,12 +31,12 @@ bool runs(std::int32_t pid, const std::string& binary)
 
 }  // namespace
 
-GraphSession::GraphSession(AudioObjectIDs& ids, Callbacks callbacks)
+GraphSession::GraphSession(Callbacks callbacks)
     : callbacks_(std::move(callbacks))
     , connection_(static_cast<GraphListener&>(*this))
     , router_(connection_,
           [this](std::string text) { callbacks_.report(SystemLog::Level::error, std::move(text)); })
-    , builder_(ids, {.runs = &runs, .watch = [this](std::int32_t pid) { return watch(pid); }})
+    , builder_({.runs = &runs, .watch = [this](std::int32_t pid) { return watch(pid); }})
     , world_(std::make_shared<AudioWorld>())
 {
     connection_.start();
@@ -88,8 +88,8 @@ bool GraphSession::setDefaultDevice(const std::string& nodeName)
     return true;
 }
 
-TapPath* GraphSession::startPath(
-    std::set<AudioObjectID> processes, const AudioWorld::Device& device, AudioIOProc& proc, StreamScope scope)
+TapPath* GraphSession::startPath(std::set<AudioProcessID> processes, const AudioWorld::Device& device,
+    std::shared_ptr<AudioIOProc> proc, StreamScope scope)
 {
     const GraphLock lock{connection_};
     const auto* node = connection_.graph().node(device.node, device.serial);
@@ -97,11 +97,11 @@ TapPath* GraphSession::startPath(
                                       .deviceNode = node->id,
                                       .deviceSerial = node->serial,
                                       .scope = scope},
-                      device.layout, proc)
+                      device.layout, std::move(proc))
                 : nullptr;
 }
 
-void GraphSession::setProcesses(TapPath& path, std::set<AudioObjectID> processes)
+void GraphSession::setProcesses(TapPath& path, std::set<AudioProcessID> processes)
 {
     const GraphLock lock{connection_};
     router_.setProcesses(path, std::move(processes));
@@ -139,13 +139,13 @@ void GraphSession::graphChanged()
 void GraphSession::publish(AudioWorld next)
 {
     auto changes = changesBetween(*world(), next);
-    watchRates(next, changes);
+    changes.outputDevices |= updateRates(next);
     {
         const std::scoped_lock lock{worldMutex_};
         world_ = std::make_shared<const AudioWorld>(std::move(next));
     }
-    if (!changes.empty())
-        callbacks_.changed(std::move(changes));
+    if (changes.any())
+        callbacks_.changed(changes);
 }
 
 bool GraphSession::watch(std::int32_t pid)
@@ -160,21 +160,19 @@ bool GraphSession::watch(std::int32_t pid)
     return isWatching;
 }
 
-void GraphSession::watchRates(const AudioWorld& world, std::vector<ChangedProperty>& changes)
+bool GraphSession::updateRates(const AudioWorld& world)
 {
-    std::map<AudioObjectID, double> rates;
+    std::map<OutputDeviceID, double> rates;
+    bool isAnyNew = false;
     for (const auto& device : world.devices) {
         const auto driven = router_.rateOf(device.serial);
         const auto rate = driven > 0 ? driven : connection_.graph().graphRate();
         rates[device.id] = rate;
-        const auto told = rates_.find(device.id);
-        if (told != rates_.end() && told->second != rate) {
-            changes.push_back({device.id, {kAudioDevicePropertyNominalSampleRate}});
-            // Whoever watches the devices as a whole learns of it too.
-            changes.push_back({kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}});
-        }
+        const auto former = rates_.find(device.id);
+        isAnyNew |= former != rates_.end() && former->second != rate;
     }
     rates_ = std::move(rates);
+    return isAnyNew;
 }
 
 void GraphSession::sessionManagerAppeared()

@@ -22,11 +22,11 @@ namespace fadeloom {
 class GraphSession final : private GraphListener {
 public:
     struct Callbacks {  // Called on the graph thread.
-        std::function<void(std::vector<ChangedProperty>)> changed;
+        std::function<void(const AudioChanges&)> changed;
         std::function<void(SystemLog::Level, std::string)> report;
     };
 
-    GraphSession(AudioObjectIDs& ids, Callbacks callbacks);
+    explicit GraphSession(Callbacks callbacks);
     /// Gives every application back first.
     ~GraphSession();
     GraphSession(const GraphSession&) = delete;
@@ -40,9 +40,9 @@ public:
     bool setDefaultDevice(const std::string& nodeName);
 
     /// Null when there is no server, or the device has gone.
-    [[nodiscard]] TapPath* startPath(std::set<AudioObjectID> processes, const AudioWorld::Device& device,
-        AudioIOProc& proc, StreamScope scope = StreamScope::every);
-    void setProcesses(TapPath& path, std::set<AudioObjectID> processes);
+    [[nodiscard]] TapPath* startPath(std::set<AudioProcessID> processes, const AudioWorld::Device& device,
+        std::shared_ptr<AudioIOProc> proc, StreamScope scope = StreamScope::every);
+    void setProcesses(TapPath& path, std::set<AudioProcessID> processes);
     /// When this returns the path's procedure is not running; the path may be gone after `releaseStopped`.
     void stopPath(TapPath& path);
     void releaseStopped();
@@ -57,14 +57,15 @@ private:
 
     void publish(AudioWorld next);
     [[nodiscard]] bool watch(std::int32_t pid);
-    void watchRates(const AudioWorld& world, std::vector<ChangedProperty>& changes);
+    /// Whether a device is driven at another rate than when this was asked last.
+    [[nodiscard]] bool updateRates(const AudioWorld& world);
 
     Callbacks callbacks_;
     GraphConnection connection_;
     TapRouter router_;
     AudioWorldBuilder builder_;
     std::map<std::int32_t, std::unique_ptr<ProcessExit>> exits_;  // By pid.
-    std::map<AudioObjectID, double> rates_;  // As last told.
+    std::map<OutputDeviceID, double> rates_;
     std::atomic<bool> isReady_ = false;  // There is a picture, or nothing to draw one of.
     bool isRecheckDue_ = false;
 

@@ -23,7 +23,7 @@ const AudioWorld::Process* processOf(const Graph& graph, const AudioWorld& world
 
 // A running tap before a stopped one: it is the one that takes over.
 const TapRoute* tapFor(
-    const std::vector<const TapRoute*>& taps, AudioObjectID process, const GraphNode* ownDevice)
+    const std::vector<const TapRoute*>& taps, AudioProcessID process, const GraphNode* ownDevice)
 {
     const TapRoute* best = nullptr;
     for (const auto* tap : taps) {

@@ -19,7 +19,7 @@ enum class StreamScope {
 
 /// One tap: from the streams of some processes to one device.
 struct TapRoute {
-    std::set<AudioObjectID> processes;
+    std::set<AudioProcessID> processes;
     GraphID deviceNode = 0;
     GraphSerial deviceSerial = 0;
     StreamScope scope = StreamScope::every;

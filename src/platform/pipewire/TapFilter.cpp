@@ -22,13 +22,14 @@ const char* channelName(int index)
 
 }  // namespace
 
-TapFilter::TapFilter(pw_core* core, const std::string& name, const DeviceLayout& layout, AudioIOProc& proc,
-    std::function<void()> changed)
+TapFilter::TapFilter(pw_core* core, const std::string& name, const DeviceLayout& layout,
+    std::shared_ptr<AudioIOProc> proc, std::function<void()> changed)
     : layout_(layout)
     , outputCount_(layout.left == layout.right ? 1 : 2)
     , changed_(std::move(changed))
     , listener_(std::make_unique<spa_hook>())
-    , proc_(&proc)
+    , sharedProc_(std::move(proc))
+    , proc_(sharedProc_.get())
 {
     if (layout_.channels.size() > maximumChannels)
         layout_.channels.resize(maximumChannels);

@@ -5,7 +5,7 @@
 // no delay is added. It has no media class: session managers and volume mixers do not see it.
 #pragma once
 
-#include "platform/AudioHardware.h"
+#include "platform/ProcessTap.h"
 #include "platform/pipewire/GraphRules.h"
 
 #include <array>
@@ -27,8 +27,8 @@ class TapFilter {
 public:
     /// `layout`: the channels of the device that is played to. Connects at once; the node appears a little later.
     /// `changed` is called when the node has come a step further. On failure `isConnected` is false.
-    TapFilter(pw_core* core, const std::string& name, const DeviceLayout& layout, AudioIOProc& proc,
-        std::function<void()> changed);
+    TapFilter(pw_core* core, const std::string& name, const DeviceLayout& layout,
+        std::shared_ptr<AudioIOProc> proc, std::function<void()> changed);
     ~TapFilter();
     TapFilter(const TapFilter&) = delete;
     TapFilter& operator=(const TapFilter&) = delete;
@@ -73,6 +73,7 @@ private:
     std::array<AudioBuffer, maximumChannels> outputBuffers_{};
     std::array<float, maximumFrames> silence_{};
 
+    const std::shared_ptr<AudioIOProc> sharedProc_;  // Kept for as long as a cycle may reach it.
     // Shared with the IO thread. `proc_` and `isInCycle_` are sequentially consistent as a pair: either the IO thread
     // sees that the procedure is gone, or `stopRendering` sees that a cycle is under way and waits for its end. The
     // others are words of their own, with nothing behind them: relaxed, and seen in the next cycle.

@@ -27,12 +27,12 @@ TapRouter::TapRouter(GraphConnection& connection, std::function<void(std::string
 
 TapRouter::~TapRouter() = default;
 
-TapPath* TapRouter::addPath(TapRoute route, const DeviceLayout& layout, AudioIOProc& proc)
+TapPath* TapRouter::addPath(TapRoute route, const DeviceLayout& layout, std::shared_ptr<AudioIOProc> proc)
 {
     if (!connection_.core())
         return nullptr;
     auto filter = std::make_unique<TapFilter>(connection_.core(),
-        std::string{tapNamePrefix} + uniqueSuffix(++nodesMade_), layout, proc,
+        std::string{tapNamePrefix} + uniqueSuffix(++nodesMade_), layout, std::move(proc),
         [this] { connection_.requestUpdate(); });
     if (!filter->isConnected())
         return nullptr;
@@ -41,7 +41,7 @@ TapPath* TapRouter::addPath(TapRoute route, const DeviceLayout& layout, AudioIOP
     return &paths_.back();
 }
 
-void TapRouter::setProcesses(TapPath& path, std::set<AudioObjectID> processes)
+void TapRouter::setProcesses(TapPath& path, std::set<AudioProcessID> processes)
 {
     path.route.processes = std::move(processes);
     connection_.requestUpdate();

@@ -48,8 +48,8 @@ public:
     TapRouter& operator=(const TapRouter&) = delete;
 
     /// Starts a path; null when there is no server or it refuses. Takes effect in the following updates.
-    TapPath* addPath(TapRoute route, const DeviceLayout& layout, AudioIOProc& proc);
-    void setProcesses(TapPath& path, std::set<AudioObjectID> processes);
+    TapPath* addPath(TapRoute route, const DeviceLayout& layout, std::shared_ptr<AudioIOProc> proc);
+    void setProcesses(TapPath& path, std::set<AudioProcessID> processes);
     /// When this returns the path's procedure is not running and is not called again.
     void stop(TapPath& path);
     /// Gives the streams of stopped paths back, unless a path added since has taken them over.

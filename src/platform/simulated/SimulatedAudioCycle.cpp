@@ -3,6 +3,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <numeric>
+#include <span>
 
 namespace fadeloom {
 
@@ -12,7 +15,7 @@ using StereoBlock = std::vector<StereoFrame>;
 
 void addPlayed(StereoBlock& mix, const SimulatedAudioProcess& process, double sampleRate)
 {
-    if (!process.isRunningOutput)
+    if (!process.isPlaying)
         return;
     for (std::size_t i = 0; i < mix.size(); ++i) {
         const StereoFrame frame = process.signal.at(process.position + i, sampleRate);
@@ -21,24 +24,14 @@ void addPlayed(StereoBlock& mix, const SimulatedAudioProcess& process, double sa
     }
 }
 
-StereoBlock tapped(
-    const SimulatedAudioObjects& objects, const SimulatedTap& tap, std::uint32_t frames, double sampleRate)
-{
-    StereoBlock mix(frames);
-    for (const AudioObjectID id : tap.description.processes)
-        if (const auto process = objects.processes.find(id); process != objects.processes.end())
-            addPlayed(mix, process->second, sampleRate);
-    return mix;
-}
-
 /// The memory behind the buffers of one direction.
 class CycleBuffers {
 public:
-    void add(std::uint32_t channels, std::uint32_t frames, bool isUsed)
+    void add(std::uint32_t channels, std::uint32_t frames)
     {
         auto& samples = samples_.emplace_back(std::size_t{channels} * frames);
         const auto byteSize = static_cast<std::uint32_t>(samples.size() * sizeof(float));
-        buffers_.push_back({channels, byteSize, isUsed ? samples.data() : nullptr});
+        buffers_.push_back({channels, byteSize, samples.data()});
     }
     [[nodiscard]] std::span<float> last() { return samples_.back(); }
     [[nodiscard]] AudioBuffers buffers() const { return buffers_; }
@@ -48,42 +41,18 @@ private:
     std::vector<AudioBuffer> buffers_;
 };
 
-void addTapStream(
-    CycleBuffers& input, const AudioStreamBasicDescription& format, const StereoBlock& mix, bool isUsed)
+CycleBuffers captured(
+    const SimulatedAudioState& state, const SimulatedTap& tap, std::uint32_t frames, double sampleRate)
 {
-    const auto frames = static_cast<std::uint32_t>(mix.size());
-    const std::uint32_t channels = format.channelsPerFrame;
-    const auto sample = [&](std::uint32_t frame, std::uint32_t channel) {
-        if (channels == 1)
-            return (mix[frame].left + mix[frame].right) / 2;
-        return channel == 0 ? mix[frame].left : channel == 1 ? mix[frame].right : 0.0F;
-    };
-    if ((format.formatFlags & kAudioFormatFlagIsNonInterleaved) != 0) {
-        for (std::uint32_t channel = 0; channel < channels; ++channel) {
-            input.add(1, frames, isUsed);
-            for (std::uint32_t frame = 0; frame < frames; ++frame)
-                input.last()[frame] = sample(frame, channel);
-        }
-        return;
-    }
-    input.add(channels, frames, isUsed);
-    for (std::uint32_t frame = 0; frame < frames; ++frame)
-        for (std::uint32_t channel = 0; channel < channels; ++channel)
-            input.last()[std::size_t{frame} * channels + channel] = sample(frame, channel);
-}
-
-CycleBuffers inputOf(const SimulatedAudioObjects& objects, const SimulatedAudioDevice& device,
-    const SimulatedIOProc& proc, std::uint32_t frames)
-{
+    StereoBlock mix(frames);
+    for (const AudioProcessID id : tap.processes)
+        if (const auto process = state.processes.find(id); process != state.processes.end())
+            addPlayed(mix, process->second, sampleRate);
     CycleBuffers input;
-    for (std::size_t i = 0; i < device.inputs.size(); ++i) {
-        const SimulatedStream& stream = device.inputs[i];
-        const bool isUsed = proc.inputUsage[i] != 0;
-        if (const auto tap = objects.taps.find(stream.tap); tap != objects.taps.end())
-            addTapStream(input, tap->second.format,
-                tapped(objects, tap->second, frames, device.traits.sampleRate), isUsed);
-        else
-            input.add(stream.channels, frames, isUsed);
+    input.add(2, frames);
+    for (std::size_t i = 0; i < mix.size(); ++i) {
+        input.last()[2 * i] = mix[i].left;
+        input.last()[2 * i + 1] = mix[i].right;
     }
     return input;
 }
@@ -101,28 +70,24 @@ void addToHeard(HeardAudio& heard, AudioBuffers output)
     }
 }
 
-void runProcs(const SimulatedAudioObjects& objects, const SimulatedAudioDevice& device, HeardAudio& heard)
+void runTap(const SimulatedAudioState& state, const SimulatedTap& tap, const SimulatedDeviceTraits& device,
+    HeardAudio& heard)
 {
-    for (const SimulatedIOProc& proc : device.procs) {
-        if (!proc.isRunning)
-            continue;
-        const CycleBuffers input = inputOf(objects, device, proc, heard.frames);
-        CycleBuffers output;
-        for (std::size_t i = 0; i < device.outputs.size(); ++i)
-            output.add(device.outputs[i].channels, heard.frames, proc.outputUsage[i] != 0);
-        proc.proc->render(input.buffers(), output.buffers());
-        addToHeard(heard, output.buffers());
-    }
+    const CycleBuffers input = captured(state, tap, heard.frames, device.sampleRate);
+    CycleBuffers output;
+    for (const std::uint32_t channels : device.outputStreams)
+        output.add(channels, heard.frames);
+    tap.proc->render(input.buffers(), output.buffers());
+    addToHeard(heard, output.buffers());
 }
 
-void addDirectSound(
-    const SimulatedAudioObjects& objects, const SimulatedAudioDevice& device, HeardAudio& heard)
+void addDirectSound(const SimulatedAudioState& state, const SimulatedDeviceTraits& device, HeardAudio& heard)
 {
     StereoBlock mix(heard.frames);
-    for (const auto& [id, process] : objects.processes)
-        if (!objects.isSilenced(id))
-            addPlayed(mix, process, device.traits.sampleRate);
-    const auto [left, right] = device.traits.stereoPair.value_or(std::array<std::uint32_t, 2>{1, 2});
+    for (const auto& [id, process] : state.processes)
+        if (!state.isCaptured(id))
+            addPlayed(mix, process, device.sampleRate);
+    const auto [left, right] = device.stereoPair;
     for (std::size_t i = 0; i < mix.size(); ++i) {
         float* const frame = &heard.samples[i * heard.channels];
         if (left == right)
@@ -155,24 +120,24 @@ bool HeardAudio::isSilent() const
     return std::ranges::all_of(samples, [](float sample) { return sample == 0; });
 }
 
-HeardByDevice runSimulatedCycle(SimulatedAudioObjects& objects, std::uint32_t frames)
+HeardByDevice runSimulatedCycle(SimulatedAudioState& state, std::uint32_t frames)
 {
     HeardByDevice heardByDevice;
-    for (const auto& [id, device] : objects.devices) {
-        if (device.aggregate || device.outputChannels() == 0)
+    for (const auto& [id, device] : state.devices) {
+        const auto channels =
+            std::accumulate(device.outputStreams.begin(), device.outputStreams.end(), std::uint32_t{0});
+        if (channels == 0)
             continue;
-        const std::uint32_t channels = device.outputChannels();
         HeardAudio heard{channels, frames, std::vector<float>(std::size_t{channels} * frames)};
-        if (id == objects.defaultOutput)
-            addDirectSound(objects, device, heard);
-        runProcs(objects, device, heard);
-        for (const auto& [aggregateID, aggregate] : objects.devices)
-            if (aggregate.aggregate && aggregate.clock == id)
-                runProcs(objects, aggregate, heard);
-        heardByDevice.emplace(device.traits.uid, std::move(heard));
+        if (id == state.defaultOutput)
+            addDirectSound(state, device, heard);
+        for (const auto& [tapID, tap] : state.taps)
+            if (tap.device == id)
+                runTap(state, tap, device, heard);
+        heardByDevice.emplace(device.uid, std::move(heard));
     }
-    for (auto& [id, process] : objects.processes)
-        if (process.isRunningOutput)
+    for (auto& [id, process] : state.processes)
+        if (process.isPlaying)
             process.position += frames;
     return heardByDevice;
 }

@@ -3,7 +3,7 @@
 // device gets in the end.
 #pragma once
 
-#include "platform/simulated/SimulatedAudioObjects.h"
+#include "platform/simulated/SimulatedAudioState.h"
 
 #include <cstdint>
 #include <map>
@@ -30,6 +30,6 @@ using HeardByDevice = std::map<std::string, HeardAudio>;
 
 /// Runs `frames` frames on every device in step, each at its own rate: no resampling between devices. A process that
 /// plays is heard on the default output, unless a tap silences it.
-[[nodiscard]] HeardByDevice runSimulatedCycle(SimulatedAudioObjects& objects, std::uint32_t frames);
+[[nodiscard]] HeardByDevice runSimulatedCycle(SimulatedAudioState& state, std::uint32_t frames);
 
 }  // namespace fadeloom

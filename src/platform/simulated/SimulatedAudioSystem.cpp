@@ -1,201 +1,185 @@
 // SPDX-License-Identifier: MIT
 #include "platform/simulated/SimulatedAudioSystem.h"
 
-#include "platform/WaveFormats.h"
-#include "platform/simulated/SimulatedMainLoop.h"
-
 #include <algorithm>
 #include <utility>
 
 namespace fadeloom {
 
-namespace {
-
-constexpr auto floatStereo = packedStereoFormat(48000, kAudioFormatFlagIsFloat, 32);
-
-}  // namespace
-
-SimulatedAudioSystem::SimulatedAudioSystem(SimulatedClock& clock, MainLoop& mainLoop)
-    : clock_(clock)
-    , listeners_(mainLoop)
-    , tapFormat_(floatStereo)
-{
-}
-
-void SimulatedAudioSystem::tell(AudioObjectID object, AudioObjectPropertySelector selector)
-{
-    listeners_.tell(object, {selector});
-}
-
-std::vector<SimulatedStream> SimulatedAudioSystem::makeStreams(const std::vector<std::uint32_t>& channels)
-{
-    std::vector<SimulatedStream> streams;
-    for (const std::uint32_t count : channels) {
-        streams.push_back({objects_.newID(), count});
-        objects_.streams.insert(streams.back().id);
+class SimulatedAudioSystem::Tap final : public ProcessTap {
+public:
+    Tap(SimulatedAudioSystem& system, std::uint32_t id, double sampleRate, int disabledInputs)
+        : system_(system)
+        , id_(id)
+        , sampleRate_(sampleRate)
+        , disabledInputs_(disabledInputs)
+    {
     }
-    return streams;
-}
-
-AudioObjectID SimulatedAudioSystem::plug(const SimulatedDeviceTraits& traits)
-{
-    const AudioObjectID id = objects_.newID();
-    SimulatedAudioDevice device{traits, makeStreams(traits.outputStreams), makeStreams(traits.inputStreams)};
-    const bool hasOutput = !device.outputs.empty();
-    objects_.devices.emplace(id, std::move(device));
-    tell(kAudioObjectSystemObject, kAudioHardwarePropertyDevices);
-    if (hasOutput && objects_.defaultOutput == kAudioObjectUnknown)
-        setDefaultOutput(id);
-    return id;
-}
-
-void SimulatedAudioSystem::unplug(const std::string& uid)
-{
-    const AudioObjectID gone = objects_.deviceWithUID(uid);
-    if (gone == kAudioObjectUnknown)
-        return;
-    for (auto& [id, device] : objects_.devices) {
-        if (device.clock != gone)
-            continue;
-        device.clock = kAudioObjectUnknown;
-        forget(device.outputs);
-        device.outputs.clear();
-        for (SimulatedIOProc& proc : device.procs)
-            proc.isRunning = false;
+    Tap(const Tap&) = delete;
+    Tap& operator=(const Tap&) = delete;
+    ~Tap() override
+    {
+        (void)system_.beginChange(AudioOperation::destroyTap);
+        system_.world_.state().taps.erase(id_);
     }
-    heard_.erase(uid);
-    remove(gone);
-    if (objects_.defaultOutput != gone)
-        return;
-    const auto next = std::ranges::find_if(objects_.devices,
-        [](const auto& entry) { return !entry.second.aggregate && !entry.second.outputs.empty(); });
-    setDefaultOutput(next == objects_.devices.end() ? kAudioObjectUnknown : next->first);
+
+    double sampleRate() const override { return sampleRate_; }
+    int disabledInputs() const override { return disabledInputs_; }
+    bool setProcesses(const std::vector<AudioProcessID>& processes) override
+    {
+        if (system_.beginChange(AudioOperation::setTapProcesses) || !system_.areKnown(processes))
+            return false;
+        system_.world_.state().taps.at(id_).processes = processes;
+        return true;
+    }
+
+private:
+    SimulatedAudioSystem& system_;
+    const std::uint32_t id_;
+    const double sampleRate_;
+    const int disabledInputs_;
+};
+
+SimulatedAudioSystem::SimulatedAudioSystem(SimulatedAudioWorld& world)
+    : world_(world)
+{
 }
 
-void SimulatedAudioSystem::forget(const std::vector<SimulatedStream>& streams)
+std::vector<AudioProcess> SimulatedAudioSystem::processes(ReadMic readMic)
 {
-    for (const SimulatedStream& stream : streams)
-        objects_.streams.erase(stream.id);
+    wasMicRead_ = readMic == ReadMic::yes;
+    std::vector<AudioProcess> processes;
+    if (begin(AudioOperation::processes))
+        return processes;
+    processes.reserve(world_.state().processes.size());
+    for (const auto& [id, process] : world_.state().processes)
+        processes.push_back({
+            .id = id,
+            .pid = process.pid,
+            .bundleID = process.bundleID,
+            .isPlaying = process.isPlaying,
+            .isUsingMic = wasMicRead_ && process.isUsingMic,
+        });
+    return processes;
 }
 
-void SimulatedAudioSystem::remove(AudioObjectID device)
+Subscription SimulatedAudioSystem::whenProcessesChange(Listener listener)
 {
-    const auto found = objects_.devices.find(device);
-    forget(found->second.outputs);
-    forget(found->second.inputs);
-    objects_.devices.erase(found);
-    listeners_.forget(device);
-    tell(kAudioObjectSystemObject, kAudioHardwarePropertyDevices);
+    return world_.processesChanged.add(std::move(listener));
 }
 
-void SimulatedAudioSystem::changeRate(const std::string& uid, double rate)
+std::vector<OutputDevice> SimulatedAudioSystem::outputDevices() const
 {
-    changeRate(objects_.deviceWithUID(uid), rate);
+    std::vector<OutputDevice> devices;
+    if (begin(AudioOperation::outputDevices))
+        return devices;
+    for (const auto& [id, device] : world_.state().devices) {
+        if (!device.outputStreams.empty())
+            devices.push_back({.id = id, .uid = device.uid, .name = device.name});
+    }
+    return devices;
 }
 
-void SimulatedAudioSystem::changeRate(AudioObjectID changed, double rate)
+Subscription SimulatedAudioSystem::whenOutputDevicesChange(Listener listener)
 {
-    for (auto& [id, device] : objects_.devices)
-        if ((id == changed || device.clock == changed) && device.traits.sampleRate != rate) {
-            device.traits.sampleRate = rate;
-            tell(id, kAudioDevicePropertyNominalSampleRate);
-        }
+    return world_.outputDevicesChanged.add(std::move(listener));
 }
 
-void SimulatedAudioSystem::setDefaultOutput(const std::string& uid)
+double SimulatedAudioSystem::sampleRate(OutputDeviceID device) const
 {
-    setDefaultOutput(objects_.deviceWithUID(uid));
+    const auto found = world_.state().devices.find(device);
+    return begin(AudioOperation::sampleRate) || found == world_.state().devices.end()
+        ? 0
+        : found->second.sampleRate;
 }
 
-void SimulatedAudioSystem::setDefaultOutput(AudioObjectID device)
+std::optional<std::string> SimulatedAudioSystem::defaultOutput() const
 {
-    if (std::exchange(objects_.defaultOutput, device) != device)
-        tell(kAudioObjectSystemObject, kAudioHardwarePropertyDefaultOutputDevice);
+    const auto device = world_.state().devices.find(world_.state().defaultOutput);
+    if (begin(AudioOperation::defaultOutput) || device == world_.state().devices.end())
+        return std::nullopt;
+    return device->second.uid;
 }
 
-AudioObjectID SimulatedAudioSystem::openAudio(ProcessID pid, const std::string& bundleID)
+Subscription SimulatedAudioSystem::whenDefaultOutputChanges(Listener listener)
 {
-    const AudioObjectID id = objects_.newID();
-    objects_.processes.emplace(id, SimulatedAudioProcess{pid, bundleID});
-    tell(kAudioObjectSystemObject, kAudioHardwarePropertyProcessObjectList);
-    return id;
+    return world_.defaultOutputChanged.add(std::move(listener));
 }
 
-void SimulatedAudioSystem::closeAudio(AudioObjectID process)
+bool SimulatedAudioSystem::setDefaultOutput(const OutputDevice& device)
 {
-    if (objects_.processes.erase(process) == 0)
-        return;
-    listeners_.forget(process);
-    tell(kAudioObjectSystemObject, kAudioHardwarePropertyProcessObjectList);
+    const auto found = world_.state().devices.find(device.id);
+    if (beginChange(AudioOperation::setDefaultOutput) || found == world_.state().devices.end()
+        || found->second.outputStreams.empty())
+        return false;
+    world_.setDefaultOutput(device.id);
+    return true;
 }
 
-void SimulatedAudioSystem::startPlaying(AudioObjectID id, SimulatedSignal signal)
+std::expected<std::unique_ptr<ProcessTap>, TapError> SimulatedAudioSystem::createTap(
+    const TapRequest& request, const AudioIOProcFactory& makeIOProc)
 {
-    const auto found = objects_.processes.find(id);
-    if (found == objects_.processes.end())
-        return;
-    found->second.signal = std::move(signal);
-    found->second.position = 0;
-    if (!std::exchange(found->second.isRunningOutput, true))
-        tell(id, kAudioProcessPropertyIsRunningOutput);
-    keepCycling();
+    tapRequests_.push_back(request);
+    if (const auto refusal = beginChange(AudioOperation::createTap))
+        return std::unexpected(TapError{.step = "Create process tap", .status = refusal->status});
+    auto& state = world_.state();
+    const auto device = state.devices.find(request.output.id);
+    if (!areKnown(request.processes))
+        return std::unexpected(TapError{.step = "Create process tap", .reason = "a process is gone"});
+    if (device == state.devices.end())
+        return std::unexpected(TapError{.step = "Start device", .reason = "the device is gone"});
+
+    const auto& traits = device->second;
+    const auto id = state.newID();
+    state.taps.emplace(id,
+        SimulatedTap{.processes = request.processes,
+            .device = device->first,
+            .proc = makeIOProc({.sampleRate = traits.sampleRate, .output = traits.stereoPair})});
+    world_.keepCycling();
+    return std::make_unique<Tap>(*this, id, traits.sampleRate, traits.inputStreams);
 }
 
-void SimulatedAudioSystem::stopPlaying(AudioObjectID id)
+void SimulatedAudioSystem::refuse(AudioOperation operation, HowOften howOften, std::int32_t status)
 {
-    const auto found = objects_.processes.find(id);
-    if (found != objects_.processes.end() && std::exchange(found->second.isRunningOutput, false))
-        tell(id, kAudioProcessPropertyIsRunningOutput);
+    refusals_.insert_or_assign(operation, Refusal{howOften, status});
 }
 
-void SimulatedAudioSystem::setUsingMic(AudioObjectID id, bool isUsingMic)
+auto SimulatedAudioSystem::begin(AudioOperation operation) const -> std::optional<Refusal>
 {
-    const auto found = objects_.processes.find(id);
-    if (found != objects_.processes.end()
-        && std::exchange(found->second.isRunningInput, isUsingMic) != isUsingMic)
-        tell(id, kAudioProcessPropertyIsRunningInput);
+    ++callCounts_[operation];
+    const auto found = refusals_.find(operation);
+    if (found == refusals_.end())
+        return std::nullopt;
+    const Refusal refusal = found->second;
+    if (refusal.howOften == HowOften::once)
+        refusals_.erase(found);
+    return refusal;
 }
 
-AudioObjectID SimulatedAudioSystem::audioObjectOf(ProcessID pid) const
+auto SimulatedAudioSystem::beginChange(AudioOperation operation) -> std::optional<Refusal>
 {
-    const auto found = std::ranges::find_if(
-        objects_.processes, [pid](const auto& entry) { return entry.second.pid == pid; });
-    return found == objects_.processes.end() ? kAudioObjectUnknown : found->first;
+    operations_.push_back(operation);
+    return begin(operation);
 }
 
-void SimulatedAudioSystem::runCycle(std::uint32_t frames)
+bool SimulatedAudioSystem::areKnown(const std::vector<AudioProcessID>& processes) const
 {
-    const SimulatedMainLoop::OtherThread ioThread;
-    heard_ = runSimulatedCycle(objects_, frames);
+    return std::ranges::all_of(
+        processes, [&](AudioProcessID process) { return world_.state().processes.contains(process); });
 }
 
-HeardAudio SimulatedAudioSystem::heard(const std::string& uid) const
+int SimulatedAudioSystem::callCount(AudioOperation operation) const
 {
-    const auto found = heard_.find(uid);
-    return found == heard_.end() ? HeardAudio{} : found->second;
+    const auto found = callCounts_.find(operation);
+    return found == callCounts_.end() ? 0 : found->second;
 }
 
-bool SimulatedAudioSystem::isActive() const
+int SimulatedAudioSystem::callCount() const
 {
-    return std::ranges::any_of(objects_.devices, [](const auto& entry) { return entry.second.isRunning(); })
-        || std::ranges::any_of(
-            objects_.processes, [](const auto& entry) { return entry.second.isRunningOutput; });
-}
-
-void SimulatedAudioSystem::keepCycling()
-{
-    if (isCycleScheduled_ || cycleInterval_ <= std::chrono::milliseconds{0} || !isActive())
-        return;
-    isCycleScheduled_ = true;
-    clock_.schedule(cycleInterval_, [this] {
-        isCycleScheduled_ = false;
-        const auto device = objects_.devices.find(objects_.defaultOutput);
-        const double rate = device == objects_.devices.end() ? 48000 : device->second.traits.sampleRate;
-        const auto interval = std::chrono::duration<double>{cycleInterval_};
-        if (isActive() && interval.count() > 0)
-            runCycle(static_cast<std::uint32_t>(rate * interval.count()));
-        keepCycling();
-    });
+    int count = 0;
+    for (const auto& entry : callCounts_)
+        count += entry.second;
+    return count;
 }
 
 }  // namespace fadeloom

@@ -1,79 +1,81 @@
 // SPDX-License-Identifier: MIT
-// The world's side of a simulated audio system: devices come and go, processes play, cycles run.
-//
-// The program's side of the same system, with its calls and their faults, is `SimulatedAudioHardware`.
+// The program's side of a simulated audio system: every call, counted, and refused on demand.
 #pragma once
 
-#include "platform/simulated/SimulatedAudioCycle.h"
-#include "platform/simulated/SimulatedAudioObjects.h"
-#include "platform/simulated/SimulatedClock.h"
-#include "platform/simulated/SimulatedListeners.h"
+#include "platform/AudioSystem.h"
+#include "platform/simulated/SimulatedAudioWorld.h"
 
-#include <chrono>
-#include <cstdint>
-#include <string>
+#include <map>
+#include <vector>
 
 namespace fadeloom {
 
-/// Thread: main.
-class SimulatedAudioSystem {
+/// Reading, changing, and (never refused) taking down.
+enum class AudioOperation {
+    processes,
+    outputDevices,
+    sampleRate,
+    defaultOutput,
+    setDefaultOutput,
+    createTap,
+    setTapProcesses,
+    destroyTap,
+};
+
+enum class HowOften { once, always };
+
+class SimulatedAudioSystem final : public AudioSystem {
 public:
-    SimulatedAudioSystem(SimulatedClock& clock, MainLoop& mainLoop);
+    explicit SimulatedAudioSystem(SimulatedAudioWorld& world);
 
-    /// Connects a device. The first one with outputs becomes the default output.
-    AudioObjectID plug(const SimulatedDeviceTraits& traits);
-    /// Takes a device away by its unique id; the default output falls to the first one left. Aggregates that play on
-    /// it stay, without streams, and stop.
-    void unplug(const std::string& uid);
-    /// `rate` in hertz. Its aggregates follow.
-    void changeRate(const std::string& uid, double rate);
-    /// Empty for no default output at all.
-    void setDefaultOutput(const std::string& uid);
-    /// Makes every tap from now on have this format. Starts as 32-bit float, stereo, interleaved, 48 kHz.
-    void setTapFormat(const AudioStreamBasicDescription& format) { tapFormat_ = format; }
+    std::vector<AudioProcess> processes(ReadMic readMic) override;
+    Subscription whenProcessesChange(Listener listener) override;
+    std::vector<OutputDevice> outputDevices() const override;
+    Subscription whenOutputDevicesChange(Listener listener) override;
+    double sampleRate(OutputDeviceID device) const override;
+    std::optional<std::string> defaultOutput() const override;
+    Subscription whenDefaultOutputChanges(Listener listener) override;
+    bool setDefaultOutput(const OutputDevice& device) override;
+    std::expected<std::unique_ptr<ProcessTap>, TapError> createTap(
+        const TapRequest& request, const AudioIOProcFactory& makeIOProc) override;
 
-    /// A process opens audio: its object appears.
-    AudioObjectID openAudio(ProcessID pid, const std::string& bundleID);
-    void closeAudio(AudioObjectID process);
-    void startPlaying(AudioObjectID process, SimulatedSignal signal);
-    void stopPlaying(AudioObjectID process);
-    void setUsingMic(AudioObjectID process, bool isUsingMic);
-    /// The first audio object of a process; `kAudioObjectUnknown` for none.
-    [[nodiscard]] AudioObjectID audioObjectOf(ProcessID pid) const;
+    /// Refuses a call, the next one or all of them: what is read is empty, what is changed stays. `status`: of the
+    /// error, where the call has one.
+    void refuse(AudioOperation operation, HowOften howOften, std::int32_t status);
+    /// Ends every refusal of `operation`.
+    void allow(AudioOperation operation) { refusals_.erase(operation); }
 
-    /// Runs one IO cycle of `frames` frames on all devices.
-    void runCycle(std::uint32_t frames);
-    /// How long the cycles are that run by themselves while the clock is advanced and something plays or is read;
-    /// 0 for none. Starts as 10 ms. Days are advanced faster without them.
-    void setCycleInterval(std::chrono::milliseconds interval) { cycleInterval_ = interval; }
-    /// What a device got in the last cycle; nothing for a device that had none.
-    [[nodiscard]] HeardAudio heard(const std::string& uid) const;
-
-    [[nodiscard]] const SimulatedAudioObjects& objects() const { return objects_; }
-    [[nodiscard]] SimulatedAudioObjects& objects() { return objects_; }
-    [[nodiscard]] SimulatedListeners& listeners() { return listeners_; }
-    [[nodiscard]] const AudioStreamBasicDescription& tapFormat() const { return tapFormat_; }
-    /// Tells the listeners of a property of global scope.
-    void tell(AudioObjectID object, AudioObjectPropertySelector selector);
-    /// Takes a device out of the world and tells so.
-    void remove(AudioObjectID device);
-    void setDefaultOutput(AudioObjectID device);
-    void changeRate(AudioObjectID device, double rate);
-    /// Sees to it that cycles run while there is anything to run.
-    void keepCycling();
-    std::vector<SimulatedStream> makeStreams(const std::vector<std::uint32_t>& channels);
+    /// The calls that were to change something, whether they did or not, in order.
+    [[nodiscard]] const std::vector<AudioOperation>& operations() const { return operations_; }
+    void clearOperations() { operations_.clear(); }
+    /// How often a call was made since the counts were cleared.
+    [[nodiscard]] int callCount(AudioOperation operation) const;
+    /// All calls.
+    [[nodiscard]] int callCount() const;
+    void clearCallCounts() { callCounts_.clear(); }
+    /// Whether the last question for processes was for their microphones, too.
+    [[nodiscard]] bool wasMicRead() const { return wasMicRead_; }
+    /// Everything that was requested of `createTap`, in order.
+    [[nodiscard]] const std::vector<TapRequest>& tapRequests() const { return tapRequests_; }
 
 private:
-    void forget(const std::vector<SimulatedStream>& streams);
-    [[nodiscard]] bool isActive() const;
+    class Tap;
+    struct Refusal {
+        HowOften howOften;
+        std::int32_t status;
+    };
 
-    SimulatedClock& clock_;
-    SimulatedListeners listeners_;
-    SimulatedAudioObjects objects_;
-    AudioStreamBasicDescription tapFormat_;
-    HeardByDevice heard_;
-    std::chrono::milliseconds cycleInterval_{10};
-    bool isCycleScheduled_ = false;
+    /// Counts a call; its refusal if there is one, which is used up if it was for once.
+    std::optional<Refusal> begin(AudioOperation operation) const;
+    std::optional<Refusal> beginChange(AudioOperation operation);
+    [[nodiscard]] bool areKnown(const std::vector<AudioProcessID>& processes) const;
+
+    SimulatedAudioWorld& world_;
+    mutable std::map<AudioOperation, Refusal> refusals_;  // Reading uses up what is refused once.
+    mutable std::map<AudioOperation, int> callCounts_;
+    std::vector<AudioOperation> operations_;
+    std::vector<TapRequest> tapRequests_;
+    bool wasMicRead_ = false;
 };
 
 }  // namespace fadeloom

@@ -43,52 +43,41 @@ std::string SimulatedPlatform::bundleIDOf(ProcessID pid) const
     return helper == helperBundleIDs_.end() ? "" : helper->second;
 }
 
-AudioObjectID SimulatedPlatform::openAudio(ProcessID pid)
+AudioProcessID SimulatedPlatform::openAudio(ProcessID pid)
 {
-    return system_.openAudio(pid, bundleIDOf(pid));
+    return audioWorld_.openAudio(pid, bundleIDOf(pid));
 }
 
-AudioObjectID SimulatedPlatform::audioOf(ProcessID pid)
+AudioProcessID SimulatedPlatform::audioOf(ProcessID pid)
 {
-    const AudioObjectID open = system_.audioObjectOf(pid);
-    return open == kAudioObjectUnknown ? openAudio(pid) : open;
+    const AudioProcessID open = audioWorld_.audioProcessOf(pid);
+    return open == 0 ? openAudio(pid) : open;
 }
 
 void SimulatedPlatform::closeAudio(ProcessID pid)
 {
-    for (auto object = system_.audioObjectOf(pid); object != kAudioObjectUnknown;
-        object = system_.audioObjectOf(pid))
-        system_.closeAudio(object);
+    for (auto object = audioWorld_.audioProcessOf(pid); object != 0; object = audioWorld_.audioProcessOf(pid))
+        audioWorld_.closeAudio(object);
 }
 
 void SimulatedPlatform::startPlaying(ProcessID pid, SimulatedSignal signal)
 {
-    system_.startPlaying(audioOf(pid), std::move(signal));
+    audioWorld_.startPlaying(audioOf(pid), std::move(signal));
 }
 
 void SimulatedPlatform::stopPlaying(ProcessID pid)
 {
-    system_.stopPlaying(system_.audioObjectOf(pid));
+    audioWorld_.stopPlaying(audioWorld_.audioProcessOf(pid));
 }
 
 void SimulatedPlatform::startUsingMic(ProcessID pid)
 {
-    system_.setUsingMic(audioOf(pid), true);
+    audioWorld_.setUsingMic(audioOf(pid), true);
 }
 
 void SimulatedPlatform::stopUsingMic(ProcessID pid)
 {
-    system_.setUsingMic(system_.audioObjectOf(pid), false);
-}
-
-void SimulatedPlatform::refuse(AudioOperation operation, HowOften howOften, AudioStatus status)
-{
-    refuse(SimulatedFaults::Match{operation}, howOften, status);
-}
-
-void SimulatedPlatform::refuse(const SimulatedFaults::Match& match, HowOften howOften, AudioStatus status)
-{
-    audio_.faults().refuse(match, howOften, status);
+    audioWorld_.setUsingMic(audioWorld_.audioProcessOf(pid), false);
 }
 
 }  // namespace fadeloom

@@ -15,8 +15,8 @@
 #include "platform/Platform.h"
 #include "platform/simulated/SimulatedApplication.h"
 #include "platform/simulated/SimulatedAudioFiles.h"
-#include "platform/simulated/SimulatedAudioHardware.h"
 #include "platform/simulated/SimulatedAudioSystem.h"
+#include "platform/simulated/SimulatedAudioWorld.h"
 #include "platform/simulated/SimulatedBackgroundQueue.h"
 #include "platform/simulated/SimulatedCapturePermission.h"
 #include "platform/simulated/SimulatedClock.h"
@@ -66,41 +66,40 @@ public:
     void quitApp(ProcessID pid);
 
     // Their sound.
-    /// The process opens audio without playing: a further audio object of it appears.
-    AudioObjectID openAudio(ProcessID pid);
-    /// All audio objects of the process go.
+    /// The process opens audio without playing: a further audio process of that pid appears.
+    AudioProcessID openAudio(ProcessID pid);
+    /// All audio processes of that pid go.
     void closeAudio(ProcessID pid);
-    /// Plays through the process's first audio object, opening audio if it has none.
+    /// Plays through its first audio process, opening audio if it has none.
     void startPlaying(ProcessID pid, SimulatedSignal signal = SimulatedSignal::constant(0.25F));
     void stopPlaying(ProcessID pid);
     void startUsingMic(ProcessID pid);
     void stopUsingMic(ProcessID pid);
 
     // Devices, by unique id.
-    AudioObjectID plug(const SimulatedDeviceTraits& traits) { return system_.plug(traits); }
-    void unplug(const std::string& uid) { system_.unplug(uid); }
-    void changeRate(const std::string& uid, double rate) { system_.changeRate(uid, rate); }
-    void setDefaultOutput(const std::string& uid) { system_.setDefaultOutput(uid); }
+    OutputDeviceID plug(const SimulatedDeviceTraits& traits) { return audioWorld_.plug(traits); }
+    void unplug(const std::string& uid) { audioWorld_.unplug(uid); }
+    void changeRate(const std::string& uid, double rate) { audioWorld_.changeRate(uid, rate); }
+    void setDefaultOutput(const std::string& uid) { audioWorld_.setDefaultOutput(uid); }
     /// Runs one IO cycle now.
-    void runCycle(std::uint32_t frames) { system_.runCycle(frames); }
+    void runCycle(std::uint32_t frames) { audioWorld_.runCycle(frames); }
     /// What a device got in the last cycle.
-    [[nodiscard]] HeardAudio heard(const std::string& uid) const { return system_.heard(uid); }
+    [[nodiscard]] HeardAudio heard(const std::string& uid) const { return audioWorld_.heard(uid); }
 
     // The user's consent: `SimulatedCapturePermission::granted`, `denied`, `undecided`, or absent.
     void setPermission(std::optional<int> preflight) { permission_.set(preflight); }
 
     // Faults.
-    /// Refuses a call of the audio hardware, the next one or all of them.
-    void refuse(
-        AudioOperation operation, HowOften howOften, AudioStatus status = kAudioHardwareUnspecifiedError);
-    /// Refuses calls more precisely: of one property, of one object.
-    void refuse(const SimulatedFaults::Match& match, HowOften howOften,
-        AudioStatus status = kAudioHardwareUnspecifiedError);
-    void allow(AudioOperation operation) { audio_.faults().allow(operation); }
+    /// Refuses a call of the audio system, the next one or all of them.
+    void refuse(AudioOperation operation, HowOften howOften, std::int32_t status = -1)
+    {
+        audio_.refuse(operation, howOften, status);
+    }
+    void allow(AudioOperation operation) { audio_.allow(operation); }
 
     // The parts, for what has no word of its own here.
-    SimulatedAudioHardware& audio() { return audio_; }
-    SimulatedAudioSystem& audioSystem() { return system_; }
+    SimulatedAudioSystem& audio() { return audio_; }
+    SimulatedAudioWorld& audioWorld() { return audioWorld_; }
     SimulatedAudioFiles& audioFiles() { return audioFiles_; }
     SimulatedWorkspace& workspace() { return workspace_; }
     SimulatedCapturePermission& capturePermission() { return permission_; }
@@ -116,15 +115,15 @@ public:
 
 private:
     [[nodiscard]] std::string bundleIDOf(ProcessID pid) const;
-    AudioObjectID audioOf(ProcessID pid);
+    AudioProcessID audioOf(ProcessID pid);
 
     SimulatedClock clock_;
     SimulatedWallClock wallClock_{clock_};
     SimulatedMainLoop mainLoop_{clock_};
     SimulatedBackgroundQueue utilityQueue_{clock_};
     SimulatedBackgroundQueue logQueue_{clock_};
-    SimulatedAudioSystem system_{clock_, mainLoop_};
-    SimulatedAudioHardware audio_{system_};
+    SimulatedAudioWorld audioWorld_{clock_, mainLoop_};
+    SimulatedAudioSystem audio_{audioWorld_};
     SimulatedAudioFiles audioFiles_;
     SimulatedWorkspace workspace_;
     SimulatedCapturePermission permission_;

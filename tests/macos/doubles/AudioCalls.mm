@@ -91,12 +91,17 @@ OSStatus AudioObjectGetPropertyData(AudioObjectID object, const AudioObjectPrope
 {
     if (const OSStatus status = world().begin(asked("get", *address), object))
         return status;
+    if (auto* const answers = world().answers) {
+        const std::span given(static_cast<const std::byte*>(data), *size);
+        if (const OSStatus status = answers->willRead(object, *address, given))
+            return status;
+    }
     auto property = world().property(object, *address);
     if (!property)
         return property.error();
     if (*size < property->bytes.size())
         return kAudioHardwareBadPropertySizeError;
-    if (address->mSelector == kAudioDevicePropertyIOProcStreamUsage)
+    if (address->mSelector == kAudioDevicePropertyIOProcStreamUsage && world().answers == nullptr)
         fillInUsage(object, data, property->bytes);
     *size = static_cast<UInt32>(property->bytes.size());
     if (!property->isText) {

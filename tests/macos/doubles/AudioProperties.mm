@@ -197,6 +197,8 @@ Found ofAggregate(AudioWorld& world, Aggregate& aggregate, const AudioObjectProp
 
 Found AudioWorld::property(AudioObjectID object, const AudioObjectPropertyAddress& address)
 {
+    if (answers != nullptr)
+        return answers->property(object, address);
     if (object == kAudioObjectSystemObject)
         return ofSystem(*this, address.mSelector);
     if (const auto device = devices.find(object); device != devices.end())

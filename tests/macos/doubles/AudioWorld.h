@@ -19,6 +19,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -73,13 +74,24 @@ struct Property {
     std::function<OSStatus(const void* data)> write{};
 };
 
+/// Answers for properties in place of the world's own.
+class PropertyAnswers {
+public:
+    virtual ~PropertyAnswers() = default;
+    /// Before a value is read into these bytes; anything but 0 fails the reading.
+    virtual OSStatus willRead(AudioObjectID object, const AudioObjectPropertyAddress& address,
+        std::span<const std::byte> value) = 0;
+    virtual std::expected<Property, OSStatus> property(
+        AudioObjectID object, const AudioObjectPropertyAddress& address) = 0;
+};
+
 class AudioWorld {
 public:
     static constexpr std::uint32_t framesInCycle = 512;
 
     /// The one that the functions of the audio hardware layer act on.
     static AudioWorld& current();
-    /// Begins anew. Ids go on, so that none comes twice.
+    /// Starts over. Ids go on, so that none comes twice.
     void reset();
 
     AudioObjectID plug(Device device);
@@ -126,6 +138,7 @@ public:
     std::map<std::string, OSStatus> failures;
     AudioStreamBasicDescription tapFormat{};
     AudioObjectID lastID = 100;
+    PropertyAnswers* answers = nullptr;
 
 private:
     void run(Aggregate& aggregate, Proc& proc);

@@ -10,7 +10,7 @@
 namespace fadeloom {
 namespace {
 
-class AudioWorldPainting : public ::testing::Test {
+class AudioWorldBuilding : public ::testing::Test {
 protected:
     AudioWorld build()
     {
@@ -19,21 +19,20 @@ protected:
     }
 
     GraphOf world;
-    AudioObjectIDs ids;
     bool canWatch = true;
-    AudioWorldBuilder builder{ids,
+    AudioWorldBuilder builder{
         {.runs = [](std::int32_t, const std::string& binary) { return binary == "pacat"; },
             .watch = [this](std::int32_t) { return canWatch; }}};
 };
 
-TEST_F(AudioWorldPainting, aClientWithoutAStreamIsNoProcess)
+TEST_F(AudioWorldBuilding, aClientWithoutAStreamIsNoProcess)
 {
     world.nativeClient(100);
 
     EXPECT_TRUE(build().processes.empty());
 }
 
-TEST_F(AudioWorldPainting, clientsOfOnePidAreOneProcess)
+TEST_F(AudioWorldBuilding, clientsOfOnePidAreOneProcess)
 {
     const auto first = world.nativeClient(100);
     const auto second = world.nativeClient(100);
@@ -48,7 +47,7 @@ TEST_F(AudioWorldPainting, clientsOfOnePidAreOneProcess)
     EXPECT_EQ(picture.processOfClient(second + 1000), picture.processes.data());
 }
 
-TEST_F(AudioWorldPainting, aProcessStaysWithoutClientsUntilItEnds)
+TEST_F(AudioWorldBuilding, aProcessStaysWithoutClientsUntilItEnds)
 {
     const auto client = world.nativeClient(100);
     const auto stream = world.stream(client);
@@ -65,7 +64,7 @@ TEST_F(AudioWorldPainting, aProcessStaysWithoutClientsUntilItEnds)
     EXPECT_TRUE(build().processes.empty());
 }
 
-TEST_F(AudioWorldPainting, aProcessThatCannotBeWatchedEndsWithItsLastClient)
+TEST_F(AudioWorldBuilding, aProcessThatCannotBeWatchedEndsWithItsLastClient)
 {
     canWatch = false;
     const auto client = world.nativeClient(100);
@@ -78,7 +77,7 @@ TEST_F(AudioWorldPainting, aProcessThatCannotBeWatchedEndsWithItsLastClient)
     EXPECT_TRUE(build().processes.empty());
 }
 
-TEST_F(AudioWorldPainting, aClaimedPidIsBelievedOnlyWhenItsProgramFits)
+TEST_F(AudioWorldBuilding, aClaimedPidIsBelievedOnlyWhenItsProgramFits)
 {
     const auto pulse = [&](const char* binary) {
         world.stream(world.client({{"client.api", "pipewire-pulse"}, {"application.process.id", "7"},
@@ -94,7 +93,7 @@ TEST_F(AudioWorldPainting, aClaimedPidIsBelievedOnlyWhenItsProgramFits)
     EXPECT_EQ(std::ranges::count(picture.processes, -1, &AudioWorld::Process::pid), 1);
 }
 
-TEST_F(AudioWorldPainting, aNewProcessWithAnOldPidHasANewId)
+TEST_F(AudioWorldBuilding, aNewProcessWithAnOldPidHasANewId)
 {
     const auto client = world.nativeClient(100);
     world.stream(client);
@@ -109,7 +108,7 @@ TEST_F(AudioWorldPainting, aNewProcessWithAnOldPidHasANewId)
     EXPECT_NE(build().processes.at(0).id, id);
 }
 
-TEST_F(AudioWorldPainting, aDeviceIsListedOnceAllItsPortsAreThere)
+TEST_F(AudioWorldBuilding, aDeviceIsListedOnceAllItsPortsAreThere)
 {
     const auto sink = world.sink("speakers", {"FL"});
     world.graph.nodes[sink].inputPortCount = 2;
@@ -120,7 +119,7 @@ TEST_F(AudioWorldPainting, aDeviceIsListedOnceAllItsPortsAreThere)
     EXPECT_EQ(build().devices.size(), 1U);
 }
 
-TEST_F(AudioWorldPainting, aDeviceWhoseChannelsChangeIsAnotherDevice)
+TEST_F(AudioWorldBuilding, aDeviceWhoseChannelsChangeIsAnotherDevice)
 {
     const auto sink = world.sink("speakers", {"FL", "FR"});
     const auto before = build().devices.at(0);
@@ -134,7 +133,7 @@ TEST_F(AudioWorldPainting, aDeviceWhoseChannelsChangeIsAnotherDevice)
     EXPECT_NE(after.id, before.id);
 }
 
-TEST_F(AudioWorldPainting, namesOfAnyBytesAreKeptAsTheyAre)
+TEST_F(AudioWorldBuilding, namesOfAnyBytesAreKeptAsTheyAre)
 {
     const std::string longName(10000, 'n');
     world.sink("quo\"ted\n\xff", {"FL", "FR"});
@@ -147,12 +146,11 @@ TEST_F(AudioWorldPainting, namesOfAnyBytesAreKeptAsTheyAre)
     EXPECT_NE(picture.deviceWithUID(longName), nullptr);
 }
 
-TEST_F(AudioWorldPainting, whatDiffersIsTold)
+TEST_F(AudioWorldBuilding, whatDiffersIsAnnounced)
 {
     const auto client = world.nativeClient(100);
     const auto stream = world.stream(client, GraphNode::State::idle);
     const auto before = build();
-    const auto process = before.processes.at(0).id;
 
     world.graph.nodes[stream].state = GraphNode::State::running;
     const auto playing = build();
@@ -160,15 +158,12 @@ TEST_F(AudioWorldPainting, whatDiffersIsTold)
     world.graph.metadata[0]["default.audio.sink"] = R"({"name":"speakers"})";
     const auto plugged = build();
 
-    EXPECT_TRUE(changesBetween(before, before).empty());
-    EXPECT_EQ(changesBetween(before, playing),
-        (std::vector<ChangedProperty>{{process, {kAudioProcessPropertyIsRunningOutput}}}));
-    EXPECT_EQ(changesBetween(playing, plugged),
-        (std::vector<ChangedProperty>{{kAudioObjectSystemObject, {kAudioHardwarePropertyDevices}},
-            {kAudioObjectSystemObject, {kAudioHardwarePropertyDefaultOutputDevice}}}));
+    EXPECT_FALSE(changesBetween(before, before).any());
+    EXPECT_EQ(changesBetween(before, playing), AudioChanges{.processes = true});
+    EXPECT_EQ(changesBetween(playing, plugged), (AudioChanges{.outputDevices = true, .defaultOutput = true}));
 }
 
-TEST_F(AudioWorldPainting, aProcessHasTheDevicesThatItsStreamsWouldPlayTo)
+TEST_F(AudioWorldBuilding, aProcessHasTheDevicesThatItsStreamsWouldPlayTo)
 {
     world.sink("speakers", {"FL", "FR"});
     world.sink("headphones", {"FL", "FR"});
@@ -186,7 +181,7 @@ TEST_F(AudioWorldPainting, aProcessHasTheDevicesThatItsStreamsWouldPlayTo)
     EXPECT_EQ(build().processes.at(0).ownOutputs, std::set<std::string>{"headphones"});
 }
 
-TEST_F(AudioWorldPainting, whatCarriesSoundOnForOthersIsNoProcess)
+TEST_F(AudioWorldBuilding, whatCarriesSoundOnForOthersIsNoProcess)
 {
     const auto client = world.nativeClient(100);
     world.node({{"media.class", "Stream/Input/Audio"}, {"client.id", std::to_string(client)},

@@ -82,7 +82,7 @@ private:
             processes[pidOf(client)].clients.insert(client.serial);
         AudioWorld picture;
         for (auto& [pid, process] : processes) {
-            process.id = static_cast<AudioObjectID>(pid);
+            process.id = static_cast<AudioProcessID>(pid);
             picture.processes.push_back(process);
         }
         return picture;
@@ -95,7 +95,7 @@ private:
     }
     bool isTapped(const Source& source) const
     {
-        const auto process = static_cast<AudioObjectID>(pidOf(clientOf(source.stream)));
+        const auto process = static_cast<AudioProcessID>(pidOf(clientOf(source.stream)));
         return std::ranges::any_of(taps_, [&](const TapRoute& tap) {
             return tap.processes.contains(process)
                 && (tap.scope == StreamScope::every || tap.deviceNode == homeOf(source));
@@ -218,7 +218,7 @@ private:
         if (taps_.size() > 6)
             taps_.clear();
         const auto device = anyDevice();
-        taps_.push_back({.processes = {static_cast<AudioObjectID>(100 + random_() % 5)},
+        taps_.push_back({.processes = {static_cast<AudioProcessID>(100 + random_() % 5)},
             .deviceNode = device,
             .deviceSerial = world_.graph.node(device)->serial,
             .scope = random_() % 3 == 0 ? StreamScope::ofTheDevice : StreamScope::every});

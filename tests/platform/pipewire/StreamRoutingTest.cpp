@@ -33,7 +33,7 @@ protected:
                 GraphNode::State::running);
         world.link(device, id);
     }
-    AudioObjectID processOf(GraphID stream)
+    AudioProcessID processOf(GraphID stream)
     {
         const auto client = world.graph.clients.at(*world.graph.node(stream)->clientID()).serial;
         return picture().processOfClient(client)->id;
@@ -65,10 +65,8 @@ protected:
     ChosenTargetOf chosenTarget = [this](const GraphNode& stream) {
         return chosenTargetIn(world.graph, stream.id);
     };
-    AudioObjectIDs ids;
-    AudioWorldBuilder builder{ids,
-        {.runs = [](std::int32_t, const std::string&) { return true; },
-            .watch = [](std::int32_t) { return true; }}};
+    AudioWorldBuilder builder{{.runs = [](std::int32_t, const std::string&) { return true; },
+        .watch = [](std::int32_t) { return true; }}};
     std::list<TapRoute> taps;
     int nextPid = 100;
     GraphID speakers = world.sink("speakers", {"FL", "FR"});

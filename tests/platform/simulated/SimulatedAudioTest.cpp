@@ -7,8 +7,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 namespace fadeloom {
 namespace {
 
@@ -17,126 +15,62 @@ using ::testing::IsEmpty;
 
 class SimulatedAudioTest : public ::testing::Test {
 protected:
-    AudioObjectID playing(const std::string& name, float sample)
+    AudioProcessID playing(const std::string& name, float sample)
     {
         const ProcessID pid = world.launchApp(name);
         world.startPlaying(pid, SimulatedSignal::constant(sample));
-        return world.audioSystem().audioObjectOf(pid);
+        return world.audioWorld().audioProcessOf(pid);
     }
 
     SimulatedPlatform world{"/nowhere"};
     AudioReading reading{world.audio()};
 };
 
-TEST_F(SimulatedAudioTest, readingAThousandProcessesIsCountedBySelector)
+TEST_F(SimulatedAudioTest, callsAreCountedByWhatTheyAsk)
 {
     for (int i = 0; i < 1000; ++i)
         world.openAudio(world.launchApp("App " + std::to_string(i)));
-    world.audio().clearReadCounts();
+    world.plug({.uid = "speakers", .name = "Speakers"});
+    world.audio().clearCallCounts();
 
-    for (const auto id : reading.list(kAudioObjectSystemObject, kAudioHardwarePropertyProcessObjectList)) {
-        EXPECT_FALSE(reading.isPlaying(id));
-        EXPECT_NE(reading.text(id, kAudioProcessPropertyBundleID), "");
-    }
+    EXPECT_EQ(world.audio().processes(ReadMic::no).size(), 1000U);
+    EXPECT_TRUE(reading.hasDevice("speakers"));
 
-    EXPECT_EQ(world.audio().readCount(kAudioProcessPropertyIsRunningOutput), 1000);
-    EXPECT_EQ(world.audio().readCount(kAudioProcessPropertyBundleID), 1000);
-    EXPECT_EQ(world.audio().readCount(), 2001);
+    EXPECT_EQ(world.audio().callCount(AudioOperation::processes), 1);
+    EXPECT_EQ(world.audio().callCount(AudioOperation::outputDevices), 1);
+    EXPECT_EQ(world.audio().callCount(), 2);
 }
 
-TEST_F(SimulatedAudioTest, aDeviceWithAMicrophoneGivesTheAggregateItsInputFirst)
+TEST_F(SimulatedAudioTest, aMicrophoneIsNoOutputDevice)
 {
-    world.plug({.uid = "headset", .name = "Headset", .inputStreams = {1}});
-    ContractTap tap{world.audio(), {playing("Music", 0.5F)}, "headset"};
+    world.plug({.uid = "microphone", .name = "Microphone", .outputStreams = {}, .inputStreams = 1});
 
-    EXPECT_EQ(tap.start(), kAudioHardwareNoError);
-    world.runCycle(32);
-
-    EXPECT_EQ(tap.proc.inputBuffers, 2U);
-    EXPECT_EQ(tap.proc.inputChannelsOfLast, 2U);
-    EXPECT_EQ(tap.proc.lastPeak, 0.5F);
+    EXPECT_THAT(world.audio().outputDevices(), IsEmpty());
+    EXPECT_EQ(world.audio().defaultOutput(), std::nullopt);
 }
 
-TEST_F(SimulatedAudioTest, aStreamThatIsSwitchedOffHasNoData)
+TEST_F(SimulatedAudioTest, theMicrophoneIsReadOnlyWhenAskedFor)
 {
-    world.plug({.uid = "headset", .name = "Headset", .inputStreams = {1}});
-    ContractTap tap{world.audio(), {playing("Music", 0.5F)}, "headset"};
-    const AudioObjectPropertyAddress address{
-        kAudioDevicePropertyIOProcStreamUsage, kAudioObjectPropertyScopeInput};
-    std::vector<std::byte> record(world.audio().propertySize(tap.aggregate, address).value());
-    std::memcpy(record.data(), &tap.procID, sizeof tap.procID);
+    const auto pid = world.launchApp("Call");
+    world.startUsingMic(pid);
 
-    ASSERT_EQ(world.audio().readProperty(tap.aggregate, address, record).value_or(0), record.size());
-    EXPECT_EQ(record.size(), AudioHardwareIOProcStreamUsage::flagsOffset + 2 * sizeof(std::uint32_t));
-    std::uint32_t flags[2];
-    std::memcpy(flags, record.data() + AudioHardwareIOProcStreamUsage::flagsOffset, sizeof flags);
-    EXPECT_THAT(flags, ElementsAre(1, 1));
-    flags[1] = 0;  // The tap, so that the procedure hears nothing.
-    std::memcpy(record.data() + AudioHardwareIOProcStreamUsage::flagsOffset, flags, sizeof flags);
-    EXPECT_EQ(world.audio().writeProperty(tap.aggregate, address, record), kAudioHardwareNoError);
-    EXPECT_EQ(tap.start(), kAudioHardwareNoError);
-    world.runCycle(32);
-
-    EXPECT_EQ(tap.proc.cycles, 1);
-    EXPECT_EQ(tap.proc.inputFrames, 32U);
-    EXPECT_EQ(tap.proc.lastPeak, 0.0F);
+    EXPECT_FALSE(world.audio().processes(ReadMic::no).front().isUsingMic);
+    EXPECT_TRUE(world.audio().processes(ReadMic::yes).front().isUsingMic);
 }
 
-TEST_F(SimulatedAudioTest, streamUsageNeedsAProcedureOfTheDevice)
-{
-    world.plug({.uid = "headset", .name = "Headset", .inputStreams = {1}});
-    const AudioObjectPropertyAddress address{
-        kAudioDevicePropertyIOProcStreamUsage, kAudioObjectPropertyScopeInput};
-
-    const auto device = reading.device("headset");
-
-    EXPECT_EQ(reading.statusOfReading(device, address, 16), kAudioHardwareIllegalOperationError);
-    EXPECT_EQ(reading.statusOfReading(device, address, 8), kAudioHardwareBadPropertySizeError);
-}
-
-TEST_F(SimulatedAudioTest, aNonInterleavedTapHasABufferForEachChannel)
+TEST_F(SimulatedAudioTest, aRateChangeIsAnnouncedOnce)
 {
     world.plug({.uid = "speakers", .name = "Speakers"});
-    auto format = world.audioSystem().tapFormat();
-    format.formatFlags |= kAudioFormatFlagIsNonInterleaved;
-    format.bytesPerFrame = format.bytesPerPacket = 4;
-    world.audioSystem().setTapFormat(format);
-    ContractTap tap{world.audio(), {playing("Music", 0.5F)}, "speakers"};
-
-    EXPECT_EQ(tap.start(), kAudioHardwareNoError);
-    world.runCycle(32);
-
-    EXPECT_EQ(tap.proc.inputBuffers, 2U);
-    EXPECT_EQ(tap.proc.inputChannelsOfLast, 1U);
-    EXPECT_EQ(tap.proc.inputFrames, 32U);
-}
-
-TEST_F(SimulatedAudioTest, anAggregateIsListedUnderItsOwnUniqueIdWhileItLives)
-{
-    world.plug({.uid = "speakers", .name = "Speakers"});
-    ContractTap tap{world.audio(), {}, "speakers"};
-    const std::string uid = "com.fadeloom.tap." + tap.description.uuid;
-
-    EXPECT_EQ(reading.device(uid), tap.aggregate);
-    tap.tearDown();
-
-    EXPECT_EQ(reading.device(uid), kAudioObjectUnknown);
-}
-
-TEST_F(SimulatedAudioTest, aRateChangeReachesTheAggregatesAndIsTold)
-{
-    world.plug({.uid = "speakers", .name = "Speakers"});
-    const ContractTap tap{world.audio(), {}, "speakers"};
-    int told = 0;
-    const auto subscription = world.audio().listen(
-        reading.device("speakers"), {kAudioDevicePropertyNominalSampleRate}, [&] { ++told; });
+    world.runPosted();
+    int calls = 0;
+    const auto subscription = world.audio().whenOutputDevicesChange([&] { ++calls; });
 
     world.changeRate("speakers", 44100);
     world.changeRate("speakers", 44100);
     world.runPosted();
 
-    EXPECT_EQ(reading.rate(tap.aggregate), 44100.0);
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(world.audio().sampleRate(reading.device("speakers").id), 44100.0);
+    EXPECT_EQ(calls, 1);
 }
 
 TEST_F(SimulatedAudioTest, soundKeepsToThePreferredPairOfItsDevice)
@@ -144,7 +78,7 @@ TEST_F(SimulatedAudioTest, soundKeepsToThePreferredPairOfItsDevice)
     world.plug({.uid = "interface",
         .name = "Interface",
         .outputStreams = {2, 2},
-        .stereoPair = std::array<std::uint32_t, 2>{3, 4}});
+        .stereoPair = {.left = 3, .right = 4}});
     playing("Music", 0.5F);
 
     world.runCycle(16);
@@ -168,59 +102,68 @@ TEST_F(SimulatedAudioTest, onlyTheDefaultOutputIsHeardWithoutTaps)
     EXPECT_EQ(world.heard("headphones").peak(2), 0.5F);
 }
 
-TEST_F(SimulatedAudioTest, everyPropertyReadCanBeRefusedByItself)
-{
-    world.plug({.uid = "speakers", .name = "Speakers"});
-    const AudioObjectID other = world.plug({.uid = "other", .name = "Other"});
-    world.refuse({AudioOperation::readProperty, kAudioObjectPropertyName, other}, HowOften::always, -5);
-
-    EXPECT_EQ(world.audio().readText(other, {kAudioObjectPropertyName}).error(), -5);
-    EXPECT_EQ(reading.text(other, kAudioDevicePropertyDeviceUID), "other");
-    EXPECT_EQ(reading.text(reading.device("speakers"), kAudioObjectPropertyName), "Speakers");
-
-    world.allow(AudioOperation::readProperty);
-    EXPECT_EQ(reading.text(other, kAudioObjectPropertyName), "Other");
-}
-
-TEST_F(SimulatedAudioTest, everyChangingCallCanBeRefused)
+TEST_F(SimulatedAudioTest, everyReadingCanBeRefused)
 {
     using enum AudioOperation;
     world.plug({.uid = "speakers", .name = "Speakers"});
-    for (const auto operation : {createProcessTap, createAggregateDevice, createIOProc, start, stop,
-             destroyIOProc, destroyAggregateDevice, destroyProcessTap})
-        world.refuse(operation, HowOften::once, -7);
+    playing("Music", 0.5F);
+    const auto speakers = reading.device("speakers").id;
+    for (const auto operation : {processes, outputDevices, sampleRate, defaultOutput})
+        world.refuse(operation, HowOften::once);
 
-    ContractTap tap{world.audio(), {}, "speakers"};
-    tap.start();
-    tap.tearDown();
+    EXPECT_THAT(world.audio().processes(ReadMic::no), IsEmpty());
+    EXPECT_THAT(world.audio().outputDevices(), IsEmpty());
+    EXPECT_EQ(world.audio().sampleRate(speakers), 0.0);
+    EXPECT_EQ(world.audio().defaultOutput(), std::nullopt);
 
-    for (const auto& call : world.audio().journal())
-        EXPECT_EQ(call.status, -7) << static_cast<int>(call.operation);
-    EXPECT_EQ(world.audio().journal().size(), 8U);
+    EXPECT_EQ(world.audio().processes(ReadMic::no).size(), 1U);
+    EXPECT_EQ(world.audio().outputDevices().size(), 1U);
+    EXPECT_EQ(world.audio().sampleRate(speakers), 48000.0);
+    EXPECT_EQ(world.audio().defaultOutput(), "speakers");
 }
 
-TEST_F(SimulatedAudioTest, changesInOneTurnAreToldOnce)
+TEST_F(SimulatedAudioTest, everyChangeCanBeRefused)
 {
-    int told = 0;
-    const auto subscription = world.audio().listen(
-        kAudioObjectSystemObject, {kAudioHardwarePropertyProcessObjectList}, [&] { ++told; });
+    using enum AudioOperation;
+    world.plug({.uid = "speakers", .name = "Speakers"});
+    world.plug({.uid = "headphones", .name = "Headphones"});
+    const auto music = playing("Music", 0.5F);
+    for (const auto operation : {createTap, setTapProcesses, setDefaultOutput})
+        world.refuse(operation, HowOften::once, -7);
+
+    const ContractTap refused{world.audio(), {music}, reading.device("speakers")};
+    ContractTap tap{world.audio(), {music}, reading.device("speakers")};
+    ASSERT_TRUE(tap.isRunning());
+
+    EXPECT_EQ(refused.error, (TapError{.step = "Create process tap", .status = -7}));
+    EXPECT_FALSE(tap->setProcesses({}));
+    EXPECT_FALSE(world.audio().setDefaultOutput(reading.device("headphones")));
+    tap.end();
+    EXPECT_THAT(world.audio().operations(),
+        ElementsAre(createTap, createTap, setTapProcesses, setDefaultOutput, destroyTap));
+}
+
+TEST_F(SimulatedAudioTest, changesInOneTurnAreAnnouncedOnce)
+{
+    int calls = 0;
+    const auto subscription = world.audio().whenProcessesChange([&] { ++calls; });
 
     playing("Music", 0.5F);
     playing("Game", 0.5F);
     world.runPosted();
 
-    EXPECT_EQ(told, 1);
-    EXPECT_EQ(world.audio().listenerCount(), 1U);
+    EXPECT_EQ(calls, 1);
 }
 
 TEST_F(SimulatedAudioTest, aTapOfAProcessThatIsGoneIsRefused)
 {
-    const AudioObjectID music = playing("Music", 0.5F);
-    world.audioSystem().closeAudio(music);
+    world.plug({.uid = "speakers", .name = "Speakers"});
+    const AudioProcessID music = playing("Music", 0.5F);
+    world.audioWorld().closeAudio(music);
 
-    const auto tap = world.audio().createProcessTap({{music}, "uuid", "name", true, TapMuteBehavior::muted});
+    const ContractTap tap{world.audio(), {music}, reading.device("speakers")};
 
-    EXPECT_EQ(tap.error(), kAudioHardwareBadObjectError);
+    EXPECT_TRUE(tap.error);
 }
 
 }  // namespace

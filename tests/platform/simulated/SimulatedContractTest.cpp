@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 
 class SimulatedContractWorld final : public ContractWorld {
 public:
-    AudioHardware& hardware() override { return platform_.audio(); }
+    AudioSystem& audio() override { return platform_.audio(); }
     MainLoop& mainLoop() override { return platform_.mainLoop(); }
 
     ProcessID startPlayer(float amplitude) override
@@ -38,7 +38,7 @@ public:
 
     void plug(const std::string& uid, const std::string& name, std::uint32_t channels) override
     {
-        const std::array<std::uint32_t, 2> pair{1, channels == 1 ? 1U : 2U};
+        const StereoChannels pair{.left = 1, .right = channels == 1 ? 1U : 2U};
         later([=, this] {
             platform_.plug({.uid = uid, .name = name, .outputStreams = {channels}, .stereoPair = pair});
         });

@@ -28,27 +28,21 @@ public:
 
 class SimulatedPlatformTest : public ::testing::Test {
 protected:
-    /// Builds tap, aggregate and IO procedure for a process that plays, and starts them.
-    void tapAndStart(AudioObjectID process, const std::string& output)
+    /// Captures a process that plays, on its way to an output.
+    void tap(ProcessID pid, const std::string& output)
     {
-        auto& audio = world.audio();
-        tap = audio
-                  .createProcessTap(
-                      {{process}, "uuid", "Fadeloom Music", true, TapMuteBehavior::mutedWhenTapped})
-                  .value();
-        aggregate = audio
-                        .createAggregateDevice({"Fadeloom Music", "com.fadeloom.tap.1", output, true, false,
-                            true, {output}, {{"uuid", true}}})
-                        .value();
-        procID = audio.createIOProc(aggregate, proc).value();
-        ASSERT_EQ(audio.start(aggregate, procID), kAudioHardwareNoError);
+        const auto& state = world.audioWorld().state();
+        auto made = world.audio().createTap({.processes = {world.audioWorld().audioProcessOf(pid)},
+                                                .output = {.id = state.deviceWithUID(output), .uid = output},
+                                                .name = "Music"},
+            [this](const TapFormat&) { return proc; });
+        ASSERT_TRUE(made);
+        tapped = std::move(*made);
     }
 
     SimulatedPlatform world{"/nowhere"};
-    HalvingProc proc;
-    AudioObjectID tap = 0;
-    AudioObjectID aggregate = 0;
-    AudioDeviceIOProcID procID = nullptr;
+    std::shared_ptr<HalvingProc> proc = std::make_shared<HalvingProc>();
+    std::unique_ptr<ProcessTap> tapped;
 };
 
 TEST_F(SimulatedPlatformTest, playingAppIsHeardOnTheDefaultOutput)
@@ -69,24 +63,24 @@ TEST_F(SimulatedPlatformTest, tappedAppIsHeardThroughTheProcedureAlone)
     world.startPlaying(music, SimulatedSignal::constant(0.5F));
     world.startPlaying(world.launchApp("Game"), SimulatedSignal::constant(0.125F));
 
-    tapAndStart(world.audioSystem().audioObjectOf(music), "speakers");
+    tap(music, "speakers");
     world.runCycle(64);
 
     EXPECT_EQ(world.heard("speakers").at(10, 1), 0.25F + 0.125F);
 }
 
-TEST_F(SimulatedPlatformTest, stoppedProcedureGivesTheAppItsOwnSoundBack)
+TEST_F(SimulatedPlatformTest, endedTapGivesTheAppItsOwnSoundBack)
 {
     world.plug({.uid = "speakers", .name = "Speakers"});
     const auto music = world.launchApp("Music");
     world.startPlaying(music, SimulatedSignal::constant(0.5F));
-    tapAndStart(world.audioSystem().audioObjectOf(music), "speakers");
+    tap(music, "speakers");
 
-    EXPECT_EQ(world.audio().stop(aggregate, procID), kAudioHardwareNoError);
+    tapped.reset();
     world.runCycle(64);
 
     EXPECT_EQ(world.heard("speakers").at(10, 1), 0.5F);
-    EXPECT_EQ(proc.cycles, 0);
+    EXPECT_EQ(proc->cycles, 0);
 }
 
 TEST_F(SimulatedPlatformTest, advancingRunsACycleEveryTenMillisecondsWhileSomethingPlays)
@@ -94,38 +88,12 @@ TEST_F(SimulatedPlatformTest, advancingRunsACycleEveryTenMillisecondsWhileSometh
     world.plug({.uid = "speakers", .name = "Speakers"});
     const auto music = world.launchApp("Music");
     world.startPlaying(music);
-    tapAndStart(world.audioSystem().audioObjectOf(music), "speakers");
+    tap(music, "speakers");
 
     world.advance(1s);
 
-    EXPECT_EQ(proc.cycles, 100);
+    EXPECT_EQ(proc->cycles, 100);
     EXPECT_EQ(world.heard("speakers").frames, 480U);
-}
-
-TEST_F(SimulatedPlatformTest, refusedOnceFailsOnceWithItsStatus)
-{
-    world.plug({.uid = "speakers", .name = "Speakers"});
-    world.refuse(AudioOperation::createProcessTap, HowOften::once, -50);
-
-    const auto first = world.audio().createProcessTap({});
-    const auto second = world.audio().createProcessTap({});
-
-    EXPECT_EQ(first.error(), -50);
-    EXPECT_TRUE(second.has_value());
-}
-
-TEST_F(SimulatedPlatformTest, journalTellsCallsInOrder)
-{
-    world.plug({.uid = "speakers", .name = "Speakers"});
-    const auto music = world.launchApp("Music");
-    world.startPlaying(music);
-
-    tapAndStart(world.audioSystem().audioObjectOf(music), "speakers");
-
-    EXPECT_THAT(world.audio().operations(),
-        ElementsAre(AudioOperation::createProcessTap, AudioOperation::createAggregateDevice,
-            AudioOperation::createIOProc, AudioOperation::start));
-    EXPECT_EQ(world.audio().aggregateDescriptions().back().uid, "com.fadeloom.tap.1");
 }
 
 }  // namespace

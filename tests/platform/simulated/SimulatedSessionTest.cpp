@@ -43,9 +43,7 @@ TEST_F(SimulatedSessionTest, aHelperIsNoAppAndItsOwnerAnswersForIt)
 
     EXPECT_FALSE(workspace.runningApplication(helper).has_value());
     EXPECT_EQ(workspace.responsiblePid(helper), browser);
-    const AudioReading reading{world.audio()};
-    EXPECT_EQ(
-        reading.text(reading.process(helper), kAudioProcessPropertyBundleID), "com.example.browser.helper");
+    EXPECT_EQ(AudioReading{world.audio()}.process(helper).bundleID, "com.example.browser.helper");
 }
 
 TEST_F(SimulatedSessionTest, quittingAnAppEndsItsHelpersAndTheirAudio)
@@ -60,7 +58,7 @@ TEST_F(SimulatedSessionTest, quittingAnAppEndsItsHelpersAndTheirAudio)
 
     EXPECT_TRUE(workspace.isTerminated(app));
     EXPECT_EQ(workspace.responsiblePid(helper), std::nullopt);
-    EXPECT_THAT(world.audioSystem().objects().processes, IsEmpty());
+    EXPECT_THAT(world.audioWorld().state().processes, IsEmpty());
 }
 
 TEST_F(SimulatedSessionTest, launchingAgainUnderTheSamePidDoesNotReviveTheFirst)
@@ -81,13 +79,11 @@ TEST_F(SimulatedSessionTest, theMicrophoneIsAPropertyOfTheProcess)
     const AudioReading reading{world.audio()};
 
     world.startUsingMic(call);
-    const auto isUsing = [&] {
-        return reading.value<std::uint32_t>(reading.process(call), kAudioProcessPropertyIsRunningInput);
-    };
+    const auto isUsing = [&] { return reading.process(call).isUsingMic; };
 
-    EXPECT_EQ(isUsing(), 1U);
+    EXPECT_TRUE(isUsing());
     world.stopUsingMic(call);
-    EXPECT_EQ(isUsing(), 0U);
+    EXPECT_FALSE(isUsing());
 }
 
 TEST_F(SimulatedSessionTest, consentIsGivenAtFirstAndFollowsTheAnswer)

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// A process that has opened audio.
+#pragma once
+
+#include "platform/Workspace.h"
+
+#include <cstdint>
+#include <string>
+
+namespace fadeloom {
+
+/// Never reused while the program runs; 0 for none.
+using AudioProcessID = std::uint32_t;
+
+/// One audio process at the moment it was asked for.
+struct AudioProcess {
+    AudioProcessID id = 0;
+    ProcessID pid = -1;  // −1 when it is unknown.
+    std::string bundleID{};  // Empty when it has none.
+    bool isPlaying = false;
+    bool isUsingMic = false;
+
+    friend bool operator==(const AudioProcess&, const AudioProcess&) = default;
+};
+
+/// Whether to find out who uses the microphone, which costs a question for each process on some systems.
+enum class ReadMic : bool { no, yes };
+
+}  // namespace fadeloom

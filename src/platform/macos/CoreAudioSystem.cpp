@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "platform/macos/CoreAudioSystem.h"
+
+#include "base/Observers.h"
+#include "platform/macos/CoreAudioTap.h"
+#include "platform/macos/HAL.h"
+#include "platform/macos/OutputDevices.h"
+#include "platform/macos/ProcessListeners.h"
+#include "platform/macos/PropertyListener.h"
+
+#include <utility>
+
+namespace fadeloom {
+
+namespace {
+
+/// What cannot be listened to is seen by whoever asks regularly.
+Subscription listen(AudioObjectPropertySelector selector, AudioSystem::Listener listener)
+{
+    auto added = PropertyListener::add(kAudioObjectSystemObject, HAL::address(selector), std::move(listener));
+    if (!added)
+        return {};
+    // A subscription's end is copyable, as every std::function.
+    return Subscription([kept = std::shared_ptr(std::move(*added))]() mutable { kept.reset(); });
+}
+
+}  // namespace
+
+/// The processes one by one, while anybody wants to hear of them.
+struct CoreAudioSystem::ProcessWatch {
+    Observers observers;
+    ProcessListeners listeners{[this] { observers.notify(); }};
+};
+
+CoreAudioSystem::CoreAudioSystem()
+    : processWatch_(std::make_shared<ProcessWatch>())
+{
+}
+
+CoreAudioSystem::~CoreAudioSystem() = default;
+
+std::vector<AudioProcess> CoreAudioSystem::processes(ReadMic readMic)
+{
+    auto processes = processes_.all(readMic);
+    if (!processWatch_->observers.isEmpty())
+        processWatch_->listeners.sync(processes);
+    return processes;
+}
+
+Subscription CoreAudioSystem::whenProcessesChange(Listener listener)
+{
+    auto watched = std::make_shared<Subscription>(processWatch_->observers.add(listener));
+    auto listed =
+        std::make_shared<Subscription>(listen(kAudioHardwarePropertyProcessObjectList, std::move(listener)));
+    return Subscription([watched, listed, watch = std::weak_ptr(processWatch_)] {
+        listed->reset();
+        watched->reset();
+        if (const auto alive = watch.lock(); alive && alive->observers.isEmpty())
+            alive->listeners.sync({});
+    });
+}
+
+std::vector<OutputDevice> CoreAudioSystem::outputDevices() const
+{
+    return OutputDevices::all();
+}
+
+Subscription CoreAudioSystem::whenOutputDevicesChange(Listener listener)
+{
+    return listen(kAudioHardwarePropertyDevices, std::move(listener));
+}
+
+double CoreAudioSystem::sampleRate(OutputDeviceID device) const
+{
+    return HAL::value<double>(device, HAL::address(kAudioDevicePropertyNominalSampleRate)).value_or(0);
+}
+
+std::optional<std::string> CoreAudioSystem::defaultOutput() const
+{
+    return OutputDevices::defaultOutputUID();
+}
+
+Subscription CoreAudioSystem::whenDefaultOutputChanges(Listener listener)
+{
+    return listen(kAudioHardwarePropertyDefaultOutputDevice, std::move(listener));
+}
+
+bool CoreAudioSystem::setDefaultOutput(const OutputDevice& device)
+{
+    return HAL::setValue(kAudioObjectSystemObject, HAL::address(kAudioHardwarePropertyDefaultOutputDevice),
+               AudioObjectID{device.id})
+        == kAudioHardwareNoError;
+}
+
+std::expected<std::unique_ptr<ProcessTap>, TapError> CoreAudioSystem::createTap(
+    const TapRequest& request, const AudioIOProcFactory& makeIOProc)
+{
+    return CoreAudioTap::create(request, makeIOProc);
+}
+
+}  // namespace fadeloom

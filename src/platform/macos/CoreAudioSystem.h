@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// The audio system of macOS. It passes questions on and remembers nothing but who a process is: the system does.
+#pragma once
+
+#include "platform/AudioSystem.h"
+#include "platform/macos/AudioProcesses.h"
+
+#include <memory>
+
+namespace fadeloom {
+
+/// Listeners are called from the main dispatch queue, which the main loop serves.
+class CoreAudioSystem final : public AudioSystem {
+public:
+    CoreAudioSystem();
+    ~CoreAudioSystem() override;
+
+    [[nodiscard]] std::vector<AudioProcess> processes(ReadMic readMic) override;
+    [[nodiscard]] Subscription whenProcessesChange(Listener listener) override;
+    [[nodiscard]] std::vector<OutputDevice> outputDevices() const override;
+    [[nodiscard]] Subscription whenOutputDevicesChange(Listener listener) override;
+    [[nodiscard]] double sampleRate(OutputDeviceID device) const override;
+    [[nodiscard]] std::optional<std::string> defaultOutput() const override;
+    [[nodiscard]] Subscription whenDefaultOutputChanges(Listener listener) override;
+    bool setDefaultOutput(const OutputDevice& device) override;
+    [[nodiscard]] std::expected<std::unique_ptr<ProcessTap>, TapError> createTap(
+        const TapRequest& request, const AudioIOProcFactory& makeIOProc) override;
+
+private:
+    struct ProcessWatch;
+
+    AudioProcesses processes_;
+    std::shared_ptr<ProcessWatch> processWatch_;  // Shared with subscriptions, which hold it weakly.
+};
+
+}  // namespace fadeloom

@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include "platform/macos/CoreAudioTap.h"
+
+#include "platform/macos/AggregateDictionary.h"
+#include "platform/macos/HAL.h"
+#include "platform/macos/OutputDevices.h"
+#include "platform/macos/StreamUsage.h"
+#include "platform/macos/Uuid.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+namespace fadeloom {
+namespace {
+
+constexpr UInt32 sampleBits = 32;
+
+// A buffer of the audio system and one of ours are the same bytes.
+static_assert(sizeof(AudioBuffer) == sizeof(::AudioBuffer));
+static_assert(offsetof(AudioBuffer, channels) == offsetof(::AudioBuffer, mNumberChannels));
+static_assert(offsetof(AudioBuffer, byteSize) == offsetof(::AudioBuffer, mDataByteSize));
+static_assert(offsetof(AudioBuffer, data) == offsetof(::AudioBuffer, mData));
+
+AudioBuffers buffersOf(const AudioBufferList* list)
+{
+    if (list == nullptr)
+        return {};
+    return {reinterpret_cast<const AudioBuffer*>(list->mBuffers), list->mNumberBuffers};
+}
+
+bool isNonInterleaved(const AudioStreamBasicDescription& format)
+{
+    return (format.mFormatFlags & kAudioFormatFlagIsNonInterleaved) != 0;
+}
+
+bool hasFloatSamples(const AudioStreamBasicDescription& format)
+{
+    return format.mFormatID == kAudioFormatLinearPCM && (format.mFormatFlags & kAudioFormatFlagIsFloat) != 0
+        && format.mBitsPerChannel == sampleBits;
+}
+
+std::unexpected<TapError> failed(std::string step, OSStatus status)
+{
+    return std::unexpected(TapError{.step = std::move(step), .status = status});
+}
+
+}  // namespace
+
+std::expected<std::unique_ptr<CoreAudioTap>, TapError> CoreAudioTap::create(
+    const TapRequest& request, const AudioIOProcFactory& makeIOProc)
+{
+    // The constructor is private, which std::make_unique cannot reach.
+    std::unique_ptr<CoreAudioTap> tap(new CoreAudioTap(request.output));
+    if (auto built = tap->build(request, makeIOProc); !built)
+        return std::unexpected(std::move(built.error()));  // Its destructor takes down what there is.
+    return tap;
+}
+
+CoreAudioTap::CoreAudioTap(OutputDevice output)
+    : output_(std::move(output))
+{
+}
+
+CoreAudioTap::~CoreAudioTap()
+{
+    if (proc_) {
+        AudioDeviceStop(aggregate_, *proc_);
+        AudioDeviceDestroyIOProcID(aggregate_, *proc_);
+    }
+    if (aggregate_ != kAudioObjectUnknown)
+        AudioHardwareDestroyAggregateDevice(aggregate_);
+    if (tap_ != kAudioObjectUnknown)
+        ProcessTaps::destroy(tap_);
+}
+
+std::expected<void, TapError> CoreAudioTap::build(
+    const TapRequest& request, const AudioIOProcFactory& makeIOProc)
+{
+    description_ = {.processes = request.processes, .uuid = makeUuid(), .name = "Fadeloom " + request.name};
+    const auto tap = ProcessTaps::create(description_);
+    if (!tap)
+        return failed("Create process tap", tap.error());
+    tap_ = *tap;
+
+    const auto format = readFormat();
+    if (!format)
+        return std::unexpected(format.error());
+
+    if (const auto status = createAggregate(); status != kAudioHardwareNoError)
+        return failed("Create aggregate device", status);
+    const auto rate = HAL::value<double>(aggregate_, HAL::address(kAudioDevicePropertyNominalSampleRate));
+    sampleRate_ = rate && *rate > 0 ? *rate : format->mSampleRate;
+
+    if (const auto status = createIOProc(makeIOProc(formatOf(*format))); status != kAudioHardwareNoError)
+        return failed("Create IOProc", status);
+    disableDeviceInputs();
+    if (const auto status = AudioDeviceStart(aggregate_, *proc_); status != kAudioHardwareNoError)
+        return failed("Start device", status);
+    return {};
+}
+
+std::expected<AudioStreamBasicDescription, TapError> CoreAudioTap::readFormat() const
+{
+    const auto format = HAL::value<AudioStreamBasicDescription>(tap_, HAL::address(kAudioTapPropertyFormat));
+    if (!format || !hasFloatSamples(*format))
+        return failed("Unsupported tap format", format ? static_cast<OSStatus>(format->mFormatID) : 0);
+    return *format;
+}
+
+OSStatus CoreAudioTap::createAggregate()
+{
+    const auto dictionary = aggregateDictionary({
+        .name = description_.name,
+        .uid = std::string(OutputDevices::ownUIDPrefix) + makeUuid(),
+        .outputUID = output_.uid,
+        .tapUUID = description_.uuid,
+    });
+    AudioObjectID aggregate = kAudioObjectUnknown;
+    const OSStatus status = AudioHardwareCreateAggregateDevice(dictionary.get(), &aggregate);
+    if (status == kAudioHardwareNoError)
+        aggregate_ = aggregate;
+    return status;
+}
+
+TapFormat CoreAudioTap::formatOf(const AudioStreamBasicDescription& format) const
+{
+    return {
+        .sampleRate = sampleRate_,
+        .output = OutputDevices::stereoChannels(output_.id),
+        .tapBufferCount = isNonInterleaved(format) ? std::max<std::size_t>(format.mChannelsPerFrame, 1) : 1,
+        .isTapInterleaved = !isNonInterleaved(format),
+    };
+}
+
+OSStatus CoreAudioTap::createIOProc(std::shared_ptr<AudioIOProc> proc)
+{
+    // Without a queue the block runs on the device's IO thread itself. It is copied, and the procedure with it, until
+    // the audio system has destroyed it.
+    AudioDeviceIOProcID created = nullptr;
+    const OSStatus status = AudioDeviceCreateIOProcIDWithBlock(&created, aggregate_, nullptr,
+        ^(const AudioTimeStamp*, const AudioBufferList* input, const AudioTimeStamp*, AudioBufferList* output,
+            const AudioTimeStamp*) { proc->render(buffersOf(input), buffersOf(output)); });
+    if (status == kAudioHardwareNoError)
+        proc_ = created;
+    return status;
+}
+
+void CoreAudioTap::disableDeviceInputs()
+{
+    constexpr auto input = kAudioObjectPropertyScopeInput;
+    const std::size_t deviceInputs = HAL::getArray(output_.id, kAudioDevicePropertyStreams, input).size();
+    if (deviceInputs == 0)
+        return;
+    auto usage = StreamUsage::read(aggregate_, *proc_, input);
+    if (!usage || usage->streamCount() < 2)
+        return;
+
+    // The aggregate lists the device's streams first; the last one is the tap and stays on.
+    const std::size_t disabled = std::min(usage->streamCount() - 1, deviceInputs);
+    for (std::size_t stream = 0; stream < disabled; ++stream)
+        usage->switchOff(stream);
+    // When it is refused the device's microphone runs along, unheard.
+    if (usage->write(aggregate_, input) == kAudioHardwareNoError)
+        disabledInputs_ = static_cast<int>(disabled);
+}
+
+bool CoreAudioTap::setProcesses(const std::vector<AudioProcessID>& processes)
+{
+    auto description = description_;
+    description.processes = processes;
+    if (ProcessTaps::describe(tap_, description) != kAudioHardwareNoError)
+        return false;
+    description_ = std::move(description);
+    return true;
+}
+
+}  // namespace fadeloom

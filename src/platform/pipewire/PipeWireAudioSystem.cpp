@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+#include "platform/pipewire/PipeWireAudioSystem.h"
+
+#include "base/Observers.h"
+#include "platform/MainLoop.h"
+#include "platform/pipewire/GraphSession.h"
+
+#include <utility>
+
+namespace fadeloom {
+
+struct PipeWireAudioSystem::Announcements {
+    Observers processes;
+    Observers outputDevices;
+    Observers defaultOutput;
+
+    void notify(const AudioChanges& changes) const
+    {
+        if (changes.processes)
+            processes.notify();
+        if (changes.outputDevices)
+            outputDevices.notify();
+        if (changes.defaultOutput)
+            defaultOutput.notify();
+    }
+};
+
+/// One way through the graph, from its first link to its last.
+class PipeWireAudioSystem::Tap final : public ProcessTap {
+public:
+    Tap(MainLoop& mainLoop, std::weak_ptr<GraphSession> session, TapPath& path, double sampleRate)
+        : mainLoop_(mainLoop)
+        , session_(std::move(session))
+        , path_(path)
+        , sampleRate_(sampleRate)
+    {
+    }
+    Tap(const Tap&) = delete;
+    Tap& operator=(const Tap&) = delete;
+    ~Tap() override
+    {
+        if (const auto session = session_.lock())
+            session->stopPath(path_);
+        // In a later turn: a tap that is rebuilt takes its streams over from the old one, which must not give them
+        // back in between.
+        mainLoop_.post([session = session_] {
+            if (const auto alive = session.lock())
+                alive->releaseStopped();
+        });
+    }
+
+    [[nodiscard]] double sampleRate() const override { return sampleRate_; }
+    [[nodiscard]] bool setProcesses(const std::vector<AudioProcessID>& processes) override
+    {
+        const auto session = session_.lock();
+        if (session)
+            session->setProcesses(path_, {processes.begin(), processes.end()});
+        return session != nullptr;
+    }
+
+private:
+    MainLoop& mainLoop_;
+    const std::weak_ptr<GraphSession> session_;
+    TapPath& path_;
+    const double sampleRate_;
+};
+
+PipeWireAudioSystem::PipeWireAudioSystem(MainLoop& mainLoop, Options options)
+    : mainLoop_(mainLoop)
+    , options_(std::move(options))
+    , announcements_(std::make_shared<Announcements>())
+{
+    const std::weak_ptr announcements = announcements_;
+    session_ = std::make_shared<GraphSession>(GraphSession::Callbacks{
+        .changed =
+            [this, announcements](const AudioChanges& changes) {
+                mainLoop_.post([announcements, changes] {
+                    if (const auto alive = announcements.lock())
+                        alive->notify(changes);
+                });
+            },
+        .report =
+            [this, announcements](SystemLog::Level level, std::string text) {
+                mainLoop_.post([this, announcements, level, text = std::move(text)] {
+                    if (!announcements.expired() && options_.report)
+                        options_.report(level, text);
+                });
+            },
+    });
+}
+
+PipeWireAudioSystem::~PipeWireAudioSystem()
+{
+    session_.reset();
+}
+
+std::vector<AudioProcess> PipeWireAudioSystem::processes(ReadMic readMic)
+{
+    const auto world = session_->world();
+    std::vector<AudioProcess> processes;
+    processes.reserve(world->processes.size());
+    for (const auto& process : world->processes) {
+        const auto& identity = identityOf(process);
+        processes.push_back({
+            .id = process.id,
+            .pid = identity.pid,
+            .bundleID = identity.bundleID,
+            .isPlaying = process.isPlaying,
+            .isUsingMic = readMic == ReadMic::yes && process.isUsingMicrophone,
+        });
+    }
+    if (identities_.size() > world->processes.size())
+        forgetEnded(*world);
+    return processes;
+}
+
+const PipeWireAudioSystem::Identity& PipeWireAudioSystem::identityOf(const AudioWorld::Process& process)
+{
+    const auto [entry, isNew] = identities_.try_emplace(process.id);
+    if (isNew) {
+        auto& identity = entry->second;
+        identity.pid = process.pid;
+        // A sandboxed client of pipewire-pulse knows only its pid inside.
+        if (process.pid < 0 && !process.portalAppID.empty() && options_.portalProcess)
+            identity.pid = options_.portalProcess(process.portalAppID);
+        identity.bundleID = options_.bundleIdentifier(identity.pid, process.portalAppID);
+    }
+    return entry->second;
+}
+
+void PipeWireAudioSystem::forgetEnded(const AudioWorld& world)
+{
+    std::erase_if(identities_, [&](const auto& entry) { return world.process(entry.first) == nullptr; });
+}
+
+Subscription PipeWireAudioSystem::whenProcessesChange(Listener listener)
+{
+    return announcements_->processes.add(std::move(listener));
+}
+
+std::vector<OutputDevice> PipeWireAudioSystem::outputDevices() const
+{
+    std::vector<OutputDevice> devices;
+    for (const auto& device : session_->world()->devices)
+        devices.push_back({.id = device.id, .uid = device.uid, .name = device.name});
+    return devices;
+}
+
+Subscription PipeWireAudioSystem::whenOutputDevicesChange(Listener listener)
+{
+    return announcements_->outputDevices.add(std::move(listener));
+}
+
+double PipeWireAudioSystem::sampleRate(OutputDeviceID device) const
+{
+    const auto world = session_->world();
+    const auto* known = world->device(device);
+    return known ? session_->rateOf(*known) : 0;
+}
+
+std::optional<std::string> PipeWireAudioSystem::defaultOutput() const
+{
+    const auto world = session_->world();
+    const auto* device = world->device(world->defaultDevice);
+    return device ? std::optional(device->uid) : std::nullopt;
+}
+
+Subscription PipeWireAudioSystem::whenDefaultOutputChanges(Listener listener)
+{
+    return announcements_->defaultOutput.add(std::move(listener));
+}
+
+bool PipeWireAudioSystem::setDefaultOutput(const OutputDevice& device)
+{
+    return session_->world()->device(device.id) && session_->setDefaultDevice(device.uid);
+}
+
+std::expected<std::unique_ptr<ProcessTap>, TapError> PipeWireAudioSystem::createTap(
+    const TapRequest& request, const AudioIOProcFactory& makeIOProc)
+{
+    const auto failed = [](std::string reason) {
+        return std::unexpected(TapError{.step = "Start device", .reason = std::move(reason)});
+    };
+    if (!session_->isConnected())
+        return failed("no PipeWire server is running");
+    const auto world = session_->world();
+    const auto* device = world->device(request.output.id);
+    if (!device)
+        return failed("the device is gone");
+    const TapFormat format{
+        .sampleRate = session_->rateOf(*device),
+        .output = {.left = device->layout.left, .right = device->layout.right},
+        .tapBufferCount = 2,
+        .isTapInterleaved = false,
+    };
+    auto* path = session_->startPath(
+        {request.processes.begin(), request.processes.end()}, *device, makeIOProc(format));
+    if (!path)
+        return failed("PipeWire made no node for it");
+    return std::make_unique<Tap>(mainLoop_, session_, *path, format.sampleRate);
+}
+
+}  // namespace fadeloom
