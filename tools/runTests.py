@@ -257,6 +257,8 @@ def main():
     tally = Tally()
     if arguments.suites != ["macos"]:  # It has a build of its own.
         build("test")
+    if arguments.long:
+        os.environ["FADELOOM_LONG"] = "1"  # For what is not started with an option of its own.
     everything = not arguments.suites
     if everything or folders:
         runUnits(tally, folders)

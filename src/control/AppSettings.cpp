@@ -17,4 +17,14 @@ void storeAppSettings(SettingsData& settings, const std::string& bundleID, const
         settings.apps.insert_or_assign(bundleID, app);
 }
 
+std::set<std::string> appsToHold(const SettingsData& settings)
+{
+    std::set<std::string> apps;
+    for (const auto& [id, app] : settings.apps) {
+        if (app.muted || app.volume < 1 || app.outputUID)
+            apps.insert(id);
+    }
+    return apps;
+}
+
 }  // namespace fadeloom

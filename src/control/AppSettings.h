@@ -6,6 +6,7 @@
 
 #include "settings/SettingsData.h"
 
+#include <set>
 #include <string>
 
 namespace fadeloom {
@@ -15,5 +16,8 @@ namespace fadeloom {
 
 /// Remembers what is set for the app, and drops its entry when that is what an app without one has anyway.
 void storeAppSettings(SettingsData& settings, const std::string& bundleID, const AppAudioSettings& app);
+
+/// The apps that must not be heard without their tap: those that are muted, made quieter, or sent elsewhere.
+[[nodiscard]] std::set<std::string> appsToHold(const SettingsData& settings);
 
 }  // namespace fadeloom

@@ -114,6 +114,7 @@ private:
     void lowerVolumesToLimit();
     void pushSettings(const std::string& bundleID, std::optional<double> sampleRate = std::nullopt);
     void pushAllSettings();
+    void holdNewStreams();
 
     void updateFocus();
 

@@ -38,6 +38,7 @@ void AudioController::settingsChanged(const SettingsData& old)
     if (state_.settings->volumeLimit != old.volumeLimit
         || state_.settings->eqAutoHeadroom != old.eqAutoHeadroom)
         pushAllSettings();
+    holdNewStreams();
     if (!isDemo_)
         saver_.schedule(*state_.settings);
 }
@@ -86,6 +87,12 @@ void AudioController::pushSettings(const std::string& bundleID, std::optional<do
     // Also while the equalizer is off, so that switching it on is a matter of one flag.
     if (sampleRate)
         block->second->setEQ(eqCoefficients(app.eqGains, *sampleRate));
+}
+
+void AudioController::holdNewStreams()
+{
+    const bool isGranted = *state_.permission == AudioPermission::State::granted;
+    platform_.audio.holdStreamsOf(isGranted ? appsToHold(*state_.settings) : std::set<std::string>{});
 }
 
 void AudioController::pushAllSettings()

@@ -12,6 +12,7 @@ namespace fadeloom {
 
 void AudioController::ensureTaps()
 {
+    holdNewStreams();
     if (*state_.permission != AudioPermission::State::granted) {
         if (!taps_.empty())
             stopAllRecordings();

@@ -15,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -45,6 +46,10 @@ public:
     [[nodiscard]] virtual Subscription whenDefaultOutputChanges(Listener listener) = 0;
     /// Asks for another default output; false when the system refuses.
     virtual bool setDefaultOutput(const OutputDevice& device) = 0;
+
+    /// The applications whose sound is not to be heard before their tap has it, by bundle identifier, instead of those
+    /// named before. Where it can, the system has their new streams wait for the tap, for a second at most.
+    virtual void holdStreamsOf(const std::set<std::string>& /*bundleIDs*/) { }
 
     /// Starts to capture; after an error nothing of it is left, and the processes are heard as before. Ends before this
     /// system does.

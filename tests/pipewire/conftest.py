@@ -14,6 +14,8 @@ sys.path.insert(0, str(ROOT / "tools"))
 from audioSession import AudioSession, waitUntil  # noqa: E402
 from fadeloomProcess import FadeloomProcess  # noqa: E402
 
+LONG = bool(os.environ.get("FADELOOM_LONG"))  # `./test --long` asks for the long form of what is slow.
+
 PLAYERS = {
     "pw-play": ("pw-cat", lambda file: ["pw-play", file]),
     "paplay": ("pacat", lambda file: ["paplay", "--latency-msec=100", file]),

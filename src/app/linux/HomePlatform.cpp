@@ -12,12 +12,17 @@ HomePlatform::HomePlatform(MainLoop& mainLoop, SystemLog& systemLog)
     , systemLog_(systemLog)
     , fileManager_(systemLog)
     , workspace_(linuxEnvironment(processVariables()), fileManager_)
+    , graphWorkspace_(linuxEnvironment(processVariables()), fileManager_)
     , userDefaults_(SettingsFile::defaultURL(folders_).parent_path() / "preferences.ini")
     , audio_(mainLoop,
           {
               .bundleIdentifier =
                   [this](ProcessID pid, const std::string& portalAppID) {
                       return workspace_.bundleIdentifier(pid, portalAppID);
+                  },
+              .newBundleIdentifier =
+                  [this](ProcessID pid, const std::string& portalAppID) {
+                      return graphWorkspace_.bundleIdentifier(pid, portalAppID);
                   },
               .portalProcess = [this](const std::string& portalAppID) { return processOf(portalAppID); },
               .report = [this](SystemLog::Level level,

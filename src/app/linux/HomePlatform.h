@@ -40,6 +40,7 @@ private:
     XdgFolders folders_;
     FileManager fileManager_;
     LinuxWorkspace workspace_;
+    LinuxWorkspace graphWorkspace_;  // Of the graph thread alone.
     AutostartLoginItem loginItem_;
     AlwaysGrantedPermission capturePermission_;
     QtText text_;

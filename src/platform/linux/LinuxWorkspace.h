@@ -41,7 +41,7 @@ public:
 
     /// The bundle identifier of a process's application; empty for no process of the user's. `portalAppID`: what the
     /// audio server knows of a sandboxed client, whose pid may mean nothing out here; it counts when it is not empty.
-    /// Thread: main.
+    /// Thread: main, or the one thread that has this object for nothing else.
     [[nodiscard]] std::string bundleIdentifier(ProcessID pid, const std::string& portalAppID) const;
 
 private:

@@ -46,7 +46,7 @@ AudioChanges changesBetween(const AudioWorld& before, const AudioWorld& after)
 {
     const auto doesSame = [](const AudioWorld::Process& one, const AudioWorld::Process& other) {
         return one.id == other.id && one.isPlaying == other.isPlaying
-            && one.isUsingMicrophone == other.isUsingMicrophone;
+            && one.isUsingMicrophone == other.isUsingMicrophone && one.ownOutputs == other.ownOutputs;
     };
     return {
         .processes = !std::ranges::equal(before.processes, after.processes, doesSame),
@@ -55,11 +55,11 @@ AudioChanges changesBetween(const AudioWorld& before, const AudioWorld& after)
     };
 }
 
-AudioWorld AudioWorldBuilder::build(const Graph& graph, const ChosenTargetOf& chosenTarget)
+AudioWorld AudioWorldBuilder::build(const Graph& graph, const StreamKnowledge& knowledge)
 {
     AudioWorld world;
     addDevices(graph, world);
-    addProcesses(graph, chosenTarget, world);
+    addProcesses(graph, knowledge, world);
     return world;
 }
 
@@ -98,8 +98,7 @@ void AudioWorldBuilder::addDevices(const Graph& graph, AudioWorld& world)
     std::ranges::sort(world.devices, {}, &AudioWorld::Device::serial);
 }
 
-void AudioWorldBuilder::addProcesses(
-    const Graph& graph, const ChosenTargetOf& chosenTarget, AudioWorld& world)
+void AudioWorldBuilder::addProcesses(const Graph& graph, const StreamKnowledge& knowledge, AudioWorld& world)
 {
     struct Activity {
         bool hasStream = false;
@@ -116,9 +115,10 @@ void AudioWorldBuilder::addProcesses(
             continue;
         auto& activity = activities[*client];
         activity.hasStream = true;
-        activity.isPlaying |= isAppSound(node) && isPlaying(node);
+        activity.isPlaying |= isAppSound(node) && (isPlaying(node) || knowledge.isHeld(node));
         activity.isUsingMicrophone |= isUsingMicrophone(graph, node);
-        const auto* device = isTappable(node) ? ownDevice(graph, node, chosenTarget(node)) : nullptr;
+        const auto* device =
+            isTappable(node) ? ownDevice(graph, node, knowledge.chosenTarget(node)) : nullptr;
         if (device)
             activity.ownOutputs.emplace(device->name());
     }

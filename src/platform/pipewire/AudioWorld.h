@@ -81,8 +81,12 @@ public:
     {
     }
 
-    /// `chosenTarget`: what anybody but us has chosen for a stream.
-    [[nodiscard]] AudioWorld build(const Graph& graph, const ChosenTargetOf& chosenTarget);
+    struct StreamKnowledge {
+        ChosenTargetOf chosenTarget;
+        /// Whether a stream waits for us: it would play, and counts as playing.
+        std::function<bool(const GraphNode& stream)> isHeld;
+    };
+    [[nodiscard]] AudioWorld build(const Graph& graph, const StreamKnowledge& knowledge);
     void processEnded(std::int32_t pid);
     /// Another server counts its serials anew.
     void forget();
@@ -106,7 +110,7 @@ private:
     };
 
     void addDevices(const Graph& graph, AudioWorld& world);
-    void addProcesses(const Graph& graph, const ChosenTargetOf& chosenTarget, AudioWorld& world);
+    void addProcesses(const Graph& graph, const StreamKnowledge& knowledge, AudioWorld& world);
     [[nodiscard]] const ProcessKey& keyOf(const GraphClient& client);
 
     Questions questions_;

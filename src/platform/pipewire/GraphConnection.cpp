@@ -76,6 +76,8 @@ public:
     void bindMetadataAgain();
     void globalAppeared(GraphID id, const char* type, const GraphProperties& properties);
     void globalVanished(GraphID id);
+    void nodeChanged(GraphID id);
+    void clientChanged(GraphID id);
     [[nodiscard]] std::unique_ptr<MetadataBinding> bindMetadata(GraphID id);
     void metadataProperty(GraphID subject, const char* key, const char* value);
     void settingProperty(const char* key, const char* value);
@@ -226,16 +228,16 @@ void GraphConnection::Implementation::globalAppeared(
     GraphID id, const char* type, const GraphProperties& properties)
 {
     const auto serial = static_cast<GraphSerial>(numberOf(properties, "object.serial").value_or(0));
-    const auto changed = [this] { pw_loop_signal_event(pw_thread_loop_get_loop(loop), update); };
-
     if (std::strcmp(type, PW_TYPE_INTERFACE_Node) == 0) {
         auto& node = graph.nodes[id] = {.id = id, .serial = serial, .properties = properties};
         // Only the info event tells which nodes belong together, so every node that makes or takes sound is bound.
         if (node.mediaClass().find("Audio") != std::string_view::npos)
-            bindings[id] = std::make_unique<GraphBinding>(registry, node, changed);
+            bindings[id] = std::make_unique<GraphBinding>(registry, node, [this, id] { nodeChanged(id); });
+        if (node.isOutputStream())
+            listener.streamAppeared(node);
     } else if (std::strcmp(type, PW_TYPE_INTERFACE_Client) == 0) {
         auto& client = graph.clients[id] = {.id = id, .serial = serial, .properties = properties};
-        bindings[id] = std::make_unique<GraphBinding>(registry, client, changed);
+        bindings[id] = std::make_unique<GraphBinding>(registry, client, [this, id] { clientChanged(id); });
     } else if (std::strcmp(type, PW_TYPE_INTERFACE_Port) == 0) {
         graph.ports[id] = portFrom(id, properties);
     } else if (std::strcmp(type, PW_TYPE_INTERFACE_Link) == 0) {
@@ -251,6 +253,20 @@ void GraphConnection::Implementation::globalAppeared(
                 [this](GraphID, const char* key, const char* value) { settingProperty(key, value); });
         }
     }
+}
+
+void GraphConnection::Implementation::nodeChanged(GraphID id)
+{
+    const auto& node = graph.nodes.at(id);
+    if (node.isOutputStream())
+        listener.streamChanged(node);
+    pw_loop_signal_event(pw_thread_loop_get_loop(loop), update);
+}
+
+void GraphConnection::Implementation::clientChanged(GraphID id)
+{
+    listener.clientChanged(graph.clients.at(id));
+    pw_loop_signal_event(pw_thread_loop_get_loop(loop), update);
 }
 
 std::unique_ptr<MetadataBinding> GraphConnection::Implementation::bindMetadata(GraphID id)

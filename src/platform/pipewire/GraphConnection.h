@@ -24,6 +24,11 @@ class GraphListener {
 public:
     /// The mirror or the wanted state has changed, or a time asked for with `callBackIn` has come.
     virtual void graphChanged() = 0;
+    /// At once, before the burst that they belong to is over: an output stream has come, of which only the registry has
+    /// told so far; more is known of a client, or of an output stream.
+    virtual void streamAppeared(const GraphNode& stream) = 0;
+    virtual void clientChanged(const GraphClient& client) = 0;
+    virtual void streamChanged(const GraphNode& stream) = 0;
     /// The session manager's metadata is there and known in full; again after each of its restarts.
     virtual void sessionManagerAppeared() = 0;
     virtual void sessionManagerVanished() = 0;

@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <thread>
 
+#include <unistd.h>
+
 namespace fadeloom {
 
 namespace {
@@ -121,9 +123,14 @@ void GraphSession::releaseStopped()
 
 void GraphSession::graphChanged()
 {
-    auto world = builder_.build(
-        connection_.graph(), [this](const GraphNode& stream) { return router_.chosenTarget(stream); });
+    auto world = builder_.build(connection_.graph(),
+        {.chosenTarget = [this](const GraphNode& stream) { return router_.chosenTarget(stream); },
+            .isHeld = [this](const GraphNode& stream) { return router_.isHolding(stream); }});
     router_.update(world);
+    std::erase_if(applications_, [&](const auto& entry) {
+        return std::ranges::none_of(connection_.graph().clients,
+            [&](const auto& client) { return client.second.serial == entry.first; });
+    });
     std::erase_if(exits_, [&](const auto& entry) {
         return std::ranges::find(world.processes, entry.first, &AudioWorld::Process::pid)
             == world.processes.end();
@@ -134,6 +141,45 @@ void GraphSession::graphChanged()
     isRecheckDue_ = !isRecheckDue_;
     if (isRecheckDue_)
         connection_.callBackIn(recheckDelay);
+}
+
+void GraphSession::holdStreamsOf(std::set<std::string> applications)
+{
+    const GraphLock lock{connection_};
+    heldApplications_ = std::move(applications);
+}
+
+bool GraphSession::isToBeHeld(const GraphClient& client)
+{
+    const auto identity = identityOf(client);
+    const bool isBelieved =
+        identity.trust != ClientIdentity::Trust::claimed || runs(identity.pid, identity.binary);
+    if (heldApplications_.empty() || !callbacks_.application || !client.hasInfo || !isBelieved)
+        return false;
+    const auto [known, isNew] = applications_.try_emplace(client.serial);
+    if (isNew)
+        known->second = callbacks_.application(identity.pid, identity.portalAppID);
+    return heldApplications_.contains(known->second);
+}
+
+void GraphSession::streamAppeared(const GraphNode& stream)
+{
+    const auto& clients = connection_.graph().clients;
+    const auto id = stream.clientID();
+    const auto client = id ? clients.find(*id) : clients.end();
+    if (client != clients.end() && isToBeHeld(client->second))
+        router_.hold(stream);
+}
+
+void GraphSession::clientChanged(const GraphClient& client)
+{
+    // Known beforehand, its streams can be held at once; one that was faster is held now.
+    if (applications_.contains(client.serial) || !isToBeHeld(client))
+        return;
+    for (const auto& [id, node] : connection_.graph().nodes) {
+        if (node.clientID() == client.id && node.isOutputStream() && node.state == GraphNode::State::creating)
+            router_.hold(node);
+    }
 }
 
 void GraphSession::publish(AudioWorld next)
@@ -193,6 +239,9 @@ void GraphSession::metadataChanged(GraphID subject, const std::string& key, cons
 void GraphSession::connected()
 {
     callbacks_.report(SystemLog::Level::notice, "connected to PipeWire");
+    // The first question reads every desktop entry there is; the first sound is not to wait for that.
+    if (callbacks_.application)
+        static_cast<void>(callbacks_.application(getpid(), {}));
 }
 
 void GraphSession::disconnected()
@@ -200,6 +249,7 @@ void GraphSession::disconnected()
     callbacks_.report(SystemLog::Level::error, "no PipeWire server; waiting for one");
     isReady_.store(true, std::memory_order_release);
     router_.disconnected();
+    applications_.clear();
     builder_.forget();
     exits_.clear();
 }

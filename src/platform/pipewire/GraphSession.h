@@ -24,6 +24,8 @@ public:
     struct Callbacks {  // Called on the graph thread.
         std::function<void(const AudioChanges&)> changed;
         std::function<void(SystemLog::Level, std::string)> report;
+        /// The application of a process that has just come, or of a sandboxed client.
+        std::function<std::string(std::int32_t pid, const std::string& portalAppID)> application;
     };
 
     explicit GraphSession(Callbacks callbacks);
@@ -39,6 +41,9 @@ public:
     /// Whether the session manager is there to carry it out.
     bool setDefaultDevice(const std::string& nodeName);
 
+    /// The applications whose new streams wait for a tap, by the names that `application` gives.
+    void holdStreamsOf(std::set<std::string> applications);
+
     /// Null when there is no server, or the device has gone.
     [[nodiscard]] TapPath* startPath(std::set<AudioProcessID> processes, const AudioWorld::Device& device,
         std::shared_ptr<AudioIOProc> proc, StreamScope scope = StreamScope::every);
@@ -49,12 +54,16 @@ public:
 
 private:
     void graphChanged() override;
+    void streamAppeared(const GraphNode& stream) override;
+    void clientChanged(const GraphClient& client) override;
+    void streamChanged(const GraphNode& stream) override { router_.streamChanged(stream); }
     void sessionManagerAppeared() override;
     void sessionManagerVanished() override;
     void metadataChanged(GraphID subject, const std::string& key, const std::string& value) override;
     void connected() override;
     void disconnected() override;
 
+    [[nodiscard]] bool isToBeHeld(const GraphClient& client);
     void publish(AudioWorld next);
     [[nodiscard]] bool watch(std::int32_t pid);
     /// Whether a device is driven at another rate than when this was asked last.
@@ -65,6 +74,8 @@ private:
     TapRouter router_;
     AudioWorldBuilder builder_;
     std::map<std::int32_t, std::unique_ptr<ProcessExit>> exits_;  // By pid.
+    std::set<std::string> heldApplications_;
+    std::map<GraphSerial, std::string> applications_;  // By client; found out once.
     std::map<OutputDeviceID, double> rates_;
     std::atomic<bool> isReady_ = false;  // There is a picture, or nothing to draw one of.
     bool isRecheckDue_ = false;

@@ -121,6 +121,13 @@ bool OwnLinks::isActive(const WantedLink& link) const
     return found != links_.end() && found->second->isActive();
 }
 
+void OwnLinks::drop(GraphID outputNode, GraphID inputNode)
+{
+    std::erase_if(links_, [&](const auto& entry) {
+        return entry.first.outputNode == outputNode && entry.first.inputNode == inputNode;
+    });
+}
+
 void OwnLinks::clear()
 {
     links_.clear();

@@ -42,6 +42,8 @@ public:
     [[nodiscard]] bool has(GraphID outputPort, GraphID inputPort) const;
     /// Whether the link is set up and carries what it is given.
     [[nodiscard]] bool isActive(const WantedLink& link) const;
+    /// Drops every link between these nodes at once.
+    void drop(GraphID outputNode, GraphID inputNode);
     /// Forgets everything; the server has gone or goes.
     void clear();
 

@@ -35,8 +35,10 @@ void ParkedStream::write(const char* key, const std::optional<std::string>& valu
 
 bool ParkedStream::keepOn(const std::string& parkName)
 {
-    if (connection_.graph().metadataValue(id_, targetObject) == parkName)
+    if (connection_.graph().metadataValue(id_, targetObject) == parkName) {
+        rememberUsersNode();
         return true;
+    }
     const auto now = std::chrono::steady_clock::now();
     if (now - lastWrite_ < rewriteInterval)
         return false;

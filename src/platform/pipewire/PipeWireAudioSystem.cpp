@@ -86,6 +86,7 @@ PipeWireAudioSystem::PipeWireAudioSystem(MainLoop& mainLoop, Options options)
                         options_.report(level, text);
                 });
             },
+        .application = options_.newBundleIdentifier,
     });
 }
 
@@ -173,6 +174,11 @@ Subscription PipeWireAudioSystem::whenDefaultOutputChanges(Listener listener)
 bool PipeWireAudioSystem::setDefaultOutput(const OutputDevice& device)
 {
     return session_->world()->device(device.id) && session_->setDefaultDevice(device.uid);
+}
+
+void PipeWireAudioSystem::holdStreamsOf(const std::set<std::string>& bundleIDs)
+{
+    session_->holdStreamsOf(bundleIDs);
 }
 
 std::expected<std::unique_ptr<ProcessTap>, TapError> PipeWireAudioSystem::createTap(

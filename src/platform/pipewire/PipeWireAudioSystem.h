@@ -28,6 +28,8 @@ public:
         /// The bundle identifier of a process; the second argument is the application id that the server vouches
         /// for, when the client is sandboxed. Called on the main thread.
         std::function<std::string(ProcessID, const std::string& portalAppID)> bundleIdentifier;
+        /// The same on the graph thread, about a process that has just come.
+        std::function<std::string(ProcessID, const std::string& portalAppID)> newBundleIdentifier;
         /// The process of a sandboxed application, whose own pid means nothing outside; -1 when there is none.
         std::function<ProcessID(const std::string& portalAppID)> portalProcess;
         /// What the user of the log should know: connection made and lost, streams that cannot be moved. Called on
@@ -48,6 +50,7 @@ public:
     [[nodiscard]] std::optional<std::string> defaultOutput() const override;
     [[nodiscard]] Subscription whenDefaultOutputChanges(Listener listener) override;
     bool setDefaultOutput(const OutputDevice& device) override;
+    void holdStreamsOf(const std::set<std::string>& bundleIDs) override;
     [[nodiscard]] std::expected<std::unique_ptr<ProcessTap>, TapError> createTap(
         const TapRequest& request, const AudioIOProcFactory& makeIOProc) override;
 

@@ -21,6 +21,7 @@ std::string uniqueSuffix(unsigned number)
 TapRouter::TapRouter(GraphConnection& connection, std::function<void(std::string)> report)
     : connection_(connection)
     , report_(std::move(report))
+    , held_(connection)
     , links_([this] { connection_.requestUpdate(); })
 {
 }
@@ -80,6 +81,7 @@ void TapRouter::update(const AudioWorld& world)
         if (!stream.isBeingGivenBack)
             follow(stream, found == wanted.end() ? nullptr : found->second);
     }
+    held_.update();
     finishGivingBack();
     setGates();
     if (links_.reconcile(connection_.core(), wantedLinks()))
@@ -157,6 +159,7 @@ void TapRouter::sessionManagerVanished()
 {
     // The next one could not adopt it: some generations then stop linking anything.
     park_.reset();
+    held_.clear();
 }
 
 void TapRouter::metadataChanged(GraphID subject, const std::string& key, const std::string& value)
@@ -171,6 +174,7 @@ void TapRouter::disconnected()
 {
     links_.clear();
     streams_.clear();
+    held_.clear();
     leftAlone_.clear();
     circles_.clear();
     park_.reset();

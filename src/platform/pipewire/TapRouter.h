@@ -13,6 +13,7 @@
 #pragma once
 
 #include "platform/pipewire/AudioWorld.h"
+#include "platform/pipewire/HeldStreams.h"
 #include "platform/pipewire/OwnLinks.h"
 #include "platform/pipewire/Park.h"
 #include "platform/pipewire/ParkedStream.h"
@@ -63,6 +64,12 @@ public:
     void sessionManagerVanished();
     void metadataChanged(GraphID subject, const std::string& key, const std::string& value);
     void disconnected();
+    /// A new stream that is not to be heard past a tap.
+    void hold(const GraphNode& stream);
+    /// Whether a stream waits for its tap.
+    [[nodiscard]] bool isHolding(const GraphNode& stream) const { return held_.has(stream); }
+    /// More is known of a stream: what follows from it at once, before the burst of events is over.
+    void streamChanged(const GraphNode& stream);
 
     /// What anybody but us has chosen for a stream.
     [[nodiscard]] ChosenTarget chosenTarget(const GraphNode& stream) const;
@@ -119,6 +126,7 @@ private:
     std::unique_ptr<Park> park_;
     std::list<TapPath> paths_;
     std::list<Stream> streams_;
+    HeldStreams held_;
     std::set<GraphSerial> leftAlone_;  // Streams that somebody else keeps moving.
     std::set<GraphSerial> circles_;  // Streams that were reported not to be led in a circle.
     OwnLinks links_;

@@ -66,6 +66,7 @@ void TapRouter::takeHoldOfStreams(const WantedPaths& wanted)
         if (!isReady(*path))
             continue;
         auto* known = streamWith(id);
+        held_.handOver(id);
         if (!known) {
             streams_.push_back(Stream{.parked = ParkedStream{connection_, *connection_.graph().node(id)},
                 .path = path,
@@ -77,6 +78,22 @@ void TapRouter::takeHoldOfStreams(const WantedPaths& wanted)
             known->since = std::chrono::steady_clock::now();
         }
     }
+}
+
+void TapRouter::hold(const GraphNode& stream)
+{
+    if (park_ && park_->nodeID() && isTappable(stream) && !streamWith(stream.id))
+        held_.hold(stream, park_->name());
+}
+
+void TapRouter::streamChanged(const GraphNode& stream)
+{
+    if (held_.has(stream) && !isTappable(stream))
+        held_.release(stream.id);
+    // The doorbell has been answered: from now on it would be heard.
+    const auto* known = streamWith(stream.id);
+    if (known && known->path && !needsDoorbell(stream))
+        links_.drop(stream.id, known->path->route.deviceNode);
 }
 
 void TapRouter::follow(Stream& stream, TapPath* wanted)

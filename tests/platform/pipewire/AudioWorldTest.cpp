@@ -14,12 +14,14 @@ class AudioWorldBuilding : public ::testing::Test {
 protected:
     AudioWorld build()
     {
-        return builder.build(
-            world.graph, [&](const GraphNode& stream) { return chosenTargetIn(world.graph, stream.id); });
+        return builder.build(world.graph,
+            {.chosenTarget = [&](const GraphNode& stream) { return chosenTargetIn(world.graph, stream.id); },
+                .isHeld = [&](const GraphNode& stream) { return held.contains(stream.id); }});
     }
 
     GraphOf world;
     bool canWatch = true;
+    std::set<GraphID> held;
     AudioWorldBuilder builder{
         {.runs = [](std::int32_t, const std::string& binary) { return binary == "pacat"; },
             .watch = [this](std::int32_t) { return canWatch; }}};
@@ -179,6 +181,16 @@ TEST_F(AudioWorldBuilding, aProcessHasTheDevicesThatItsStreamsWouldPlayTo)
 
     world.graph.metadata[stream]["target.object"] = "headphones";
     EXPECT_EQ(build().processes.at(0).ownOutputs, std::set<std::string>{"headphones"});
+}
+
+TEST_F(AudioWorldBuilding, aStreamThatWaitsForUsCountsAsPlaying)
+{
+    const auto stream = world.stream(world.nativeClient(100), GraphNode::State::suspended);
+    EXPECT_FALSE(build().processes.at(0).isPlaying);
+
+    held.insert(stream);
+
+    EXPECT_TRUE(build().processes.at(0).isPlaying);
 }
 
 TEST_F(AudioWorldBuilding, whatCarriesSoundOnForOthersIsNoProcess)

@@ -14,7 +14,11 @@ class StreamRoutingTest : public ::testing::Test {
 protected:
     StreamRoutingTest() { world.graph.metadata[0]["default.audio.sink"] = R"({ "name": "speakers" })"; }
 
-    AudioWorld picture() { return builder.build(world.graph, chosenTarget); }
+    AudioWorld picture()
+    {
+        return builder.build(
+            world.graph, {.chosenTarget = chosenTarget, .isHeld = [](const GraphNode&) { return false; }});
+    }
     // A process of its own with one stream.
     GraphID player(const std::string& target = {}, int pid = 0)
     {
