@@ -318,6 +318,10 @@
         <translation>Could not save settings: %1</translation>
     </message>
     <message>
+        <source>Settings could not be read, and changes will not be saved: %1</source>
+        <translation>Settings could not be read, and changes will not be saved: %1</translation>
+    </message>
+    <message>
         <source>Launch at login: %1</source>
         <translation>Launch at login: %1</translation>
     </message>

@@ -319,6 +319,10 @@
         <translation>Nie udało się zapisać ustawień: %1</translation>
     </message>
     <message>
+        <source>Settings could not be read, and changes will not be saved: %1</source>
+        <translation>Nie udało się odczytać ustawień, a zmiany nie zostaną zapisane: %1</translation>
+    </message>
+    <message>
         <source>Launch at login: %1</source>
         <translation>Uruchamianie przy logowaniu: %1</translation>
     </message>

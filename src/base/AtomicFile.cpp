@@ -24,6 +24,13 @@ std::unexpected<std::string> failed(const std::string& what, const fs::path& fil
     return std::unexpected(what + " " + file.string() + ": " + reason);
 }
 
+std::unexpected<ReadError> unread(const fs::path& file, int code = errno)
+{
+    const bool isMissing = code == ENOENT || code == ENOTDIR;
+    return std::unexpected(ReadError{isMissing ? ReadError::Reason::missing : ReadError::Reason::unreadable,
+        failed("Cannot read", file, code).error()});
+}
+
 std::optional<struct stat> statusOf(const fs::path& file)
 {
     struct stat status{};
@@ -79,8 +86,13 @@ public:
 
     [[nodiscard]] bool isOpen() const { return descriptor_.isOpen(); }
 
-    /// Best effort: a file system without permissions cannot take them over, and is no reason to lose the content.
-    void takePermissions(mode_t mode) const { (void)::fchmod(descriptor_.get(), mode & 07777); }
+    /// Best effort: a file system without owners or permissions cannot take them over, and is no reason to lose the
+    /// content. Without the owner, one start as root would leave the user a file that only root can read.
+    void takeOwnerAndPermissions(const struct stat& old) const
+    {
+        [[maybe_unused]] const auto refused = ::fchown(descriptor_.get(), old.st_uid, old.st_gid);
+        (void)::fchmod(descriptor_.get(), old.st_mode & 07777);
+    }
 
     /// On the disk before it gets its name: otherwise a crash could leave the name on an empty file.
     [[nodiscard]] bool fill(std::string_view content)
@@ -118,9 +130,13 @@ std::expected<std::string, ReadError> read(const fs::path& file, std::size_t max
 {
     // Without waiting: a pipe would wait for a writer that never comes.
     const FileDescriptor descriptor(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (!descriptor.isOpen())
+        return unread(file);
     struct stat status{};
-    if (!descriptor.isOpen() || ::fstat(descriptor.get(), &status) != 0 || !S_ISREG(status.st_mode))
-        return std::unexpected(ReadError::unreadable);
+    if (::fstat(descriptor.get(), &status) != 0)
+        return unread(file);
+    if (!S_ISREG(status.st_mode))
+        return unread(file, S_ISDIR(status.st_mode) ? EISDIR : EINVAL);
 
     std::string content;
     std::string block(std::size_t{64} * 1024, '\0');
@@ -129,12 +145,13 @@ std::expected<std::string, ReadError> read(const fs::path& file, std::size_t max
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
-            return std::unexpected(ReadError::unreadable);
+            return unread(file);
         if (count == 0)
             return content;
         content.append(block, 0, static_cast<std::size_t>(count));
     }
-    return std::unexpected(ReadError::tooLarge);
+    return std::unexpected(ReadError{ReadError::Reason::tooLarge,
+        "Cannot read " + file.string() + ": larger than " + std::to_string(maximumSize) + " bytes"});
 }
 
 std::expected<void, std::string> replace(const fs::path& file, std::string_view content)
@@ -151,7 +168,7 @@ std::expected<void, std::string> replace(const fs::path& file, std::string_view 
     if (!successor.isOpen())
         return failed("Cannot create a file beside", *target);
     if (old)
-        successor.takePermissions(old->st_mode);
+        successor.takeOwnerAndPermissions(*old);
     if (!successor.fill(content))
         return failed("Cannot write", *target);
     if (!successor.takePlace())

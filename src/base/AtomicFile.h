@@ -13,14 +13,22 @@
 
 namespace fadeloom::AtomicFile {
 
-enum class ReadError { unreadable, tooLarge };
+struct ReadError {
+    enum class Reason { missing, unreadable, tooLarge };
 
-/// Reads a regular file; anything else, a pipe or a device, counts as unreadable and is not waited for. Thread: any.
+    Reason reason{};
+    std::string description;  // In English, with the file's path; ends with the system's own words.
+
+    friend bool operator==(const ReadError&, const ReadError&) = default;
+};
+
+/// Reads a regular file; anything else, a pipe or a device, counts as unreadable and is not waited for. Missing is only
+/// what is certainly not there: a file behind a folder that cannot be searched is unreadable. Thread: any.
 [[nodiscard]] std::expected<std::string, ReadError> read(
     const std::filesystem::path& file, std::size_t maximumSize);
 
 /// Puts `content` in the place of a file, or makes it, readable by its owner alone; a file that is there keeps its
-/// permissions, and a symbolic link keeps pointing to it. After an error the old content is untouched and nothing
+/// permissions and, as far as the user may give it away, its owner, and a symbolic link keeps pointing to it. After an error the old content is untouched and nothing
 /// else is left in the folder. The error is in English and ends with the system's own words. Thread: any, one at a time
 /// for a file.
 [[nodiscard]] std::expected<void, std::string> replace(

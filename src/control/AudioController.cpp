@@ -5,18 +5,36 @@
 #include "platform/AudioSystem.h"
 #include "platform/LoginItem.h"
 #include "platform/MainLoop.h"
-#include "settings/SettingsFile.h"
 
 #include <utility>
 
 namespace fadeloom {
+namespace {
+
+std::optional<std::string> unreadableMessage(const std::optional<SettingsError>& error)
+{
+    if (!error)
+        return std::nullopt;
+    return "Settings could not be read, and changes will not be saved: " + error->description;
+}
+
+}  // namespace
 
 AudioController::AudioController(const Platform& platform, EngineLog& engineLog, const std::string& version)
+    : AudioController(platform, engineLog, version,
+          SettingsFile::load(SettingsFile::defaultURL(platform.folders), platform.systemLog))
+{
+}
+
+AudioController::AudioController(
+    const Platform& platform, EngineLog& engineLog, const std::string& version, SettingsFile::Loaded loaded)
     : platform_(platform)
     , engineLog_(engineLog)
+    , isSaving_(!loaded.unreadable)
     , state_{.permission = audioPermission_.current(),
           .launchAtLogin = platform.loginItem.status() == LoginItem::Status::enabled,
-          .settings = SettingsFile::load(SettingsFile::defaultURL(platform.folders), platform.systemLog)}
+          .errorMessage = unreadableMessage(loaded.unreadable),
+          .settings = std::move(loaded.settings)}
     , saver_(platform.utilityQueue, platform.mainLoop, SettingsFile::defaultURL(platform.folders),
           [this](const std::string& description) {
               state_.errorMessage.assign("Could not save settings: " + description);

@@ -22,6 +22,7 @@
 #include "engine/TapParameters.h"
 #include "log/EngineLog.h"
 #include "platform/Platform.h"
+#include "settings/SettingsFile.h"
 
 #include <chrono>
 #include <filesystem>
@@ -45,7 +46,8 @@ public:
     /// How soon a recording that cannot be written any more is noticed.
     static constexpr std::chrono::seconds recordingCheckInterval{1};
 
-    /// Loads the settings, begins to listen, polls once. `version` is for the log; "?" when empty.
+    /// Loads the settings, begins to listen, polls once. Settings that are there and cannot be read become the error
+    /// message; nothing is saved in their place. `version` is for the log; "?" when empty.
     AudioController(const Platform& platform, EngineLog& engineLog, const std::string& version);
     /// One that publishes fixed contents, for pictures: it looks at nothing, taps nothing and saves nothing.
     AudioController(const Platform& platform, EngineLog& engineLog, const DemoContents& demo);
@@ -106,6 +108,9 @@ public:
     void shutdown();
 
 private:
+    AudioController(const Platform& platform, EngineLog& engineLog, const std::string& version,
+        SettingsFile::Loaded loaded);
+
     [[nodiscard]] std::function<void()> onMainThread(void (AudioController::*action)());
     void listenToSystem();
 
@@ -150,6 +155,7 @@ private:
     Platform platform_;
     EngineLog& engineLog_;
     bool isDemo_ = false;
+    bool isSaving_ = true;  // Not where the file may hold what could not be read.
     AudioPermission audioPermission_{platform_.capturePermission, platform_.mainLoop};
     AppGrouper grouper_{platform_.workspace};
 

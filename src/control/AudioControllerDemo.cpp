@@ -9,6 +9,7 @@ AudioController::AudioController(const Platform& platform, EngineLog& engineLog,
     : platform_(platform)
     , engineLog_(engineLog)
     , isDemo_(true)
+    , isSaving_(false)
     , state_{.apps = demo.apps,
           .devices = demo.devices,
           .defaultDeviceUID = demo.devices.empty() ? std::nullopt : std::optional(demo.devices.front().uid),

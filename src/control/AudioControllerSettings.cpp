@@ -39,7 +39,7 @@ void AudioController::settingsChanged(const SettingsData& old)
         || state_.settings->eqAutoHeadroom != old.eqAutoHeadroom)
         pushAllSettings();
     holdNewStreams();
-    if (!isDemo_)
+    if (isSaving_)
         saver_.schedule(*state_.settings);
 }
 

@@ -6,7 +6,10 @@
 #include "platform/SystemLog.h"
 #include "settings/SettingsJson.h"
 
+#include <optional>
+#include <string>
 #include <system_error>
+#include <utility>
 
 namespace fadeloom::SettingsFile {
 
@@ -14,15 +17,28 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Thousands of apps take a tenth of this. Whatever is larger is no settings file, and taking it apart would need many
-// times its size in memory.
+// Of reading and of writing. Thousands of apps take a tenth of this. Whatever is larger is no settings file, and taking
+// it apart would need many times its size in memory.
 constexpr std::size_t maximumSize = std::size_t{16} * 1024 * 1024;
+
+SettingsError tooLarge()
+{
+    return {"larger than " + std::to_string(maximumSize) + " bytes"};
+}
+
+/// Why the file must not be replaced: it may hold what nobody has seen.
+std::optional<SettingsError> reasonToKeep(const std::expected<std::string, AtomicFile::ReadError>& content)
+{
+    if (content || content.error().reason != AtomicFile::ReadError::Reason::unreadable)
+        return std::nullopt;
+    return SettingsError{content.error().description};
+}
 
 std::expected<SettingsData, SettingsError> decode(
     const std::expected<std::string, AtomicFile::ReadError>& content)
 {
     if (!content)
-        return std::unexpected(SettingsError{"larger than " + std::to_string(maximumSize) + " bytes"});
+        return std::unexpected(tooLarge());
     return decodeSettings(*content);
 }
 
@@ -38,14 +54,16 @@ fs::path defaultURL(const StandardFolders& folders)
     return folders.applicationSupport() / "Fadeloom" / "settings.json";
 }
 
-SettingsData load(const fs::path& file, SystemLog& log)
+Loaded load(const fs::path& file, SystemLog& log)
 {
     const auto content = AtomicFile::read(file, maximumSize);
-    if (!content && content.error() == AtomicFile::ReadError::unreadable)
+    if (auto unreadable = reasonToKeep(content))
+        return {.settings = {}, .unreadable = std::move(unreadable)};
+    if (!content && content.error().reason == AtomicFile::ReadError::Reason::missing)
         return {};
     auto settings = decode(content);
     if (settings)
-        return std::move(*settings);
+        return {.settings = std::move(*settings), .unreadable = {}};
 
     const auto backup = backupOf(file);
     std::error_code ignored;
@@ -65,7 +83,13 @@ std::expected<void, SettingsError> save(const SettingsData& settings, const fs::
     if (error)
         return std::unexpected(
             SettingsError{"Cannot create the folder " + folder.string() + ": " + error.message()});
-    if (const auto replaced = AtomicFile::replace(file, encodeSettings(settings)); !replaced)
+    const auto content = encodeSettings(settings);
+    if (content.size() > maximumSize)
+        return std::unexpected(tooLarge());
+    // It may have become unreadable since it was loaded.
+    if (auto unreadable = reasonToKeep(AtomicFile::read(file, maximumSize)))
+        return std::unexpected(std::move(*unreadable));
+    if (const auto replaced = AtomicFile::replace(file, content); !replaced)
         return std::unexpected(SettingsError{replaced.error()});
     return {};
 }

@@ -7,6 +7,7 @@
 
 #include <expected>
 #include <filesystem>
+#include <optional>
 
 namespace fadeloom {
 
@@ -18,12 +19,19 @@ namespace SettingsFile {
 
 [[nodiscard]] std::filesystem::path defaultURL(const StandardFolders& folders);
 
-/// Never fails. A file that cannot be read, most often because there is none yet, gives the defaults. One that can be
-/// read but not understood gives them as well; it is copied to a backup beside it, in place of any older one, before
-/// the next save overwrites it, and `log` gets one line.
-[[nodiscard]] SettingsData load(const std::filesystem::path& file, SystemLog& log);
+struct Loaded {
+    SettingsData settings;
+    std::optional<SettingsError> unreadable;  // Why there may be settings that are not these.
+};
 
-/// Replaces the file, and makes the folders above it. After an error the file is as it was.
+/// Never fails. Where there is no file yet, the settings are the defaults. A file that can be read but not understood
+/// gives them as well; it is copied to a backup beside it, in place of any older one, before the next save overwrites
+/// it, and `log` gets one line. A file that is there and cannot be read gives them, too, with the reason: nothing may
+/// be saved in its place.
+[[nodiscard]] Loaded load(const std::filesystem::path& file, SystemLog& log);
+
+/// Replaces the file, and makes the folders above it. Refuses what `load` would find too large, and to replace a file
+/// that cannot be read. After an error the file is as it was.
 [[nodiscard]] std::expected<void, SettingsError> save(
     const SettingsData& settings, const std::filesystem::path& file);
 

@@ -13,6 +13,7 @@ constexpr const char* sentences[] = {
     QT_TRANSLATE_NOOP("MessageText", "Start playback in this app first, then press record."),
     QT_TRANSLATE_NOOP("MessageText", "Could not start recording: %1"),
     QT_TRANSLATE_NOOP("MessageText", "Could not save settings: %1"),
+    QT_TRANSLATE_NOOP("MessageText", "Settings could not be read, and changes will not be saved: %1"),
     QT_TRANSLATE_NOOP("MessageText", "Launch at login: %1"),
     QT_TRANSLATE_NOOP("MessageText", "Recording of %1 stopped: the file could not be written (%2)."),
 };

@@ -125,6 +125,16 @@ TEST_F(HeadlessRunStory, tellsOfPermission)
     EXPECT_THAT(lines(), ElementsAre("log permission: denied", "permission denied"));
 }
 
+TEST_F(HeadlessRunStory, tellsWhenTheSettingsCannotBeRead)
+{
+    std::filesystem::create_directories(settingsFile());
+
+    start();
+
+    EXPECT_THAT(lines(),
+        Contains(StartsWith("message \"Settings could not be read, and changes will not be saved: ")));
+}
+
 TEST_F(HeadlessRunStory, tellsWhenTheSettingsCannotBeSaved)
 {
     launchPlaying("Player");

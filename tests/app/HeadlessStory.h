@@ -70,7 +70,10 @@ protected:
     {
         return SettingsFile::defaultURL(world.platform().folders);
     }
-    [[nodiscard]] SettingsData saved() { return SettingsFile::load(settingsFile(), world.systemLog()); }
+    [[nodiscard]] SettingsData saved()
+    {
+        return SettingsFile::load(settingsFile(), world.systemLog()).settings;
+    }
     [[nodiscard]] float heardAt(const std::string& uid)
     {
         world.advance(1s);

@@ -208,7 +208,7 @@ protected:
     float savedVolume()
     {
         SimulatedSystemLog log;
-        return SettingsFile::load(settingsFile, log).apps["com.example.player"].volume;
+        return SettingsFile::load(settingsFile, log).settings.apps["com.example.player"].volume;
     }
 
     TemporaryFolder folder;

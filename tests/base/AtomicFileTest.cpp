@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/AtomicFile.h"
 
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -11,6 +12,7 @@
 
 #include <csignal>
 #include <fstream>
+#include <optional>
 #include <sstream>
 #include <vector>
 
@@ -21,6 +23,7 @@ namespace fs = std::filesystem;
 using AtomicFile::ReadError;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using Reason = ReadError::Reason;
 
 /// While one lives, no file of this process can grow beyond `bytes`: the system refuses as it does on a full disk.
 class FullDisk {
@@ -57,6 +60,10 @@ protected:
     {
         std::ofstream(path, std::ios::binary) << content;
     }
+    static std::optional<Reason> reasonOf(const std::expected<std::string, ReadError>& content)
+    {
+        return content ? std::nullopt : std::optional(content.error().reason);
+    }
     static mode_t modeOf(const fs::path& path)
     {
         struct stat status{};
@@ -91,7 +98,10 @@ TEST_F(AtomicFileTest, isReadUpToTheLargestSize)
     put(file, "12345");
 
     EXPECT_EQ(AtomicFile::read(file, 5), "12345");
-    EXPECT_EQ(AtomicFile::read(file, 4), std::unexpected(ReadError::tooLarge));
+    const auto tooLarge = AtomicFile::read(file, 4);
+    ASSERT_FALSE(tooLarge);
+    EXPECT_EQ(tooLarge.error(),
+        (ReadError{Reason::tooLarge, "Cannot read " + file.string() + ": larger than 4 bytes"}));
 }
 
 TEST_F(AtomicFileTest, whatIsNoFileIsUnreadableAndNotWaitedFor)
@@ -99,8 +109,64 @@ TEST_F(AtomicFileTest, whatIsNoFileIsUnreadableAndNotWaitedFor)
     const auto pipe = folder.path() / "pipe";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
 
-    for (const auto& path : {file, folder.path(), pipe, fs::path("/dev/zero"), fs::path()})
-        EXPECT_EQ(AtomicFile::read(path, 100), std::unexpected(ReadError::unreadable)) << path;
+    for (const auto& path : {folder.path(), pipe, fs::path("/dev/zero")})
+        EXPECT_EQ(reasonOf(AtomicFile::read(path, 100)), Reason::unreadable) << path;
+}
+
+TEST_F(AtomicFileTest, whatIsCertainlyNotThereIsMissing)
+{
+    put(file, "a file");
+
+    for (const auto& path :
+        {folder.path() / "other", folder.path() / "no" / "file", file / "below", fs::path()})
+        EXPECT_EQ(reasonOf(AtomicFile::read(path, 100)), Reason::missing) << path;
+}
+
+TEST_F(AtomicFileTest, aFileThatIsNotOursIsUnreadable)
+{
+    const OrdinaryUser user(folder.path());
+    put(file, "secret");
+    ::chmod(file.c_str(), 0);
+
+    const auto content = AtomicFile::read(file, 100);
+
+    ASSERT_FALSE(content);
+    EXPECT_EQ(content.error(),
+        (ReadError{Reason::unreadable, "Cannot read " + file.string() + ": Permission denied"}));
+}
+
+TEST_F(AtomicFileTest, aFileBehindAClosedFolderIsUnreadable)
+{
+    const OrdinaryUser user(folder.path());
+    const auto closed = folder.path() / "closed";
+    fs::create_directory(closed);
+    ::chmod(closed.c_str(), 0);
+
+    EXPECT_EQ(reasonOf(AtomicFile::read(closed / "file.json", 100)), Reason::unreadable);
+}
+
+TEST_F(AtomicFileTest, aFileThatFailsWhileItIsReadIsUnreadable)
+{
+    const auto content =
+        AtomicFile::read("/proc/self/mem", 100);  // Opens; nothing is mapped at its beginning.
+
+    ASSERT_FALSE(content);
+    EXPECT_EQ(
+        content.error(), (ReadError{Reason::unreadable, "Cannot read /proc/self/mem: Input/output error"}));
+}
+
+TEST_F(AtomicFileTest, replacedOneKeepsItsOwner)
+{
+    put(file, "old");
+    constexpr uid_t nobody = 65534;
+    const uid_t owner = ::geteuid() == 0 ? nobody : ::geteuid();  // Root could take it away.
+    ASSERT_EQ(::chown(file.c_str(), owner, static_cast<gid_t>(-1)), 0);
+
+    ASSERT_TRUE(AtomicFile::replace(file, "new"));
+
+    struct stat status{};
+    ASSERT_EQ(::stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, owner);
 }
 
 TEST_F(AtomicFileTest, newOneIsForItsOwnerAlone)

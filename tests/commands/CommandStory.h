@@ -41,7 +41,10 @@ protected:
     {
         return SettingsFile::defaultURL(world.platform().folders);
     }
-    [[nodiscard]] SettingsData saved() { return SettingsFile::load(settingsFile(), world.systemLog()); }
+    [[nodiscard]] SettingsData saved()
+    {
+        return SettingsFile::load(settingsFile(), world.systemLog()).settings;
+    }
     /// Whether nothing was saved since the story began.
     bool isUnchanged()
     {

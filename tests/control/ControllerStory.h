@@ -133,7 +133,10 @@ protected:
     }
     [[nodiscard]] bool isSaveWaiting() { return world.utilityQueue().waitingCount() > 0; }
     /// The settings as a later run would find them.
-    [[nodiscard]] SettingsData saved() { return SettingsFile::load(settingsFile(), world.systemLog()); }
+    [[nodiscard]] SettingsData saved()
+    {
+        return SettingsFile::load(settingsFile(), world.systemLog()).settings;
+    }
 
     TemporaryFolder folder;
     SimulatedPlatform world{folder.path()};

@@ -3,6 +3,7 @@
 #include "tests/control/ControllerStory.h"
 
 #include "engine/Equalizer.h"
+#include "tests/support/OrdinaryUser.h"
 
 namespace fadeloom {
 namespace {
@@ -156,6 +157,30 @@ TEST_F(SettingsStory, aFailedSaveIsToldAndTheNextChangeTriesAgain)
     world.advance(600ms);
     EXPECT_EQ(*state().errorMessage, std::nullopt);
     EXPECT_EQ(saved().volumeLimit, 1.5F);
+}
+
+TEST_F(SettingsStory, settingsThatCannotBeReadAreToldOfAndNeverReplaced)
+{
+    SettingsData earlier;
+    earlier.apps[player].volume = 0.25F;
+    givenSettings(earlier);
+    std::filesystem::permissions(settingsFile(), {});
+    {
+        const OrdinaryUser user(folder.path());
+        start();
+    }
+    std::filesystem::permissions(settingsFile(), std::filesystem::perms::owner_all);
+    launchPlaying("Player");
+    EXPECT_EQ(*state().errorMessage,
+        "Settings could not be read, and changes will not be saved: Cannot read " + settingsFile().string()
+            + ": Permission denied");
+
+    change(player, [](auto& app) { app.volume = 0.5F; });
+    world.advance(1s);
+
+    EXPECT_EQ(valuesOf(player).volume, 0.5F);
+    EXPECT_EQ(saved().apps.at(player).volume, 0.25F);
+    EXPECT_FALSE(isSaveWaiting());
 }
 
 TEST_F(SettingsStory, aSaveThatFailsAfterTheControllerIsGoneDoesNothing)

@@ -3,10 +3,13 @@
 
 #include "platform/simulated/SimulatedFolders.h"
 #include "platform/simulated/SimulatedSystemLog.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <sys/stat.h>
 
 #include <fstream>
 #include <sstream>
@@ -45,7 +48,7 @@ TEST_F(SettingsFileTest, isInAFolderOfItsOwn)
 
 TEST_F(SettingsFileTest, missingFileGivesTheDefaultsInSilence)
 {
-    EXPECT_EQ(SettingsFile::load(file, log), SettingsData());
+    EXPECT_EQ(SettingsFile::load(file, log).settings, SettingsData());
 
     EXPECT_THAT(log.lines(), IsEmpty());
     EXPECT_TRUE(fs::is_empty(folder.path())) << "nothing is made by reading";
@@ -58,7 +61,7 @@ TEST_F(SettingsFileTest, firstSaveMakesTheFolderAndTheFile)
 
     ASSERT_TRUE(SettingsFile::save(settings, file));
 
-    EXPECT_EQ(SettingsFile::load(file, log), settings);
+    EXPECT_EQ(SettingsFile::load(file, log).settings, settings);
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 
@@ -80,7 +83,7 @@ TEST_F(SettingsFileTest, emptyObjectLoadsWithoutABackup)
 {
     put("{}");
 
-    EXPECT_EQ(SettingsFile::load(file, log), SettingsData());
+    EXPECT_EQ(SettingsFile::load(file, log).settings, SettingsData());
     EXPECT_FALSE(fs::exists(backup));
     EXPECT_THAT(log.lines(), IsEmpty());
 }
@@ -89,7 +92,7 @@ TEST_F(SettingsFileTest, oneDamagedAppIsNoReasonForABackup)
 {
     put(R"({"apps": {"bad": {"volume": "loud"}, "good": {"volume": 0.5}}})");
 
-    const auto settings = SettingsFile::load(file, log);
+    const auto settings = SettingsFile::load(file, log).settings;
 
     EXPECT_EQ(settings.apps.size(), 1U);
     EXPECT_EQ(settings.apps.at("good").volume, 0.5F);
@@ -101,7 +104,7 @@ TEST_F(SettingsFileTest, fileThatIsNotUnderstoodIsBackedUpAndReportedOnce)
 {
     put("{\"volumeLimit\": 2, ");
 
-    EXPECT_EQ(SettingsFile::load(file, log), SettingsData());
+    EXPECT_EQ(SettingsFile::load(file, log).settings, SettingsData());
 
     EXPECT_EQ(contentOf(backup), "{\"volumeLimit\": 2, ");
     EXPECT_EQ(contentOf(file), "{\"volumeLimit\": 2, ") << "left in place until the next save";
@@ -114,7 +117,7 @@ TEST_F(SettingsFileTest, emptyFileIsNotUnderstood)
 {
     put("");
 
-    EXPECT_EQ(SettingsFile::load(file, log), SettingsData());
+    EXPECT_EQ(SettingsFile::load(file, log).settings, SettingsData());
     EXPECT_TRUE(fs::exists(backup));
     EXPECT_EQ(log.lines().size(), 1U);
 }
@@ -123,7 +126,7 @@ TEST_F(SettingsFileTest, wrongTypeIsReportedWithItsPlace)
 {
     put(R"({"appearance": {"theme": "sepia"}})");
 
-    EXPECT_EQ(SettingsFile::load(file, log), SettingsData());
+    EXPECT_EQ(SettingsFile::load(file, log).settings, SettingsData());
 
     EXPECT_EQ(log.lines().at(0).message,
         "Fadeloom: settings unreadable (appearance: theme: no such theme), backup at " + backup.string());
@@ -156,7 +159,7 @@ TEST_F(SettingsFileTest, isReportedEvenWhenTheBackupCannotBeMade)
     // A file that everyone can read, that is not JSON, and beside which nobody can make another.
     const fs::path status = "/proc/self/status";
 
-    EXPECT_EQ(SettingsFile::load(status, log), SettingsData());
+    EXPECT_EQ(SettingsFile::load(status, log).settings, SettingsData());
 
     ASSERT_EQ(log.lines().size(), 1U);
     EXPECT_THAT(log.lines()[0].message, HasSubstr("backup at /proc/self/status.broken.json"));
@@ -166,7 +169,7 @@ TEST_F(SettingsFileTest, oneThatIsFarTooLargeIsNotTakenApart)
 {
     put("{}" + std::string(std::size_t{17} * 1024 * 1024, ' '));
 
-    EXPECT_EQ(SettingsFile::load(file, log), SettingsData());
+    EXPECT_EQ(SettingsFile::load(file, log).settings, SettingsData());
 
     EXPECT_EQ(fs::file_size(backup), fs::file_size(file));
     EXPECT_EQ(log.lines().at(0).message,
@@ -177,11 +180,51 @@ TEST_F(SettingsFileTest, folderInTheFilesPlaceGivesTheDefaultsInSilence)
 {
     fs::create_directories(file);
 
-    EXPECT_EQ(SettingsFile::load(file, log), SettingsData());
+    EXPECT_EQ(SettingsFile::load(file, log).settings, SettingsData());
 
     EXPECT_THAT(log.lines(), IsEmpty());
     EXPECT_FALSE(fs::exists(backup));
     EXPECT_FALSE(SettingsFile::save(SettingsData(), file));
+}
+
+TEST_F(SettingsFileTest, fileThatCannotBeReadIsNeitherReportedNorReplaced)
+{
+    const OrdinaryUser user(folder.path());
+    put(R"({"volumeLimit": 2})");
+    ::chmod(file.c_str(), 0);
+    const SettingsError reason{"Cannot read " + file.string() + ": Permission denied"};
+
+    const auto loaded = SettingsFile::load(file, log);
+    const auto saved = SettingsFile::save(SettingsData(), file);
+
+    EXPECT_EQ(loaded.settings, SettingsData());
+    EXPECT_EQ(loaded.unreadable, reason);
+    EXPECT_EQ(saved, std::unexpected(reason));
+    ::chmod(file.c_str(), 0600);
+    EXPECT_EQ(contentOf(file), R"({"volumeLimit": 2})");
+    EXPECT_THAT(log.lines(), IsEmpty());
+    EXPECT_FALSE(fs::exists(backup));
+}
+
+TEST_F(SettingsFileTest, fileThatFailsWhileItIsReadCountsAsUnreadable)
+{
+    const auto loaded = SettingsFile::load("/proc/self/mem", log);
+
+    ASSERT_TRUE(loaded.unreadable);
+    EXPECT_THAT(loaded.unreadable->description, HasSubstr("Input/output error"));
+}
+
+TEST_F(SettingsFileTest, whatWouldBeTooLargeToReadIsNotWritten)
+{
+    SettingsData settings;
+    ASSERT_TRUE(SettingsFile::save(settings, file));
+    const auto before = contentOf(file);
+    settings.knownAppNames["com.example.player"] = std::string(std::size_t{16} * 1024 * 1024, 'x');
+
+    const auto saved = SettingsFile::save(settings, file);
+
+    EXPECT_EQ(saved, std::unexpected(SettingsError{"larger than 16777216 bytes"}));
+    EXPECT_EQ(contentOf(file), before);
 }
 
 TEST_F(SettingsFileTest, folderThatCannotBeMadeIsTold)

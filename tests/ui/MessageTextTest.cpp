@@ -15,6 +15,8 @@ TEST_F(MessageTextTest, messagesAreTranslatedAroundTheirNames)
         "„Rock” to nazwa wbudowanego ustawienia. Wybierz inną nazwę.");
     EXPECT_EQ(messageText("Recording of Player stopped: the file could not be written (disk full)."),
         "Nagrywanie aplikacji Player zostało zatrzymane: nie można zapisać pliku (disk full).");
+    EXPECT_EQ(messageText("Settings could not be read, and changes will not be saved: Permission denied"),
+        "Nie udało się odczytać ustawień, a zmiany nie zostaną zapisane: Permission denied");
 }
 
 TEST_F(MessageTextTest, anUnknownMessageIsShownAsItCame)

@@ -14,6 +14,12 @@ QString fileName(const std::filesystem::path& file)
     return QFile::decodeName(file.c_str());
 }
 
+/// A file that is there and cannot be read may hold what nobody has seen.
+bool mayWrite(const QSettings& settings)
+{
+    return settings.status() != QSettings::AccessError;
+}
+
 /// What was damaged is not to be mixed with what is new.
 void forgetDamage(QSettings& settings)
 {
@@ -47,6 +53,8 @@ void QtUserDefaults::setStringList(const std::string& key, const std::vector<std
     for (const auto& value : values)
         texts += QString::fromStdString(value);
     QSettings settings(fileName(file_), QSettings::IniFormat);
+    if (!mayWrite(settings))
+        return;
     forgetDamage(settings);
     settings.setValue(QString::fromStdString(key), texts);
 }
@@ -54,6 +62,8 @@ void QtUserDefaults::setStringList(const std::string& key, const std::vector<std
 void QtUserDefaults::remove(const std::string& key)
 {
     QSettings settings(fileName(file_), QSettings::IniFormat);
+    if (!mayWrite(settings))
+        return;
     forgetDamage(settings);
     settings.remove(QString::fromStdString(key));
 }

@@ -2,6 +2,7 @@
 #include "platform/qt/QtUserDefaults.h"
 
 #include "tests/platform/UserDefaultsContract.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <fstream>
@@ -78,6 +79,19 @@ TEST_F(QtUserDefaultsTest, whatAnotherProgramWritesIsReadAtOnce)
 
     EXPECT_EQ(defaults.stringList("Colours"), (List{"green", "yellow", "black"}));
     EXPECT_EQ(defaults.stringList("Sizes"), List{"small"});
+}
+
+TEST_F(QtUserDefaultsTest, aFileThatCannotBeReadIsNotReplaced)
+{
+    const OrdinaryUser user(folder.path());
+    write("[General]\nColours=green\n");
+    ::chmod(file.c_str(), 0);
+
+    defaults.setStringList("Sizes", {"small"});
+    defaults.remove("Colours");
+
+    ::chmod(file.c_str(), 0600);
+    EXPECT_EQ(content(), "[General]\nColours=green\n");
 }
 
 TEST_F(QtUserDefaultsTest, whatIsNoTextIsAbsent)
