@@ -79,18 +79,34 @@ TEST_F(LevelStoreTest, looksTwentyTimesASecondWhileSomebodyDoes)
 {
     watch();
     watch();
+    lookCount = 0;
 
     loop.advance(1s);
 
     EXPECT_EQ(lookCount, 20);
 }
 
+TEST_F(LevelStoreTest, showsNothingOfTheTimeWhenNobodyWatched)
+{
+    peaks = {{"player", 1.0F}};
+
+    watch();
+    loop.advance(LevelStore::interval);
+    EXPECT_EQ(level("player"), 0);
+
+    peaks = {{"player", 1.0F}};
+    store.setEnabled(false);
+    store.setEnabled(true);
+    loop.advance(LevelStore::interval);
+    EXPECT_EQ(level("player"), 0);
+}
+
 TEST_F(LevelStoreTest, publishesAllAppsTogether)
 {
     int assignments = 0;
     const auto subscription = store.levels().whenAssigned([&] { assignments += 1; });
-    peaks = {{"chat", 0.1F}, {"player", 1.0F}};
     watch();
+    peaks = {{"chat", 0.1F}, {"player", 1.0F}};
 
     loop.advance(LevelStore::interval);
 
@@ -157,9 +173,10 @@ TEST_F(LevelStoreTest, dropsEveryBarWhenNobodyWatchesAnyMore)
 
     store.setWanted(false);
     EXPECT_THAT(*store.levels(), IsEmpty());
+    lookCount = 0;
     loop.advance(1s);
 
-    EXPECT_EQ(lookCount, 1);
+    EXPECT_EQ(lookCount, 0);
 }
 
 TEST_F(LevelStoreTest, restsWhileMetersAreSwitchedOff)
@@ -170,6 +187,7 @@ TEST_F(LevelStoreTest, restsWhileMetersAreSwitchedOff)
     EXPECT_EQ(lookCount, 0);
 
     store.setEnabled(true);
+    lookCount = 0;
     loop.advance(1s);
     EXPECT_EQ(lookCount, 20);
 }
@@ -202,6 +220,7 @@ TEST_F(LevelStoreTest, itsEndEndsItsTimer)
         LevelStore brief{loop, [this] { return take(); }};
         brief.setWanted(true);
     }
+    lookCount = 0;
     loop.advance(1s);
 
     EXPECT_EQ(lookCount, 0);
