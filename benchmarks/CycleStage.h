@@ -54,7 +54,7 @@ public:
             samples_[i] = 0.01F * std::sin(0.05F * static_cast<float>(i));
         parameters_->values.eqEnabled = setting.isEqualized;
         if (setting.isRecorded)
-            parameters_->setRecorder(&file_);
+            parameters_->recorder.set(&file_);
         parameters_->setEQ(eqCoefficients(std::array<float, 10>{6, -4, 3, -2, 7, -6, 4, 2, -3, 5}, 48000));
         const TapFormat layout{
             .output = {1, 2},

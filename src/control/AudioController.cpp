@@ -99,12 +99,10 @@ void AudioController::shutdown()
     life_.end();
 
     recordingCheck_.reset();
-    auto ending = std::exchange(closing_, {});
     for (auto& [id, recording] : std::exchange(active_, {}))
-        ending.push_back({.bundleID = id, .recording = std::move(recording), .timer = {}});
-    taps_.clear();  // From here on nothing writes to a file.
-    for (auto& [id, recording, timer] : ending)
-        finish(id, *recording);
+        closing_.add(id, std::move(recording), takeRecorderFrom(id));
+    taps_.clear();
+    closing_.closeNow();
     saver_.flush();
 }
 

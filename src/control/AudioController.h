@@ -13,6 +13,7 @@
 #include "base/LifeToken.h"
 #include "control/AppGroups.h"
 #include "control/AudioPermission.h"
+#include "control/ClosingRecordings.h"
 #include "control/ControllerState.h"
 #include "control/DemoContents.h"
 #include "control/LevelStore.h"
@@ -27,7 +28,6 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
-#include <list>
 #include <map>
 #include <memory>
 #include <optional>
@@ -41,8 +41,6 @@ namespace fadeloom {
 class AudioController {
 public:
     static constexpr std::chrono::seconds pollInterval{5};
-    /// A cycle that began before a recording was stopped may go on for this long.
-    static constexpr std::chrono::milliseconds closeDelay{500};
     /// How soon a recording that cannot be written any more is noticed.
     static constexpr std::chrono::seconds recordingCheckInterval{1};
 
@@ -85,7 +83,7 @@ public:
     /// Writes what the app plays to a file, before volume, mute and equalizer. Whatever stands in the way becomes the
     /// error message; a second call while the app is being recorded does nothing.
     void startRecording(const std::string& bundleID);
-    /// The file is complete half a second later.
+    /// The file is complete half a second later, or once the renderer has let go of it.
     void stopRecording(const std::string& bundleID);
     /// Where recordings go.
     [[nodiscard]] std::filesystem::path recordingsFolder() const;
@@ -144,6 +142,7 @@ private:
         const std::string& bundleID, Recording::Moment startedAt) const;
     void stopAllRecordings();
     void checkRecordings();
+    [[nodiscard]] std::shared_ptr<const TapParameters> takeRecorderFrom(const std::string& bundleID);
     void finish(const std::string& bundleID, Recording& recording);
 
     void applyAppearance();
@@ -166,13 +165,9 @@ private:
     // A block is shared with the renderer of the app's tap and outlives it, so that the next tap sounds the same.
     std::map<std::string, std::shared_ptr<TapParameters>> params_;
     std::map<std::string, std::unique_ptr<AppTap>> taps_;
-    struct ClosingRecording {
-        std::string bundleID;
-        std::unique_ptr<Recording> recording;
-        Subscription timer;
-    };
     std::map<std::string, std::unique_ptr<Recording>> active_;
-    std::list<ClosingRecording> closing_;
+    ClosingRecordings closing_{platform_.mainLoop,
+        [this](const std::string& bundleID, Recording& recording) { finish(bundleID, recording); }};
     std::map<std::string, std::string> failed_;  // The key of the last failed attempt, by app.
     std::set<std::string> audioConfirmed_;  // Taps through which audio was seen to flow.
     std::set<std::string> seen_;  // Apps that have played while they were there.

@@ -40,7 +40,7 @@ void AudioController::startRecording(const std::string& bundleID)
 
     auto& file = (*recording)->file();
     active_.emplace(bundleID, std::move(*recording));
-    block->second->setRecorder(&file);
+    block->second->recorder.set(&file);
     if (!recordingCheck_)
         recordingCheck_ =
             platform_.mainLoop.every(recordingCheckInterval, onMainThread(&AudioController::checkRecordings));
@@ -60,14 +60,16 @@ void AudioController::stopRecording(const std::string& bundleID)
         block->second->setRecorder(nullptr);
 
     const auto location = recording->location();
-    const auto closing = closing_.insert(
-        closing_.end(), {.bundleID = bundleID, .recording = std::move(recording), .timer = {}});
-    closing->timer = platform_.mainLoop.after(closeDelay, [this, closing] {
-        platform_.mainLoop.requireCurrent();
-        const auto ended = std::move(*closing);
-        closing_.erase(closing);
-        finish(ended.bundleID, *ended.recording);
-    });
+    closing_.add(bundleID, std::move(recording), takeRecorderFrom(bundleID));
+std::shared_ptr<const TapParameters> AudioController::takeRecorderFrom(const std::string& bundleID)
+{
+    const auto block = params_.find(bundleID);
+    if (block == params_.end())
+        return nullptr;
+    block->second->recorder.set(nullptr);
+    return block->second;
+}
+
     state_.recordings.modify([&](auto& recordings) { recordings.erase(bundleID); });
     state_.lastRecording.assign(location);
 }

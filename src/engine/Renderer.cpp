@@ -148,14 +148,13 @@ void Renderer::noticeFirstAudio(std::size_t frames) noexcept FADELOOM_NONBLOCKIN
 // What the app played, before anything is done to it.
 void Renderer::record(std::size_t frames) noexcept FADELOOM_NONBLOCKING
 {
-    if (snapshot_.recorder == nullptr || frames == 0)
+    if (frames == 0 || !parameters_->recorder.hasFile())
         return;
     for (std::size_t frame = 0; frame < frames; ++frame) {
         interleaved_[2 * frame] = left_[frame];
         interleaved_[2 * frame + 1] = right_[frame];
     }
-    // How it went is asked of the file by its owner.
-    snapshot_.recorder->write(static_cast<std::uint32_t>(frames), interleaved_.data());
+    parameters_->recorder.write(static_cast<std::uint32_t>(frames), interleaved_.data());
 }
 
 float Renderer::process(std::size_t frames) noexcept FADELOOM_NONBLOCKING

@@ -13,12 +13,6 @@ void TapParameters::setEQ(std::span<const BiquadCoefficients> sections)
     values.eqVersion += 1;
 }
 
-void TapParameters::setRecorder(AudioFile* file)
-{
-    const std::scoped_lock guard(lock);
-    values.recorder = file;
-}
-
 float TapParameters::takePeak()
 {
     return peak.exchange(0, std::memory_order_relaxed);

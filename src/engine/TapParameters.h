@@ -8,7 +8,7 @@
 
 #include "base/UnfairLock.h"
 #include "engine/Equalizer.h"
-#include "platform/AudioFiles.h"
+#include "engine/RecorderSlot.h"
 
 #include <atomic>
 #include <cstdint>
@@ -26,7 +26,6 @@ public:
         bool eqEnabled = false;
         float preamp = 1;  // Before the equalizer, and only while it is on.
         std::int64_t eqVersion = 0;  // Grows with each `setEQ`; coefficients are copied only when it has.
-        AudioFile* recorder = nullptr;  // Takes every cycle's sound as it was captured. Not owned.
 
         friend bool operator==(const Values&, const Values&) = default;
     };
@@ -38,9 +37,6 @@ public:
     /// Replaces the first sections (ten at most) and leaves the others. Thread: main.
     void setEQ(std::span<const BiquadCoefficients> sections);
 
-    /// From now on the renderer writes to this file, or to none. Thread: main.
-    void setRecorder(AudioFile* file);
-
     /// The highest output sample since the last call (linear, 1 is full scale), which starts the measure anew.
     /// Thread: main.
     [[nodiscard]] float takePeak();
@@ -49,6 +45,9 @@ public:
     UnfairLock lock;
     Values values;
     EQCoefficients coefficients{};
+
+    /// Takes every cycle's sound as it was captured.
+    RecorderSlot recorder;
 
     // Relaxed order is enough for both: each is a word of its own that promises nothing about any other memory, and
     // an update that is seen late, or lost between a read and a write, costs one frame of a meter.

@@ -147,8 +147,8 @@ TEST_F(RecordingStory, isClosedHalfASecondAfterItsEnd)
     world.advance(1s);
 
     stop(player);
-    EXPECT_EQ(valuesOf(player).recorder, nullptr);
-    world.advance(AudioController::closeDelay - 1ms);
+    EXPECT_FALSE(isRecorded(player));
+    world.advance(ClosingRecordings::delay - 1ms);
     EXPECT_EQ(closings(), 0);
     world.advance(1ms);
 
@@ -166,7 +166,7 @@ TEST_F(RecordingStory, startedAtOnceAfterItsEndIsASecondFile)
     const auto firstLength = lastFile().frameCount();
 
     record(player);
-    world.advance(AudioController::closeDelay);
+    world.advance(ClosingRecordings::delay);
     EXPECT_EQ(closings(), 1);
     stop(player);
     world.advance(1s);
@@ -233,7 +233,7 @@ TEST_F(RecordingStory, endsWhenTheOutputChangesItsRate)
     EXPECT_EQ(tapOf(player)->sampleRate(), 96000);
     EXPECT_EQ(message(), "Recording of Player stopped: the output device changed its sample rate.");
     EXPECT_TRUE(lastFile().isComplete);
-    EXPECT_EQ(valuesOf(player).recorder, nullptr);
+    EXPECT_FALSE(isRecorded(player));
 }
 
 TEST_F(RecordingStory, ofAnAppThatIsNotRecordedHasNoMessageAboutTheRate)
@@ -255,7 +255,7 @@ TEST_F(RecordingStory, endsWithItsApp)
 
     world.quitApp(pid);
     world.runPosted();
-    world.advance(AudioController::closeDelay);
+    world.advance(ClosingRecordings::delay);
 
     EXPECT_FALSE(isRecorded(player));
     EXPECT_TRUE(lastFile().isComplete);
@@ -268,7 +268,7 @@ TEST_F(RecordingStory, endsWithThePermission)
     record(player);
 
     world.setPermission(SimulatedCapturePermission::denied);
-    world.advance(AudioController::pollInterval + AudioController::closeDelay);
+    world.advance(AudioController::pollInterval + ClosingRecordings::delay);
 
     EXPECT_FALSE(isRecorded(player));
     EXPECT_TRUE(lastFile().isComplete);
@@ -307,7 +307,7 @@ TEST_F(RecordingStory, aFileThatCannotBeCreatedIsReported)
 
     EXPECT_EQ(message(), "Could not start recording: Create recording file failed (OSStatus 28)");
     EXPECT_THAT(*state().recordings, IsEmpty());
-    EXPECT_EQ(valuesOf(player).recorder, nullptr);
+    EXPECT_FALSE(isRecorded(player));
 }
 
 TEST_F(RecordingStory, aFormatThatIsRefusedIsReported)
@@ -340,7 +340,7 @@ TEST_F(RecordingStory, endsWhenTheDiskIsFullAndTheSoundGoesOn)
     world.advance(1s);
 
     world.audioFiles().failWriting(28);
-    world.advance(AudioController::recordingCheckInterval + AudioController::closeDelay);
+    world.advance(AudioController::recordingCheckInterval + ClosingRecordings::delay);
 
     EXPECT_FALSE(isRecorded(player));
     EXPECT_EQ(message(), "Recording of Player stopped: the file could not be written (error 28).");
@@ -360,7 +360,7 @@ TEST_F(RecordingStory, saysInTheLogWhatItLost)
     world.audioFiles().setStalled(false);
 
     stop(player);
-    world.advance(AudioController::closeDelay);
+    world.advance(ClosingRecordings::delay);
 
     EXPECT_TRUE(hasLogged("recording has gaps: com.example.player, 3 cycle(s) lost"));
 }
@@ -373,7 +373,7 @@ TEST_F(RecordingStory, nothingLooksAfterRecordingsWhileThereAreNone)
     EXPECT_EQ(world.mainLoop().timerCount(), idle + 1);
 
     stop(player);
-    world.advance(AudioController::closeDelay);
+    world.advance(ClosingRecordings::delay);
 
     EXPECT_EQ(world.mainLoop().timerCount(), idle);
 }

@@ -21,7 +21,7 @@ using testing::IsEmpty;
 
 class RendererRecordingTest : public testing::Test {
 protected:
-    void startRecording() { parameters->setRecorder(&recording->file()); }
+    void startRecording() { parameters->recorder.set(&recording->file()); }
     const std::vector<float>& recorded() { return files.at(location)->samples; }
     void render(Renderer& renderer, CycleBuffers& input, std::size_t outputFrames = 3)
     {
@@ -39,7 +39,7 @@ protected:
 
 TEST_F(RendererRecordingTest, aNewBlockHasNoRecorder)
 {
-    EXPECT_EQ(parameters->values.recorder, nullptr);
+    EXPECT_EQ(parameters->recorder.file(), nullptr);
 
     Renderer renderer(parameters, {});
     render(renderer, stereo);
@@ -135,19 +135,32 @@ TEST_F(RendererRecordingTest, theLongestCycleIsWrittenWhole)
     EXPECT_THAT(recorded(), Each(0.125F));
 }
 
-TEST_F(RendererRecordingTest, endsWithTheFirstCycleThatSeesItsEnd)
+TEST_F(RendererRecordingTest, aBusyLockKeepsNoSoundFromIt)
+{
+    startRecording();
+    Renderer renderer(parameters, {});
+
+    parameters->lock.lock();
+    render(renderer, stereo);
+    parameters->lock.unlock();
+
+    EXPECT_EQ(recorded().size(), 6U);
+}
+
+TEST_F(RendererRecordingTest, aFileThatWasTakenAwayIsNotReachedHoweverLateTheNextCycleComes)
 {
     startRecording();
     Renderer renderer(parameters, {});
     render(renderer, stereo);
 
+    parameters->recorder.set(nullptr);
+    ASSERT_FALSE(parameters->recorder.isInUse());
+    recording->finish();  // No cycle has run since.
     parameters->lock.lock();
-    render(renderer, stereo);  // Still with what the last cycle knew.
-    parameters->lock.unlock();
-    parameters->setRecorder(nullptr);
     render(renderer, stereo);
+    parameters->lock.unlock();
 
-    EXPECT_EQ(recorded().size(), 2 * 6);
+    EXPECT_EQ(recorded().size(), 6U);
 }
 
 }  // namespace

@@ -198,7 +198,7 @@ TEST_F(MacOSController, recordsIntoAWholeFile)
     world.runCycle();
     controller->stopRecording("com.example.Music");
     EXPECT_EQ(doubles::openAudioFiles(), 1U);  // A cycle may still be writing.
-    pass(AudioController::closeDelay);
+    pass(ClosingRecordings::delay);
 
     EXPECT_EQ(doubles::openAudioFiles(), 0U);
     controller->revealLastRecording();

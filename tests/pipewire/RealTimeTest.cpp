@@ -69,7 +69,7 @@ TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChangeAndItIsR
     const int before = realTimeViolations();
 
     for (int i = 0; i < 100; ++i) {
-        parameters->setRecorder(i % 10 != 9 ? &(*recording)->file() : nullptr);
+        parameters->recorder.set(i % 10 != 9 ? &(*recording)->file() : nullptr);
         const std::vector<float> gains(10, static_cast<float>(i % 12));
         parameters->setEQ(eqCoefficients(gains, 48000));
         {

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+// Recordings between their end and their whole file.
+//
+// A cycle that began before a recording was stopped may still write to its file. So a file is closed after a delay, and
+// never before the app's renderers have let go of it, however long a cycle takes or the next one stays away.
+#pragma once
+
+#include "base/Subscription.h"
+#include "engine/Recording.h"
+#include "engine/TapParameters.h"
+#include "platform/MainLoop.h"
+
+#include <chrono>
+#include <functional>
+#include <list>
+#include <memory>
+#include <string>
+
+namespace fadeloom {
+
+/// Thread: main.
+class ClosingRecordings {
+public:
+    static constexpr std::chrono::milliseconds delay{500};
+
+    /// Closes the recording; no renderer can reach its file any more.
+    using Finish = std::function<void(const std::string& bundleID, Recording& recording)>;
+
+    ClosingRecordings(MainLoop& mainLoop, Finish finish);
+    ClosingRecordings(const ClosingRecordings&) = delete;
+    ClosingRecordings& operator=(const ClosingRecordings&) = delete;
+
+    /// `parameters`: through which renderers reached the file, which has been taken away from them; null for none.
+    void add(const std::string& bundleID, std::unique_ptr<Recording> recording,
+        std::shared_ptr<const TapParameters> parameters);
+    /// Closes at once, without the delay, what nobody can reach. The rest stays open.
+    void closeNow();
+
+private:
+    struct Closing {
+        std::string bundleID;
+        std::unique_ptr<Recording> recording;
+        std::shared_ptr<const TapParameters>
+            parameters;  // Shared with the renderers, which may outlive the app.
+        Subscription timer;
+    };
+    using Place = std::list<Closing>::iterator;
+
+    [[nodiscard]] static bool isReachable(const Closing& closing);
+    void closeLater(Place place);
+
+    MainLoop& mainLoop_;
+    Finish finish_;
+    std::list<Closing> closing_;
+};
+
+}  // namespace fadeloom
