@@ -8,7 +8,6 @@
 #include "platform/Workspace.h"
 
 #include <algorithm>
-#include <ranges>
 #include <system_error>
 #include <utility>
 
@@ -56,11 +55,12 @@ void AudioController::stopRecording(const std::string& bundleID)
     active_.erase(found);
     if (active_.empty())
         recordingCheck_.reset();
-    if (const auto block = params_.find(bundleID); block != params_.end())
-        block->second->setRecorder(nullptr);
-
     const auto location = recording->location();
     closing_.add(bundleID, std::move(recording), takeRecorderFrom(bundleID));
+    state_.recordings.modify([&](auto& recordings) { recordings.erase(bundleID); });
+    state_.lastRecording.assign(location);
+}
+
 std::shared_ptr<const TapParameters> AudioController::takeRecorderFrom(const std::string& bundleID)
 {
     const auto block = params_.find(bundleID);
@@ -68,10 +68,6 @@ std::shared_ptr<const TapParameters> AudioController::takeRecorderFrom(const std
         return nullptr;
     block->second->recorder.set(nullptr);
     return block->second;
-}
-
-    state_.recordings.modify([&](auto& recordings) { recordings.erase(bundleID); });
-    state_.lastRecording.assign(location);
 }
 
 void AudioController::stopAllRecordings()
@@ -122,15 +118,9 @@ std::filesystem::path AudioController::newRecordingLocation(
     const auto folder = recordingsFolder();
     const auto name = nameOf(bundleID);
     const auto time = platform_.clock.localTime(startedAt);
-    // Two apps of one name, or one app twice within a second, must not end in one file.
-    const auto isOurs = [&](const std::filesystem::path& location) {
-        const auto isThere = [&](const auto& recording) { return recording->location() == location; };
-        return std::ranges::any_of(active_ | std::views::values, isThere)
-            || std::ranges::any_of(closing_, [&](const auto& closing) { return isThere(closing.recording); })
-            || *state_.lastRecording == location;
-    };
+    // Two apps of one name, one app twice within a second, a clock that was set back: nothing is replaced.
     auto location = folder / recordingFileName(name, time);
-    for (int count = 2; isOurs(location); ++count)
+    for (int count = 2; platform_.audioFiles.isTaken(location); ++count)
         location = folder / recordingFileName(name, time, count);
     return location;
 }

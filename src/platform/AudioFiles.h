@@ -57,6 +57,9 @@ public:
     /// Closes what is still open.
     virtual ~AudioFiles() = default;
 
+    /// Whether something of this name is there already, by the file system's own rules: where it takes upper and lower
+    /// case for the same, so does this.
+    [[nodiscard]] virtual bool isTaken(const std::filesystem::path& location) const = 0;
     /// Creates a WAVE file, in place of any file of that name, and opens it.
     [[nodiscard]] virtual AudioResult<AudioFile*> create(
         const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat) = 0;

@@ -7,15 +7,18 @@
 namespace fadeloom {
 namespace {
 
+using testing::AllOf;
 using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::FloatNear;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Key;
 using testing::Not;
 using testing::SizeIs;
+using testing::StartsWith;
 
 class RecordingStory : public ControllerStory {
 protected:
@@ -189,6 +192,48 @@ TEST_F(RecordingStory, ofTwoAppsOfOneNameIsTwoFiles)
     record("org.other.player");
 
     EXPECT_THAT(files(), SizeIs(2));
+}
+
+TEST_F(RecordingStory, neverReplacesAnother)
+{
+    launchPlaying("Player");
+    const auto takeOne = [&] {
+        record(player);
+        world.advance(100ms);
+        stop(player);
+        return **state().lastRecording;
+    };
+    const auto began = world.date();
+
+    const auto first = takeOne();
+    const auto second = takeOne();
+    const auto third = takeOne();
+    world.advance(1h);
+    world.setDate(began);
+    const auto afterTheClockWasSetBack = takeOne();
+
+    const auto name = first.stem().string();
+    EXPECT_EQ(second.stem(), name + " 2");
+    EXPECT_EQ(third.stem(), name + " 3");
+    EXPECT_EQ(afterTheClockWasSetBack.stem(), name + " 4");
+    EXPECT_THAT(files(), SizeIs(4));
+}
+
+TEST_F(RecordingStory, takesAnotherNameWhereOnlyTheCaseOfLettersDiffers)
+{
+    world.audioFiles().foldCase();
+    launchPlaying("Player");
+    world.startPlaying(world.launchApp("PLAYER", {.bundleID = "org.other.player"}));
+    world.runPosted();
+
+    record(player);
+    record("org.other.player");
+
+    std::vector<std::string> names;
+    for (const auto& file : files())
+        names.push_back(file.stem().string());
+    EXPECT_THAT(names, Contains(AllOf(StartsWith("PLAYER "), EndsWith(" 2"))));
+    EXPECT_THAT(names, Contains(AllOf(StartsWith("Player "), Not(EndsWith(" 2")))));
 }
 
 TEST_F(RecordingStory, ofSeveralAppsGoOnSideBySide)

@@ -70,6 +70,7 @@ TEST_F(RecordingTest, takesFloatsInTheFormOfTheTap)
     };
     class Files final : public AudioFiles {
     public:
+        bool isTaken(const std::filesystem::path& /*location*/) const override { return false; }
         AudioResult<AudioFile*> create(
             const std::filesystem::path&, const AudioStreamBasicDescription&) override
         {

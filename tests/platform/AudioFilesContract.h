@@ -143,6 +143,19 @@ TEST_P(AudioFilesContract, primingAddsNothing)
     EXPECT_EQ(world->read(at("primed.wav")), WrittenSound(48000, {1 << 22, -(1 << 22)}));
 }
 
+TEST_P(AudioFilesContract, aNameIsTakenFromTheMomentTheFileIsMade)
+{
+    EXPECT_FALSE(files.isTaken(at("taken.wav")));
+
+    AudioFile& file = open(at("taken.wav"), 44100);
+    EXPECT_TRUE(files.isTaken(at("taken.wav")));
+    EXPECT_FALSE(files.isTaken(at("free.wav")));
+    EXPECT_FALSE(files.isTaken(at("no folder") / "taken.wav"));
+    files.dispose(file);
+
+    EXPECT_TRUE(files.isTaken(at("taken.wav")));
+}
+
 TEST_P(AudioFilesContract, aFileOfThatNameIsReplaced)
 {
     const Steps shorter = noise(100, 3);

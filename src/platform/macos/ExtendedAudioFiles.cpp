@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <system_error>
 
 namespace fadeloom {
 namespace {
@@ -25,6 +26,12 @@ CFRef<CFURLRef> cfLocation(const std::filesystem::path& file)
 
 ExtendedAudioFiles::ExtendedAudioFiles() = default;
 ExtendedAudioFiles::~ExtendedAudioFiles() = default;
+
+bool ExtendedAudioFiles::isTaken(const std::filesystem::path& location) const
+{
+    std::error_code unknown;  // Then creating the file fails, too, and says why.
+    return std::filesystem::exists(std::filesystem::symlink_status(location, unknown));
+}
 
 AudioResult<AudioFile*> ExtendedAudioFiles::create(
     const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat)

@@ -18,6 +18,7 @@ public:
     ExtendedAudioFiles(const ExtendedAudioFiles&) = delete;
     ExtendedAudioFiles& operator=(const ExtendedAudioFiles&) = delete;
 
+    bool isTaken(const std::filesystem::path& location) const override;
     AudioResult<AudioFile*> create(
         const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat) override;
     AudioStatus dispose(AudioFile& file) override;

@@ -4,6 +4,7 @@
 #include "platform/WaveFormats.h"
 
 #include <algorithm>
+#include <cctype>
 #include <utility>
 
 namespace fadeloom {
@@ -53,6 +54,18 @@ private:
 
 SimulatedAudioFiles::SimulatedAudioFiles() = default;
 SimulatedAudioFiles::~SimulatedAudioFiles() = default;
+
+bool SimulatedAudioFiles::isTaken(const std::filesystem::path& location) const
+{
+    const auto folded = [this](const std::filesystem::path& name) {
+        auto text = name.string();
+        if (foldsCase_)
+            std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::tolower(c); });
+        return text;
+    };
+    return std::ranges::any_of(
+        disk_, [&](const auto& file) { return folded(file.first) == folded(location); });
+}
 
 AudioResult<AudioFile*> SimulatedAudioFiles::create(
     const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat)

@@ -32,6 +32,7 @@ public:
     SimulatedAudioFiles& operator=(const SimulatedAudioFiles&) = delete;
     ~SimulatedAudioFiles() override;
 
+    bool isTaken(const std::filesystem::path& location) const override;
     AudioResult<AudioFile*> create(
         const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat) override;
     AudioStatus dispose(AudioFile& file) override;
@@ -45,6 +46,9 @@ public:
     void failWriting(AudioStatus status);
     /// Every open file's writer stands still: what is handed over from now on is dropped.
     void setStalled(bool isStalled) { isStalled_ = isStalled; }
+
+    /// Upper and lower case of ASCII letters are the same in names, as on many disks.
+    void foldCase() { foldsCase_ = true; }
 
     /// Has `look` called each time a file is about to be closed.
     void whenDisposed(std::function<void()> look) { whenDisposed_ = std::move(look); }
@@ -67,6 +71,7 @@ private:
     AudioStatus createStatus_ = kAudioHardwareNoError;
     AudioStatus clientFormatStatus_ = kAudioHardwareNoError;
     bool isStalled_ = false;
+    bool foldsCase_ = false;
 };
 
 }  // namespace fadeloom

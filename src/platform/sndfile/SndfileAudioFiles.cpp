@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cassert>
 #include <cmath>
+#include <system_error>
 
 #include <unistd.h>
 
@@ -27,6 +28,12 @@ bool isPossibleRate(double rate)
 
 SndfileAudioFiles::SndfileAudioFiles() = default;
 SndfileAudioFiles::~SndfileAudioFiles() = default;
+
+bool SndfileAudioFiles::isTaken(const std::filesystem::path& location) const
+{
+    std::error_code unknown;  // Then creating the file fails, too, and says why.
+    return std::filesystem::exists(std::filesystem::symlink_status(location, unknown));
+}
 
 AudioResult<AudioFile*> SndfileAudioFiles::create(
     const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat)

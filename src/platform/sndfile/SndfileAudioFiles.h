@@ -19,6 +19,7 @@ public:
     SndfileAudioFiles(const SndfileAudioFiles&) = delete;
     SndfileAudioFiles& operator=(const SndfileAudioFiles&) = delete;
 
+    bool isTaken(const std::filesystem::path& location) const override;
     AudioResult<AudioFile*> create(
         const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat) override;
     /// Returns the first failure since the file was made.
