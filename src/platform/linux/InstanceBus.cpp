@@ -4,7 +4,10 @@
 #include <QDBusConnectionInterface>
 #include <QDBusError>
 #include <QDBusMessage>
+#include <QDBusReply>
 #include <QDBusVirtualObject>
+#include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <atomic>
@@ -92,13 +95,47 @@ bool InstanceBus::claim()
     return isOurs;
 }
 
-std::optional<InstanceAnswer> InstanceBus::ask(InstanceRequest request, std::chrono::milliseconds patience)
+QDBusMessage InstanceBus::call(InstanceRequest request, std::chrono::milliseconds patience)
 {
     auto question =
         QDBusMessage::createMethodCall(busName, objectPath, interfaceName, qName(nameOf(request)));
     question.setAutoStartService(false);
     const auto wait = static_cast<int>(std::max(patience, std::chrono::milliseconds(1)).count());
-    const auto reply = bus_.call(question, QDBus::Block, wait);
+    return bus_.call(question, QDBus::Block, wait);
+}
+
+bool InstanceBus::isHeldByInstance(std::chrono::milliseconds patience)
+{
+    const auto reply = call(InstanceRequest::ping, patience);
+    if (reply.type() == QDBusMessage::ReplyMessage || reply.errorName().startsWith(errorPrefix))
+        return true;
+    switch (QDBusError(reply).type()) {
+    case QDBusError::ServiceUnknown:  // It has just left: the name can be taken now.
+        return true;
+    case QDBusError::NoReply:
+    case QDBusError::Timeout:
+    case QDBusError::TimedOut:
+        return runsOurExecutable();
+    default:
+        return false;
+    }
+}
+
+bool InstanceBus::runsOurExecutable() const
+{
+    const QDBusReply<uint> owner = bus_.interface()->servicePid(busName);
+    if (!owner.isValid())
+        return false;
+    const auto executable = [](const QString& process) {
+        return QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/%1/exe").arg(process))).fileName();
+    };
+    const auto ours = executable(QStringLiteral("self"));
+    return !ours.isEmpty() && executable(QString::number(owner.value())) == ours;
+}
+
+std::optional<InstanceAnswer> InstanceBus::ask(InstanceRequest request, std::chrono::milliseconds patience)
+{
+    const auto reply = call(request, patience);
     if (reply.type() == QDBusMessage::ReplyMessage)
         return InstanceAnswer::done;
     if (!reply.errorName().startsWith(errorPrefix))

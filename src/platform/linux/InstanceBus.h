@@ -5,6 +5,7 @@
 #include "platform/linux/InstanceRequest.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 
 #include <chrono>
 #include <memory>
@@ -28,12 +29,18 @@ public:
     [[nodiscard]] bool isConnected() const { return bus_.isConnected(); }
     /// Puts the object there, then takes the name. False when somebody has it.
     [[nodiscard]] bool claim();
+    /// Whether an instance of the program has the name, and no other program: it answers as one, or does not answer in
+    /// time and runs our executable. Waits for that.
+    [[nodiscard]] bool isHeldByInstance(std::chrono::milliseconds patience);
     /// Asks whoever has the name. Absent when nobody answers in time; waits for that.
     [[nodiscard]] std::optional<InstanceAnswer> ask(
         InstanceRequest request, std::chrono::milliseconds patience);
 
 private:
     class Object;
+
+    [[nodiscard]] QDBusMessage call(InstanceRequest request, std::chrono::milliseconds patience);
+    [[nodiscard]] bool runsOurExecutable() const;
 
     const QString connectionName_;
     QDBusConnection bus_;

@@ -5,7 +5,6 @@
 #include "platform/linux/InstanceSocket.h"
 
 #include <QDeadlineTimer>
-#include <QFile>
 
 #include <thread>
 #include <utility>
@@ -24,12 +23,11 @@ std::chrono::milliseconds left(const QDeadlineTimer& deadline)
 }  // namespace
 
 SingleInstance::SingleInstance(const std::filesystem::path& runtimeFolder)
-    : lock_(QFile::decodeName((runtimeFolder / "fadeloom.lock").c_str()))
+    : lock_(runtimeFolder / "fadeloom.lock")
     , bus_(std::make_unique<InstanceBus>([this](InstanceRequest request) { return answer(request); }))
     , socket_(std::make_unique<InstanceSocket>(
           runtimeFolder / "fadeloom.socket", [this](InstanceRequest request) { return answer(request); }))
 {
-    lock_.setStaleLockTime(0);  // Only the end of its process frees it, however long that runs.
 }
 
 SingleInstance::~SingleInstance() = default;
@@ -55,25 +53,35 @@ SingleInstance::Start SingleInstance::claim(InstanceRequest request)
 
 bool SingleInstance::tryToBeFirst()
 {
-    // Where nothing can be locked the bus decides alone.
-    if (!lock_.tryLock(0) && lock_.error() == QLockFile::LockFailedError)
+    const auto outcome = lock_.tryToTake();
+    if (outcome == InstanceLock::Outcome::heldByAnother)
         return false;
-    // A name that is taken belongs to a session with another runtime folder, and maybe the same sound.
-    if (bus_->isConnected() && !bus_->claim()) {
-        lock_.unlock();
+    // Where nothing can be locked, whoever answers is the first.
+    const bool isAnswered = outcome == InstanceLock::Outcome::unusable
+        && socket_->ask(InstanceRequest::ping, patience).has_value();
+    if (isAnswered || isAnotherOnBus()) {
+        lock_.release();
         return false;
     }
     socket_->listen();
     return true;
 }
 
+// Takes the name on the bus, unless an instance has it that runs with another runtime folder, and maybe the same sound.
+bool SingleInstance::isAnotherOnBus()
+{
+    return bus_->isConnected() && !bus_->claim() && bus_->isHeldByInstance(patience);
+}
+
 std::optional<InstanceAnswer> SingleInstance::ask(InstanceRequest request, std::chrono::milliseconds wait)
 {
     const QDeadlineTimer deadline(wait);
-    if (bus_->isConnected())
-        if (const auto answer = bus_->ask(request, wait))
-            return answer;
-    return socket_->ask(request, left(deadline));
+    // The socket first: it is the user's own, and a name on the bus may be a stranger's who never answers.
+    if (const auto answer = socket_->ask(request, wait))
+        return answer;
+    if (!bus_->isConnected())
+        return std::nullopt;
+    return bus_->ask(request, left(deadline));
 }
 
 InstanceAnswer SingleInstance::answer(InstanceRequest request)

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // One instance of the program in a session: two would take each other's applications away.
 //
-// A lock in the user's runtime folder decides who is the first. A second start reaches the first one over the session
-// bus, or where there is none through a socket in that folder, to have the panel shown.
+// A lock in the user's runtime folder decides who is the first. A second start reaches the first one through a socket
+// in that folder, or where there is none over the session bus, to have the panel shown. A stranger who has the lock's
+// file, the socket's file or the name on the bus keeps nobody from starting.
 #pragma once
 
+#include "platform/linux/InstanceLock.h"
 #include "platform/linux/InstanceRequest.h"
-
-#include <QLockFile>
 
 #include <chrono>
 #include <filesystem>
@@ -59,12 +59,13 @@ public:
 
 private:
     [[nodiscard]] bool tryToBeFirst();
+    [[nodiscard]] bool isAnotherOnBus();
     [[nodiscard]] std::optional<InstanceAnswer> ask(InstanceRequest request, std::chrono::milliseconds wait);
     [[nodiscard]] InstanceAnswer answer(InstanceRequest request);
 
     Actions actions_;
     bool isEnding_ = false;
-    QLockFile lock_;
+    InstanceLock lock_;
     std::unique_ptr<InstanceBus> bus_;
     std::unique_ptr<InstanceSocket> socket_;
 };

@@ -140,5 +140,35 @@ TEST_F(SingleInstanceBusTest, theNameIsOneAlsoWithAnotherRuntimeFolder)
     EXPECT_FALSE(std::filesystem::exists(elsewhere.path() / "fadeloom.lock"));
 }
 
+/// A program that has nothing to do with us has our name on the bus.
+class StrangerOnTheBusTest : public InstanceStage {
+protected:
+    StrangerOnTheBusTest()
+    {
+        auto connection =
+            QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("stranger"));
+        EXPECT_TRUE(connection.registerService(QStringLiteral("com.fadeloom.app")));
+    }
+    ~StrangerOnTheBusTest() override { QDBusConnection::disconnectFromBus(QStringLiteral("stranger")); }
+
+    PrivateBus bus{busFolder};
+};
+
+TEST_F(StrangerOnTheBusTest, doesNotKeepTheProgramFromStarting)
+{
+    EXPECT_EQ(outcomeOf(startAnother()), Start::first);
+}
+
+TEST_F(StrangerOnTheBusTest, doesNotKeepASecondStartFromTheFirst)
+{
+    SingleInstance first(folder.path());
+    EXPECT_EQ(first.claim(InstanceRequest::open), Start::first);
+    serve(first);
+
+    EXPECT_EQ(outcomeOf(startAnother()), Start::answered);
+
+    EXPECT_THAT(asked, ElementsAre("open"));
+}
+
 }  // namespace
 }  // namespace fadeloom

@@ -6,6 +6,10 @@
 #include <QSysInfo>
 
 #include <fstream>
+#include <functional>
+#include <initializer_list>
+
+#include <sys/stat.h>
 
 namespace fadeloom {
 namespace {
@@ -119,6 +123,45 @@ TEST_F(SingleInstanceTest, whatACrashLeftBehindIsNobody)
     serve(first());
 
     EXPECT_EQ(outcomeOf(startAnother()), Start::answered);
+}
+
+TEST_F(SingleInstanceTest, whateverHasTheLocksNameKeepsNobodyFromStarting)
+{
+    const auto lock = folder.path() / "fadeloom.lock";
+    const auto makePipe = [&] { ASSERT_EQ(::mkfifo(lock.c_str(), 0600), 0); };
+    const auto makeFolder = [&] { std::filesystem::create_directories(lock / "deep"); };
+    const auto makeLink = [&] { std::filesystem::create_symlink("/nonexistent/file", lock); };
+    const auto makeLinkToItself = [&] { std::filesystem::create_symlink(lock, lock); };
+
+    for (const std::function<void()>& make :
+        std::initializer_list<std::function<void()>>{makePipe, makeFolder, makeLink, makeLinkToItself}) {
+        make();
+        serve(first());
+        EXPECT_EQ(outcomeOf(startAnother()), Start::answered) << "the second is no first";
+        instance.reset();
+        EXPECT_TRUE(std::filesystem::exists(std::filesystem::symlink_status(lock))) << "it is not ours";
+        std::filesystem::remove_all(lock);
+    }
+}
+
+TEST_F(SingleInstanceTest, whateverHasTheSocketsNameKeepsNobodyFromStarting)
+{
+    const auto socket = folder.path() / "fadeloom.socket";
+    ASSERT_EQ(::mkfifo(socket.c_str(), 0600), 0);
+    first();
+    instance.reset();
+
+    std::filesystem::remove(socket);
+    std::filesystem::create_directories(socket / "deep");
+    first();
+}
+
+TEST_F(SingleInstanceTest, nothingIsLeftInTheFolder)
+{
+    first();
+    instance.reset();
+
+    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
 }
 
 TEST_F(SingleInstanceTest, strangersAtTheSocketDoNoHarm)
