@@ -26,7 +26,7 @@ std::string upTo(std::size_t lines)
 void Console::print(std::string_view line)
 {
     leaveTable();
-    out_ << printable(line) << '\n';
+    text_ += printable(line) + '\n';
     drawTable();
     finish();
 }
@@ -37,10 +37,10 @@ void Console::showTable(std::vector<std::string> table)
         !table_.empty() && table.size() == table_.size() && cursorDistance_ == table_.size();
     if (isInPlace) {
         table_ = std::move(table);
-        out_ << saveCursor << upTo(cursorDistance_);
+        text_.append(saveCursor).append(upTo(cursorDistance_));
         for (const auto& line : table_)
-            out_ << line << eraseToEndOfLine << "\r\n";
-        out_ << restoreCursor;
+            text_.append(line).append(eraseToEndOfLine).append("\r\n");
+        text_ += restoreCursor;
     } else {
         leaveTable();
         table_ = std::move(table);
@@ -58,21 +58,20 @@ void Console::noteEnteredLine()
 void Console::leaveTable()
 {
     if (cursorDistance_ > 0)
-        out_ << upTo(cursorDistance_) << eraseToEndOfScreen;
+        text_.append(upTo(cursorDistance_)).append(eraseToEndOfScreen);
     cursorDistance_ = 0;
 }
 
 void Console::drawTable()
 {
     for (const auto& line : table_)
-        out_ << line << '\n';
+        text_.append(line).append("\n");
     cursorDistance_ = table_.size();
 }
 
 void Console::finish()
 {
-    out_ << std::flush;
-    out_.clear();  // A line that could not be written must not keep the next one back.
+    write_(std::exchange(text_, {}));
 }
 
 }  // namespace fadeloom

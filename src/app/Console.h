@@ -5,9 +5,10 @@
 // below it; while its height stays the same, it is renewed without touching what is being typed.
 #pragma once
 
-#include <ostream>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace fadeloom {
@@ -15,9 +16,11 @@ namespace fadeloom {
 /// Thread: main.
 class Console {
 public:
-    /// `out` must outlive this. What cannot be written is lost, and nothing else happens.
-    explicit Console(std::ostream& out)
-        : out_(out)
+    /// Takes what is to be written, a whole number of lines with a table's commands, without waiting for anybody.
+    using Write = std::function<void(std::string text)>;
+
+    explicit Console(Write write)
+        : write_(std::move(write))
     {
     }
     Console(const Console&) = delete;
@@ -36,7 +39,8 @@ private:
     void drawTable();
     void finish();
 
-    std::ostream& out_;
+    const Write write_;
+    std::string text_;  // Not yet written.
     std::vector<std::string> table_;
     std::size_t cursorDistance_ = 0;  // Lines from the table's first one down to the cursor.
 };

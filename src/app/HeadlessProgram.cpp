@@ -9,6 +9,7 @@
 #include "app/SimulatedHome.h"
 #include "app/TerminalSize.h"
 #include "app/Version.h"
+#include "base/TextWriter.h"
 #include "platform/qt/LineReader.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QtText.h"
@@ -16,9 +17,11 @@
 
 #include <QCoreApplication>
 
+#include <cstdint>
 #include <functional>
 #include <iostream>
 #include <string>
+#include <utility>
 
 #include <unistd.h>
 
@@ -93,7 +96,10 @@ int runHeadless(int argumentCount, char** arguments, bool isSimulated)
 {
     const QCoreApplication application(argumentCount, arguments);
     QtMainLoop mainLoop;
-    Console console(std::cout);
+    TextWriter output(writeToDescriptor(STDOUT_FILENO), [](std::uint64_t dropped) {
+        return "dropped " + std::to_string(dropped) + " line(s) that nobody read\n";
+    });
+    Console console([&output](std::string text) { output.write(std::move(text)); });
     return isSimulated ? runSimulated(mainLoop, console) : runOnThisMachine(mainLoop, console);
 }
 

@@ -86,7 +86,7 @@ protected:
     TemporaryFolder folder;
     SimulatedPlatform world{folder.path()};
     std::ostringstream out;
-    Console console{out};
+    Console console{[this](const std::string& text) { out << text; }};
     PrintedLog printedLog{world.systemLog(), console, world.mainLoop()};
     int quitCount = 0;
     std::optional<TerminalSize> terminal;

@@ -100,6 +100,14 @@ TEST(Program, endsWellWhenScreenshotsCannotBeWritten)
 
 class SimulatedProgram : public testing::Test {
 protected:
+    /// Commands whose replies are more than a pipe and the program together can hold.
+    static std::string manyQuestions()
+    {
+        std::string commands;
+        for (int i = 0; i < 3000; ++i)
+            commands += "help\n";
+        return commands;
+    }
     bool isPlaying() { return program.lineWith("log tap ready: com.example.player").has_value(); }
 
     TemporaryFolder temporary;
@@ -177,6 +185,28 @@ TEST_F(SimulatedProgram, goesOnWhenNobodyReadsItsOutput)
     program.write("help\nlist\nhelp\nquit\n");
 
     EXPECT_EQ(program.exitStatus(), 0);
+}
+
+TEST_F(SimulatedProgram, endsOnTheFirstSignalAlsoWhileItsOutputIsHeldUp)
+{
+    ASSERT_TRUE(isPlaying());
+    program.write(manyQuestions());
+
+    program.signal(SIGTERM);
+
+    EXPECT_TRUE(program.endsUnread());
+    EXPECT_EQ(program.exitStatus(), 0);
+}
+
+TEST_F(SimulatedProgram, countsTheLinesThatNobodyRead)
+{
+    ASSERT_TRUE(isPlaying());
+    program.write(manyQuestions());
+    std::this_thread::sleep_for(1s);
+
+    EXPECT_TRUE(program.lineWith("dropped "));
+    program.write("mute player\n");
+    EXPECT_TRUE(program.lineWith("ok mute com.example.player"));
 }
 
 TEST_F(SimulatedProgram, leavesNoFileBehind)

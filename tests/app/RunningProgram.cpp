@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <stdexcept>
+#include <thread>
 #include <utility>
 
 #include <fcntl.h>
@@ -129,11 +130,23 @@ int RunningProgram::exitStatus()
     // Its output ends when it does.
     if (output_ != -1)
         unread_ += restOfOutput();
-    int status = 0;
-    if (waitpid(pid_, &status, 0) != pid_)
+    if (pid_ != -1 && waitpid(pid_, &status_, 0) != pid_)
         return -1;
     pid_ = -1;
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return WIFEXITED(status_) ? WEXITSTATUS(status_) : -1;
+}
+
+bool RunningProgram::endsUnread()
+{
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    while (std::chrono::steady_clock::now() < deadline) {
+        if (waitpid(pid_, &status_, WNOHANG) == pid_) {
+            pid_ = -1;
+            return true;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return false;
 }
 
 std::string RunningProgram::restOfOutput()

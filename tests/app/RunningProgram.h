@@ -35,6 +35,8 @@ public:
     std::optional<std::string> lineWith(std::string_view beginning);
     /// The exit status, once the program ends; −1 when a signal ended it or our patience did.
     int exitStatus();
+    /// Waits for the end and reads nothing meanwhile; false when our patience ends before.
+    bool endsUnread();
     /// Everything on standard output, or standard error, that was not read before; waits for the program's end.
     std::string restOfOutput();
     std::string errorText();
@@ -47,6 +49,7 @@ private:
     int output_ = -1;
     int error_ = -1;
     std::string unread_;
+    int status_ = -1;  // As the system tells it, once it is known.
 };
 
 }  // namespace fadeloom

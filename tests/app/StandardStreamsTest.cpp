@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <iostream>
+#include <string>
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -21,6 +24,27 @@ TEST(StandardStreams, areThereEvenWhenTheyWereClosed)
             _exit(isOpen(STDIN_FILENO) && isOpen(STDOUT_FILENO) ? 7 : 1);
         },
         testing::ExitedWithCode(7), "");
+}
+
+TEST(StandardStreams, errorsThatNobodyReadHoldNobodyUp)
+{
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+
+    EXPECT_EXIT(
+        {
+            dup2(ends[1], STDERR_FILENO);
+            secureStandardStreams();
+            alarm(20);
+            const std::string line(1000, 'x');
+            for (int i = 0; i < 1000; ++i)
+                std::cerr << line << std::endl;
+            const bool isSharedOneUntouched = (fcntl(ends[1], F_GETFL) & O_NONBLOCK) == 0;
+            _exit(isSharedOneUntouched ? 7 : 1);
+        },
+        testing::ExitedWithCode(7), "");
+    close(ends[0]);
+    close(ends[1]);
 }
 
 }  // namespace

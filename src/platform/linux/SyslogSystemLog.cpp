@@ -2,27 +2,51 @@
 #include "platform/linux/SyslogSystemLog.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <string>
+#include <utility>
 
 #include <syslog.h>
 
 namespace fadeloom {
 
+namespace {
+
+// A level goes before its text as one character, so that both wait together.
+constexpr char errorMark = 'E';
+constexpr char noticeMark = 'N';
+
+void writeMarked(std::string_view text)
+{
+    const auto priority = text.front() == errorMark ? LOG_ERR : LOG_NOTICE;
+    syslog(priority, "com.fadeloom.app engine: %s", std::string(text.substr(1)).c_str());
+}
+
+std::string dropNotice(std::uint64_t dropped)
+{
+    return errorMark + std::to_string(dropped) + " message(s) dropped, for nothing took them";
+}
+
+}  // namespace
+
 SyslogSystemLog::SyslogSystemLog(Echo echo)
+    : writer_(&writeMarked, &dropNotice)
 {
     openlog("fadeloom", echo == Echo::standardError ? LOG_PID | LOG_PERROR : LOG_PID, LOG_USER);
 }
 
 SyslogSystemLog::~SyslogSystemLog()
 {
-    closelog();
+    if (writer_.close())
+        closelog();  // A thread that is stuck in the log holds it.
 }
 
 void SyslogSystemLog::write(Level level, std::string_view message)
 {
-    std::string text{message};
+    std::string text(1, level == Level::error ? errorMark : noticeMark);
+    text += message;
     std::ranges::replace(text, '\0', ' ');  // It would end the message.
-    syslog(level == Level::error ? LOG_ERR : LOG_NOTICE, "com.fadeloom.app engine: %s", text.c_str());
+    writer_.write(std::move(text));
 }
 
 }  // namespace fadeloom

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/SystemLog.h"
+#include "base/TextWriter.h"
 
 namespace fadeloom {
 
@@ -17,7 +18,11 @@ public:
     SyslogSystemLog(const SyslogSystemLog&) = delete;
     SyslogSystemLog& operator=(const SyslogSystemLog&) = delete;
 
+    /// Waits for nobody, also where nothing takes the machine's messages: then they are dropped and counted.
     void write(Level level, std::string_view message) override;
+
+private:
+    TextWriter writer_;
 };
 
 }  // namespace fadeloom
