@@ -9,6 +9,12 @@ import time
 from audioSession import SessionError, waitUntil
 
 
+def programOf(pid):
+    """The program's own process, whose guardian is `pid`; `pid` itself where it has none."""
+    with open(f"/proc/{pid}/task/{pid}/children") as children:
+        return int((children.read().split() or [pid])[0])
+
+
 class FadeloomProcess:
     """`fadeloom --headless` with these settings. Use as a context manager; leaving ends it in order."""
 
@@ -38,6 +44,10 @@ class FadeloomProcess:
         self.process = self.session.spawn(self.name, [*self.wrapper, str(self.program), "--headless"], stdin=subprocess.PIPE,
                                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, bufsize=1)
         threading.Thread(target=self._read, args=(self.process.stdout,), daemon=True).start()
+
+    def programID(self):
+        """The process that does the work; the one that was started is its guardian."""
+        return programOf(self.process.pid)
 
     def _read(self, stream):
         for line in stream:

@@ -88,10 +88,10 @@ def measure(session, program, count, quantum, seconds):
         late = len(lateNodes(session))
         stalls = Stalls()
         recording = session.recordDevice("recording", "speakers")
-        before, started = cpuOfThreads(fadeloom.process.pid), time.monotonic()
+        before, started = cpuOfThreads(fadeloom.programID()), time.monotonic()
         time.sleep(seconds)
         elapsed = time.monotonic() - started
-        used = {thread: cpu - before.get(thread, 0) for thread, cpu in cpuOfThreads(fadeloom.process.pid).items()}
+        used = {thread: cpu - before.get(thread, 0) for thread, cpu in cpuOfThreads(fadeloom.programID()).items()}
         session.endRecording("recording")
         stalled = stalls.end()
         late = lateNodes(session)[late:]

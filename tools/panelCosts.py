@@ -18,6 +18,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 import signals  # noqa: E402
 from audioSession import SessionError, waitUntil  # noqa: E402
 from desktopSession import SIZE, DesktopSession  # noqa: E402
+from fadeloomProcess import programOf  # noqa: E402
 from processUse import cpuSeconds, memory, wakeups  # noqa: E402
 
 STARTS = 7
@@ -102,7 +103,7 @@ def measure(session, program, rows, seconds):
     del session.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"]  # Nobody reads the screen here.
     session.startXfcePanel()
     session.spawn("fadeloom", [str(program)])
-    pid = session.processes["fadeloom"].pid
+    pid = programOf(session.processes["fadeloom"].pid)
     waitUntil(lambda: session.ownsName("com.fadeloom.app"), "the program")
     time.sleep(6)
     print(f"The program is {pathlib.Path(program).stat().st_size / 1e6:.1f} MB.")

@@ -20,6 +20,7 @@
 #include <cstdint>
 #include <functional>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -71,7 +72,7 @@ int runSimulated(QtMainLoop& mainLoop, Console& console)
     return 0;
 }
 
-int runOnThisMachine(QtMainLoop& mainLoop, Console& console)
+int runOnThisMachine(QtMainLoop& mainLoop, Console& console, HomeGuardian& guardian)
 {
     HomeInstance instance;
     if (const auto end = instance.claim(false)) {
@@ -85,7 +86,7 @@ int runOnThisMachine(QtMainLoop& mainLoop, Console& console)
     instance.serve({.quit = quit});
     HomeLog systemLog;
     PrintedLog log(systemLog, console, mainLoop);
-    HomePlatform home(mainLoop, log);
+    HomePlatform home(mainLoop, log, guardian);
     runOn(home.platform(), mainLoop, console, quit);
     return 0;
 }
@@ -94,13 +95,16 @@ int runOnThisMachine(QtMainLoop& mainLoop, Console& console)
 
 int runHeadless(int argumentCount, char** arguments, bool isSimulated)
 {
+    std::optional<HomeGuardian> guardian;
+    if (!isSimulated)
+        guardian.emplace();  // Before the first thread.
     const QCoreApplication application(argumentCount, arguments);
     QtMainLoop mainLoop;
     TextWriter output(writeToDescriptor(STDOUT_FILENO), [](std::uint64_t dropped) {
         return "dropped " + std::to_string(dropped) + " line(s) that nobody read\n";
     });
     Console console([&output](std::string text) { output.write(std::move(text)); });
-    return isSimulated ? runSimulated(mainLoop, console) : runOnThisMachine(mainLoop, console);
+    return guardian ? runOnThisMachine(mainLoop, console, *guardian) : runSimulated(mainLoop, console);
 }
 
 }  // namespace fadeloom

@@ -6,6 +6,7 @@
 #if defined(__APPLE__) || defined(FADELOOM_AT_HOME_ON_MACOS)
 // IWYU pragma: begin_exports
 #include "app/macos/HomeDesktop.h"
+#include "app/macos/HomeGuardian.h"
 #include "app/macos/HomeInstance.h"
 #include "app/macos/HomePanel.h"
 #include "app/macos/HomePlatform.h"
@@ -14,6 +15,7 @@
 #else
 // IWYU pragma: begin_exports
 #include "app/linux/HomeDesktop.h"
+#include "app/linux/HomeGuardian.h"
 #include "app/linux/HomeInstance.h"
 #include "app/linux/HomePanel.h"
 #include "app/linux/HomePlatform.h"

@@ -172,7 +172,7 @@ int runSimulated(QtMainLoop& mainLoop)
     return TrayRun(home.platform(home.world().systemLog()), mainLoop, {real.workspace(), nullptr}).run();
 }
 
-int runOnThisMachine(QtMainLoop& mainLoop)
+int runOnThisMachine(QtMainLoop& mainLoop, HomeGuardian& guardian)
 {
     HomeInstance instance;
     if (const auto end = instance.claim(true)) {
@@ -180,7 +180,7 @@ int runOnThisMachine(QtMainLoop& mainLoop)
         return end->exitStatus;
     }
     HomeLog systemLog;
-    HomePlatform home(mainLoop, systemLog);
+    HomePlatform home(mainLoop, systemLog, guardian);
     const auto platform = home.platform();
     return TrayRun(platform, mainLoop, {platform.workspace, &instance}).run();
 }
@@ -193,6 +193,9 @@ int runTray(int argumentCount, char** arguments, bool isSimulated)
         std::cerr << "fadeloom: there is no display to show a panel on; --headless runs without one\n";
         return 1;
     }
+    std::optional<HomeGuardian> guardian;
+    if (!isSimulated)
+        guardian.emplace();  // Before the first thread.
     const QApplication application(argumentCount, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("fadeloom"));
@@ -200,7 +203,7 @@ int runTray(int argumentCount, char** arguments, bool isSimulated)
     QApplication::setDesktopFileName(QStringLiteral("com.fadeloom.app"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app-icon.svg")));
     QtMainLoop mainLoop;
-    return isSimulated ? runSimulated(mainLoop) : runOnThisMachine(mainLoop);
+    return guardian ? runOnThisMachine(mainLoop, *guardian) : runSimulated(mainLoop);
 }
 
 }  // namespace fadeloom

@@ -184,13 +184,13 @@ TEST_F(ProgramServicesTest, aSimulatedWorldDisturbsNobody)
 TEST_F(ProgramServicesTest, oneThatStandsStillIsNotWaitedForForever)
 {
     const auto first = startFirst();
-    first->signal(SIGSTOP);
+    first->signalProgram(SIGSTOP);
 
     const auto second = start();
 
     EXPECT_EQ(second->exitStatus(), 1);
     EXPECT_THAT(second->errorText(), HasSubstr("fadeloom: it is running already, but does not answer\n"));
-    first->signal(SIGCONT);
+    first->signalProgram(SIGCONT);
 }
 
 TEST_F(ProgramServicesTest, afterACrashTheNextIsTheFirst)

@@ -205,7 +205,7 @@ TEST_F(SimulatedProgram, countsTheLinesThatNobodyRead)
     std::this_thread::sleep_for(1s);
 
     EXPECT_TRUE(program.lineWith("dropped "));
-    program.write("mute player\n");
+    program.write("mute player on\n");
     EXPECT_TRUE(program.lineWith("ok mute com.example.player"));
 }
 

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <fstream>
 #include <stdexcept>
 #include <thread>
 #include <utility>
@@ -96,6 +97,14 @@ void RunningProgram::closeOutput()
 void RunningProgram::signal(int number) const
 {
     kill(pid_, number);
+}
+
+void RunningProgram::signalProgram(int number) const
+{
+    const auto process = std::to_string(pid_);
+    pid_t program = pid_;  // Without a guardian it is the same.
+    std::ifstream("/proc/" + process + "/task/" + process + "/children") >> program;
+    kill(program == 0 ? pid_ : program, number);
 }
 
 bool RunningProgram::readMore(int descriptor, std::string& text)

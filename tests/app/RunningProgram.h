@@ -30,6 +30,8 @@ public:
     void closeInput();
     void closeOutput();
     void signal(int number) const;
+    /// Signals the process that does the work, not the one that was started, which is its guardian.
+    void signalProgram(int number) const;
     /// Reads standard output until a line begins with `beginning`, and returns that line; absent when the output
     /// ends, or our patience does, before.
     std::optional<std::string> lineWith(std::string_view beginning);

@@ -33,7 +33,7 @@ protected:
     SimulatedText text;
     SimulatedHome home{folder.path(), realLoop, text};
     std::ostringstream out;
-    Console console{[this](const std::string& text) { out << text; }};
+    Console console{[this](const std::string& written) { out << written; }};
     PrintedLog log{home.world().systemLog(), console, realLoop};
     HeadlessRun run{home.platform(log), console, {}};
 };

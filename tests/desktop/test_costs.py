@@ -3,12 +3,13 @@
 
 import time
 
+from fadeloomProcess import programOf
 from processUse import cpuSeconds, wakeups
 
 
 def stirrings(desk, seconds=11):
     """Wakeups a second of all threads, over two of the polls that come every five seconds."""
-    pid = desk.session.processes["fadeloom"].pid
+    pid = programOf(desk.session.processes["fadeloom"].pid)
     before, used = wakeups(pid), cpuSeconds(f"/proc/{pid}/stat")
     time.sleep(seconds)
     count = sum(number - before.get(name, 0) for name, number in wakeups(pid).items())

@@ -137,7 +137,7 @@ def test_aFullDiskEndsTheRecordingAndNotTheSound(stage):
         time.sleep(1)
         stage.session.endRecording("recording")
         file = saved(fadeloom)
-        seen = pathlib.Path(f"/proc/{fadeloom.process.pid}/root") / file.relative_to("/")
+        seen = pathlib.Path(f"/proc/{fadeloom.programID()}/root") / file.relative_to("/")
         kept = stage.folder / "kept.wav"
         shutil.copy(seen, kept)
 

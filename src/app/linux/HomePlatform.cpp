@@ -7,7 +7,7 @@
 
 namespace fadeloom {
 
-HomePlatform::HomePlatform(MainLoop& mainLoop, SystemLog& systemLog)
+HomePlatform::HomePlatform(MainLoop& mainLoop, SystemLog& systemLog, HomeGuardian& guardian)
     : mainLoop_(mainLoop)
     , systemLog_(systemLog)
     , fileManager_(systemLog)
@@ -27,6 +27,7 @@ HomePlatform::HomePlatform(MainLoop& mainLoop, SystemLog& systemLog)
               .portalProcess = [this](const std::string& portalAppID) { return processOf(portalAppID); },
               .report = [this](SystemLog::Level level,
                             const std::string& message) { systemLog_.write(level, message); },
+              .ownClient = [&guardian](std::uint64_t client) { guardian.holdClient(client); },
           })
 {
 }

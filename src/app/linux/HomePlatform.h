@@ -2,6 +2,7 @@
 // This machine as the program sees it on Linux: PipeWire, libsndfile, a freedesktop session, Qt.
 #pragma once
 
+#include "app/linux/HomeGuardian.h"
 #include "platform/Platform.h"
 #include "platform/linux/AlwaysGrantedPermission.h"
 #include "platform/linux/AutostartLoginItem.h"
@@ -25,8 +26,9 @@ using HomeLog = SyslogSystemLog;
 /// Thread: main.
 class HomePlatform {
 public:
-    /// `systemLog` also hears what the audio system's connection reports. Both must outlive this.
-    HomePlatform(MainLoop& mainLoop, SystemLog& systemLog);
+    /// `systemLog` also hears what the audio system's connection reports, `guardian` which of its clients we are. All
+    /// must outlive this.
+    HomePlatform(MainLoop& mainLoop, SystemLog& systemLog, HomeGuardian& guardian);
     HomePlatform(const HomePlatform&) = delete;
     HomePlatform& operator=(const HomePlatform&) = delete;
 

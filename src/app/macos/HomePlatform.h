@@ -2,6 +2,7 @@
 // This machine as the program sees it on macOS, with requests to a web server, which are Qt's.
 #pragma once
 
+#include "app/macos/HomeGuardian.h"
 #include "app/macos/SystemPlatform.h"
 #include "platform/macos/UnifiedLog.h"
 #include "platform/qt/QtHttpClient.h"
@@ -15,7 +16,7 @@ using HomeLog = UnifiedLog;
 class HomePlatform {
 public:
     /// Both must outlive this.
-    HomePlatform(MainLoop& mainLoop, SystemLog& systemLog)
+    HomePlatform(MainLoop& mainLoop, SystemLog& systemLog, HomeGuardian& /*guardian*/)
         : system_(mainLoop, systemLog, http_)
     {
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pipewire/GraphConnection.h"
 
+#include "platform/pipewire/ClientRelease.h"
 #include "platform/pipewire/GraphBinding.h"
 #include "platform/pipewire/MetadataBinding.h"
 
@@ -172,6 +173,7 @@ void GraphConnection::Implementation::disconnect()
 {
     if (!core)
         return;
+    listener.ownClientChanged(0);
     listener.disconnected();
     hasSessionManager = false;
     metadataSync = -1;
@@ -237,6 +239,8 @@ void GraphConnection::Implementation::globalAppeared(
             listener.streamAppeared(node);
     } else if (std::strcmp(type, PW_TYPE_INTERFACE_Client) == 0) {
         auto& client = graph.clients[id] = {.id = id, .serial = serial, .properties = properties};
+        if (id == pw_proxy_get_bound_id(reinterpret_cast<pw_proxy*>(pw_core_get_client(core))))
+            listener.ownClientChanged(clientWord(id, serial));
         bindings[id] = std::make_unique<GraphBinding>(registry, client, [this, id] { clientChanged(id); });
     } else if (std::strcmp(type, PW_TYPE_INTERFACE_Port) == 0) {
         graph.ports[id] = portFrom(id, properties);

@@ -9,6 +9,7 @@
 #include "platform/pipewire/Graph.h"
 
 #include <chrono>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -35,6 +36,8 @@ public:
     /// A metadata value was changed by somebody. An empty value means that it was removed.
     virtual void metadataChanged(GraphID subject, const std::string& key, const std::string& value) = 0;
     virtual void connected() = 0;
+    /// Which client we are (`clientWord`); 0 once we are none.
+    virtual void ownClientChanged(std::uint64_t client) = 0;
     /// The server is gone, or could not be reached at the first try: drop everything that was made on its core before
     /// this returns. The mirror is empty after it.
     virtual void disconnected() = 0;

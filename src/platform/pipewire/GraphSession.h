@@ -26,6 +26,7 @@ public:
         std::function<void(SystemLog::Level, std::string)> report;
         /// The application of a process that has just come, or of a sandboxed client.
         std::function<std::string(std::int32_t pid, const std::string& portalAppID)> application;
+        std::function<void(std::uint64_t)> ownClient;  // As `GraphListener::ownClientChanged`.
     };
 
     explicit GraphSession(Callbacks callbacks);
@@ -61,6 +62,7 @@ private:
     void sessionManagerVanished() override;
     void metadataChanged(GraphID subject, const std::string& key, const std::string& value) override;
     void connected() override;
+    void ownClientChanged(std::uint64_t client) override { callbacks_.ownClient(client); }
     void disconnected() override;
 
     [[nodiscard]] bool isToBeHeld(const GraphClient& client);

@@ -87,6 +87,11 @@ PipeWireAudioSystem::PipeWireAudioSystem(MainLoop& mainLoop, Options options)
                 });
             },
         .application = options_.newBundleIdentifier,
+        .ownClient =
+            [this](std::uint64_t client) {
+                if (options_.ownClient)
+                    options_.ownClient(client);
+            },
     });
 }
 

@@ -11,6 +11,7 @@
 #include "platform/Workspace.h"
 #include "platform/pipewire/AudioWorld.h"
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -35,6 +36,9 @@ public:
         /// What the user of the log should know: connection made and lost, streams that cannot be moved. Called on
         /// the main thread.
         std::function<void(SystemLog::Level, std::string)> report;
+        /// Which client of the server we are (`clientWord`), 0 for none: whoever destroys it gives every application
+        /// back to its own device. Called on the graph thread.
+        std::function<void(std::uint64_t client)> ownClient = nullptr;
     };
 
     /// Connects by itself, and keeps trying while no server is there.

@@ -18,7 +18,7 @@ namespace fadeloom {
 
 namespace {
 
-constexpr std::array quitSignals{SIGINT, SIGTERM, SIGHUP};
+constexpr std::array quitSignals{SIGINT, SIGTERM, SIGHUP, QuitSignals::requestSignal};
 
 // A signal handler reaches nothing but what is global.
 std::atomic<int> wakeDescriptor = -1;
@@ -77,10 +77,12 @@ QuitSignals::QuitSignals(std::function<void()> asked)
     struct sigaction action = {};
     action.sa_handler = wakeMainLoop;
     // Reset: the second signal does what it does by default.
-    action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
     sigemptyset(&action.sa_mask);
-    for (std::size_t i = 0; i < quitSignals.size(); ++i)
+    for (std::size_t i = 0; i < quitSignals.size(); ++i) {
+        const bool isRepeatable = quitSignals[i] == requestSignal;
+        action.sa_flags = static_cast<int>(isRepeatable ? SA_RESTART : SA_RESTART | SA_RESETHAND);
         sigaction(quitSignals[i], &action, &state_->former[i]);
+    }
 }
 
 QuitSignals::~QuitSignals()
