@@ -4,7 +4,9 @@
 The signal rises steadily, so that every sample tells its place in the file; its level tells which way it came.
 """
 
+import ctypes
 import os
+import pathlib
 import signal
 import statistics
 import time
@@ -17,6 +19,7 @@ from test_takeover import QUARTER, heard, rampFile
 
 STOPS = 3  # The median counts: the machine may be busy with others.
 HANDOVER = 0.050  # Seconds without sound after a stop.
+NOTICED = 0.400  # Seconds without sound after the data thread hung.
 RETAKE = 0.300  # Seconds from going on until the sound runs through us again.
 
 
@@ -68,6 +71,63 @@ def test_aStoppedProgramLetsItsAppsPlayOn(stage):
     assert len(found) == STOPS
     assert statistics.median(silent for silent, _ in found) < HANDOVER
     assert statistics.median(taken - stop for (_, taken), stop in zip(found, stopped)) < RETAKE
+
+
+class FrozenThread:
+    """A thread of another process that stands still while this is entered; nobody but the tracer is told."""
+
+    SEIZE, INTERRUPT, DETACH = 0x4206, 0x4207, 17
+    WAIT_FOR_ALL = 0x40000000  # Threads as well.
+
+    def __init__(self, thread):
+        self.thread = thread
+        self.libc = ctypes.CDLL(None, use_errno=True)
+
+    def ptrace(self, request):
+        if self.libc.ptrace(request, self.thread, None, None) != 0:
+            raise OSError(ctypes.get_errno(), f"ptrace {request:#x}")
+
+    def __enter__(self):
+        self.ptrace(self.SEIZE)
+        self.ptrace(self.INTERRUPT)
+        os.waitpid(self.thread, self.WAIT_FOR_ALL)
+        return self
+
+    def __exit__(self, *_):
+        self.ptrace(self.DETACH)
+
+
+def dataThread(process):
+    """The thread that waits for the server's events and is not the graph thread: not every version names it."""
+    def search():
+        for task in pathlib.Path(f"/proc/{process}/task").iterdir():
+            if "epoll" in (task / "wchan").read_text() and "graph" not in (task / "comm").read_text():
+                return int(task.name)
+        return None
+    return waitUntil(search, "the data thread")
+
+
+def test_aHungDataThreadLetsTheAppsPlayOn(stage):
+    bundleID = PLAYERS["pw-play"][0]
+    stage.session.setQuantum(256)
+    stage.play("pw-play", rampFile(stage, 20), "player")
+    recording = stage.session.recordDevice("recording", "speakers")
+
+    with stage.fadeloom(settings({bundleID: app(volume=QUARTER)})) as fadeloom:
+        number = stage.waitForTap(fadeloom, bundleID)
+        for _ in range(STOPS):
+            time.sleep(1.0)
+            with FrozenThread(dataThread(fadeloom.programID())):
+                time.sleep(1.0)
+            number = stage.waitForTap(fadeloom, bundleID, after=number)
+        time.sleep(0.5)
+        assert "log-error the audio thread stands still; applications play on without us" in fadeloom.text()
+    stage.session.endRecording("recording")
+
+    found = stalls(heard(recording))
+    print("silent, in ms:", [round(silent * 1000) for silent, _ in found])
+    assert len(found) == STOPS
+    assert statistics.median(silent for silent, _ in found) < NOTICED
 
 
 def test_aStoppedProgramLeavesNothingInTheGraph(stage):

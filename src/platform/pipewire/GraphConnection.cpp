@@ -3,6 +3,7 @@
 
 #include "platform/pipewire/ClientRelease.h"
 #include "platform/pipewire/GraphBinding.h"
+#include "platform/pipewire/Heartbeat.h"
 #include "platform/pipewire/MetadataBinding.h"
 
 #include <pipewire/context.h>
@@ -53,6 +54,10 @@ public:
         callBack = pw_loop_add_timer(pw_thread_loop_get_loop(loop), &onCallBack, this);
         rebindTimer = pw_loop_add_timer(pw_thread_loop_get_loop(loop), &onRebind, this);
         retry = pw_loop_add_timer(pw_thread_loop_get_loop(loop), &onRetry, this);
+        heartbeat =
+            std::make_unique<Heartbeat>(pw_thread_loop_get_loop(loop), pw_context_get_data_loop(context),
+                Heartbeat::Callbacks{.stalled = [this] { letGo(); },
+                    .recovered = [this] { pw_loop_signal_event(pw_thread_loop_get_loop(loop), update); }});
     }
 
     ~Implementation()
@@ -61,6 +66,7 @@ public:
         for (auto* source : {update, callBack, rebindTimer, retry})
             pw_loop_destroy_source(pw_thread_loop_get_loop(loop), source);
         pw_context_destroy(context);
+        heartbeat.reset();
         pw_thread_loop_destroy(loop);
         pw_deinit();
     }
@@ -95,6 +101,7 @@ public:
     }
     static void onRetry(void* self, std::uint64_t) { static_cast<Implementation*>(self)->tryToConnect(); }
     void runUpdate();
+    void letGo();
 
     // Core events
     static void onCoreDone(void* self, std::uint32_t id, int sequence);
@@ -116,11 +123,13 @@ public:
     spa_source* retry = nullptr;
     std::optional<std::chrono::steady_clock::time_point> callBackAt;
     int failedAttempts = 0;
+    std::unique_ptr<Heartbeat> heartbeat;
 
     pw_core* core = nullptr;
     spa_hook coreListener{};
     pw_registry* registry = nullptr;
     spa_hook registryListener{};
+    GraphID ownClient = SPA_ID_INVALID;
     bool isLost = false;  // The server has gone; to be cleaned up in the loop's next turn.
 
     std::map<GraphID, std::unique_ptr<GraphBinding>> bindings;
@@ -173,6 +182,7 @@ void GraphConnection::Implementation::disconnect()
 {
     if (!core)
         return;
+    ownClient = SPA_ID_INVALID;
     listener.ownClientChanged(0);
     listener.disconnected();
     hasSessionManager = false;
@@ -186,8 +196,21 @@ void GraphConnection::Implementation::disconnect()
     graph = {};
 }
 
+/// The data loop stands still, and with it the sound of every application: the server drops all that we have, as if we
+/// had ended.
+void GraphConnection::Implementation::letGo()
+{
+    if (!registry || ownClient == SPA_ID_INVALID)
+        return;
+    listener.stalled();
+    pw_registry_destroy(registry, ownClient);
+}
+
 void GraphConnection::Implementation::runUpdate()
 {
+    // Taking filters down waits for the data loop.
+    if (heartbeat->isStalled())
+        return;
     if (isLost) {
         isLost = false;
         disconnect();
@@ -239,8 +262,10 @@ void GraphConnection::Implementation::globalAppeared(
             listener.streamAppeared(node);
     } else if (std::strcmp(type, PW_TYPE_INTERFACE_Client) == 0) {
         auto& client = graph.clients[id] = {.id = id, .serial = serial, .properties = properties};
-        if (id == pw_proxy_get_bound_id(reinterpret_cast<pw_proxy*>(pw_core_get_client(core))))
+        if (id == pw_proxy_get_bound_id(reinterpret_cast<pw_proxy*>(pw_core_get_client(core)))) {
+            ownClient = id;
             listener.ownClientChanged(clientWord(id, serial));
+        }
         bindings[id] = std::make_unique<GraphBinding>(registry, client, [this, id] { clientChanged(id); });
     } else if (std::strcmp(type, PW_TYPE_INTERFACE_Port) == 0) {
         graph.ports[id] = portFrom(id, properties);
@@ -385,6 +410,11 @@ void GraphConnection::destroyGlobal(GraphID id)
 {
     if (implementation_->registry)
         pw_registry_destroy(implementation_->registry, id);
+}
+
+void GraphConnection::watchDataLoop(bool isNeeded)
+{
+    implementation_->heartbeat->setActive(isNeeded);
 }
 
 void GraphConnection::requestUpdate()

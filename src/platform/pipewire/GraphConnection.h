@@ -36,6 +36,8 @@ public:
     /// A metadata value was changed by somebody. An empty value means that it was removed.
     virtual void metadataChanged(GraphID subject, const std::string& key, const std::string& value) = 0;
     virtual void connected() = 0;
+    /// The data loop does no work; everything of ours is being given back, and made anew once it goes on.
+    virtual void stalled() = 0;
     /// Which client we are (`clientWord`); 0 once we are none.
     virtual void ownClientChanged(std::uint64_t client) = 0;
     /// The server is gone, or could not be reached at the first try: drop everything that was made on its core before
@@ -71,6 +73,8 @@ public:
         GraphID subject, const std::string& key, const char* type, const std::optional<std::string>& value);
     /// Removes an object of the graph that is not ours, such as a link.
     void destroyGlobal(GraphID id);
+    /// While sound runs through us: has our whole connection given up when the data loop stands still.
+    void watchDataLoop(bool isNeeded);
     /// Asks for one `graphChanged` in the thread's next turn.
     void requestUpdate();
     /// Asks for one `graphChanged` after `delay`; the earliest time asked for holds.

@@ -131,6 +131,7 @@ void GraphSession::graphChanged()
         return std::ranges::none_of(connection_.graph().clients,
             [&](const auto& client) { return client.second.serial == entry.first; });
     });
+    connection_.watchDataLoop(!router_.isIdle());
     std::erase_if(exits_, [&](const auto& entry) {
         return std::ranges::find(world.processes, entry.first, &AudioWorld::Process::pid)
             == world.processes.end();
@@ -234,6 +235,12 @@ void GraphSession::sessionManagerVanished()
 void GraphSession::metadataChanged(GraphID subject, const std::string& key, const std::string& value)
 {
     router_.metadataChanged(subject, key, value);
+}
+
+void GraphSession::stalled()
+{
+    callbacks_.report(
+        SystemLog::Level::error, "the audio thread stands still; applications play on without us");
 }
 
 void GraphSession::connected()

@@ -62,6 +62,7 @@ private:
     void sessionManagerVanished() override;
     void metadataChanged(GraphID subject, const std::string& key, const std::string& value) override;
     void connected() override;
+    void stalled() override;
     void ownClientChanged(std::uint64_t client) override { callbacks_.ownClient(client); }
     void disconnected() override;
 

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "platform/pipewire/Heartbeat.h"
+
+#include <pipewire/data-loop.h>
+#include <pipewire/loop.h>
+#include <pipewire/pipewire.h>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <thread>
+
+namespace fadeloom {
+namespace {
+
+using namespace std::chrono_literals;
+
+class HeartbeatTest : public testing::Test {
+protected:
+    HeartbeatTest()
+    {
+        pw_init(nullptr, nullptr);
+        loop = pw_loop_new(nullptr);
+        dataLoop = pw_data_loop_new(nullptr);
+        pw_data_loop_start(dataLoop);
+        waitForItsThread();
+        heartbeat = std::make_unique<Heartbeat>(loop, dataLoop,
+            Heartbeat::Callbacks{.stalled = [this] { ++stalls; }, .recovered = [this] { ++recoveries; }});
+        pw_loop_enter(loop);
+    }
+    ~HeartbeatTest() override
+    {
+        isFrozen = false;
+        pw_loop_leave(loop);
+        pw_data_loop_stop(dataLoop);
+        heartbeat.reset();
+        pw_data_loop_destroy(dataLoop);
+        pw_loop_destroy(loop);
+    }
+
+    /// Until then, what the data loop is asked to do is done at once by whoever asks.
+    void waitForItsThread() const
+    {
+        std::atomic<bool> isElsewhere = false;
+        const auto note = [](spa_loop*, bool isAsynchronous, std::uint32_t, const void*, std::size_t,
+                              void* flag) {
+            static_cast<std::atomic<bool>*>(flag)->store(isAsynchronous);
+            return 0;
+        };
+        while (!isElsewhere) {
+            pw_data_loop_invoke(dataLoop, note, 0, nullptr, 0, true, &isElsewhere);
+            std::this_thread::sleep_for(1ms);
+        }
+    }
+    void runFor(std::chrono::milliseconds time)
+    {
+        const auto end = std::chrono::steady_clock::now() + time;
+        while (std::chrono::steady_clock::now() < end)
+            pw_loop_iterate(loop, 10);
+    }
+    /// The data loop's thread does nothing until `isFrozen` is false.
+    void freeze()
+    {
+        isFrozen = true;
+        const auto wait = [](spa_loop*, bool, std::uint32_t, const void*, std::size_t, void* self) {
+            while (static_cast<HeartbeatTest*>(self)->isFrozen)
+                std::this_thread::sleep_for(1ms);
+            return 0;
+        };
+        pw_data_loop_invoke(dataLoop, wait, 0, nullptr, 0, false, this);
+    }
+
+    std::atomic<bool> isFrozen = false;
+    int stalls = 0;
+    int recoveries = 0;
+    pw_loop* loop = nullptr;
+    pw_data_loop* dataLoop = nullptr;
+    std::unique_ptr<Heartbeat> heartbeat;
+};
+
+TEST_F(HeartbeatTest, isSilentWhileTheThreadAnswers)
+{
+    heartbeat->setActive(true);
+    runFor(1s);
+
+    EXPECT_EQ(stalls, 0);
+    EXPECT_FALSE(heartbeat->isStalled());
+}
+
+TEST_F(HeartbeatTest, tellsOfAThreadThatStandsStillAndOfItsRecovery)
+{
+    heartbeat->setActive(true);
+    runFor(200ms);
+
+    freeze();
+    const auto begin = std::chrono::steady_clock::now();
+    while (stalls == 0 && std::chrono::steady_clock::now() - begin < 5s)
+        pw_loop_iterate(loop, 10);
+    const auto noticed = std::chrono::steady_clock::now() - begin;
+    runFor(500ms);
+
+    EXPECT_EQ(stalls, 1);
+    EXPECT_GT(noticed, (Heartbeat::missesAllowed - 1) * Heartbeat::interval);
+    EXPECT_LT(noticed, 2 * (Heartbeat::missesAllowed + 1) * Heartbeat::interval);
+    EXPECT_TRUE(heartbeat->isStalled());
+    EXPECT_EQ(recoveries, 0);
+
+    isFrozen = false;
+    runFor(500ms);
+    EXPECT_EQ(stalls, 1);
+    EXPECT_EQ(recoveries, 1);
+    EXPECT_FALSE(heartbeat->isStalled());
+}
+
+TEST_F(HeartbeatTest, asksNothingWhileItIsNotNeeded)
+{
+    freeze();
+
+    runFor(600ms);
+    heartbeat->setActive(true);
+    runFor(40ms);
+    heartbeat->setActive(false);
+    runFor(600ms);
+
+    EXPECT_EQ(stalls, 0);
+}
+
+TEST_F(HeartbeatTest, followsAStallToItsEndAlsoWhenItIsNotNeededAnyMore)
+{
+    heartbeat->setActive(true);
+    freeze();
+    runFor(800ms);
+    ASSERT_EQ(stalls, 1);
+
+    heartbeat->setActive(false);
+    isFrozen = false;
+    runFor(500ms);
+
+    EXPECT_EQ(recoveries, 1);
+}
+
+}  // namespace
+}  // namespace fadeloom
