@@ -2,6 +2,7 @@
 #include "platform/linux/FileManager.h"
 
 #include "platform/SystemLog.h"
+#include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/FileUri.h"
 #include "platform/linux/LinuxEnvironment.h"
 #include "platform/linux/ProgramFiles.h"
@@ -142,6 +143,7 @@ private:
         opener.setStandardInputFile(QProcess::nullDevice());
         opener.setStandardOutputFile(QProcess::nullDevice());
         opener.setStandardErrorFile(QProcess::nullDevice());
+        const OriginalDescriptorLimit limit;
         return !program.empty() && opener.startDetached();
     }
 

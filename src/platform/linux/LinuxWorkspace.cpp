@@ -2,6 +2,7 @@
 #include "platform/linux/LinuxWorkspace.h"
 
 #include "platform/linux/ApplicationFinder.h"
+#include "platform/linux/DescriptorLimit.h"
 #include "platform/linux/FileManager.h"
 #include "platform/linux/ProcessProgram.h"
 #include "platform/linux/ProcessTable.h"
@@ -138,6 +139,7 @@ void LinuxWorkspace::openNewInstance(std::function<void()> reported)
     QStringList arguments;
     for (const auto& argument : ownProgram_.arguments)
         arguments += QFile::decodeName(argument.c_str());
+    const OriginalDescriptorLimit limit;
     QProcess::startDetached(QFile::decodeName(ownProgram_.program.c_str()), arguments);
     reported();
 }

@@ -2,8 +2,8 @@
 // The machine's log through syslog, which the journal reads as well.
 #pragma once
 
-#include "platform/SystemLog.h"
 #include "base/TextWriter.h"
+#include "platform/SystemLog.h"
 
 namespace fadeloom {
 

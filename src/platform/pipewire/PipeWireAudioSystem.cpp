@@ -4,6 +4,7 @@
 #include "base/Observers.h"
 #include "platform/MainLoop.h"
 #include "platform/pipewire/GraphSession.h"
+#include "platform/pipewire/OpenFiles.h"
 
 #include <utility>
 
@@ -204,6 +205,9 @@ std::expected<std::unique_ptr<ProcessTap>, TapError> PipeWireAudioSystem::create
         .tapBufferCount = 2,
         .isTapInterleaved = false,
     };
+    // Before the server hands anything over: what finds no room is lost, and the connection with it.
+    if (const auto limit = limitWithoutRoomForTap())
+        return failed("of " + std::to_string(*limit) + " files that may be open, too few are left");
     auto* path = session_->startPath(
         {request.processes.begin(), request.processes.end()}, *device, makeIOProc(format));
     if (!path)

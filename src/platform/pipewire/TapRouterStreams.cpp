@@ -3,6 +3,7 @@
 #include "platform/pipewire/TapRouter.h"
 
 #include <algorithm>
+#include <string>
 
 namespace fadeloom {
 
@@ -16,6 +17,16 @@ constexpr auto stuckAfter = 300ms;
 constexpr auto giveUpAfter = 1000ms;
 // How long a stream that has changed its device waits for a tap there.
 constexpr auto pathWithin = 500ms;
+
+/// Why a stream that is to be ours stays on its device.
+std::string whyStuck(const GraphNode& stream)
+{
+    // No session manager cares for such a stream: whoever made its links keeps them.
+    const auto autoconnect = propertyOf(stream.properties, "node.autoconnect");
+    if (autoconnect != "true" && autoconnect != "1")
+        return "the links of a stream were made by hand and stay; its application is heard as it is";
+    return "the session manager does not move a stream to us; is moving streams switched off?";
+}
 
 }  // namespace
 
@@ -147,7 +158,7 @@ void TapRouter::keepParked(Stream& stream)
         connection_.callBackIn(stuckAfter);
     } else if (isRunning(stream)) {
         stream.isStuckReported = true;
-        report_("the session manager does not move a stream to us; is moving streams switched off?");
+        report_(whyStuck(*connection_.graph().node(stream.parked.id())));
     }
 }
 

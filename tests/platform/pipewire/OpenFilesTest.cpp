@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "platform/pipewire/OpenFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace fadeloom {
+namespace {
+
+TEST(OpenFiles, roomForATapIsLeftWhileTheReserveIsNotTouched)
+{
+    rlimit former{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &former), 0);
+    EXPECT_EQ(limitWithoutRoomForTap(), std::nullopt);
+
+    const rlimit low{100, former.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &low), 0);
+    std::vector<int> opened;
+    while (!limitWithoutRoomForTap() && opened.size() < low.rlim_cur)
+        opened.push_back(open("/dev/null", O_RDONLY | O_CLOEXEC));
+    const auto atTheEdge = limitWithoutRoomForTap();
+    const int next = opened.empty() ? 0 : opened.back();
+    for (int file = 0; file >= 0;)  // All that there are.
+        opened.push_back(file = open("/dev/null", O_RDONLY | O_CLOEXEC));
+    const auto withNoneLeft = limitWithoutRoomForTap();
+    for (const int file : opened)
+        close(file);
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &former), 0);
+
+    EXPECT_EQ(atTheEdge, 100U);
+    EXPECT_EQ(withNoneLeft, 100U);
+    EXPECT_LE(static_cast<std::size_t>(next), 100 - filesOfTap - filesInReserve + 1);
+    EXPECT_EQ(limitWithoutRoomForTap(), std::nullopt);
+}
+
+}  // namespace
+}  // namespace fadeloom
