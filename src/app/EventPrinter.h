@@ -2,8 +2,8 @@
 // Prints one line for each thing that happens to the controller.
 #pragma once
 
-#include "commands/EventLines.h"
 #include "base/Subscription.h"
+#include "commands/EventLines.h"
 
 #include <set>
 #include <string>

@@ -19,6 +19,7 @@ struct AppEntry {
     bool isPlaying = false;  // At least one of its processes is.
     bool isUsingMic = false;  // Likewise; false for every app while calls are not looked for.
     std::vector<AudioProcessID> processIDs{};  // Ascending.
+    std::vector<std::string> ownOutputs{};  // Unique ids of the devices of its own choice, ascending.
 
     friend bool operator==(const AppEntry&, const AppEntry&) = default;
 };

@@ -2,6 +2,7 @@
 #include "control/AppGroups.h"
 
 #include <algorithm>
+#include <set>
 #include <unordered_set>
 
 namespace fadeloom {
@@ -24,6 +25,14 @@ std::vector<AudioProcessID> AppGroup::processIDs() const
         ids.push_back(process.id);
     std::ranges::sort(ids);
     return ids;
+}
+
+std::vector<std::string> AppGroup::ownOutputs() const
+{
+    std::set<std::string> uids;
+    for (const auto& process : processes)
+        uids.insert(process.ownOutputs.begin(), process.ownOutputs.end());
+    return {uids.begin(), uids.end()};
 }
 
 AppGroups AppGrouper::group(std::span<const AudioProcess> processes)

@@ -24,6 +24,8 @@ struct AppGroup {
     [[nodiscard]] bool isUsingMic() const;
     /// Ascending.
     [[nodiscard]] std::vector<AudioProcessID> processIDs() const;
+    /// Unique ids of the devices that its streams would play to without us, ascending.
+    [[nodiscard]] std::vector<std::string> ownOutputs() const;
 };
 
 /// By bundle identifier.

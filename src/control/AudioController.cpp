@@ -93,6 +93,7 @@ void AudioController::requestPermission()
 
 void AudioController::shutdown()
 {
+    isShutDown_ = true;
     timer_.reset();
     // A poll after this point would make the taps again.
     systemListeners_.clear();

@@ -66,7 +66,10 @@ public:
     /// Asks the user for the permission to capture, then polls.
     void requestPermission();
 
-    /// The device that the app plays through now: the chosen one when it is connected, else the system's default.
+    /// The devices that the app plays through now: the chosen one when it is connected, else those of its own choice,
+    /// else the system's default.
+    [[nodiscard]] std::vector<OutputDevice> outputs(const std::string& bundleID) const;
+    /// The first of them.
     [[nodiscard]] std::optional<std::string> outputUID(const std::string& bundleID) const;
     /// Whether the app has a chosen output that is not connected.
     [[nodiscard]] bool isOutputMissing(const std::string& bundleID) const;
@@ -75,8 +78,10 @@ public:
 
     /// The app's parameter block, or null: it comes with the app's first tap and goes with its last process.
     [[nodiscard]] const TapParameters* parametersOf(const std::string& bundleID) const;
-    /// The app's tap, or null.
+    /// The app's tap on the first of its outputs, or null.
     [[nodiscard]] const AppTap* tapOf(const std::string& bundleID) const;
+    /// All of its taps, one for each output.
+    [[nodiscard]] std::vector<const AppTap*> tapsOf(const std::string& bundleID) const;
     /// The meters; whoever shows them says when.
     [[nodiscard]] LevelStore& levels() { return levels_; }
 
@@ -131,8 +136,15 @@ private:
 
     void ensureTaps();
     void ensureTap(const AppEntry& entry);
-    [[nodiscard]] bool adaptTap(AppTap& tap, const AppEntry& entry, const OutputDevice& device);
-    void createTap(const AppEntry& entry, const OutputDevice& device);
+    [[nodiscard]] bool adaptTap(
+        AppTap& tap, const AppEntry& entry, const OutputDevice& device, TapScope scope);
+    void createTap(const AppEntry& entry, const OutputDevice& device, TapScope scope, double formerRate);
+    void tapFailed(const AppEntry& entry, const OutputDevice& device, const TapError& error);
+    void tapMade(const AppEntry& entry, const AppTap& tap, double formerRate);
+    [[nodiscard]] const AppTap* tapOn(const std::string& bundleID, const std::string& outputUID) const;
+    struct FailedTap;
+    [[nodiscard]] FailedTap failureOf(const AppEntry& entry, const OutputDevice& device) const;
+    [[nodiscard]] bool wasRefused(const AppEntry& entry, const OutputDevice& device) const;
     void removeTapsOfQuitApps(const AppGroups& groups);
 
     [[nodiscard]] std::map<std::string, float> takePeaks();
@@ -164,15 +176,26 @@ private:
 
     // A block is shared with the renderer of the app's tap and outlives it, so that the next tap sounds the same.
     std::map<std::string, std::shared_ptr<TapParameters>> params_;
-    std::map<std::string, std::unique_ptr<AppTap>> taps_;
+    using OutputTaps =
+        std::map<std::string, std::unique_ptr<AppTap>>;  // By the output's unique id; never empty.
+    std::map<std::string, OutputTaps> taps_;
     std::map<std::string, std::unique_ptr<Recording>> active_;
     ClosingRecordings closing_{platform_.mainLoop,
         [this](const std::string& bundleID, Recording& recording) { finish(bundleID, recording); }};
-    std::map<std::string, std::string> failed_;  // The key of the last failed attempt, by app.
+    /// A failed attempt is not repeated while all of this is as it was.
+    struct FailedTap {
+        std::string key;
+        OutputDeviceID device = 0;
+        double rate = 0;
+
+        friend bool operator==(const FailedTap&, const FailedTap&) = default;
+    };
+    std::map<std::string, std::map<std::string, FailedTap>> failed_;  // By app and its output.
     std::set<std::string> audioConfirmed_;  // Taps through which audio was seen to flow.
     std::set<std::string> seen_;  // Apps that have played while they were there.
     std::map<std::string, AppIcon> icons_;
     bool isPollScheduled_ = false;
+    bool isShutDown_ = false;
 
     // Last, so that they end first: no callback comes into an object that is going.
     std::vector<Subscription> systemListeners_;

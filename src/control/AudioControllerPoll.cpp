@@ -34,6 +34,7 @@ void AudioController::updatePermission()
     if (state == *state_.permission)
         return;
     engineLog_.notice("permission: " + std::string(AudioPermission::name(state)));
+    failed_.clear();  // Another permission, another answer.
     state_.permission.assign(state);
 }
 
@@ -70,6 +71,7 @@ AppEntry AudioController::makeEntry(const std::string& bundleID, const AppGroup&
         .isPlaying = group.isPlaying(),
         .isUsingMic = group.isUsingMic(),
         .processIDs = group.processIDs(),
+        .ownOutputs = group.ownOutputs(),
     };
 }
 
@@ -95,6 +97,7 @@ void AudioController::forgetQuitApps(const AppGroups& groups)
     std::erase_if(params_, [&](const auto& item) { return hasQuit(item) && !taps_.contains(item.first); });
     std::erase_if(icons_, hasQuit);
     std::erase_if(failed_, hasQuit);
+    std::erase_if(audioConfirmed_, [&](const auto& id) { return !groups.contains(id); });
 
     auto errors = *state_.tapErrors;
     if (std::erase_if(errors, hasQuit) > 0)

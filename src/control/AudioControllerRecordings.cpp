@@ -17,9 +17,9 @@ void AudioController::startRecording(const std::string& bundleID)
 {
     if (active_.contains(bundleID))
         return;
-    const auto tap = taps_.find(bundleID);
+    const auto* const tap = tapOf(bundleID);
     const auto block = params_.find(bundleID);
-    if (tap == taps_.end() || block == params_.end()) {
+    if (!tap || block == params_.end()) {
         state_.errorMessage.assign("Start playback in this app first, then press record.");
         return;
     }
@@ -33,7 +33,7 @@ void AudioController::startRecording(const std::string& bundleID)
     std::filesystem::create_directories(location.parent_path(), error);
     if (error)
         return fail(location.parent_path().string() + ": " + error.message());
-    auto recording = Recording::create(platform_.audioFiles, location, tap->second->sampleRate(), startedAt);
+    auto recording = Recording::create(platform_.audioFiles, location, tap->sampleRate(), startedAt);
     if (!recording)
         return fail(recording.error().description());
 

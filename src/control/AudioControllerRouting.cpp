@@ -4,6 +4,7 @@
 #include "control/OutputChoice.h"
 #include "platform/AudioSystem.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace fadeloom {
@@ -20,12 +21,17 @@ void AudioController::refreshDevices()
     state_.defaultDeviceUID.assignIfDifferent(platform_.audio.defaultOutput());
 }
 
+std::vector<OutputDevice> AudioController::outputs(const std::string& bundleID) const
+{
+    const auto entry = std::ranges::find(*state_.apps, bundleID, &AppEntry::bundleID);
+    const auto own = entry == state_.apps->end() ? std::vector<std::string>{} : entry->ownOutputs;
+    return outputsOf(*state_.settings, *state_.devices, *state_.defaultDeviceUID, bundleID, own);
+}
+
 std::optional<std::string> AudioController::outputUID(const std::string& bundleID) const
 {
-    auto chosen = chosenOutputUID(*state_.settings, bundleID);
-    if (chosen && findDevice(*state_.devices, *chosen))
-        return chosen;
-    return *state_.defaultDeviceUID;
+    const auto devices = outputs(bundleID);
+    return devices.empty() ? std::nullopt : std::optional(devices.front().uid);
 }
 
 bool AudioController::isOutputMissing(const std::string& bundleID) const

@@ -81,9 +81,8 @@ void AudioController::pushSettings(const std::string& bundleID, std::optional<do
     const float duck = duckFactor(state_.settings->focus, *state_.callApp, bundleID);
     store(tapValues(*state_.settings, app, isOutputMissing(bundleID), duck), *block->second);
 
-    const auto tap = taps_.find(bundleID);
-    if (!sampleRate && tap != taps_.end())
-        sampleRate = tap->second->sampleRate();
+    if (const auto* const tap = tapOf(bundleID); !sampleRate && tap)
+        sampleRate = tap->sampleRate();
     // Also while the equalizer is off, so that switching it on is a matter of one flag.
     if (sampleRate)
         block->second->setEQ(eqCoefficients(app.eqGains, *sampleRate));

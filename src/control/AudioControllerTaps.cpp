@@ -5,7 +5,7 @@
 #include "control/TapTexts.h"
 #include "platform/AudioSystem.h"
 
-#include <ranges>
+#include <algorithm>
 #include <utility>
 
 namespace fadeloom {
@@ -26,20 +26,34 @@ void AudioController::ensureTaps()
 
 void AudioController::ensureTap(const AppEntry& entry)
 {
-    const auto uid = outputUID(entry.bundleID);
-    const auto* const found = uid ? findDevice(*state_.devices, *uid) : nullptr;
-    if (!found)
+    const auto devices = outputs(entry.bundleID);
+    if (isShutDown_ || *state_.permission != AudioPermission::State::granted || devices.empty())
         return;
-    const OutputDevice device = *found;
-    const auto tap = taps_.find(entry.bundleID);
-    if (tap == taps_.end() || !adaptTap(*tap->second, entry, device))
-        createTap(entry, device);
+    const auto scope = devices.size() > 1 ? TapScope::streamsOfOutput : TapScope::everyStream;
+
+    auto former = taps_.extract(entry.bundleID);
+    OutputTaps kept;
+    for (const auto& device : devices) {
+        const auto tap = former ? former.mapped().find(device.uid) : OutputTaps::iterator{};
+        if (former && tap != former.mapped().end() && adaptTap(*tap->second, entry, device, scope))
+            kept.insert(former.mapped().extract(tap));
+    }
+    const double formerRate =
+        former && !former.mapped().empty() ? former.mapped().begin()->second->sampleRate() : 0;
+    // Two taps of one app on one output would mute each other's source: what is not kept goes first.
+    former = {};
+    if (!kept.empty())
+        taps_.emplace(entry.bundleID, std::move(kept));
+    for (const auto& device : devices) {
+        if (tapOn(entry.bundleID, device.uid) == nullptr)
+            createTap(entry, device, scope, formerRate);
+    }
 }
 
 // Whether the tap serves the entry on the device, perhaps after a change of its processes.
-bool AudioController::adaptTap(AppTap& tap, const AppEntry& entry, const OutputDevice& device)
+bool AudioController::adaptTap(AppTap& tap, const AppEntry& entry, const OutputDevice& device, TapScope scope)
 {
-    if (tap.outputUID() != device.uid || tap.outputID() != device.id)
+    if (tap.outputID() != device.id || tap.scope() != scope)
         return false;
     const double rate = platform_.audio.sampleRate(device.id);
     if (rate > 0 && rate != tap.sampleRate())
@@ -52,39 +66,67 @@ bool AudioController::adaptTap(AppTap& tap, const AppEntry& entry, const OutputD
     return true;
 }
 
-void AudioController::createTap(const AppEntry& entry, const OutputDevice& device)
+// What was refused is tried again once the device or its rate is another one.
+bool AudioController::wasRefused(const AppEntry& entry, const OutputDevice& device) const
 {
-    const auto& id = entry.bundleID;
-    const auto key = failureKey(entry.processIDs, device.uid);
-    const auto failure = failed_.find(id);
-    if (failure != failed_.end() && failure->second == key)
-        return;
+    const auto failures = failed_.find(entry.bundleID);
+    if (failures == failed_.end())
+        return false;
+    const auto failure = failures->second.find(device.uid);
+    return failure != failures->second.end() && failure->second == failureOf(entry, device);
+}
 
+AudioController::FailedTap AudioController::failureOf(const AppEntry& entry, const OutputDevice& device) const
+{
+    return {.key = failureKey(entry.processIDs, device.uid),
+        .device = device.id,
+        .rate = platform_.audio.sampleRate(device.id)};
+}
+
+void AudioController::createTap(
+    const AppEntry& entry, const OutputDevice& device, TapScope scope, double formerRate)
+{
+    if (wasRefused(entry, device))
+        return;
+    const auto& id = entry.bundleID;
     auto& block = params_[id];
     if (!block)
         block = std::make_shared<TapParameters>();
     pushSettings(id);  // Before any audio flows.
-    const auto old = taps_.find(id);
-    const double oldRate = old == taps_.end() ? 0 : old->second->sampleRate();
-    taps_.erase(id);  // Two taps of one app would mute each other's source.
-    auto tap = AppTap::create(platform_.audio, entry.processIDs, device, block, entry.name);
+    auto tap = AppTap::create(platform_.audio, entry.processIDs, device, scope, block, entry.name);
     if (!tap) {
-        stopRecording(id);
-        const auto description = tap.error().description();
-        failed_.insert_or_assign(id, key);
-        state_.tapErrors.modify([&](auto& errors) { errors.insert_or_assign(id, description); });
-        engineLog_.error("tap failed: " + id + ": " + description);
+        tapFailed(entry, device, tap.error());
         return;
     }
-
-    const auto& made = *taps_.emplace(id, std::move(*tap)).first->second;
-    failed_.erase(id);
+    const auto& made = *taps_[id].emplace(device.uid, std::move(*tap)).first->second;
     pushSettings(id, made.sampleRate());
     engineLog_.notice(tapReadyText(id, made));
-    if (state_.tapErrors->contains(id))
+    tapMade(entry, made, formerRate);
+}
+
+void AudioController::tapFailed(const AppEntry& entry, const OutputDevice& device, const TapError& error)
+{
+    const auto& id = entry.bundleID;
+    if (!taps_.contains(id))
+        stopRecording(id);
+    const auto description = error.description();
+    failed_[id].insert_or_assign(device.uid, failureOf(entry, device));
+    state_.tapErrors.modify([&](auto& errors) { errors.insert_or_assign(id, description); });
+    engineLog_.error("tap failed: " + id + ": " + description);
+}
+
+void AudioController::tapMade(const AppEntry& entry, const AppTap& tap, double formerRate)
+{
+    const auto& id = entry.bundleID;
+    if (const auto failures = failed_.find(id); failures != failed_.end()) {
+        failures->second.erase(tap.outputUID());
+        if (failures->second.empty())
+            failed_.erase(failures);
+    }
+    if (!failed_.contains(id) && state_.tapErrors->contains(id))
         state_.tapErrors.modify([&](auto& errors) { errors.erase(id); });
     // A file has one rate from its beginning to its end.
-    if (oldRate != 0 && oldRate != made.sampleRate() && active_.contains(id)) {
+    if (formerRate != 0 && formerRate != tap.sampleRate() && active_.contains(id)) {
         stopRecording(id);
         state_.errorMessage.assign(
             "Recording of " + entry.name + " stopped: the output device changed its sample rate.");
@@ -93,15 +135,14 @@ void AudioController::createTap(const AppEntry& entry, const OutputDevice& devic
 
 void AudioController::removeTapsOfQuitApps(const AppGroups& groups)
 {
-    for (auto tap = taps_.begin(); tap != taps_.end();) {
-        if (groups.contains(tap->first)) {
-            ++tap;
+    for (auto taps = taps_.begin(); taps != taps_.end();) {
+        if (groups.contains(taps->first)) {
+            ++taps;
             continue;
         }
-        const auto id = tap->first;
+        const auto id = taps->first;
         stopRecording(id);
-        tap = taps_.erase(tap);
-        audioConfirmed_.erase(id);
+        taps = taps_.erase(taps);
         engineLog_.notice("tap removed (app quit): " + id);
     }
 }
@@ -114,8 +155,25 @@ const TapParameters* AudioController::parametersOf(const std::string& bundleID) 
 
 const AppTap* AudioController::tapOf(const std::string& bundleID) const
 {
-    const auto tap = taps_.find(bundleID);
-    return tap == taps_.end() ? nullptr : tap->second.get();
+    const auto taps = tapsOf(bundleID);
+    return taps.empty() ? nullptr : taps.front();
+}
+
+const AppTap* AudioController::tapOn(const std::string& bundleID, const std::string& outputUID) const
+{
+    const auto taps = tapsOf(bundleID);
+    const auto tap = std::ranges::find(taps, outputUID, &AppTap::outputUID);
+    return tap == taps.end() ? nullptr : *tap;
+}
+
+std::vector<const AppTap*> AudioController::tapsOf(const std::string& bundleID) const
+{
+    std::vector<const AppTap*> taps;
+    if (const auto found = taps_.find(bundleID); found != taps_.end()) {
+        for (const auto& [uid, tap] : found->second)
+            taps.push_back(tap.get());
+    }
+    return taps;
 }
 
 std::map<std::string, float> AudioController::takePeaks()

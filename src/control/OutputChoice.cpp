@@ -25,6 +25,27 @@ bool isOutputMissing(
     return chosen && findDevice(devices, *chosen) == nullptr;
 }
 
+std::vector<OutputDevice> outputsOf(const SettingsData& settings, std::span<const OutputDevice> devices,
+    const std::optional<std::string>& defaultUID, const std::string& bundleID,
+    std::span<const std::string> ownUIDs)
+{
+    std::vector<OutputDevice> outputs;
+    const auto add = [&](std::string_view uid) {
+        if (const auto* const device = findDevice(devices, uid))
+            outputs.push_back(*device);
+    };
+    const auto chosen = chosenOutputUID(settings, bundleID);
+    if (chosen)
+        add(*chosen);
+    if (!chosen) {
+        for (const auto& uid : ownUIDs)
+            add(uid);
+    }
+    if (outputs.empty() && defaultUID)
+        add(*defaultUID);
+    return outputs;
+}
+
 std::set<std::string> difference(const std::set<std::string>& left, const std::set<std::string>& right)
 {
     std::set<std::string> result;

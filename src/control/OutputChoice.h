@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Which device an application plays through, as rules over values.
 //
-// A choice is kept while its device is away: the app then goes to the default device, muted, so that its sound never
+// What the user chose here comes first, then what the app chose for itself, then the system's default. A choice made here
+// is kept while its device is away: the app then goes to the default device, muted, so that its sound never
 // jumps to another device by surprise.
 #pragma once
 
@@ -13,6 +14,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace fadeloom {
 
@@ -26,6 +28,12 @@ namespace fadeloom {
 /// Whether the app has a choice and its device is not connected.
 [[nodiscard]] bool isOutputMissing(
     const SettingsData& settings, std::span<const OutputDevice> devices, const std::string& bundleID);
+
+/// The devices that an app plays through: the chosen one while it is connected; those of its streams' own choice; the
+/// default. `ownUIDs`: where its streams would play without us. None when there is no device at all.
+[[nodiscard]] std::vector<OutputDevice> outputsOf(const SettingsData& settings,
+    std::span<const OutputDevice> devices, const std::optional<std::string>& defaultUID,
+    const std::string& bundleID, std::span<const std::string> ownUIDs);
 
 /// The identifiers that are in one of the sets and not in the other.
 [[nodiscard]] std::set<std::string> difference(

@@ -18,13 +18,14 @@ public:
     /// Starts the sound; after a failure nothing of it is left. `system` outlives the tap. `name`: the app's, as the
     /// user knows it. `parameters` are shared with the app's later taps.
     [[nodiscard]] static std::expected<std::unique_ptr<AppTap>, TapError> create(AudioSystem& system,
-        std::vector<AudioProcessID> processIDs, const OutputDevice& output,
+        std::vector<AudioProcessID> processIDs, const OutputDevice& output, TapScope scope,
         std::shared_ptr<TapParameters> parameters, const std::string& name);
 
     /// The processes that are captured now.
     [[nodiscard]] const std::vector<AudioProcessID>& processIDs() const { return processIDs_; }
     [[nodiscard]] const std::string& outputUID() const { return output_.uid; }
     [[nodiscard]] OutputDeviceID outputID() const { return output_.id; }
+    [[nodiscard]] TapScope scope() const { return scope_; }
     /// Hertz: the rate at which the procedure runs.
     [[nodiscard]] double sampleRate() const { return tap_->sampleRate(); }
     /// How many of the output device's own inputs are switched off for us.
@@ -34,9 +35,11 @@ public:
     [[nodiscard]] bool update(std::vector<AudioProcessID> processIDs);
 
 private:
-    AppTap(OutputDevice output, std::vector<AudioProcessID> processIDs, std::unique_ptr<ProcessTap> tap);
+    AppTap(OutputDevice output, TapScope scope, std::vector<AudioProcessID> processIDs,
+        std::unique_ptr<ProcessTap> tap);
 
     const OutputDevice output_;
+    const TapScope scope_;
     std::vector<AudioProcessID> processIDs_;
     const std::unique_ptr<ProcessTap> tap_;
 };

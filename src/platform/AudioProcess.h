@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace fadeloom {
 
@@ -19,6 +20,9 @@ struct AudioProcess {
     std::string bundleID{};  // Empty when it has none.
     bool isPlaying = false;
     bool isUsingMic = false;
+    /// Unique ids of the devices that its streams would play to without us, ascending. Empty while it has no stream, and
+    /// where the system has no such choice.
+    std::vector<std::string> ownOutputs{};
 
     friend bool operator==(const AudioProcess&, const AudioProcess&) = default;
 };

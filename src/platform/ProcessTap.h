@@ -41,9 +41,16 @@ struct TapFormat {
 /// Makes the procedure of a tap, once the tap's format is known. Thread: main.
 using AudioIOProcFactory = std::function<std::shared_ptr<AudioIOProc>(const TapFormat&)>;
 
+/// Which streams of its processes a tap is for.
+enum class TapScope {
+    everyStream,  // Wherever it would play without us.
+    streamsOfOutput,  // Those that would play on the tap's output without us.
+};
+
 struct TapRequest {
     std::vector<AudioProcessID> processes;
     OutputDevice output;
+    TapScope scope = TapScope::everyStream;  // Without meaning where apps have no choice of their own.
     std::string name;  // For people who look at the audio system with tools of their own.
 };
 

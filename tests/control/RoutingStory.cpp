@@ -220,5 +220,71 @@ TEST_F(RoutingStory, ourOwnDevicesAreNotOffered)
     EXPECT_EQ(state().devices->size(), 3);
 }
 
+TEST_F(RoutingStory, anAppThatChoseItsOwnDevicePlaysThere)
+{
+    const auto pid = launchPlaying("Player");
+    change(player, [](auto& app) { app.volume = 0.5F; });
+
+    world.chooseOutputs(pid, {"headphones"});
+    world.runPosted();
+
+    EXPECT_EQ(outputOf(player), "headphones");
+    EXPECT_NEAR(heardAt("headphones"), source / 2, tolerance);
+    EXPECT_TRUE(world.heard("speakers").isSilent());
+}
+
+TEST_F(RoutingStory, anAppOnTwoDevicesPlaysOnBothWithTheSameSettings)
+{
+    const auto pid = launchPlaying("Player");
+    change(player, [](auto& app) { app.volume = 0.5F; });
+
+    world.chooseOutputs(pid, {"headphones", "speakers"});
+    world.runPosted();
+
+    EXPECT_EQ(controller->tapsOf(player).size(), 2U);
+    EXPECT_NEAR(heardAt("headphones"), source / 2, tolerance);
+    EXPECT_NEAR(heardAt("speakers"), source / 2, tolerance);
+}
+
+TEST_F(RoutingStory, anOutputChosenHereOverridesTheAppsOwn)
+{
+    const auto pid = launchPlaying("Player");
+    world.chooseOutputs(pid, {"headphones"});
+    world.runPosted();
+
+    chooseOutput(player, "speakers");
+    EXPECT_NEAR(heardAt("speakers"), source, tolerance);
+    EXPECT_TRUE(world.heard("headphones").isSilent());
+
+    chooseOutput(player, std::nullopt);
+    EXPECT_NEAR(heardAt("headphones"), source, tolerance);
+    EXPECT_TRUE(world.heard("speakers").isSilent());
+}
+
+TEST_F(RoutingStory, aDeviceOfTheAppsChoiceThatIsAwayLeavesTheDefault)
+{
+    const auto pid = launchPlaying("Player");
+    world.chooseOutputs(pid, {"headphones"});
+    world.runPosted();
+
+    unplug("headphones");
+
+    EXPECT_EQ(outputOf(player), "speakers");
+}
+
+TEST_F(RoutingStory, fromTwoDevicesToOneNothingIsHeardTwice)
+{
+    const auto pid = launchPlaying("Player");
+    world.chooseOutputs(pid, {"headphones", "speakers"});
+    world.runPosted();
+
+    world.chooseOutputs(pid, {"speakers"});
+    world.runPosted();
+
+    EXPECT_EQ(controller->tapsOf(player).size(), 1U);
+    EXPECT_NEAR(heardAt("speakers"), source, tolerance);
+    EXPECT_TRUE(world.heard("headphones").isSilent());
+}
+
 }  // namespace
 }  // namespace fadeloom

@@ -120,5 +120,16 @@ TEST_F(ShutdownStory, canComeTwice)
     EXPECT_EQ(closings(), 1);
 }
 
+TEST_F(ShutdownStory, anotherOutputMakesNoTapAfterIt)
+{
+    launchPlaying("Player");
+    controller->shutdown();
+    const auto attempts = tapAttempts();
+
+    chooseOutput("com.example.player", "headphones");
+
+    EXPECT_EQ(tapAttempts(), attempts);
+}
+
 }  // namespace
 }  // namespace fadeloom

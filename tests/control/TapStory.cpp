@@ -237,5 +237,64 @@ TEST_F(TapStory, audioThatFlowsIsConfirmedOnce)
     EXPECT_EQ(logCount("audio flowing through tap: com.example.player"), 2);
 }
 
+TEST_F(TapStory, aFailureIsForgottenWhenTheDeviceComesBack)
+{
+    refuseTaps();
+    launchPlaying("Player");
+    ASSERT_EQ(tapOf(player), nullptr);
+    world.allow(AudioOperation::createTap);
+
+    unplug("speakers");
+    unplug("headphones");
+    plug("speakers");
+
+    EXPECT_NE(tapOf(player), nullptr);
+}
+
+TEST_F(TapStory, aFailureIsForgottenWhenTheRateChanges)
+{
+    launchPlaying("Player");
+    refuseTaps();
+    world.changeRate("speakers", 44100);
+    world.advance(5s);
+    ASSERT_EQ(tapOf(player), nullptr);
+    const auto attempts = tapAttempts();
+    world.allow(AudioOperation::createTap);
+
+    world.advance(1min);
+    EXPECT_EQ(tapAttempts(), attempts) << "nothing has changed";
+    world.changeRate("speakers", 48000);
+    world.runPosted();
+
+    EXPECT_NE(tapOf(player), nullptr);
+}
+
+TEST_F(TapStory, aFailureIsForgottenWhenThePermissionChanges)
+{
+    refuseTaps();
+    launchPlaying("Player");
+    world.allow(AudioOperation::createTap);
+    world.advance(10s);
+    ASSERT_EQ(tapOf(player), nullptr);
+
+    world.setPermission(SimulatedCapturePermission::denied);
+    world.advance(5s);
+    world.setPermission(SimulatedCapturePermission::granted);
+    world.advance(5s);
+
+    EXPECT_NE(tapOf(player), nullptr);
+}
+
+TEST_F(TapStory, anotherOutputMakesNoTapWithoutPermission)
+{
+    world.setPermission(SimulatedCapturePermission::denied);
+    launchPlaying("Player");
+    world.advance(5s);
+
+    chooseOutput(player, "headphones");
+
+    EXPECT_EQ(tapAttempts(), 0);
+}
+
 }  // namespace
 }  // namespace fadeloom

@@ -30,7 +30,7 @@ protected:
     }
     std::expected<std::unique_ptr<AppTap>, TapError> createOn(const OutputDevice& device)
     {
-        return AppTap::create(world.audio(), {process}, device, parameters, "Music");
+        return AppTap::create(world.audio(), {process}, device, TapScope::everyStream, parameters, "Music");
     }
     std::expected<std::unique_ptr<AppTap>, TapError> create() { return createOn(speakers); }
 

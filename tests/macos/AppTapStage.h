@@ -37,8 +37,8 @@ protected:
     auto create() { return createOn("speakers", speakers); }
     std::expected<std::unique_ptr<AppTap>, TapError> createOn(const std::string& uid, AudioObjectID device)
     {
-        return AppTap::create(
-            audio, {player}, {.id = device, .uid = uid, .name = "A device"}, parameters, "Music");
+        return AppTap::create(audio, {player}, {.id = device, .uid = uid, .name = "A device"},
+            TapScope::everyStream, parameters, "Music");
     }
     /// What was asked since this was asked last.
     static Lines asked() { return std::exchange(doubles::journal(), {}); }

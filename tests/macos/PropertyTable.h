@@ -5,6 +5,8 @@
 #include "platform/macos/HAL.h"
 #include "tests/macos/doubles/AudioWorld.h"
 
+#include <array>
+#include <cstring>
 #include <functional>
 #include <initializer_list>
 #include <map>

@@ -60,8 +60,8 @@ TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChangeAndItIsR
     const auto pid = players.startSine(0.5F);
     ASSERT_TRUE(waitUntil([&] { return reading.isPlaying(pid); }));
     auto parameters = std::make_shared<TapParameters>();
-    auto tap =
-        AppTap::create(audio, {reading.process(pid).id}, reading.device("device"), parameters, "Player");
+    auto tap = AppTap::create(audio, {reading.process(pid).id}, reading.device("device"),
+        TapScope::everyStream, parameters, "Player");
     ASSERT_TRUE(tap.has_value());
     ASSERT_TRUE(waitUntil([&] { return parameters->audioSeen.load(); }));
     const auto recording = Recording::create(files, location, tap.value()->sampleRate(), {});

@@ -5,30 +5,9 @@ import time
 
 import pytest
 
-import signals
 from audioSession import waitUntil
 from fadeloomProcess import app, settings
-
-
-def sineFile(stage, frequency=1000):
-    file = stage.folder / f"sine{frequency}.wav"
-    signals.write(file, signals.sine(frequency, 0.5, 15))
-    return file
-
-
-def levelOn(stage, device, frequency=1000):
-    """How loud a frequency is on a device now."""
-    stage.count += 1
-    name = f"level{stage.count}"
-    recording = stage.session.recordDevice(name, device)
-    time.sleep(0.35)
-    stage.session.endRecording(name)
-    recorded = signals.read(recording)[2048:]
-    return float(signals.amplitude(signals.steady(recorded, frequency), frequency).max()) if recorded.any() else 0.0
-
-
-def waitForSound(stage, device, level, frequency=1000):
-    return waitUntil(lambda: levelOn(stage, device, frequency) == pytest.approx(level, rel=0.02), f"sound on {device}")
+from listening import levelOn, sineFile, waitForSound
 
 
 def test_anAppMovesToTheDeviceThatIsChosenForIt(stage):

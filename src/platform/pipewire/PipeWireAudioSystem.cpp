@@ -114,6 +114,7 @@ std::vector<AudioProcess> PipeWireAudioSystem::processes(ReadMic readMic)
             .bundleID = identity.bundleID,
             .isPlaying = process.isPlaying,
             .isUsingMic = readMic == ReadMic::yes && process.isUsingMicrophone,
+            .ownOutputs = {process.ownOutputs.begin(), process.ownOutputs.end()},
         });
     }
     if (identities_.size() > world->processes.size())
@@ -208,8 +209,9 @@ std::expected<std::unique_ptr<ProcessTap>, TapError> PipeWireAudioSystem::create
     // Before the server hands anything over: what finds no room is lost, and the connection with it.
     if (const auto limit = limitWithoutRoomForTap())
         return failed("of " + std::to_string(*limit) + " files that may be open, too few are left");
-    auto* path = session_->startPath(
-        {request.processes.begin(), request.processes.end()}, *device, makeIOProc(format));
+    auto* path =
+        session_->startPath({request.processes.begin(), request.processes.end()}, *device, makeIOProc(format),
+            request.scope == TapScope::everyStream ? StreamScope::every : StreamScope::ofTheDevice);
     if (!path)
         return failed("PipeWire made no node for it");
     return std::make_unique<Tap>(mainLoop_, session_, *path, format.sampleRate);

@@ -28,17 +28,17 @@ public:
     struct Options {
         /// The bundle identifier of a process; the second argument is the application id that the server vouches
         /// for, when the client is sandboxed. Called on the main thread.
-        std::function<std::string(ProcessID, const std::string& portalAppID)> bundleIdentifier;
+        std::function<std::string(ProcessID, const std::string& portalAppID)> bundleIdentifier{};
         /// The same on the graph thread, about a process that has just come.
-        std::function<std::string(ProcessID, const std::string& portalAppID)> newBundleIdentifier;
+        std::function<std::string(ProcessID, const std::string& portalAppID)> newBundleIdentifier{};
         /// The process of a sandboxed application, whose own pid means nothing outside; -1 when there is none.
-        std::function<ProcessID(const std::string& portalAppID)> portalProcess;
+        std::function<ProcessID(const std::string& portalAppID)> portalProcess{};
         /// What the user of the log should know: connection made and lost, streams that cannot be moved. Called on
         /// the main thread.
-        std::function<void(SystemLog::Level, std::string)> report;
+        std::function<void(SystemLog::Level, std::string)> report{};
         /// Which client of the server we are (`clientWord`), 0 for none: whoever destroys it gives every application
         /// back to its own device. Called on the graph thread.
-        std::function<void(std::uint64_t client)> ownClient = nullptr;
+        std::function<void(std::uint64_t client)> ownClient{};
     };
 
     /// Connects by itself, and keeps trying while no server is there.

@@ -45,9 +45,12 @@ CycleBuffers captured(
     const SimulatedAudioState& state, const SimulatedTap& tap, std::uint32_t frames, double sampleRate)
 {
     StereoBlock mix(frames);
-    for (const AudioProcessID id : tap.processes)
-        if (const auto process = state.processes.find(id); process != state.processes.end())
+    for (const AudioProcessID id : tap.processes) {
+        const auto process = state.processes.find(id);
+        if (process != state.processes.end()
+            && (tap.scope == TapScope::everyStream || state.playsOn(process->second, tap.device)))
             addPlayed(mix, process->second, sampleRate);
+    }
     CycleBuffers input;
     input.add(2, frames);
     for (std::size_t i = 0; i < mix.size(); ++i) {
@@ -81,11 +84,12 @@ void runTap(const SimulatedAudioState& state, const SimulatedTap& tap, const Sim
     addToHeard(heard, output.buffers());
 }
 
-void addDirectSound(const SimulatedAudioState& state, const SimulatedDeviceTraits& device, HeardAudio& heard)
+void addDirectSound(const SimulatedAudioState& state, OutputDeviceID deviceID, HeardAudio& heard)
 {
+    const SimulatedDeviceTraits& device = state.devices.at(deviceID);
     StereoBlock mix(heard.frames);
     for (const auto& [id, process] : state.processes)
-        if (!state.isCaptured(id))
+        if (state.playsOn(process, deviceID) && !state.isCaptured(id, deviceID))
             addPlayed(mix, process, device.sampleRate);
     const auto [left, right] = device.stereoPair;
     for (std::size_t i = 0; i < mix.size(); ++i) {
@@ -129,8 +133,7 @@ HeardByDevice runSimulatedCycle(SimulatedAudioState& state, std::uint32_t frames
         if (channels == 0)
             continue;
         HeardAudio heard{channels, frames, std::vector<float>(std::size_t{channels} * frames)};
-        if (id == state.defaultOutput)
-            addDirectSound(state, device, heard);
+        addDirectSound(state, id, heard);
         for (const auto& [tapID, tap] : state.taps)
             if (tap.device == id)
                 runTap(state, tap, device, heard);

@@ -12,11 +12,19 @@ OutputDeviceID SimulatedAudioState::deviceWithUID(const std::string& uid) const
     return found == devices.end() ? 0 : found->first;
 }
 
-bool SimulatedAudioState::isCaptured(AudioProcessID process) const
+bool SimulatedAudioState::playsOn(const SimulatedAudioProcess& process, OutputDeviceID device) const
+{
+    if (process.chosenOutputs.empty())
+        return device == defaultOutput;
+    return std::ranges::find(process.chosenOutputs, devices.at(device).uid) != process.chosenOutputs.end();
+}
+
+bool SimulatedAudioState::isCaptured(AudioProcessID process, OutputDeviceID device) const
 {
     return std::ranges::any_of(taps, [&](const auto& entry) {
         const SimulatedTap& tap = entry.second;
-        return tap.device != 0 && std::ranges::find(tap.processes, process) != tap.processes.end();
+        const bool isMeant = tap.scope == TapScope::everyStream || tap.device == device;
+        return tap.device != 0 && isMeant && std::ranges::find(tap.processes, process) != tap.processes.end();
     });
 }
 

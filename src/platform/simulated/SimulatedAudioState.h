@@ -28,12 +28,15 @@ struct SimulatedAudioProcess {
     std::string bundleID{};  // Empty for none.
     bool isPlaying = false;
     bool isUsingMic = false;
+    std::vector<std::string>
+        chosenOutputs{};  // Where it plays by its own choice; none for the default output.
     SimulatedSignal signal = SimulatedSignal::silence();
     std::uint64_t position = 0;  // Frames played since it last began.
 };
 
 struct SimulatedTap {
     std::vector<AudioProcessID> processes;
+    TapScope scope = TapScope::everyStream;
     OutputDeviceID device = 0;  // 0 once its device is unplugged: nothing is captured any more.
     std::shared_ptr<AudioIOProc> proc;
 };
@@ -43,8 +46,10 @@ struct SimulatedAudioState {
     [[nodiscard]] std::uint32_t newID() { return ++lastID; }
     /// 0 for none.
     [[nodiscard]] OutputDeviceID deviceWithUID(const std::string& uid) const;
-    /// Whether the process is heard nowhere but through its taps at this moment.
-    [[nodiscard]] bool isCaptured(AudioProcessID process) const;
+    /// Whether the process plays on the device without us.
+    [[nodiscard]] bool playsOn(const SimulatedAudioProcess& process, OutputDeviceID device) const;
+    /// Whether a tap captures what the process plays on the device.
+    [[nodiscard]] bool isCaptured(AudioProcessID process, OutputDeviceID device) const;
 
     std::uint32_t lastID = 0;
     OutputDeviceID defaultOutput = 0;

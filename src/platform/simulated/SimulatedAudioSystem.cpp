@@ -59,6 +59,7 @@ std::vector<AudioProcess> SimulatedAudioSystem::processes(ReadMic readMic)
             .bundleID = process.bundleID,
             .isPlaying = process.isPlaying,
             .isUsingMic = wasMicRead_ && process.isUsingMic,
+            .ownOutputs = process.chosenOutputs,
         });
     return processes;
 }
@@ -133,6 +134,7 @@ std::expected<std::unique_ptr<ProcessTap>, TapError> SimulatedAudioSystem::creat
     const auto id = state.newID();
     state.taps.emplace(id,
         SimulatedTap{.processes = request.processes,
+            .scope = request.scope,
             .device = device->first,
             .proc = makeIOProc({.sampleRate = traits.sampleRate, .output = traits.stereoPair})});
     world_.keepCycling();

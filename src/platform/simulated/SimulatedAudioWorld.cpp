@@ -117,6 +117,15 @@ void SimulatedAudioWorld::stopPlaying(AudioProcessID process)
         processesChanged.post();
 }
 
+void SimulatedAudioWorld::chooseOutputs(AudioProcessID process, std::vector<std::string> uids)
+{
+    const auto found = state_.processes.find(process);
+    if (found == state_.processes.end() || found->second.chosenOutputs == uids)
+        return;
+    found->second.chosenOutputs = std::move(uids);
+    processesChanged.post();
+}
+
 void SimulatedAudioWorld::setUsingMic(AudioProcessID process, bool isUsingMic)
 {
     const auto found = state_.processes.find(process);

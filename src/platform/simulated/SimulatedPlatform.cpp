@@ -70,6 +70,11 @@ void SimulatedPlatform::stopPlaying(ProcessID pid)
     audioWorld_.stopPlaying(audioWorld_.audioProcessOf(pid));
 }
 
+void SimulatedPlatform::chooseOutputs(ProcessID pid, std::vector<std::string> uids)
+{
+    audioWorld_.chooseOutputs(audioOf(pid), std::move(uids));
+}
+
 void SimulatedPlatform::startUsingMic(ProcessID pid)
 {
     audioWorld_.setUsingMic(audioOf(pid), true);

@@ -73,6 +73,8 @@ public:
     /// Plays through its first audio process, opening audio if it has none.
     void startPlaying(ProcessID pid, SimulatedSignal signal = SimulatedSignal::constant(0.25F));
     void stopPlaying(ProcessID pid);
+    /// Plays on these devices by its own choice, opening audio if it has none; empty for the default output.
+    void chooseOutputs(ProcessID pid, std::vector<std::string> uids);
     void startUsingMic(ProcessID pid);
     void stopUsingMic(ProcessID pid);
 
