@@ -46,7 +46,8 @@ def complaint(folder, bracket, included):
     if target == folder or target == "base" or (target == "platform" and folder != "base"):
         return None
     if target in ADAPTERS:
-        return None if folder == "app" else "only app names an adapter"
+        isForQt = (folder, target) == ("platform/qtdesktop", "platform/qt")
+        return None if folder == "app" or isForQt else "only app names an adapter"
     if folder in ADAPTERS:
         return None if target == "engine" else "an adapter uses platform, and engine types"
     if target not in ORDER:

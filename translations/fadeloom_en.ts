@@ -29,11 +29,7 @@
     </message>
 </context>
 <context>
-    <name>AppRowView</name>
-    <message>
-        <source>Retry</source>
-        <translation>Retry</translation>
-    </message>
+    <name>AppRowHead</name>
     <message>
         <source>Unmute %1</source>
         <translation>Unmute %1</translation>
@@ -64,6 +60,45 @@
     </message>
 </context>
 <context>
+    <name>AppearanceSettings</name>
+    <message>
+        <source>Appearance</source>
+        <translation>Appearance</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Theme</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>Glass effect</source>
+        <translation>Glass effect</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animations</translation>
+    </message>
+    <message>
+        <source>Live level meters</source>
+        <translation>Live level meters</translation>
+    </message>
+    <message>
+        <source>Turning off meters and animations saves a little CPU while the panel is open. Sound processing is not affected.</source>
+        <translation>Turning off meters and animations saves a little CPU while the panel is open. Sound processing is not affected.</translation>
+    </message>
+</context>
+<context>
     <name>Banner</name>
     <message>
         <source>Dismiss</source>
@@ -78,10 +113,55 @@
     </message>
 </context>
 <context>
+    <name>CallSettings</name>
+    <message>
+        <source>Focus Mode</source>
+        <translation>Focus Mode</translation>
+    </message>
+    <message>
+        <source>Lower other apps during calls</source>
+        <translation>Lower other apps during calls</translation>
+    </message>
+    <message>
+        <source>When a call app below uses the microphone, everything else fades down and comes back when the call ends.</source>
+        <translation>When a call app below uses the microphone, everything else fades down and comes back when the call ends.</translation>
+    </message>
+    <message>
+        <source>Lower to</source>
+        <translation>Lower to</translation>
+    </message>
+    <message>
+        <source>Add App</source>
+        <translation>Add App</translation>
+    </message>
+    <message>
+        <source>Reset List</source>
+        <translation>Reset List</translation>
+    </message>
+</context>
+<context>
     <name>DeviceRow</name>
     <message>
         <source>Output</source>
         <translation>Output</translation>
+    </message>
+</context>
+<context>
+    <name>EQHeader</name>
+    <message>
+        <source>Equalizer</source>
+        <translation>Equalizer</translation>
+    </message>
+</context>
+<context>
+    <name>EQPreamp</name>
+    <message>
+        <source>Preamp</source>
+        <translation>Preamp</translation>
+    </message>
+    <message>
+        <source>Double-click to reset</source>
+        <translation>Double-click to reset</translation>
     </message>
 </context>
 <context>
@@ -248,33 +328,6 @@
     </message>
 </context>
 <context>
-    <name>EQSection</name>
-    <message>
-        <source>Equalizer</source>
-        <translation>Equalizer</translation>
-    </message>
-    <message>
-        <source>Preamp</source>
-        <translation>Preamp</translation>
-    </message>
-    <message>
-        <source>Double-click to reset</source>
-        <translation>Double-click to reset</translation>
-    </message>
-    <message>
-        <source>Preset name</source>
-        <translation>Preset name</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Save</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancel</translation>
-    </message>
-</context>
-<context>
     <name>EmptyState</name>
     <message>
         <source>Nothing is playing</source>
@@ -297,6 +350,29 @@
             <numerusform>%n decibel</numerusform>
             <numerusform>%n decibels</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>Launch at login</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Restart to Apply</source>
+        <translation>Restart to Apply</translation>
+    </message>
+    <message>
+        <source>Reset All App Volumes and EQ</source>
+        <translation>Reset All App Volumes and EQ</translation>
     </message>
 </context>
 <context>
@@ -354,6 +430,29 @@
     <message>
         <source>Output</source>
         <translation>Output</translation>
+    </message>
+</context>
+<context>
+    <name>PanelHeader</name>
+    <message>
+        <source>Update %1</source>
+        <translation>Update %1</translation>
+    </message>
+    <message>
+        <source>Download Fadeloom %1</source>
+        <translation>Download Fadeloom %1</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Quit Fadeloom</source>
+        <translation>Quit Fadeloom</translation>
     </message>
 </context>
 <context>
@@ -433,6 +532,21 @@
     </message>
 </context>
 <context>
+    <name>PresetNaming</name>
+    <message>
+        <source>Preset name</source>
+        <translation>Preset name</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>PresetText</name>
     <message>
         <source>Custom</source>
@@ -459,69 +573,7 @@
     </message>
 </context>
 <context>
-    <name>RootView</name>
-    <message>
-        <source>Update %1</source>
-        <translation>Update %1</translation>
-    </message>
-    <message>
-        <source>Download Fadeloom %1</source>
-        <translation>Download Fadeloom %1</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Back</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Settings</translation>
-    </message>
-    <message>
-        <source>Quit Fadeloom</source>
-        <translation>Quit Fadeloom</translation>
-    </message>
-</context>
-<context>
-    <name>SettingsModel</name>
-    <message>
-        <source>System</source>
-        <translation>System</translation>
-    </message>
-    <message>
-        <source>100% (no boost)</source>
-        <translation>100% (no boost)</translation>
-    </message>
-    <message>
-        <source>Choose from Applications…</source>
-        <translation>Choose from Applications…</translation>
-    </message>
-</context>
-<context>
-    <name>SettingsView</name>
-    <message>
-        <source>Focus Mode</source>
-        <translation>Focus Mode</translation>
-    </message>
-    <message>
-        <source>Lower other apps during calls</source>
-        <translation>Lower other apps during calls</translation>
-    </message>
-    <message>
-        <source>When a call app below uses the microphone, everything else fades down and comes back when the call ends.</source>
-        <translation>When a call app below uses the microphone, everything else fades down and comes back when the call ends.</translation>
-    </message>
-    <message>
-        <source>Lower to</source>
-        <translation>Lower to</translation>
-    </message>
-    <message>
-        <source>Add App</source>
-        <translation>Add App</translation>
-    </message>
-    <message>
-        <source>Reset List</source>
-        <translation>Reset List</translation>
-    </message>
+    <name>RecordingSettings</name>
     <message>
         <source>Recording</source>
         <translation>Recording</translation>
@@ -534,86 +586,24 @@
         <source>24-bit WAV at the output’s sample rate.</source>
         <translation>24-bit WAV at the output’s sample rate.</translation>
     </message>
-    <message>
-        <source>Volume &amp; Safety</source>
-        <translation>Volume &amp; Safety</translation>
-    </message>
-    <message>
-        <source>Maximum app volume</source>
-        <translation>Maximum app volume</translation>
-    </message>
-    <message>
-        <source>Boost makes apps louder than their original level. Peaks are limited to −1 dBFS, so the signal never clips, but loud content at high system volume can still strain small speakers. Raise it with care.</source>
-        <translation>Boost makes apps louder than their original level. Peaks are limited to −1 dBFS, so the signal never clips, but loud content at high system volume can still strain small speakers. Raise it with care.</translation>
-    </message>
-    <message>
-        <source>Apps can never play louder than their original level.</source>
-        <translation>Apps can never play louder than their original level.</translation>
-    </message>
-    <message>
-        <source>Equalizer auto headroom</source>
-        <translation>Equalizer auto headroom</translation>
-    </message>
-    <message>
-        <source>Keeps the overall loudness unchanged when the equalizer is on, so EQ changes the tone, not the level. Peaks are limited to −1 dBFS.</source>
-        <translation>Keeps the overall loudness unchanged when the equalizer is on, so EQ changes the tone, not the level. Peaks are limited to −1 dBFS.</translation>
-    </message>
-    <message>
-        <source>Appearance</source>
-        <translation>Appearance</translation>
-    </message>
-    <message>
-        <source>Theme</source>
-        <translation>Theme</translation>
-    </message>
+</context>
+<context>
+    <name>SettingsEntries</name>
     <message>
         <source>System</source>
         <translation>System</translation>
     </message>
     <message>
-        <source>Light</source>
-        <translation>Light</translation>
+        <source>Choose from Applications…</source>
+        <translation>Choose from Applications…</translation>
     </message>
     <message>
-        <source>Dark</source>
-        <translation>Dark</translation>
+        <source>100% (no boost)</source>
+        <translation>100% (no boost)</translation>
     </message>
-    <message>
-        <source>Glass effect</source>
-        <translation>Glass effect</translation>
-    </message>
-    <message>
-        <source>Animations</source>
-        <translation>Animations</translation>
-    </message>
-    <message>
-        <source>Live level meters</source>
-        <translation>Live level meters</translation>
-    </message>
-    <message>
-        <source>Turning off meters and animations saves a little CPU while the panel is open. Sound processing is not affected.</source>
-        <translation>Turning off meters and animations saves a little CPU while the panel is open. Sound processing is not affected.</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>General</translation>
-    </message>
-    <message>
-        <source>Launch at login</source>
-        <translation>Launch at login</translation>
-    </message>
-    <message>
-        <source>Language</source>
-        <translation>Language</translation>
-    </message>
-    <message>
-        <source>Restart to Apply</source>
-        <translation>Restart to Apply</translation>
-    </message>
-    <message>
-        <source>Reset All App Volumes and EQ</source>
-        <translation>Reset All App Volumes and EQ</translation>
-    </message>
+</context>
+<context>
+    <name>SettingsView</name>
     <message>
         <source>About Fadeloom %1</source>
         <translation>About Fadeloom %1</translation>
@@ -655,6 +645,13 @@
     </message>
 </context>
 <context>
+    <name>StatusRow</name>
+    <message>
+        <source>Retry</source>
+        <translation>Retry</translation>
+    </message>
+</context>
+<context>
     <name>UpdateChecker</name>
     <message>
         <source>Fadeloom is up to date</source>
@@ -683,6 +680,33 @@
     <message>
         <source>Later</source>
         <translation>Later</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeSettings</name>
+    <message>
+        <source>Volume &amp; Safety</source>
+        <translation>Volume &amp; Safety</translation>
+    </message>
+    <message>
+        <source>Maximum app volume</source>
+        <translation>Maximum app volume</translation>
+    </message>
+    <message>
+        <source>Boost makes apps louder than their original level. Peaks are limited to −1 dBFS, so the signal never clips, but loud content at high system volume can still strain small speakers. Raise it with care.</source>
+        <translation>Boost makes apps louder than their original level. Peaks are limited to −1 dBFS, so the signal never clips, but loud content at high system volume can still strain small speakers. Raise it with care.</translation>
+    </message>
+    <message>
+        <source>Apps can never play louder than their original level.</source>
+        <translation>Apps can never play louder than their original level.</translation>
+    </message>
+    <message>
+        <source>Equalizer auto headroom</source>
+        <translation>Equalizer auto headroom</translation>
+    </message>
+    <message>
+        <source>Keeps the overall loudness unchanged when the equalizer is on, so EQ changes the tone, not the level. Peaks are limited to −1 dBFS.</source>
+        <translation>Keeps the overall loudness unchanged when the equalizer is on, so EQ changes the tone, not the level. Peaks are limited to −1 dBFS.</translation>
     </message>
 </context>
 <context>

@@ -29,11 +29,7 @@
     </message>
 </context>
 <context>
-    <name>AppRowView</name>
-    <message>
-        <source>Retry</source>
-        <translation>Ponów</translation>
-    </message>
+    <name>AppRowHead</name>
     <message>
         <source>Unmute %1</source>
         <translation>Wyłącz wyciszenie: %1</translation>
@@ -64,6 +60,45 @@
     </message>
 </context>
 <context>
+    <name>AppearanceSettings</name>
+    <message>
+        <source>Appearance</source>
+        <translation>Wygląd</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Motyw</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>Systemowy</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Jasny</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Ciemny</translation>
+    </message>
+    <message>
+        <source>Glass effect</source>
+        <translation>Efekt szkła</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animacje</translation>
+    </message>
+    <message>
+        <source>Live level meters</source>
+        <translation>Wskaźniki poziomu na żywo</translation>
+    </message>
+    <message>
+        <source>Turning off meters and animations saves a little CPU while the panel is open. Sound processing is not affected.</source>
+        <translation>Wyłączenie wskaźników i animacji nieco zmniejsza użycie procesora, gdy panel jest otwarty. Nie wpływa to na przetwarzanie dźwięku.</translation>
+    </message>
+</context>
+<context>
     <name>Banner</name>
     <message>
         <source>Dismiss</source>
@@ -78,10 +113,55 @@
     </message>
 </context>
 <context>
+    <name>CallSettings</name>
+    <message>
+        <source>Focus Mode</source>
+        <translation>Tryb skupienia</translation>
+    </message>
+    <message>
+        <source>Lower other apps during calls</source>
+        <translation>Ściszaj inne aplikacje podczas rozmów</translation>
+    </message>
+    <message>
+        <source>When a call app below uses the microphone, everything else fades down and comes back when the call ends.</source>
+        <translation>Gdy aplikacja do rozmów z listy poniżej używa mikrofonu, wszystkie pozostałe cichną, a po zakończeniu rozmowy wracają do poprzedniej głośności.</translation>
+    </message>
+    <message>
+        <source>Lower to</source>
+        <translation>Ścisz do poziomu</translation>
+    </message>
+    <message>
+        <source>Add App</source>
+        <translation>Dodaj aplikację</translation>
+    </message>
+    <message>
+        <source>Reset List</source>
+        <translation>Przywróć listę domyślną</translation>
+    </message>
+</context>
+<context>
     <name>DeviceRow</name>
     <message>
         <source>Output</source>
         <translation>Wyjście</translation>
+    </message>
+</context>
+<context>
+    <name>EQHeader</name>
+    <message>
+        <source>Equalizer</source>
+        <translation>Korektor</translation>
+    </message>
+</context>
+<context>
+    <name>EQPreamp</name>
+    <message>
+        <source>Preamp</source>
+        <translation>Wzmocnienie</translation>
+    </message>
+    <message>
+        <source>Double-click to reset</source>
+        <translation>Kliknij dwukrotnie, aby wyzerować</translation>
     </message>
 </context>
 <context>
@@ -248,33 +328,6 @@
     </message>
 </context>
 <context>
-    <name>EQSection</name>
-    <message>
-        <source>Equalizer</source>
-        <translation>Korektor</translation>
-    </message>
-    <message>
-        <source>Preamp</source>
-        <translation>Wzmocnienie</translation>
-    </message>
-    <message>
-        <source>Double-click to reset</source>
-        <translation>Kliknij dwukrotnie, aby wyzerować</translation>
-    </message>
-    <message>
-        <source>Preset name</source>
-        <translation>Nazwa ustawienia</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Zachowaj</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Anuluj</translation>
-    </message>
-</context>
-<context>
     <name>EmptyState</name>
     <message>
         <source>Nothing is playing</source>
@@ -298,6 +351,29 @@
             <numerusform>%n decybele</numerusform>
             <numerusform>%n decybeli</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>General</source>
+        <translation>Ogólne</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>Uruchamiaj przy logowaniu</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Język</translation>
+    </message>
+    <message>
+        <source>Restart to Apply</source>
+        <translation>Uruchom ponownie</translation>
+    </message>
+    <message>
+        <source>Reset All App Volumes and EQ</source>
+        <translation>Resetuj głośność i korektor wszystkich aplikacji</translation>
     </message>
 </context>
 <context>
@@ -355,6 +431,29 @@
     <message>
         <source>Output</source>
         <translation>Wyjście</translation>
+    </message>
+</context>
+<context>
+    <name>PanelHeader</name>
+    <message>
+        <source>Update %1</source>
+        <translation>Uaktualnij do %1</translation>
+    </message>
+    <message>
+        <source>Download Fadeloom %1</source>
+        <translation>Pobierz Fadeloom %1</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
+    </message>
+    <message>
+        <source>Quit Fadeloom</source>
+        <translation>Zakończ Fadeloom</translation>
     </message>
 </context>
 <context>
@@ -434,6 +533,21 @@
     </message>
 </context>
 <context>
+    <name>PresetNaming</name>
+    <message>
+        <source>Preset name</source>
+        <translation>Nazwa ustawienia</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zachowaj</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
     <name>PresetText</name>
     <message>
         <source>Custom</source>
@@ -460,69 +574,7 @@
     </message>
 </context>
 <context>
-    <name>RootView</name>
-    <message>
-        <source>Update %1</source>
-        <translation>Uaktualnij do %1</translation>
-    </message>
-    <message>
-        <source>Download Fadeloom %1</source>
-        <translation>Pobierz Fadeloom %1</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Wstecz</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Ustawienia</translation>
-    </message>
-    <message>
-        <source>Quit Fadeloom</source>
-        <translation>Zakończ Fadeloom</translation>
-    </message>
-</context>
-<context>
-    <name>SettingsModel</name>
-    <message>
-        <source>System</source>
-        <translation>Systemowy</translation>
-    </message>
-    <message>
-        <source>100% (no boost)</source>
-        <translation>100% (bez wzmocnienia)</translation>
-    </message>
-    <message>
-        <source>Choose from Applications…</source>
-        <translation>Wybierz z aplikacji…</translation>
-    </message>
-</context>
-<context>
-    <name>SettingsView</name>
-    <message>
-        <source>Focus Mode</source>
-        <translation>Tryb skupienia</translation>
-    </message>
-    <message>
-        <source>Lower other apps during calls</source>
-        <translation>Ściszaj inne aplikacje podczas rozmów</translation>
-    </message>
-    <message>
-        <source>When a call app below uses the microphone, everything else fades down and comes back when the call ends.</source>
-        <translation>Gdy aplikacja do rozmów z listy poniżej używa mikrofonu, wszystkie pozostałe cichną, a po zakończeniu rozmowy wracają do poprzedniej głośności.</translation>
-    </message>
-    <message>
-        <source>Lower to</source>
-        <translation>Ścisz do poziomu</translation>
-    </message>
-    <message>
-        <source>Add App</source>
-        <translation>Dodaj aplikację</translation>
-    </message>
-    <message>
-        <source>Reset List</source>
-        <translation>Przywróć listę domyślną</translation>
-    </message>
+    <name>RecordingSettings</name>
     <message>
         <source>Recording</source>
         <translation>Nagrywanie</translation>
@@ -535,86 +587,24 @@
         <source>24-bit WAV at the output’s sample rate.</source>
         <translation>24-bitowy plik WAV z częstotliwością próbkowania wyjścia.</translation>
     </message>
-    <message>
-        <source>Volume &amp; Safety</source>
-        <translation>Głośność i bezpieczeństwo</translation>
-    </message>
-    <message>
-        <source>Maximum app volume</source>
-        <translation>Maksymalna głośność aplikacji</translation>
-    </message>
-    <message>
-        <source>Boost makes apps louder than their original level. Peaks are limited to −1 dBFS, so the signal never clips, but loud content at high system volume can still strain small speakers. Raise it with care.</source>
-        <translation>Wzmocnienie sprawia, że aplikacje grają głośniej niż ich oryginalny poziom. Szczyty są ograniczane do −1 dBFS, więc sygnał nigdy nie jest przesterowany, ale głośny dźwięk przy dużej głośności systemu może obciążać małe głośniki. Zwiększaj ostrożnie.</translation>
-    </message>
-    <message>
-        <source>Apps can never play louder than their original level.</source>
-        <translation>Aplikacje nigdy nie grają głośniej niż ich oryginalny poziom.</translation>
-    </message>
-    <message>
-        <source>Equalizer auto headroom</source>
-        <translation>Automatyczny zapas korektora</translation>
-    </message>
-    <message>
-        <source>Keeps the overall loudness unchanged when the equalizer is on, so EQ changes the tone, not the level. Peaks are limited to −1 dBFS.</source>
-        <translation>Utrzymuje ogólną głośność bez zmian, gdy korektor jest włączony, dzięki czemu korektor zmienia barwę, a nie poziom. Szczyty są ograniczane do −1 dBFS.</translation>
-    </message>
-    <message>
-        <source>Appearance</source>
-        <translation>Wygląd</translation>
-    </message>
-    <message>
-        <source>Theme</source>
-        <translation>Motyw</translation>
-    </message>
+</context>
+<context>
+    <name>SettingsEntries</name>
     <message>
         <source>System</source>
         <translation>Systemowy</translation>
     </message>
     <message>
-        <source>Light</source>
-        <translation>Jasny</translation>
+        <source>Choose from Applications…</source>
+        <translation>Wybierz z aplikacji…</translation>
     </message>
     <message>
-        <source>Dark</source>
-        <translation>Ciemny</translation>
+        <source>100% (no boost)</source>
+        <translation>100% (bez wzmocnienia)</translation>
     </message>
-    <message>
-        <source>Glass effect</source>
-        <translation>Efekt szkła</translation>
-    </message>
-    <message>
-        <source>Animations</source>
-        <translation>Animacje</translation>
-    </message>
-    <message>
-        <source>Live level meters</source>
-        <translation>Wskaźniki poziomu na żywo</translation>
-    </message>
-    <message>
-        <source>Turning off meters and animations saves a little CPU while the panel is open. Sound processing is not affected.</source>
-        <translation>Wyłączenie wskaźników i animacji nieco zmniejsza użycie procesora, gdy panel jest otwarty. Nie wpływa to na przetwarzanie dźwięku.</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Ogólne</translation>
-    </message>
-    <message>
-        <source>Launch at login</source>
-        <translation>Uruchamiaj przy logowaniu</translation>
-    </message>
-    <message>
-        <source>Language</source>
-        <translation>Język</translation>
-    </message>
-    <message>
-        <source>Restart to Apply</source>
-        <translation>Uruchom ponownie</translation>
-    </message>
-    <message>
-        <source>Reset All App Volumes and EQ</source>
-        <translation>Resetuj głośność i korektor wszystkich aplikacji</translation>
-    </message>
+</context>
+<context>
+    <name>SettingsView</name>
     <message>
         <source>About Fadeloom %1</source>
         <translation>Fadeloom %1 — informacje</translation>
@@ -656,6 +646,13 @@
     </message>
 </context>
 <context>
+    <name>StatusRow</name>
+    <message>
+        <source>Retry</source>
+        <translation>Ponów</translation>
+    </message>
+</context>
+<context>
     <name>UpdateChecker</name>
     <message>
         <source>Fadeloom is up to date</source>
@@ -684,6 +681,33 @@
     <message>
         <source>Later</source>
         <translation>Później</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeSettings</name>
+    <message>
+        <source>Volume &amp; Safety</source>
+        <translation>Głośność i bezpieczeństwo</translation>
+    </message>
+    <message>
+        <source>Maximum app volume</source>
+        <translation>Maksymalna głośność aplikacji</translation>
+    </message>
+    <message>
+        <source>Boost makes apps louder than their original level. Peaks are limited to −1 dBFS, so the signal never clips, but loud content at high system volume can still strain small speakers. Raise it with care.</source>
+        <translation>Wzmocnienie sprawia, że aplikacje grają głośniej niż ich oryginalny poziom. Szczyty są ograniczane do −1 dBFS, więc sygnał nigdy nie jest przesterowany, ale głośny dźwięk przy dużej głośności systemu może obciążać małe głośniki. Zwiększaj ostrożnie.</translation>
+    </message>
+    <message>
+        <source>Apps can never play louder than their original level.</source>
+        <translation>Aplikacje nigdy nie grają głośniej niż ich oryginalny poziom.</translation>
+    </message>
+    <message>
+        <source>Equalizer auto headroom</source>
+        <translation>Automatyczny zapas korektora</translation>
+    </message>
+    <message>
+        <source>Keeps the overall loudness unchanged when the equalizer is on, so EQ changes the tone, not the level. Peaks are limited to −1 dBFS.</source>
+        <translation>Utrzymuje ogólną głośność bez zmian, gdy korektor jest włączony, dzięki czemu korektor zmienia barwę, a nie poziom. Szczyty są ograniczane do −1 dBFS.</translation>
     </message>
 </context>
 <context>

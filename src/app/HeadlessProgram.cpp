@@ -2,17 +2,16 @@
 #include "app/HeadlessProgram.h"
 
 #include "app/Console.h"
+#include "app/EarlyEnd.h"
 #include "app/HeadlessRun.h"
 #include "app/Home.h"
 #include "app/PrintedLog.h"
-#include "app/ScratchFolder.h"
 #include "app/SimulatedHome.h"
 #include "app/TerminalSize.h"
 #include "app/Version.h"
 #include "base/TextWriter.h"
 #include "platform/qt/LineReader.h"
 #include "platform/qt/QtMainLoop.h"
-#include "platform/qt/QtText.h"
 #include "platform/qt/QuitSignals.h"
 
 #include <QCoreApplication>
@@ -57,28 +56,11 @@ void runOn(
     run.shutdown();
 }
 
-int runSimulated(QtMainLoop& mainLoop, Console& console)
-{
-    const auto folder = ScratchFolder::create();
-    if (!folder) {
-        std::cerr << "fadeloom: " << folder.error() << '\n';
-        return 1;
-    }
-    QtText text;
-    SimulatedHome home(folder->path(), mainLoop, text);
-    PrintedLog log(home.world().systemLog(), console, mainLoop);
-    home.start();
-    runOn(home.platform(log), mainLoop, console, [&] { mainLoop.quit(); });
-    return 0;
-}
-
 int runOnThisMachine(QtMainLoop& mainLoop, Console& console, HomeGuardian& guardian)
 {
     HomeInstance instance;
-    if (const auto end = instance.claim(false)) {
-        std::cerr << "fadeloom: " << end->message << '\n';
-        return end->exitStatus;
-    }
+    if (const auto end = instance.claim(false))
+        return endEarly(*end);
     const auto quit = [&] {
         instance.beginEnding();
         mainLoop.quit();
@@ -104,7 +86,13 @@ int runHeadless(int argumentCount, char** arguments, bool isSimulated)
         return "dropped " + std::to_string(dropped) + " line(s) that nobody read\n";
     });
     Console console([&output](std::string text) { output.write(std::move(text)); });
-    return guardian ? runOnThisMachine(mainLoop, console, *guardian) : runSimulated(mainLoop, console);
+    if (guardian)
+        return runOnThisMachine(mainLoop, console, *guardian);
+    return runSimulated(mainLoop, [&](SimulatedHome& home) {
+        PrintedLog log(home.world().systemLog(), console, mainLoop);
+        runOn(home.world().platform({.systemLog = &log}), mainLoop, console, [&] { mainLoop.quit(); });
+        return 0;
+    });
 }
 
 }  // namespace fadeloom

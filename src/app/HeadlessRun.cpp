@@ -5,7 +5,6 @@
 #include "control/AppSettings.h"
 #include "control/OutputChoice.h"
 #include "platform/MainLoop.h"
-#include "settings/SettingsFile.h"
 
 #include <algorithm>
 #include <chrono>
@@ -21,8 +20,7 @@ constexpr std::chrono::seconds tableInterval{1};
 HeadlessRun::HeadlessRun(const Platform& platform, Console& console, Options options)
     : console_(console)
     , options_(std::move(options))
-    , engineLog_(
-          platform.systemLog, platform.logQueue, SettingsFile::defaultURL(platform.folders).parent_path())
+    , engineLog_(platform)
     , controller_(platform, engineLog_, options_.version)
     , eventPrinter_(controller_, console)
     , commands_(controller_, platform.text)

@@ -2,13 +2,18 @@
 #include "app/ScreenshotProgram.h"
 
 #include "app/CommandLine.h"
+#include "app/EarlyEnd.h"
 #include "app/Home.h"
 #include "app/InterfaceLanguage.h"
-#include "app/PanelServices.h"
+#include "app/ProductPages.h"
 #include "app/ScratchFolder.h"
+#include "app/Version.h"
 #include "log/EngineLog.h"
 #include "platform/qt/QtText.h"
 #include "platform/simulated/SimulatedPlatform.h"
+#include "shell/AppLanguage.h"
+#include "ui/DemoData.h"
+#include "ui/PanelParts.h"
 #include "ui/ScreenshotRenderer.h"
 
 #include <QApplication>
@@ -22,29 +27,30 @@ int runScreenshots(int argumentCount, char** arguments, const CommandLine& comma
     ScreenshotRenderer::prepareEnvironment();
     const QApplication application(argumentCount, arguments);
     const auto folder = ScratchFolder::create();
-    if (!folder) {
-        std::cerr << "fadeloom: " << folder.error() << '\n';
-        return 1;
-    }
+    if (!folder)
+        return endEarly({folder.error(), 1});
     // A world of its own: nothing of this machine is to be seen in the pictures.
     QtText text;
     SimulatedPlatform world(folder->path(), &text);
-    const auto own = world.platform();
     HomeFolders folders;  // The one for recordings is shown, as "~/Music/…".
-    const Platform platform = {own.audio, own.audioFiles, own.workspace, own.capturePermission, own.loginItem,
-        own.mainLoop, own.utilityQueue, own.logQueue, folders, own.systemLog, own.text, own.clock,
-        own.userDefaults, own.http};
+    const auto platform = world.platform({.folders = &folders});
     EngineLog engineLog(platform.systemLog, platform.logQueue, folder->path());
-    PanelServices services({.workspace = own.workspace,
+    const PanelParts parts = {
+        .mainLoop = platform.mainLoop,
+        .clock = platform.clock,
+        .workspace = platform.workspace,
         .application = world.application(),
         .dialogs = world.dialogs(),
-        .userDefaults = own.userDefaults,
-        .updates = nullptr,
+        .userDefaults = platform.userDefaults,
+        .version = std::string(programVersion()),
+        .webPage = webPage(),
         .translate = InterfaceLanguage::texts(),
-        .quit = [] { }});
-    const InterfaceLanguage language({});
-    ScreenshotRenderer::run(platform, engineLog, services, commandLine.outputFolder,
-        commandLine.languageSuffix, commandLine.isLight ? Theme::light : Theme::dark, std::cout);
+    };
+    const auto userDefaults = homeUserDefaults();
+    const InterfaceLanguage language(AppLanguage::preferred(userDefaults));
+    const auto home = homeWording == Wording::ofLinux ? DemoHome::ofLinux : DemoHome::ofMacOS;
+    ScreenshotRenderer::run(platform, engineLog, parts, commandLine.outputFolder, commandLine.languageSuffix,
+        commandLine.isLight ? Theme::light : Theme::dark, home, std::cout);
     return 0;
 }
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/SimulatedHome.h"
 
+#include "app/EarlyEnd.h"
+#include "app/ScratchFolder.h"
 #include "platform/MainLoop.h"
+#include "platform/qt/QtText.h"
 
 #include <chrono>
 
@@ -33,14 +36,6 @@ SimulatedHome::SimulatedHome(const std::filesystem::path& folder, MainLoop& real
     world_.startPlaying(player_, tone(440));
 }
 
-Platform SimulatedHome::platform(SystemLog& systemLog)
-{
-    const auto own = world_.platform();
-    return {own.audio, own.audioFiles, own.workspace, own.capturePermission, own.loginItem, own.mainLoop,
-        own.utilityQueue, own.logQueue, own.folders, systemLog, own.text, own.clock, own.userDefaults,
-        own.http, own.application, own.dialogs};
-}
-
 void SimulatedHome::start()
 {
     script_ = world_.mainLoop().every(1s, [this] { act(++second_ % scriptLength); });
@@ -66,6 +61,17 @@ void SimulatedHome::act(int second)
     default:
         return;
     }
+}
+
+int runSimulated(MainLoop& realLoop, const std::function<int(SimulatedHome&)>& program)
+{
+    const auto folder = ScratchFolder::create();
+    if (!folder)
+        return endEarly({folder.error(), 1});
+    QtText text;
+    SimulatedHome home(folder->path(), realLoop, text);
+    home.start();
+    return program(home);
 }
 
 }  // namespace fadeloom

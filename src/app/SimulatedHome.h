@@ -7,6 +7,7 @@
 #include "platform/simulated/SimulatedPlatform.h"
 
 #include <filesystem>
+#include <functional>
 
 namespace fadeloom {
 
@@ -19,8 +20,6 @@ public:
     SimulatedHome(const SimulatedHome&) = delete;
     SimulatedHome& operator=(const SimulatedHome&) = delete;
 
-    /// Its parts, with `systemLog` in place of its own.
-    [[nodiscard]] Platform platform(SystemLog& systemLog);
     [[nodiscard]] SimulatedPlatform& world() { return world_; }
     /// Lets the time begin to pass.
     void start();
@@ -37,5 +36,9 @@ private:
     Subscription script_;
     Subscription time_;
 };
+
+/// Runs `program` in such a world, whose time has begun to pass, with its files in a folder that is gone afterwards.
+/// Returns the exit status of `program`, or an early end's. `realLoop` must outlive the call. Thread: main.
+[[nodiscard]] int runSimulated(MainLoop& realLoop, const std::function<int(SimulatedHome&)>& program);
 
 }  // namespace fadeloom

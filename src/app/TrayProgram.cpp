@@ -2,29 +2,28 @@
 #include "app/TrayProgram.h"
 
 #include "app/AppDelegate.h"
+#include "app/EarlyEnd.h"
 #include "app/Home.h"
 #include "app/InterfaceLanguage.h"
-#include "app/PanelServices.h"
 #include "app/ProductPages.h"
-#include "app/ScratchFolder.h"
 #include "app/SimulatedHome.h"
 #include "app/Version.h"
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QuitSignals.h"
-#include "settings/SettingsFile.h"
+#include "shell/AboutPanel.h"
 #include "shell/AppLanguage.h"
 #include "shell/UpdateChecker.h"
 #include "ui/PanelEngine.h"
 #include "ui/PanelModel.h"
+#include "ui/PanelParts.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QQuickItem>
 
 #include <functional>
-#include <iostream>
 #include <optional>
 #include <string>
 #include <utility>
@@ -68,6 +67,7 @@ public:
 
 private:
     [[nodiscard]] Platform withWindows(Platform platform);
+    [[nodiscard]] PanelParts panelParts();
     [[nodiscard]] AppDelegate::Actions actions();
     void quit();
 
@@ -80,7 +80,6 @@ private:
     EngineLog engineLog_;
     AudioController controller_;
     std::optional<UpdateChecker> updates_;
-    PanelServices services_;
     PanelModel panel_;
     std::optional<PanelEngine> engine_;  // Once the panel has been opened.
     HomePanel window_{desktop_};
@@ -92,18 +91,10 @@ TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Host host)
     , host_(host)
     , platform_(withWindows(platform))
     , language_(AppLanguage::preferred(platform_.userDefaults))
-    , engineLog_(
-          platform_.systemLog, platform_.logQueue, SettingsFile::defaultURL(platform_.folders).parent_path())
+    , engineLog_(platform_)
     , controller_(platform_, engineLog_, std::string(programVersion()))
     , updates_(makeUpdateChecker(platform_, host_.workspace))
-    , services_({.workspace = host_.workspace,
-          .application = desktop_.application(),
-          .dialogs = desktop_.dialogs(),
-          .userDefaults = platform_.userDefaults,
-          .updates = updates_ ? &*updates_ : nullptr,
-          .translate = InterfaceLanguage::texts(),
-          .quit = [this] { quit(); }})
-    , panel_(controller_, platform_, services_)
+    , panel_(controller_, panelParts())
 {
     panel_.setSystemIsDark(desktop_.isDark());
     desktop_.whenLookChanges([this](bool isDark) { panel_.setSystemIsDark(isDark); });
@@ -138,11 +129,29 @@ Platform TrayRun::withWindows(Platform platform)
     return platform;
 }
 
+PanelParts TrayRun::panelParts()
+{
+    return {
+        .mainLoop = platform_.mainLoop,
+        .clock = platform_.clock,
+        .workspace = host_.workspace,
+        .application = desktop_.application(),
+        .dialogs = desktop_.dialogs(),
+        .userDefaults = platform_.userDefaults,
+        .updates = updates_ ? &*updates_ : nullptr,
+        .version = std::string(programVersion()),
+        .webPage = webPage(),
+        .translate = InterfaceLanguage::texts(),
+        .quit = [this] { quit(); },
+    };
+}
+
 AppDelegate::Actions TrayRun::actions()
 {
     AppDelegate::Actions actions{
         .showPage = [this](bool isSettings) { panel_.setShowsSettings(isSettings); },
-        .showAbout = [this] { services_.openAboutPanel(); },
+        .showAbout =
+            [this] { AboutPanel::show(desktop_.application(), InterfaceLanguage::texts(), webPage()); },
         .quit = [this] { quit(); },
         .translate = InterfaceLanguage::texts(),
     };
@@ -158,27 +167,11 @@ void TrayRun::quit()
     mainLoop_.quit();
 }
 
-int runSimulated(QtMainLoop& mainLoop)
-{
-    const auto folder = ScratchFolder::create();
-    if (!folder) {
-        std::cerr << "fadeloom: " << folder.error() << '\n';
-        return 1;
-    }
-    QtText text;
-    SimulatedHome home(folder->path(), mainLoop, text);
-    HomeWorkspace real;
-    home.start();
-    return TrayRun(home.platform(home.world().systemLog()), mainLoop, {real.workspace(), nullptr}).run();
-}
-
 int runOnThisMachine(QtMainLoop& mainLoop, HomeGuardian& guardian)
 {
     HomeInstance instance;
-    if (const auto end = instance.claim(true)) {
-        std::cerr << "fadeloom: " << end->message << '\n';
-        return end->exitStatus;
-    }
+    if (const auto end = instance.claim(true))
+        return endEarly(*end);
     HomeLog systemLog;
     HomePlatform home(mainLoop, systemLog, guardian);
     const auto platform = home.platform();
@@ -189,10 +182,8 @@ int runOnThisMachine(QtMainLoop& mainLoop, HomeGuardian& guardian)
 
 int runTray(int argumentCount, char** arguments, bool isSimulated)
 {
-    if (!HomeDesktop::prepare()) {
-        std::cerr << "fadeloom: there is no display to show a panel on; --headless runs without one\n";
-        return 1;
-    }
+    if (!HomeDesktop::prepare())
+        return endEarly({"there is no display to show a panel on; --headless runs without one", 1});
     std::optional<HomeGuardian> guardian;
     if (!isSimulated)
         guardian.emplace();  // Before the first thread.
@@ -203,7 +194,12 @@ int runTray(int argumentCount, char** arguments, bool isSimulated)
     QApplication::setDesktopFileName(QStringLiteral("com.fadeloom.app"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app-icon.svg")));
     QtMainLoop mainLoop;
-    return guardian ? runOnThisMachine(mainLoop, *guardian) : runSimulated(mainLoop);
+    if (guardian)
+        return runOnThisMachine(mainLoop, *guardian);
+    HomeWorkspace real;
+    return runSimulated(mainLoop, [&](SimulatedHome& home) {
+        return TrayRun(home.world().platform(), mainLoop, {real.workspace(), nullptr}).run();
+    });
 }
 
 }  // namespace fadeloom

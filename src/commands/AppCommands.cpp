@@ -49,12 +49,10 @@ Reply CommandInterpreter::changeApp(std::string_view command, Arguments argument
     const auto id = findApp(controller_.state(), text_, arguments[0]);
     if (!id)
         return error(id.error());
-    auto settings = *controller_.state().settings;
-    auto app = appSettings(settings, *id);
-    if (const Problem problem = change(app))
+    auto changed = appSettings(*controller_.state().settings, *id);
+    if (const Problem problem = change(changed))
         return error(*problem);
-    storeAppSettings(settings, *id, app);
-    controller_.setSettings(std::move(settings));
+    controller_.editApp(*id, [&](AppAudioSettings& app) { app = changed; });
     return done(std::string(command) + " " + asWord(*id), arguments.subspan(1));
 }
 

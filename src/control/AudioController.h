@@ -57,6 +57,10 @@ public:
 
     /// Takes a new record. What differs from the last one is heard at once and saved half a second later.
     void setSettings(SettingsData settings);
+    /// Changes a copy of the settings with `change`, and takes that.
+    void editSettings(const std::function<void(SettingsData&)>& change);
+    /// The same with the settings of one app; one that is left with the defaults has no entry afterwards.
+    void editApp(const std::string& bundleID, const std::function<void(AppAudioSettings&)>& change);
     void dismissErrorMessage() { state_.errorMessage.assign(std::nullopt); }
 
     /// Compares the world with what is wanted, now.

@@ -4,15 +4,11 @@
 #include "control/UserPresets.h"
 #include "platform/Text.h"
 
-#include <utility>
-
 namespace fadeloom {
 
 void AudioController::applyPreset(const EQPreset& preset, const std::string& bundleID)
 {
-    auto settings = *state_.settings;
-    fadeloom::applyPreset(settings, preset, bundleID);
-    setSettings(std::move(settings));
+    editSettings([&](SettingsData& settings) { fadeloom::applyPreset(settings, preset, bundleID); });
 }
 
 void AudioController::saveUserPreset(const std::string& name, const std::string& bundleID)
@@ -24,16 +20,14 @@ void AudioController::saveUserPreset(const std::string& name, const std::string&
         state_.errorMessage.assign("“" + trimmed + "” is a built-in preset name. Choose another name.");
         return;
     }
-    auto settings = *state_.settings;
-    fadeloom::saveUserPreset(settings, trimmed, bundleID, platform_.text);
-    setSettings(std::move(settings));
+    editSettings([&](SettingsData& settings) {
+        fadeloom::saveUserPreset(settings, trimmed, bundleID, platform_.text);
+    });
 }
 
 void AudioController::deleteUserPreset(const EQPreset& preset)
 {
-    auto settings = *state_.settings;
-    fadeloom::deleteUserPreset(settings, preset);
-    setSettings(std::move(settings));
+    editSettings([&](SettingsData& settings) { fadeloom::deleteUserPreset(settings, preset); });
 }
 
 }  // namespace fadeloom

@@ -139,11 +139,8 @@ void AudioController::chooseRecordingsFolder()
     platform_.dialogs->chooseFolder(
         recordingsFolder(), "Choose", life_.whileAlive([this](const auto& folder) {
             platform_.mainLoop.requireCurrent();
-            if (!folder)
-                return;
-            auto settings = *state_.settings;
-            settings.recordingsFolder = folder->string();
-            setSettings(std::move(settings));
+            if (folder)
+                editSettings([&](SettingsData& settings) { settings.recordingsFolder = folder->string(); });
         }));
 }
 

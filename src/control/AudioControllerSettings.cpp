@@ -18,6 +18,23 @@ void AudioController::setSettings(SettingsData settings)
         settingsChanged(old);
 }
 
+void AudioController::editSettings(const std::function<void(SettingsData&)>& change)
+{
+    auto settings = *state_.settings;
+    change(settings);
+    setSettings(std::move(settings));
+}
+
+void AudioController::editApp(
+    const std::string& bundleID, const std::function<void(AppAudioSettings&)>& change)
+{
+    editSettings([&](SettingsData& settings) {
+        auto app = appSettings(settings, bundleID);
+        change(app);
+        storeAppSettings(settings, bundleID, app);
+    });
+}
+
 void AudioController::settingsChanged(const SettingsData& old)
 {
     std::vector<std::string> ids;  // Of their own: whoever observes what follows may change the blocks.

@@ -3,7 +3,9 @@
 
 #include "base/FileDescriptor.h"
 #include "platform/BackgroundQueue.h"
+#include "platform/Platform.h"
 #include "platform/SystemLog.h"
+#include "settings/SettingsFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -73,6 +75,12 @@ EngineLog::EngineLog(SystemLog& systemLog, BackgroundQueue& queue, fs::path fold
     , queue_(queue)
     , folder_(std::move(folder))
     , now_(std::move(now))
+{
+}
+
+EngineLog::EngineLog(const Platform& platform)
+    : EngineLog(
+          platform.systemLog, platform.logQueue, SettingsFile::defaultURL(platform.folders).parent_path())
 {
 }
 

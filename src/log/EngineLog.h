@@ -14,6 +14,7 @@ namespace fadeloom {
 
 class BackgroundQueue;
 class SystemLog;
+struct Platform;
 
 /// Never fails towards its caller and never waits for the disk. Thread: any but the IO thread.
 class EngineLog {
@@ -24,6 +25,8 @@ public:
     /// settings file; made when it is missing. `systemLog` and `queue` outlive this.
     EngineLog(SystemLog& systemLog, BackgroundQueue& queue, std::filesystem::path folder,
         Clock now = std::chrono::system_clock::now);
+    /// The program's own: in the folder of the settings, on the platform's queue for it.
+    explicit EngineLog(const Platform& platform);
     EngineLog(const EngineLog&) = delete;
     EngineLog& operator=(const EngineLog&) = delete;
 

@@ -19,8 +19,8 @@ const std::string system = "system";
 std::string current(const UserDefaults& defaults)
 {
     const auto stored = defaults.stringList(key);
-    const bool isChoice =
-        stored && !stored->empty() && std::ranges::find(choices, stored->front()) != choices.end();
+    const bool isChoice = stored && !stored->empty()
+        && std::ranges::find(choices, stored->front(), &Choice::code) != choices.end();
     return isChoice ? stored->front() : system;
 }
 

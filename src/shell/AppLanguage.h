@@ -19,8 +19,12 @@ class Workspace;
 /// Thread: main.
 namespace AppLanguage {
 
-/// The codes that the user chooses from; "system" follows the system's preferred languages.
-inline constexpr std::array<std::string_view, 3> choices = {"system", "en", "pl"};
+struct Choice {
+    std::string_view code;
+    std::string_view ownName;  // As its speakers call it.
+};
+/// What the user chooses from. The first follows the system's preferred languages, and has no name of its own.
+inline constexpr std::array choices = {Choice{"system", ""}, Choice{"en", "English"}, Choice{"pl", "Polski"}};
 
 /// The choice for the next start. What is stored by other means, and is none of the choices, reads as "system".
 [[nodiscard]] std::string current(const UserDefaults& defaults);

@@ -4,16 +4,46 @@
 #include "control/AudioController.h"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace fadeloom {
 
-AppRowList::AppRowList(AudioController& controller, const WallClock& clock, QObject* parent)
+AppRowList::AppRowList(
+    AudioController& controller, const WallClock& clock, MainLoop& mainLoop, QObject* parent)
     : QAbstractListModel(parent)
     , controller_(controller)
     , clock_(clock)
+    , mainLoop_(mainLoop)
+    , common_(readCommon())
 {
     sync();
+    observe();
+    updateElapsedTimer();
+}
+
+void AppRowList::observe()
+{
+    const auto& state = controller_.state();
+    const auto whenAssigned = [this](const auto& published, auto callback) {
+        observed_.push_back(published.whenAssigned(callback));
+    };
+    const auto refresh = [this] { refreshRows(); };
+    whenAssigned(state.apps, [this] { sync(); });
+    whenAssigned(state.settings, [this] { takeSettings(); });
+    whenAssigned(state.devices, refresh);
+    whenAssigned(state.defaultDeviceUID, refresh);
+    whenAssigned(state.callApp, refresh);
+    whenAssigned(state.tapErrors, refresh);
+    whenAssigned(state.missingOutput, refresh);
+    whenAssigned(state.recordings, [this] {
+        refreshRows();
+        updateElapsedTimer();
+    });
+    whenAssigned(controller_.levels().levels(), [this] {
+        for (const auto& row : rows_)
+            row->refreshLevel();
+    });
 }
 
 int AppRowList::rowCount(const QModelIndex& parent) const
@@ -41,10 +71,39 @@ void AppRowList::sync()
         placeAt(position, apps.at(position));
 }
 
-void AppRowList::forEach(const std::function<void(AppRowModel&)>& action)
+void AppRowList::takeSettings()
+{
+    if (auto now = readCommon(); now != common_) {
+        common_ = std::move(now);
+        refreshRows();
+        return;
+    }
+    for (const auto& row : rows_)
+        row->takeSettings();
+}
+
+void AppRowList::refreshRows()
 {
     for (const auto& row : rows_)
-        action(*row);
+        row->refresh();
+}
+
+void AppRowList::updateElapsedTimer()
+{
+    if (controller_.state().recordings->empty()) {
+        elapsedTimer_.reset();
+    } else if (!elapsedTimer_) {
+        elapsedTimer_ = mainLoop_.every(std::chrono::seconds(1), [this] {
+            for (const auto& row : rows_)
+                row->refreshElapsed();
+        });
+    }
+}
+
+AppRowList::Common AppRowList::readCommon() const
+{
+    const auto& settings = *controller_.state().settings;
+    return {.volumeLimit = settings.volumeLimit, .focus = settings.focus};
 }
 
 void AppRowList::removeUnlisted(const std::vector<AppEntry>& apps)

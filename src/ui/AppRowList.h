@@ -5,15 +5,18 @@
 // name is being typed) stays.
 #pragma once
 
+#include "base/Subscription.h"
 #include "control/AppEntry.h"
+#include "platform/MainLoop.h"
 #include "platform/WallClock.h"
+#include "settings/FocusSettings.h"
 #include "ui/AppRowModel.h"
 
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
-#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace fadeloom {
@@ -27,16 +30,13 @@ class AppRowList : public QAbstractListModel {
     QML_UNCREATABLE("made by the panel")
 
 public:
-    AppRowList(AudioController& controller, const WallClock& clock, QObject* parent);
+    /// All must outlive this.
+    AppRowList(AudioController& controller, const WallClock& clock, MainLoop& mainLoop, QObject* parent);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     /// The row itself, under the role "row".
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
-    /// Makes the list the controller's again, and has every row look again.
-    void sync();
-    void forEach(const std::function<void(AppRowModel&)>& action);
 
 private:
     struct DeleteLater {
@@ -45,12 +45,31 @@ private:
     // A row may go while one of its own buttons is being pressed.
     using Row = std::unique_ptr<AppRowModel, DeleteLater>;
 
+    /// What of the settings shows in every row.
+    struct Common {
+        float volumeLimit = 1;
+        FocusSettings focus{};
+
+        friend bool operator==(const Common&, const Common&) = default;
+    };
+
+    void observe();
+    void sync();
+    void takeSettings();
+    void refreshRows();
+    void updateElapsedTimer();
+    [[nodiscard]] Common readCommon() const;
     void removeUnlisted(const std::vector<AppEntry>& apps);
     void placeAt(std::size_t position, const AppEntry& app);
 
     AudioController& controller_;
     const WallClock& clock_;
+    MainLoop& mainLoop_;
     std::vector<Row> rows_;
+    Common common_;
+
+    std::vector<Subscription> observed_;
+    std::optional<Subscription> elapsedTimer_;  // While anything is recorded.
 };
 
 }  // namespace fadeloom

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/AppRowModel.h"
 
+#include "control/AppSettings.h"
 #include "control/AudioController.h"
 #include "ui/AppIconProvider.h"
 #include "ui/ElapsedText.h"
 #include "ui/OutputEntries.h"
-#include "ui/SettingsEditing.h"
-#include "ui/VolumeText.h"
 
 #include <utility>
 
@@ -29,22 +28,22 @@ QString AppRowModel::iconSource() const
     return AppIconProvider::source(shown_.app);
 }
 
-QString AppRowModel::statusTone() const
+AppRowModel::Tone AppRowModel::statusTone() const
 {
     switch (shown_.status.kind) {
     case StatusLine::Kind::failed:
     case StatusLine::Kind::disconnected:
-        return QStringLiteral("orange");
+        return Tone::Warning;
     case StatusLine::Kind::recording:
-        return QStringLiteral("red");
+        return Tone::Recording;
     case StatusLine::Kind::onCall:
-        return QStringLiteral("green");
+        return Tone::Call;
     case StatusLine::Kind::lowered:
     case StatusLine::Kind::playing:
     case StatusLine::Kind::idle:
         break;
     }
-    return QStringLiteral("secondary");
+    return Tone::Neutral;
 }
 
 QString AppRowModel::percent() const
@@ -57,20 +56,25 @@ QString AppRowModel::spokenVolume() const
     return spokenPercent(volume());
 }
 
+QVariantList AppRowModel::outputEntries() const
+{
+    return variantsOf(appOutputEntries(controller_.state(), bundleID_));
+}
+
 void AppRowModel::toggleMuted()
 {
-    editAppSettings(controller_, bundleID_, [](auto& app) { app.muted = !app.muted; });
+    controller_.editApp(bundleID_, [](auto& app) { app.muted = !app.muted; });
 }
 
 void AppRowModel::setVolume(qreal volume)
 {
     const float limit = controller_.state().settings->volumeLimit;
-    editAppSettings(controller_, bundleID_, [&](auto& app) { app.volume = snappedVolume(volume, limit); });
+    controller_.editApp(bundleID_, [&](auto& app) { app.volume = snappedVolume(volume, limit); });
 }
 
 void AppRowModel::resetVolume()
 {
-    editAppSettings(controller_, bundleID_, [](auto& app) { app.volume = 1; });
+    controller_.editApp(bundleID_, [](auto& app) { app.volume = 1; });
 }
 
 void AppRowModel::retry()
@@ -80,7 +84,7 @@ void AppRowModel::retry()
 
 void AppRowModel::chooseOutput(const QString& key)
 {
-    editAppSettings(controller_, bundleID_,
+    controller_.editApp(bundleID_,
         [&](auto& app) { app.outputUID = key.isEmpty() ? std::nullopt : std::optional(key.toStdString()); });
 }
 
@@ -96,15 +100,24 @@ void AppRowModel::stopRecording()
 
 void AppRowModel::refresh(AppEntry app)
 {
-    const bool wasMuted = shown_.isMuted;
+    const bool wasMuted = isMuted();
     if (auto now = readState(std::move(app)); now != shown_) {
         shown_ = std::move(now);
         Q_EMIT changed();
     }
-    if (shown_.isMuted != wasMuted)
+    Q_EMIT outputsChanged();
+    if (isMuted() != wasMuted)
         Q_EMIT levelChanged();
     refreshElapsed();
     eq_.refresh();
+}
+
+void AppRowModel::takeSettings()
+{
+    if (appSettings(*controller_.state().settings, bundleID_) != shown_.settings)
+        refresh();
+    else
+        Q_EMIT eq_.presetsChanged();
 }
 
 void AppRowModel::refreshLevel()
@@ -128,15 +141,12 @@ void AppRowModel::refreshElapsed()
 AppRowModel::Shown AppRowModel::readState(AppEntry app) const
 {
     const auto& state = controller_.state();
-    const auto settings = appSettings(*state.settings, bundleID_);
     auto status = statusLine(state, app);
     return {.app = std::move(app),
         .status = std::move(status),
-        .isMuted = settings.muted,
-        .volume = settings.volume,
+        .settings = appSettings(*state.settings, bundleID_),
         .volumeLimit = state.settings->volumeLimit,
         .output = appOutputLabel(state, bundleID_),
-        .outputEntries = appOutputEntries(state, bundleID_),
         .isRecording = state.recordings->contains(bundleID_)};
 }
 

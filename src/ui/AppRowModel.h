@@ -4,14 +4,17 @@
 
 #include "control/AppEntry.h"
 #include "platform/WallClock.h"
+#include "settings/AppAudioSettings.h"
 #include "ui/EQModel.h"
 #include "ui/MenuEntry.h"
 #include "ui/StatusLine.h"
+#include "ui/VolumeText.h"
 
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include <algorithm>
 #include <string>
 
 namespace fadeloom {
@@ -29,22 +32,26 @@ class AppRowModel : public QObject {
     Q_PROPERTY(QString status READ status NOTIFY changed)
     Q_PROPERTY(QString statusHelp READ statusHelp NOTIFY changed)
     Q_PROPERTY(QString statusSymbol READ statusSymbol NOTIFY changed)
-    Q_PROPERTY(QString statusTone READ statusTone NOTIFY changed)
+    Q_PROPERTY(Tone statusTone READ statusTone NOTIFY changed)
     Q_PROPERTY(bool canRetry READ canRetry NOTIFY changed)
     Q_PROPERTY(bool isMuted READ isMuted NOTIFY changed)
-    Q_PROPERTY(qreal volume READ volume NOTIFY changed)
-    Q_PROPERTY(qreal volumeLimit READ volumeLimit NOTIFY changed)
+    Q_PROPERTY(qreal volumePercent READ volumePercent NOTIFY changed)
+    Q_PROPERTY(qreal limitPercent READ limitPercent NOTIFY changed)
     Q_PROPERTY(bool isBoosted READ isBoosted NOTIFY changed)
     Q_PROPERTY(QString percent READ percent NOTIFY changed)
     Q_PROPERTY(QString spokenVolume READ spokenVolume NOTIFY changed)
     Q_PROPERTY(QString output READ output NOTIFY changed)
-    Q_PROPERTY(QVariantList outputEntries READ outputEntries NOTIFY changed)
+    Q_PROPERTY(QVariantList outputEntries READ outputEntries NOTIFY outputsChanged)
     Q_PROPERTY(bool isRecording READ isRecording NOTIFY changed)
     Q_PROPERTY(QString elapsed READ elapsed NOTIFY elapsedChanged)
     Q_PROPERTY(qreal level READ level NOTIFY levelChanged)
     Q_PROPERTY(fadeloom::EQModel* eq READ eq CONSTANT)
 
 public:
+    /// What a status means, for its colour.
+    enum class Tone { Neutral, Warning, Recording, Call };
+    Q_ENUM(Tone)
+
     AppRowModel(AudioController& controller, const WallClock& clock, AppEntry app, QObject* parent);
 
     [[nodiscard]] const std::string& id() const { return bundleID_; }
@@ -55,26 +62,30 @@ public:
     [[nodiscard]] QString status() const { return shown_.status.text; }
     [[nodiscard]] QString statusHelp() const { return shown_.status.help; }
     [[nodiscard]] QString statusSymbol() const { return shown_.status.symbol; }
-    /// The name of the colour that the status has: "secondary", "orange", "red" or "green".
-    [[nodiscard]] QString statusTone() const;
+    [[nodiscard]] Tone statusTone() const;
     [[nodiscard]] bool canRetry() const { return shown_.status.kind == StatusLine::Kind::failed; }
-    [[nodiscard]] bool isMuted() const { return shown_.isMuted; }
-    [[nodiscard]] qreal volume() const { return static_cast<qreal>(shown_.volume); }
+    [[nodiscard]] bool isMuted() const { return shown_.settings.muted; }
+    /// What plays: no more than the limit, also where more is stored.
+    [[nodiscard]] qreal volume() const { return static_cast<qreal>(audibleVolume()); }
     [[nodiscard]] qreal volumeLimit() const { return static_cast<qreal>(shown_.volumeLimit); }
-    [[nodiscard]] bool isBoosted() const { return shown_.volume > 1; }
+    [[nodiscard]] qreal volumePercent() const { return percentOf(audibleVolume()); }
+    [[nodiscard]] qreal limitPercent() const { return percentOf(shown_.volumeLimit); }
+    [[nodiscard]] bool isBoosted() const { return audibleVolume() > 1; }
     [[nodiscard]] QString percent() const;
     [[nodiscard]] QString spokenVolume() const;
     [[nodiscard]] QString output() const { return shown_.output; }
-    [[nodiscard]] QVariantList outputEntries() const { return variantsOf(shown_.outputEntries); }
+    /// Built for each call: views ask while the menu is open.
+    [[nodiscard]] QVariantList outputEntries() const;
     [[nodiscard]] bool isRecording() const { return shown_.isRecording; }
     /// How long the recording has been going on; empty without one.
     [[nodiscard]] QString elapsed() const { return elapsed_; }
     /// The meter's position, 0 to 1; 0 while the app is muted.
-    [[nodiscard]] qreal level() const { return shown_.isMuted ? 0 : static_cast<qreal>(level_); }
+    [[nodiscard]] qreal level() const { return shown_.settings.muted ? 0 : static_cast<qreal>(level_); }
     [[nodiscard]] EQModel* eq() { return &eq_; }
 
     Q_INVOKABLE void toggleMuted();
-    Q_INVOKABLE void setVolume(qreal volume);
+    void setVolume(qreal volume);
+    Q_INVOKABLE void setVolumePercent(qreal percent) { setVolume(percent / 100); }
     Q_INVOKABLE void resetVolume();
     Q_INVOKABLE void retry();
     /// `key`: of an entry of `outputEntries`.
@@ -82,14 +93,17 @@ public:
     Q_INVOKABLE void startRecording();
     Q_INVOKABLE void stopRecording();
 
-    /// Looks at the controller again.
+    /// Reads what the row shows from the controller.
     void refresh(AppEntry app);
     void refresh() { refresh(shown_.app); }
+    /// The same when the settings of this app are not those that are shown; the preset menu may have changed anyway.
+    void takeSettings();
     void refreshLevel();
     void refreshElapsed();
 
 Q_SIGNALS:
     void changed();
+    void outputsChanged();
     void levelChanged();
     void elapsedChanged();
 
@@ -97,15 +111,14 @@ private:
     struct Shown {
         AppEntry app{};
         StatusLine status{};
-        bool isMuted = false;
-        float volume = 1;
+        AppAudioSettings settings{};
         float volumeLimit = 1;
         QString output{};
-        MenuEntries outputEntries{};
         bool isRecording = false;
 
         friend bool operator==(const Shown&, const Shown&) = default;
     };
+    [[nodiscard]] float audibleVolume() const { return std::min(shown_.settings.volume, shown_.volumeLimit); }
     [[nodiscard]] Shown readState(AppEntry app) const;
 
     AudioController& controller_;

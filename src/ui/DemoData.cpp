@@ -4,53 +4,88 @@
 #include "engine/EQPresets.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace fadeloom {
 namespace {
 
-constexpr const char* music = "com.apple.Music";
-constexpr const char* safari = "com.apple.Safari";
-constexpr const char* tv = "com.apple.TV";
+struct DemoApp {
+    const char* bundleID;
+    const char* name;
+};
 
-AppEntry app(const std::string& bundleID, const std::string& name, const std::string& icon, bool isPlaying)
+struct DemoNames {
+    // A music player, a browser, a call app and a video player.
+    std::array<DemoApp, 4> apps;
+    std::array<const char*, 3> devices;
+    std::vector<DemoApp> callApps{};  // None: the defaults.
+};
+
+DemoNames namesOf(DemoHome home)
 {
-    return {.bundleID = bundleID,
-        .name = name,
+    if (home == DemoHome::ofLinux)
+        return {
+            .apps = {{{"org.gnome.Rhythmbox3", "Rhythmbox"}, {"org.gnome.Epiphany", "Web"},
+                {"us.zoom.Zoom", "Zoom"}, {"org.gnome.Totem", "Videos"}}},
+            .devices = {"Built-in Audio", "Headphones", "Living Room"},
+            .callApps = {{"us.zoom.Zoom", "Zoom"}, {"com.discordapp.Discord", "Discord"},
+                {"com.slack.Slack", "Slack"}, {"org.signal.Signal", "Signal"}},
+        };
+    return {
+        .apps = {{{"com.apple.Music", "Music"}, {"com.apple.Safari", "Safari"},
+            {"com.apple.FaceTime", "FaceTime"}, {"com.apple.TV", "TV"}}},
+        .devices = {"MacBook Pro Speakers", "AirPods Pro", "HomePod"},
+    };
+}
+
+AppEntry app(const DemoApp& names, const std::string& icon, bool isPlaying)
+{
+    return {.bundleID = names.bundleID,
+        .name = names.name,
         .icon = {.themeName = {}, .file = ":/icons/demo-" + icon + ".svg"},
         .isPlaying = isPlaying};
 }
 
-SettingsData demoSettings(Theme theme)
+SettingsData demoSettings(Theme theme, const DemoNames& names)
 {
     SettingsData settings;
     const auto& rock = *std::ranges::find(EQPresets::all(), "Rock", &EQPreset::name);
-    auto& musicSettings = settings.apps[music];
-    musicSettings = {.volume = 0.85F,
-        .outputUID = "demo.homepod",
-        .eqEnabled = true,
-        .eqPresetName = rock.name,
-        .eqPreamp = -2};
-    std::ranges::copy(rock.gains, musicSettings.eqGains.begin());
-    settings.apps[safari].volume = 0.55F;
-    settings.apps[tv].muted = true;
+    auto& music = settings.apps[names.apps[0].bundleID];
+    music = {
+        .volume = 0.85F, .outputUID = "demo.2", .eqEnabled = true, .eqPresetName = rock.name, .eqPreamp = -2};
+    std::ranges::copy(rock.gains, music.eqGains.begin());
+    settings.apps[names.apps[1].bundleID].volume = 0.55F;
+    settings.apps[names.apps[3].bundleID].muted = true;
     settings.focus.enabled = true;
     settings.focus.duckLevel = 0.2F;
+    if (!names.callApps.empty())
+        settings.focus.callApps.clear();
+    for (const auto& callApp : names.callApps) {
+        settings.focus.callApps.emplace_back(callApp.bundleID);
+        settings.knownAppNames.emplace(callApp.bundleID, callApp.name);
+    }
     settings.appearance.theme = theme;
     return settings;
 }
 
 }  // namespace
 
-DemoContents demoContents(Theme theme)
+DemoContents demoContents(Theme theme, DemoHome home)
 {
-    return {.apps = {app(music, "Music", "music", true), app(safari, "Safari", "safari", true),
-                app("com.apple.FaceTime", "FaceTime", "facetime", false), app(tv, "TV", "tv", false)},
-        .devices = {{.id = 1, .uid = "demo.speakers", .name = "MacBook Pro Speakers"},
-            {.id = 2, .uid = "demo.airpods", .name = "AirPods Pro"},
-            {.id = 3, .uid = "demo.homepod", .name = "HomePod"}},
-        .settings = demoSettings(theme),
-        .levels = {{music, 0.82F}, {safari, 0.58F}}};
+    const auto names = namesOf(home);
+    std::vector<OutputDevice> devices;
+    for (const auto* const name : names.devices)
+        devices.push_back({.id = static_cast<OutputDeviceID>(devices.size() + 1),
+            .uid = "demo." + std::to_string(devices.size()),
+            .name = name});
+    return {.apps = {app(names.apps[0], "music", true), app(names.apps[1], "safari", true),
+                app(names.apps[2], "facetime", false), app(names.apps[3], "tv", false)},
+        .devices = std::move(devices),
+        .settings = demoSettings(theme, names),
+        .levels = {{names.apps[0].bundleID, 0.82F}, {names.apps[1].bundleID, 0.58F}}};
 }
 
 }  // namespace fadeloom

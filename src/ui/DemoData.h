@@ -6,6 +6,10 @@
 
 namespace fadeloom {
 
-[[nodiscard]] DemoContents demoContents(Theme theme);
+/// The system whose applications and devices the pictures show.
+enum class DemoHome { ofLinux, ofMacOS };
+
+/// The first app has its equalizer on; pictures show it open.
+[[nodiscard]] DemoContents demoContents(Theme theme, DemoHome home = DemoHome::ofMacOS);
 
 }  // namespace fadeloom

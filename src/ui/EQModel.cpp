@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/EQModel.h"
 
+#include "control/AppSettings.h"
+#include "control/AudioController.h"
 #include "engine/EQPresets.h"
 #include "ui/GainText.h"
 #include "ui/PresetEntries.h"
 #include "ui/PresetText.h"
-#include "ui/SettingsEditing.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -36,6 +37,22 @@ QString EQModel::spokenPreamp() const
     return spokenDecibels(preamp());
 }
 
+QVariantList EQModel::presetEntries() const
+{
+    const auto& settings = *controller_.state().settings;
+    return variantsOf(fadeloom::presetEntries(settings, appSettings(settings, bundleID_).eqPresetName));
+}
+
+QVariantList EQModel::actionEntries() const
+{
+    return variantsOf(presetActionEntries(*controller_.state().settings));
+}
+
+QVariantList EQModel::deleteEntries() const
+{
+    return variantsOf(deletablePresetEntries(*controller_.state().settings));
+}
+
 QString EQModel::bandLabel(int band) const
 {
     return fadeloom::bandLabel(band);
@@ -58,12 +75,12 @@ QString EQModel::spokenGain(qreal gain) const
 
 void EQModel::setEnabled(bool isEnabled)
 {
-    editAppSettings(controller_, bundleID_, [&](auto& app) { app.eqEnabled = isEnabled; });
+    controller_.editApp(bundleID_, [&](auto& app) { app.eqEnabled = isEnabled; });
 }
 
 void EQModel::setGain(int band, qreal gain)
 {
-    editAppSettings(controller_, bundleID_, [&](auto& app) {
+    controller_.editApp(bundleID_, [&](auto& app) {
         app.eqGains.at(static_cast<std::size_t>(band)) = wholeGain(gain);
         app.eqPresetName.reset();
         app.eqEnabled = true;
@@ -72,7 +89,7 @@ void EQModel::setGain(int band, qreal gain)
 
 void EQModel::setPreamp(qreal preamp)
 {
-    editAppSettings(controller_, bundleID_, [&](auto& app) { app.eqPreamp = wholeGain(preamp); });
+    controller_.editApp(bundleID_, [&](auto& app) { app.eqPreamp = wholeGain(preamp); });
 }
 
 void EQModel::applyPreset(const QString& key)
@@ -106,19 +123,16 @@ void EQModel::refresh()
         shown_ = std::move(now);
         Q_EMIT changed();
     }
+    Q_EMIT presetsChanged();
 }
 
 EQModel::Shown EQModel::readState() const
 {
-    const auto& settings = *controller_.state().settings;
-    const auto app = appSettings(settings, bundleID_);
+    const auto app = appSettings(*controller_.state().settings, bundleID_);
     return {.isEnabled = app.eqEnabled,
         .presetTitle = fadeloom::presetTitle(app.eqPresetName),
         .gains = app.eqGains,
-        .preamp = app.eqPreamp,
-        .presetEntries = fadeloom::presetEntries(settings, app.eqPresetName),
-        .actionEntries = presetActionEntries(settings),
-        .deleteEntries = deletablePresetEntries(settings)};
+        .preamp = app.eqPreamp};
 }
 
 }  // namespace fadeloom

@@ -29,9 +29,9 @@ class EQModel : public QObject {
     Q_PROPERTY(qreal preamp READ preamp NOTIFY changed)
     Q_PROPERTY(QString preampText READ preampText NOTIFY changed)
     Q_PROPERTY(QString spokenPreamp READ spokenPreamp NOTIFY changed)
-    Q_PROPERTY(QVariantList presetEntries READ presetEntries NOTIFY changed)
-    Q_PROPERTY(QVariantList actionEntries READ actionEntries NOTIFY changed)
-    Q_PROPERTY(QVariantList deleteEntries READ deleteEntries NOTIFY changed)
+    Q_PROPERTY(QVariantList presetEntries READ presetEntries NOTIFY presetsChanged)
+    Q_PROPERTY(QVariantList actionEntries READ actionEntries NOTIFY presetsChanged)
+    Q_PROPERTY(QVariantList deleteEntries READ deleteEntries NOTIFY presetsChanged)
 
 public:
     EQModel(AudioController& controller, std::string bundleID, QObject* parent);
@@ -42,11 +42,12 @@ public:
     [[nodiscard]] qreal preamp() const { return static_cast<qreal>(shown_.preamp); }
     [[nodiscard]] QString preampText() const;
     [[nodiscard]] QString spokenPreamp() const;
+    // Menus are built for each call: views ask while one is open.
     /// The built-in presets in their groups, then the user's.
-    [[nodiscard]] QVariantList presetEntries() const { return variantsOf(shown_.presetEntries); }
+    [[nodiscard]] QVariantList presetEntries() const;
     /// What the menu offers below the presets.
-    [[nodiscard]] QVariantList actionEntries() const { return variantsOf(shown_.actionEntries); }
-    [[nodiscard]] QVariantList deleteEntries() const { return variantsOf(shown_.deleteEntries); }
+    [[nodiscard]] QVariantList actionEntries() const;
+    [[nodiscard]] QVariantList deleteEntries() const;
 
     Q_INVOKABLE QString bandLabel(int band) const;
     Q_INVOKABLE QString bandHelp(int band, qreal gain) const;
@@ -62,11 +63,12 @@ public:
     Q_INVOKABLE void savePreset(const QString& name);
     Q_INVOKABLE void deletePreset(const QString& name);
 
-    /// Looks at the controller again.
+    /// Reads what is shown from the controller.
     void refresh();
 
 Q_SIGNALS:
     void changed();
+    void presetsChanged();
 
 private:
     struct Shown {
@@ -74,9 +76,6 @@ private:
         QString presetTitle{};
         std::array<float, eqBandCount> gains{};
         float preamp = 0;
-        MenuEntries presetEntries{};
-        MenuEntries actionEntries{};
-        MenuEntries deleteEntries{};
 
         friend bool operator==(const Shown&, const Shown&) = default;
     };

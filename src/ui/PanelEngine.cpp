@@ -46,9 +46,12 @@ std::unique_ptr<QQuickItem> PanelEngine::makeRootView(PanelModel& panel, const Q
 {
     QQmlEngine::setObjectOwnership(&panel, QQmlEngine::CppOwnership);
     QQmlComponent component(&engine_, QUrl(QStringLiteral("qrc:/qt/qml/Fadeloom/RootView.qml")));
-    std::unique_ptr<QObject> object(
-        component.createWithInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&panel)},
-            {QStringLiteral("expandedApp"), expandedApp}}));
+    // One with errors must not be created: Qt 6.4 would crash.
+    std::unique_ptr<QObject> object;
+    if (component.isReady())
+        object.reset(
+            component.createWithInitialProperties({{QStringLiteral("panel"), QVariant::fromValue(&panel)},
+                {QStringLiteral("expandedApp"), expandedApp}}));
     for (const auto& error : component.errors())
         qCritical("%s", qUtf8Printable(error.toString()));
     auto* const item = qobject_cast<QQuickItem*>(object.get());

@@ -2,30 +2,29 @@
 #include "ui/PanelModel.h"
 
 #include "control/AudioController.h"
-#include "platform/MainLoop.h"
+#include "platform/Workspace.h"
+#include "shell/UpdateChecker.h"
 #include "ui/MessageText.h"
 #include "ui/OutputEntries.h"
-#include "ui/PanelHost.h"
 #include "ui/VolumeText.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <chrono>
+#include <utility>
 
 namespace fadeloom {
 
-PanelModel::PanelModel(
-    AudioController& controller, const Platform& platform, PanelHost& host, QObject* parent)
+PanelModel::PanelModel(AudioController& controller, const PanelParts& parts, QObject* parent)
     : QObject(parent)
     , controller_(controller)
-    , mainLoop_(platform.mainLoop)
-    , host_(host)
-    , rows_(controller, platform.clock, this)
-    , settings_(controller, host, this)
+    , parts_(parts)
+    , rows_(controller, parts.clock, parts.mainLoop, this)
+    , settings_(controller, parts, this)
+    , banner_(readBanner())
+    , look_(controller.state().settings->appearance)
 {
     observe();
-    updateElapsedTimer();
 }
 
 void PanelModel::observe()
@@ -34,40 +33,35 @@ void PanelModel::observe()
     const auto whenAssigned = [this](const auto& published, auto callback) {
         observed_.push_back(published.whenAssigned(callback));
     };
-    const auto refreshAll = [this] { refresh(); };
-    whenAssigned(state.apps, refreshAll);
-    whenAssigned(state.devices, refreshAll);
-    whenAssigned(state.defaultDeviceUID, refreshAll);
-    whenAssigned(state.permission, refreshAll);
-    whenAssigned(state.callApp, refreshAll);
-    whenAssigned(state.tapErrors, refreshAll);
-    whenAssigned(state.missingOutput, refreshAll);
-    whenAssigned(state.recordings, refreshAll);
-    whenAssigned(state.lastRecording, refreshAll);
-    whenAssigned(state.launchAtLogin, refreshAll);
-    whenAssigned(state.errorMessage, refreshAll);
-    whenAssigned(state.settings, refreshAll);
-    whenAssigned(controller_.levels().levels(),
-        [this] { rows_.forEach([](AppRowModel& row) { row.refreshLevel(); }); });
-    observed_.push_back(host_.whenAvailableVersionChanges(refreshAll));
+    whenAssigned(state.permission, [this] { Q_EMIT pageChanged(); });
+    whenAssigned(state.devices, [this] { Q_EMIT outputsChanged(); });
+    whenAssigned(state.defaultDeviceUID, [this] { Q_EMIT outputsChanged(); });
+    whenAssigned(state.lastRecording, [this] { Q_EMIT lastRecordingChanged(); });
+    whenAssigned(state.apps, [this] { refreshBanner(); });  // One of them may be the call's.
+    whenAssigned(state.callApp, [this] { refreshBanner(); });
+    whenAssigned(state.errorMessage, [this] { refreshBanner(); });
+    whenAssigned(state.settings, [this] {
+        refreshBanner();
+        refreshLook();
+    });
+    if (parts_.updates != nullptr)
+        whenAssigned(parts_.updates->available(), [this] { Q_EMIT availableVersionChanged(); });
 }
 
-void PanelModel::refresh()
+void PanelModel::refreshBanner()
 {
-    rows_.sync();
-    updateElapsedTimer();
-    Q_EMIT changed();
-    Q_EMIT settings_.changed();
+    auto now = readBanner();
+    if (now == banner_)
+        return;
+    banner_ = std::move(now);
+    Q_EMIT bannerChanged();
 }
 
-void PanelModel::updateElapsedTimer()
+void PanelModel::refreshLook()
 {
-    if (controller_.state().recordings->empty()) {
-        elapsedTimer_.reset();
-    } else if (!elapsedTimer_) {
-        elapsedTimer_ = mainLoop_.every(std::chrono::seconds(1),
-            [this] { rows_.forEach([](AppRowModel& row) { row.refreshElapsed(); }); });
-    }
+    const auto& now = controller_.state().settings->appearance;
+    if (std::exchange(look_, now) != now)
+        Q_EMIT lookChanged();
 }
 
 void PanelModel::setShowsSettings(bool isShown)
@@ -75,15 +69,15 @@ void PanelModel::setShowsSettings(bool isShown)
     if (isShown == showsSettings_)
         return;
     showsSettings_ = isShown;
-    Q_EMIT changed();
+    Q_EMIT pageChanged();
 }
 
-QString PanelModel::page() const
+PanelModel::Page PanelModel::page() const
 {
     if (showsSettings_)
-        return QStringLiteral("settings");
-    return *controller_.state().permission == AudioPermission::State::granted ? QStringLiteral("mixer")
-                                                                              : QStringLiteral("permission");
+        return Page::Settings;
+    const bool isGranted = *controller_.state().permission == AudioPermission::State::granted;
+    return isGranted ? Page::Mixer : Page::Permission;
 }
 
 bool PanelModel::isAccessDenied() const
@@ -91,19 +85,14 @@ bool PanelModel::isAccessDenied() const
     return *controller_.state().permission == AudioPermission::State::denied;
 }
 
-QString PanelModel::bannerKind() const
-{
-    if (*controller_.state().callApp)
-        return QStringLiteral("call");
-    return *controller_.state().errorMessage ? QStringLiteral("error") : QString();
-}
-
-QString PanelModel::bannerText() const
+PanelModel::ShownBanner PanelModel::readBanner() const
 {
     const auto& state = controller_.state();
     if (const auto& callApp = *state.callApp)
-        return callText(*callApp);
-    return messageText(state.errorMessage->value_or(""));
+        return {Banner::Call, callText(*callApp)};
+    if (const auto& message = *state.errorMessage)
+        return {Banner::Error, messageText(*message)};
+    return {};
 }
 
 QString PanelModel::callText(const std::string& bundleID) const
@@ -136,34 +125,35 @@ QString PanelModel::lastRecording() const
 
 QString PanelModel::availableVersion() const
 {
-    return QString::fromStdString(host_.availableVersion().value_or(""));
+    if (parts_.updates == nullptr || !*parts_.updates->available())
+        return {};
+    return QString::fromStdString((*parts_.updates->available())->version);
 }
 
 bool PanelModel::isDark() const
 {
-    const auto theme = controller_.state().settings->appearance.theme;
-    return theme == Theme::system ? systemIsDark_ : theme == Theme::dark;
+    return look_.theme == Theme::system ? systemIsDark_ : look_.theme == Theme::dark;
 }
 
 bool PanelModel::glass() const
 {
-    return controller_.state().settings->appearance.glass;
+    return look_.glass;
 }
 
 bool PanelModel::animations() const
 {
-    return controller_.state().settings->appearance.animations;
+    return look_.animations;
 }
 
 bool PanelModel::levelMeters() const
 {
-    return controller_.state().settings->appearance.levelMeters;
+    return look_.levelMeters;
 }
 
 void PanelModel::setSystemIsDark(bool isDark)
 {
     systemIsDark_ = isDark;
-    Q_EMIT changed();
+    Q_EMIT lookChanged();
 }
 
 void PanelModel::chooseOutput(const QString& key)
@@ -191,17 +181,18 @@ void PanelModel::requestPermission()
 
 void PanelModel::openPrivacySettings()
 {
-    host_.openPrivacySettings();
+    parts_.workspace.open(std::string(AudioPermission::settingsURL));
 }
 
 void PanelModel::openDownloadPage()
 {
-    host_.openDownloadPage();
+    if (parts_.updates != nullptr)
+        parts_.updates->openDownloadPage();
 }
 
 void PanelModel::quit()
 {
-    host_.quit();
+    parts_.quit();
 }
 
 }  // namespace fadeloom

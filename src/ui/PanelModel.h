@@ -6,57 +6,59 @@
 #pragma once
 
 #include "base/Subscription.h"
-#include "platform/Platform.h"
+#include "settings/AppearanceSettings.h"
 #include "ui/AppRowList.h"
 #include "ui/MenuEntry.h"
+#include "ui/PanelParts.h"
 #include "ui/SettingsModel.h"
 
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-#include <optional>
+#include <string>
 #include <vector>
 
 namespace fadeloom {
 
 class AudioController;
-class PanelHost;
 
 /// Thread: main.
 class PanelModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the program")
-    Q_PROPERTY(bool showsSettings READ showsSettings WRITE setShowsSettings NOTIFY changed)
-    Q_PROPERTY(QString page READ page NOTIFY changed)
-    Q_PROPERTY(bool isAccessDenied READ isAccessDenied NOTIFY changed)
-    Q_PROPERTY(QString bannerKind READ bannerKind NOTIFY changed)
-    Q_PROPERTY(QString bannerText READ bannerText NOTIFY changed)
-    Q_PROPERTY(QString output READ output NOTIFY changed)
-    Q_PROPERTY(QVariantList outputEntries READ outputEntries NOTIFY changed)
-    Q_PROPERTY(QString lastRecording READ lastRecording NOTIFY changed)
-    Q_PROPERTY(QString availableVersion READ availableVersion NOTIFY changed)
-    Q_PROPERTY(bool isDark READ isDark NOTIFY changed)
-    Q_PROPERTY(bool glass READ glass NOTIFY changed)
-    Q_PROPERTY(bool animations READ animations NOTIFY changed)
-    Q_PROPERTY(bool levelMeters READ levelMeters NOTIFY changed)
+    Q_PROPERTY(bool showsSettings READ showsSettings WRITE setShowsSettings NOTIFY pageChanged)
+    Q_PROPERTY(Page page READ page NOTIFY pageChanged)
+    Q_PROPERTY(bool isAccessDenied READ isAccessDenied NOTIFY pageChanged)
+    Q_PROPERTY(Banner banner READ banner NOTIFY bannerChanged)
+    Q_PROPERTY(QString bannerText READ bannerText NOTIFY bannerChanged)
+    Q_PROPERTY(QString output READ output NOTIFY outputsChanged)
+    Q_PROPERTY(QVariantList outputEntries READ outputEntries NOTIFY outputsChanged)
+    Q_PROPERTY(QString lastRecording READ lastRecording NOTIFY lastRecordingChanged)
+    Q_PROPERTY(QString availableVersion READ availableVersion NOTIFY availableVersionChanged)
+    Q_PROPERTY(bool isDark READ isDark NOTIFY lookChanged)
+    Q_PROPERTY(bool glass READ glass NOTIFY lookChanged)
+    Q_PROPERTY(bool animations READ animations NOTIFY lookChanged)
+    Q_PROPERTY(bool levelMeters READ levelMeters NOTIFY lookChanged)
     Q_PROPERTY(fadeloom::AppRowList* rows READ rows CONSTANT)
     Q_PROPERTY(fadeloom::SettingsModel* settings READ settings CONSTANT)
 
 public:
-    /// `controller`, `host` and the parts of `platform` must outlive this.
-    PanelModel(
-        AudioController& controller, const Platform& platform, PanelHost& host, QObject* parent = nullptr);
+    enum class Page { Mixer, Permission, Settings };
+    Q_ENUM(Page)
+    enum class Banner { None, Call, Error };
+    Q_ENUM(Banner)
+
+    /// `controller` must outlive this.
+    PanelModel(AudioController& controller, const PanelParts& parts, QObject* parent = nullptr);
 
     [[nodiscard]] bool showsSettings() const { return showsSettings_; }
     void setShowsSettings(bool isShown);
-    /// "settings", "permission" or "mixer".
-    [[nodiscard]] QString page() const;
+    [[nodiscard]] Page page() const;
     [[nodiscard]] bool isAccessDenied() const;
-    /// "call", "error", or empty for none.
-    [[nodiscard]] QString bannerKind() const;
-    [[nodiscard]] QString bannerText() const;
+    [[nodiscard]] Banner banner() const { return banner_.kind; }
+    [[nodiscard]] QString bannerText() const { return banner_.text; }
     [[nodiscard]] QString output() const;
     [[nodiscard]] QVariantList outputEntries() const;
     /// The file's name; empty without a recording.
@@ -83,25 +85,37 @@ public:
     Q_INVOKABLE void quit();
 
 Q_SIGNALS:
-    /// What the panel shows is to be read again.
-    void changed();
+    void pageChanged();
+    void bannerChanged();
+    void outputsChanged();
+    void lastRecordingChanged();
+    void availableVersionChanged();
+    void lookChanged();
 
 private:
+    struct ShownBanner {
+        Banner kind = Banner::None;
+        QString text{};
+
+        friend bool operator==(const ShownBanner&, const ShownBanner&) = default;
+    };
+
     void observe();
-    void refresh();
-    void updateElapsedTimer();
+    void refreshBanner();
+    void refreshLook();
+    [[nodiscard]] ShownBanner readBanner() const;
     [[nodiscard]] QString callText(const std::string& bundleID) const;
 
     AudioController& controller_;
-    MainLoop& mainLoop_;
-    PanelHost& host_;
+    const PanelParts parts_;
     bool showsSettings_ = false;
     bool systemIsDark_ = true;
     AppRowList rows_;
     SettingsModel settings_;
+    ShownBanner banner_;
+    AppearanceSettings look_;
 
     std::vector<Subscription> observed_;
-    std::optional<Subscription> elapsedTimer_;  // While anything is recorded.
 };
 
 }  // namespace fadeloom

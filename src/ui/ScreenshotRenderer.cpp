@@ -21,18 +21,19 @@ namespace {
 
 struct Screen {
     const char* name;
-    const char* expandedApp;
+    bool isExpanded;  // The first app is open.
     bool showsSettings;
 };
 constexpr std::array screens = {
-    Screen{"panel", "", false}, Screen{"eq", "com.apple.Music", false}, Screen{"settings", "", true}};
+    Screen{"panel", false, false}, Screen{"eq", true, false}, Screen{"settings", false, true}};
 
-QImage draw(const Screen& screen, AudioController& controller, const Platform& platform, PanelHost& host)
+QImage draw(const Screen& screen, const std::string& expandedApp, AudioController& controller,
+    const PanelParts& parts)
 {
-    PanelModel panel(controller, platform, host);
+    PanelModel panel(controller, parts);
     panel.setShowsSettings(screen.showsSettings);
     PanelEngine engine;
-    const auto view = engine.makeRootView(panel, QString::fromLatin1(screen.expandedApp));
+    const auto view = engine.makeRootView(panel, QString::fromStdString(expandedApp));
     if (!view)
         return {};
     view->setProperty("limitsSettings", false);
@@ -52,12 +53,15 @@ void prepareEnvironment()
     drawBySoftware();
 }
 
-void run(const Platform& platform, EngineLog& engineLog, PanelHost& host,
-    const std::filesystem::path& outputDirectory, const std::string& suffix, Theme look, std::ostream& lines)
+void run(const Platform& platform, EngineLog& engineLog, const PanelParts& parts,
+    const std::filesystem::path& outputDirectory, const std::string& suffix, Theme look, DemoHome home,
+    std::ostream& lines)
 {
     for (const auto& screen : screens) {
-        AudioController controller(platform, engineLog, demoContents(look));
-        const auto image = draw(screen, controller, platform, host);
+        const auto contents = demoContents(look, home);
+        AudioController controller(platform, engineLog, contents);
+        const auto image =
+            draw(screen, screen.isExpanded ? contents.apps.front().bundleID : "", controller, parts);
         const auto file = outputDirectory / (screen.name + suffix + ".png");
         QImageWriter writer(QString::fromStdString(file.string()), "png");
         const auto size = image.deviceIndependentSize().toSize();

@@ -4,6 +4,7 @@
 
 #include "platform/Platform.h"
 #include "settings/AppearanceSettings.h"
+#include "ui/DemoData.h"
 
 #include <filesystem>
 #include <iosfwd>
@@ -12,7 +13,7 @@
 namespace fadeloom {
 
 class EngineLog;
-class PanelHost;
+struct PanelParts;
 
 namespace ScreenshotRenderer {
 
@@ -21,8 +22,9 @@ void prepareEnvironment();
 
 /// Writes "panel", "eq" and "settings", each followed by `suffix` and ".png", and prints one line for each to `lines`. A
 /// file that cannot be written is told there and nowhere else. Nothing of `platform` is heard or changed.
-void run(const Platform& platform, EngineLog& engineLog, PanelHost& host,
-    const std::filesystem::path& outputDirectory, const std::string& suffix, Theme look, std::ostream& lines);
+void run(const Platform& platform, EngineLog& engineLog, const PanelParts& parts,
+    const std::filesystem::path& outputDirectory, const std::string& suffix, Theme look, DemoHome home,
+    std::ostream& lines);
 
 }  // namespace ScreenshotRenderer
 

@@ -1,64 +1,83 @@
 // SPDX-License-Identifier: MIT
 #include "ui/SettingsModel.h"
 
-#include "control/AudioController.h"
-#include "ui/DisplayName.h"
-#include "ui/PanelHost.h"
-#include "ui/SettingsEditing.h"
+#include "platform/Dialogs.h"
+#include "platform/Workspace.h"
+#include "shell/AboutPanel.h"
+#include "shell/AppLanguage.h"
+#include "shell/WebAddress.h"
+#include "ui/SettingsEntries.h"
 #include "ui/ShortPath.h"
 #include "ui/VolumeText.h"
 
-#include <QCoreApplication>
 #include <QPointer>
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
+#include <utility>
 
 namespace fadeloom {
 namespace {
 
-constexpr const char* chooseKey = "choose";
-
-struct Language {
-    const char* code;
-    const char* name;
-};
-// A language is called by its own name, in every language.
-constexpr std::array languageChoices = {Language{"system", QT_TRANSLATE_NOOP("SettingsModel", "System")},
-    Language{"en", "English"}, Language{"pl", "Polski"}};
-
-QString words(const char* text)
+SettingsData pageSettings(const SettingsData& settings)
 {
-    return QCoreApplication::translate("SettingsModel", text);
-}
-
-QString limitText(float limit)
-{
-    return limit == 1 ? words(QT_TRANSLATE_NOOP("SettingsModel", "100% (no boost)"))
-                      : percentText(static_cast<double>(limit));
-}
-
-QString languageName(const Language& language)
-{
-    return language.code == std::string_view("system") ? words(language.name)
-                                                       : QString::fromUtf8(language.name);
-}
-
-bool contains(const std::vector<std::string>& ids, const std::string& id)
-{
-    return std::ranges::find(ids, id) != ids.end();
+    return {
+        .focus = settings.focus,
+        .recordingsFolder = settings.recordingsFolder,
+        .knownAppNames = settings.knownAppNames,
+        .appearance = settings.appearance,
+        .volumeLimit = settings.volumeLimit,
+        .eqAutoHeadroom = settings.eqAutoHeadroom,
+    };
 }
 
 }  // namespace
 
-SettingsModel::SettingsModel(AudioController& controller, PanelHost& host, QObject* parent)
+SettingsModel::SettingsModel(AudioController& controller, const PanelParts& parts, QObject* parent)
     : QObject(parent)
     , controller_(controller)
-    , host_(host)
-    , languageAtStart_(host.language())
+    , parts_(parts)
+    , languageAtStart_(AppLanguage::current(parts.userDefaults))
     , language_(languageAtStart_)
+    , shown_(pageSettings(settings()))
 {
+    observe();
+}
+
+void SettingsModel::observe()
+{
+    const auto& state = controller_.state();
+    observed_.push_back(state.settings.whenAssigned([this] {
+        auto now = pageSettings(settings());
+        if (now == shown_)
+            return;
+        shown_ = std::move(now);
+        Q_EMIT changed();
+        Q_EMIT offeredAppsChanged();
+    }));
+    observed_.push_back(state.launchAtLogin.whenAssigned([this] { Q_EMIT changed(); }));
+    observed_.push_back(state.apps.whenAssigned([this] { Q_EMIT offeredAppsChanged(); }));
+}
+
+QVariantList SettingsModel::callApps() const
+{
+    return variantsOf(callAppEntries(
+        settings(), [this](const std::string& id) { return parts_.workspace.installedName(id); }));
+}
+
+QVariantList SettingsModel::offeredApps() const
+{
+    return variantsOf(offeredAppEntries(settings(), *controller_.state().apps));
+}
+
+QVariantList SettingsModel::volumeLimits() const
+{
+    return variantsOf(volumeLimitEntries(settings().volumeLimit));
+}
+
+QVariantList SettingsModel::languages() const
+{
+    return variantsOf(languageEntries(language_));
 }
 
 bool SettingsModel::lowersOthers() const
@@ -66,41 +85,19 @@ bool SettingsModel::lowersOthers() const
     return settings().focus.enabled;
 }
 
-qreal SettingsModel::duckLevel() const
+qreal SettingsModel::duckLevelPercent() const
 {
-    return static_cast<qreal>(settings().focus.duckLevel);
+    return percentOf(settings().focus.duckLevel);
 }
 
 QString SettingsModel::duckPercent() const
 {
-    return percentText(duckLevel());
+    return percentText(static_cast<double>(settings().focus.duckLevel));
 }
 
 QString SettingsModel::spokenDuckLevel() const
 {
-    return spokenPercent(duckLevel());
-}
-
-QVariantList SettingsModel::callApps() const
-{
-    MenuEntries entries;
-    for (const auto& id : settings().focus.callApps)
-        entries.push_back({.text = nameOf(id), .key = QString::fromStdString(id)});
-    return variantsOf(entries);
-}
-
-QVariantList SettingsModel::offeredApps() const
-{
-    MenuEntries entries;
-    for (const auto& app : *controller_.state().apps)
-        if (!contains(settings().focus.callApps, app.bundleID))
-            entries.push_back(
-                {.text = QString::fromStdString(app.name), .key = QString::fromStdString(app.bundleID)});
-    if (!entries.empty())
-        entries.push_back({.kind = MenuEntry::Kind::separator});
-    entries.push_back({.text = words(QT_TRANSLATE_NOOP("SettingsModel", "Choose from Applications…")),
-        .key = QString::fromLatin1(chooseKey)});
-    return variantsOf(entries);
+    return spokenPercent(static_cast<double>(settings().focus.duckLevel));
 }
 
 QString SettingsModel::recordingsFolder() const
@@ -110,17 +107,7 @@ QString SettingsModel::recordingsFolder() const
 
 QString SettingsModel::volumeLimit() const
 {
-    return limitText(settings().volumeLimit);
-}
-
-QVariantList SettingsModel::volumeLimits() const
-{
-    MenuEntries entries;
-    for (std::size_t i = 0; i < fadeloom::volumeLimits.size(); ++i)
-        entries.push_back({.text = limitText(fadeloom::volumeLimits.at(i)),
-            .key = QString::number(i),
-            .isChecked = settings().volumeLimit == fadeloom::volumeLimits.at(i)});
-    return variantsOf(entries);
+    return volumeLimitText(settings().volumeLimit);
 }
 
 bool SettingsModel::isBoostAllowed() const
@@ -160,19 +147,7 @@ bool SettingsModel::launchesAtLogin() const
 
 QString SettingsModel::language() const
 {
-    const auto found =
-        std::ranges::find_if(languageChoices, [&](const Language& each) { return each.code == language_; });
-    return languageName(found == languageChoices.end() ? languageChoices.front() : *found);
-}
-
-QVariantList SettingsModel::languages() const
-{
-    MenuEntries entries;
-    for (const auto& each : languageChoices)
-        entries.push_back({.text = languageName(each),
-            .key = QString::fromLatin1(each.code),
-            .isChecked = each.code == language_});
-    return variantsOf(entries);
+    return languageName(language_);
 }
 
 bool SettingsModel::needsRestart() const
@@ -182,62 +157,52 @@ bool SettingsModel::needsRestart() const
 
 QString SettingsModel::version() const
 {
-    return QString::fromStdString(host_.version());
+    return QString::fromStdString(parts_.version);
 }
 
 QString SettingsModel::webPageHost() const
 {
-    return QString::fromStdString(host_.webPageHost());
-}
-
-const SettingsData& SettingsModel::settings() const
-{
-    return *controller_.state().settings;
-}
-
-QString SettingsModel::nameOf(const std::string& bundleID) const
-{
-    return QString::fromStdString(
-        displayName(settings(), bundleID, [this](const auto& id) { return host_.installedName(id); }));
+    return QString::fromStdString(hostName(parts_.webPage));
 }
 
 void SettingsModel::setLowersOthers(bool isOn)
 {
-    editSettings(controller_, [&](auto& settings) { settings.focus.enabled = isOn; });
+    controller_.editSettings([&](auto& settings) { settings.focus.enabled = isOn; });
 }
 
 void SettingsModel::setDuckLevel(qreal level)
 {
-    editSettings(controller_, [&](auto& settings) { settings.focus.duckLevel = steppedDuckLevel(level); });
+    controller_.editSettings([&](auto& settings) { settings.focus.duckLevel = steppedDuckLevel(level); });
 }
 
 void SettingsModel::removeCallApp(const QString& bundleID)
 {
-    editSettings(
-        controller_, [&](auto& settings) { std::erase(settings.focus.callApps, bundleID.toStdString()); });
+    controller_.editSettings(
+        [&](auto& settings) { std::erase(settings.focus.callApps, bundleID.toStdString()); });
 }
 
 void SettingsModel::addCallApp(const QString& key)
 {
-    if (key != QLatin1String(chooseKey))
+    if (key != QLatin1String(chooseAppKey))
         return appendCallApp(key.toStdString());
-    host_.chooseApplication([self = QPointer(this)](const std::string& bundleID) {
-        if (self)
-            self->appendCallApp(bundleID);
+    parts_.dialogs.chooseApplication([self = QPointer(this)](const std::optional<std::string>& bundleID) {
+        if (self && bundleID)
+            self->appendCallApp(*bundleID);
     });
 }
 
 void SettingsModel::appendCallApp(const std::string& bundleID)
 {
-    if (contains(settings().focus.callApps, bundleID))
+    const auto& callApps = settings().focus.callApps;
+    if (std::ranges::find(callApps, bundleID) != callApps.end())
         return;
-    editSettings(controller_, [&](auto& settings) { settings.focus.callApps.push_back(bundleID); });
+    controller_.editSettings([&](auto& settings) { settings.focus.callApps.push_back(bundleID); });
 }
 
 void SettingsModel::resetCallApps()
 {
-    editSettings(
-        controller_, [](auto& settings) { settings.focus.callApps = FocusSettings::defaultCallApps(); });
+    controller_.editSettings(
+        [](auto& settings) { settings.focus.callApps = FocusSettings::defaultCallApps(); });
 }
 
 void SettingsModel::chooseRecordingsFolder()
@@ -247,34 +212,34 @@ void SettingsModel::chooseRecordingsFolder()
 
 void SettingsModel::chooseVolumeLimit(const QString& key)
 {
-    editSettings(
-        controller_, [&](auto& settings) { settings.volumeLimit = fadeloom::volumeLimits.at(key.toUInt()); });
+    controller_.editSettings(
+        [&](auto& settings) { settings.volumeLimit = fadeloom::volumeLimits.at(key.toUInt()); });
 }
 
 void SettingsModel::setAutoHeadroom(bool isOn)
 {
-    editSettings(controller_, [&](auto& settings) { settings.eqAutoHeadroom = isOn; });
+    controller_.editSettings([&](auto& settings) { settings.eqAutoHeadroom = isOn; });
 }
 
 void SettingsModel::setTheme(int theme)
 {
-    editSettings(controller_,
+    controller_.editSettings(
         [&](auto& settings) { settings.appearance.theme = allThemes.at(static_cast<std::size_t>(theme)); });
 }
 
 void SettingsModel::setGlass(bool isOn)
 {
-    editSettings(controller_, [&](auto& settings) { settings.appearance.glass = isOn; });
+    controller_.editSettings([&](auto& settings) { settings.appearance.glass = isOn; });
 }
 
 void SettingsModel::setAnimations(bool isOn)
 {
-    editSettings(controller_, [&](auto& settings) { settings.appearance.animations = isOn; });
+    controller_.editSettings([&](auto& settings) { settings.appearance.animations = isOn; });
 }
 
 void SettingsModel::setLevelMeters(bool isOn)
 {
-    editSettings(controller_, [&](auto& settings) { settings.appearance.levelMeters = isOn; });
+    controller_.editSettings([&](auto& settings) { settings.appearance.levelMeters = isOn; });
 }
 
 void SettingsModel::setLaunchesAtLogin(bool isOn)
@@ -285,28 +250,28 @@ void SettingsModel::setLaunchesAtLogin(bool isOn)
 void SettingsModel::chooseLanguage(const QString& code)
 {
     language_ = code.toStdString();
-    host_.setLanguage(language_);
+    AppLanguage::set(parts_.userDefaults, language_);
     Q_EMIT languageChanged();
 }
 
 void SettingsModel::restart()
 {
-    host_.restart();
+    AppLanguage::relaunch(parts_.workspace, parts_.quit);
 }
 
 void SettingsModel::resetApps()
 {
-    editSettings(controller_, [](auto& settings) { settings.apps.clear(); });
+    controller_.editSettings([](auto& settings) { settings.apps.clear(); });
 }
 
 void SettingsModel::openAboutPanel()
 {
-    host_.openAboutPanel();
+    AboutPanel::show(parts_.application, parts_.translate, parts_.webPage);
 }
 
 void SettingsModel::openWebPage()
 {
-    host_.openWebPage();
+    parts_.workspace.open(parts_.webPage);
 }
 
 }  // namespace fadeloom

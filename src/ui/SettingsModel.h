@@ -2,7 +2,11 @@
 // The settings page as a view shows and edits it.
 #pragma once
 
+#include "base/Subscription.h"
+#include "control/AudioController.h"
+#include "settings/SettingsData.h"
 #include "ui/MenuEntry.h"
+#include "ui/PanelParts.h"
 
 #include <QObject>
 #include <QString>
@@ -10,12 +14,9 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <string>
+#include <vector>
 
 namespace fadeloom {
-
-class AudioController;
-class PanelHost;
-struct SettingsData;
 
 /// Thread: main.
 class SettingsModel : public QObject {
@@ -23,11 +24,11 @@ class SettingsModel : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by the panel")
     Q_PROPERTY(bool lowersOthers READ lowersOthers NOTIFY changed)
-    Q_PROPERTY(qreal duckLevel READ duckLevel NOTIFY changed)
+    Q_PROPERTY(qreal duckLevelPercent READ duckLevelPercent NOTIFY changed)
     Q_PROPERTY(QString duckPercent READ duckPercent NOTIFY changed)
     Q_PROPERTY(QString spokenDuckLevel READ spokenDuckLevel NOTIFY changed)
     Q_PROPERTY(QVariantList callApps READ callApps NOTIFY changed)
-    Q_PROPERTY(QVariantList offeredApps READ offeredApps NOTIFY changed)
+    Q_PROPERTY(QVariantList offeredApps READ offeredApps NOTIFY offeredAppsChanged)
     Q_PROPERTY(QString recordingsFolder READ recordingsFolder NOTIFY changed)
     Q_PROPERTY(QString volumeLimit READ volumeLimit NOTIFY changed)
     Q_PROPERTY(QVariantList volumeLimits READ volumeLimits NOTIFY changed)
@@ -45,10 +46,10 @@ class SettingsModel : public QObject {
     Q_PROPERTY(QString webPageHost READ webPageHost CONSTANT)
 
 public:
-    SettingsModel(AudioController& controller, PanelHost& host, QObject* parent);
+    SettingsModel(AudioController& controller, const PanelParts& parts, QObject* parent);
 
     [[nodiscard]] bool lowersOthers() const;
-    [[nodiscard]] qreal duckLevel() const;
+    [[nodiscard]] qreal duckLevelPercent() const;
     [[nodiscard]] QString duckPercent() const;
     [[nodiscard]] QString spokenDuckLevel() const;
     /// Names, with the bundle identifiers as keys.
@@ -74,7 +75,8 @@ public:
     [[nodiscard]] QString webPageHost() const;
 
     Q_INVOKABLE void setLowersOthers(bool isOn);
-    Q_INVOKABLE void setDuckLevel(qreal level);
+    void setDuckLevel(qreal level);
+    Q_INVOKABLE void setDuckLevelPercent(qreal percent) { setDuckLevel(percent / 100); }
     Q_INVOKABLE void removeCallApp(const QString& bundleID);
     Q_INVOKABLE void addCallApp(const QString& key);
     Q_INVOKABLE void resetCallApps();
@@ -94,19 +96,22 @@ public:
     Q_INVOKABLE void openWebPage();
 
 Q_SIGNALS:
-    /// What the page shows is to be read again.
     void changed();
+    void offeredAppsChanged();
     void languageChanged();
 
 private:
-    [[nodiscard]] const SettingsData& settings() const;
-    [[nodiscard]] QString nameOf(const std::string& bundleID) const;
+    void observe();
+    [[nodiscard]] const SettingsData& settings() const { return *controller_.state().settings; }
     void appendCallApp(const std::string& bundleID);
 
     AudioController& controller_;
-    PanelHost& host_;
+    const PanelParts parts_;
     const std::string languageAtStart_;
     std::string language_;
+    SettingsData shown_;  // Without apps and presets, which other views show.
+
+    std::vector<Subscription> observed_;
 };
 
 }  // namespace fadeloom

@@ -35,6 +35,12 @@ QString spokenPercent(double factor)
     return QCoreApplication::translate("VolumeText", "%n percent", nullptr, percent);
 }
 
+double percentOf(float factor)
+{
+    constexpr double places = 1e4;  // What a float cannot hold anyway is not shown: 85, and not 85.0000024.
+    return std::round(static_cast<double>(factor) * 100 * places) / places;
+}
+
 float steppedDuckLevel(double value)
 {
     constexpr double steps = 20;  // For a factor of 1.

@@ -14,6 +14,9 @@ namespace fadeloom {
 /// "85 percent", for those who hear the panel.
 [[nodiscard]] QString spokenPercent(double factor);
 
+/// 85 for 0.85F, and so for every factor of a few places.
+[[nodiscard]] double percentOf(float factor);
+
 /// The duck level that a slider at `value` stores: a multiple of 0.05 from 0 to 0.5.
 [[nodiscard]] float steppedDuckLevel(double value);
 

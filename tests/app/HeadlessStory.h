@@ -32,11 +32,7 @@ protected:
 
     void start()
     {
-        const auto own = world.platform();
-        const Platform printed = {own.audio, own.audioFiles, own.workspace, own.capturePermission,
-            own.loginItem, own.mainLoop, own.utilityQueue, own.logQueue, own.folders, printedLog, own.text,
-            own.clock, own.userDefaults, own.http, own.application, own.dialogs};
-        run.emplace(printed, console,
+        run.emplace(world.platform({.systemLog = &printedLog}), console,
             HeadlessRun::Options{.version = "1.2.3",
                 .quit = [this] { ++quitCount; },
                 .terminalSize = [this] { return terminal; }});

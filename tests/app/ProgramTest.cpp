@@ -79,25 +79,6 @@ TEST(Program, runsItsPanelUntilItIsTold)
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
 }
 
-TEST(Program, drawsItsScreenshotsWithoutADisplay)
-{
-    const TemporaryFolder folder;
-    RunningProgram program({"--render-screenshots", folder.path().string(), "-en", "light"},
-        {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}});
-
-    EXPECT_EQ(program.exitStatus(), 0);
-    for (const auto* const name : {"panel-en.png", "eq-en.png", "settings-en.png"})
-        EXPECT_GT(std::filesystem::file_size(folder.path() / name), 20000) << name;
-}
-
-TEST(Program, endsWellWhenScreenshotsCannotBeWritten)
-{
-    RunningProgram program({"--render-screenshots", "/nonexistent/folder"});
-
-    EXPECT_EQ(program.exitStatus(), 0);
-    EXPECT_THAT(program.restOfOutput(), StartsWith("❌ /nonexistent/folder/panel.png: "));
-}
-
 class SimulatedProgram : public testing::Test {
 protected:
     /// Commands whose replies are more than a pipe and the program together can hold.

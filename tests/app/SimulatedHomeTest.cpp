@@ -35,7 +35,7 @@ protected:
     std::ostringstream out;
     Console console{[this](const std::string& written) { out << written; }};
     PrintedLog log{home.world().systemLog(), console, realLoop};
-    HeadlessRun run{home.platform(log), console, {}};
+    HeadlessRun run{home.world().platform({.systemLog = &log}), console, {}};
 };
 
 TEST_F(SimulatedHomeTest, playsFromTheBeginning)

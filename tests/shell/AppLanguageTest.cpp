@@ -20,9 +20,13 @@ protected:
     SimulatedUserDefaults& defaults = world.userDefaults();
 };
 
-TEST_F(AppLanguageTest, theChoicesStandInTheirOrder)
+TEST_F(AppLanguageTest, theChoicesAreInTheirOrderWithTheirOwnNames)
 {
-    EXPECT_THAT(AppLanguage::choices, ElementsAre("system", "en", "pl"));
+    using AppLanguage::Choice;
+    using testing::FieldsAre;
+
+    EXPECT_THAT(AppLanguage::choices,
+        ElementsAre(FieldsAre("system", ""), FieldsAre("en", "English"), FieldsAre("pl", "Polski")));
 }
 
 TEST_F(AppLanguageTest, withoutAChoiceItIsTheSystems)

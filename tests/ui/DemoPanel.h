@@ -5,7 +5,7 @@
 #include "control/AudioController.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/ui/DemoHost.h"
+#include "tests/ui/DemoParts.h"
 #include "ui/DemoData.h"
 #include "ui/PanelModel.h"
 
@@ -23,8 +23,8 @@ struct DemoPanel {
     SimulatedPlatform world{folder.path()};
     EngineLog engineLog{world.systemLog(), world.platform().logQueue, folder.path() / "Fadeloom"};
     AudioController controller;
-    DemoHost host;
-    PanelModel panel{controller, world.platform(), host};
+    DemoParts around{world};
+    PanelModel panel{controller, around.parts()};
 };
 
 }  // namespace fadeloom

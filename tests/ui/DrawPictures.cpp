@@ -5,7 +5,6 @@
 #include "tests/ui/DemoPanel.h"
 #include "ui/PanelEngine.h"
 #include "ui/PanelPicture.h"
-#include "ui/SettingsEditing.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -39,8 +38,8 @@ struct LivePanel {
     void start()
     {
         controller.emplace(world.platform(), engineLog, "1.0");
-        panel.emplace(*controller, world.platform(), host);
-        editSettings(*controller, [&](auto& settings) {
+        panel.emplace(*controller, around.parts());
+        controller->editSettings([&](auto& settings) {
             settings.appearance.theme = theme_;
             settings.appearance.animations = false;
             settings.focus.callApps = {"com.example.phone"};
@@ -58,7 +57,7 @@ struct LivePanel {
     TemporaryFolder folder;
     SimulatedPlatform world{folder.path()};
     EngineLog engineLog{world.systemLog(), world.platform().logQueue, folder.path() / "Fadeloom"};
-    DemoHost host;
+    DemoParts around{world};
     std::optional<AudioController> controller;
     std::optional<PanelModel> panel;
 
@@ -158,8 +157,8 @@ std::vector<Story> stories()
             [](auto& live) {
                 live.start();
                 live.play("Player");
-                editAppSettings(
-                    *live.controller, "com.example.player", [](auto& app) { app.outputUID = "headphones"; });
+                live.controller->editApp(
+                    "com.example.player", [](auto& app) { app.outputUID = "headphones"; });
                 live.world.unplug("headphones");
                 live.world.advance(1s);
                 live.world.refuse(AudioOperation::createTap, HowOften::always);
@@ -207,7 +206,7 @@ std::vector<Scene> scenes()
         {.name = "settings", .events = [](auto& demo) { demo.panel.setShowsSettings(true); }},
         {.name = "empty",
             .contents = [](auto& contents) { contents.apps.clear(); },
-            .events = [](auto& demo) { demo.host.publish("1.1"); }},
+            .events = [](auto& demo) { demo.around.publish("1.1"); }},
         {.name = "many",
             .contents =
                 [](auto& contents) {

@@ -69,6 +69,36 @@ TEST_F(PanelModelTest, aDraggedVolumeSnapsAndIsLimited)
     EXPECT_TRUE(settings().apps.empty());
 }
 
+TEST_F(PanelModelTest, aStoredVolumeAboveTheMaximumShowsAsWhatPlays)
+{
+    start();
+    setVolumeLimit(1);
+    change(player, [](auto& app) { app.volume = 1.5F; });
+    panel.emplace(*controller, around.parts());
+    launchPlaying("Player");
+
+    EXPECT_EQ(row(0).percent(), "100%");
+    EXPECT_EQ(row(0).volume(), 1);
+    EXPECT_FALSE(row(0).isBoosted());
+
+    row(0).setVolume(0.9);
+    EXPECT_EQ(row(0).percent(), "90%");
+}
+
+TEST_F(PanelModelTest, aLoweredMaximumLowersWhatIsShown)
+{
+    open();
+    launchPlaying("Player");
+    panel->settings()->chooseVolumeLimit("2");
+    row(0).setVolume(1.5);
+    ASSERT_TRUE(row(0).isBoosted());
+
+    panel->settings()->chooseVolumeLimit("0");
+
+    EXPECT_EQ(row(0).percent(), "100%");
+    EXPECT_FALSE(row(0).isBoosted());
+}
+
 TEST_F(PanelModelTest, theCallBannerHidesTheErrorUntilTheCallEnds)
 {
     auto given = SettingsData();
@@ -77,21 +107,21 @@ TEST_F(PanelModelTest, theCallBannerHidesTheErrorUntilTheCallEnds)
     open();
     launchPlaying("Player");
     controller->saveUserPreset("rock", player);
-    EXPECT_EQ(panel->bannerKind(), "error");
+    EXPECT_EQ(panel->banner(), PanelModel::Banner::Error);
     EXPECT_EQ(panel->bannerText(), "“rock” is a built-in preset name. Choose another name.");
 
     const auto phone = launchPlaying("Phone");
     world.startUsingMic(phone);
     world.advance(5s);
-    EXPECT_EQ(panel->bannerKind(), "call");
+    EXPECT_EQ(panel->banner(), PanelModel::Banner::Call);
     EXPECT_EQ(panel->bannerText(), "Phone is on a call. Other apps lowered to 20%");
     EXPECT_EQ(row(1).status(), "Lowered for call");
 
     world.stopUsingMic(phone);
     world.advance(5s);
-    EXPECT_EQ(panel->bannerKind(), "error");
+    EXPECT_EQ(panel->banner(), PanelModel::Banner::Error);
     panel->dismissError();
-    EXPECT_EQ(panel->bannerKind(), "");
+    EXPECT_EQ(panel->banner(), PanelModel::Banner::None);
 }
 
 TEST_F(PanelModelTest, aRecordingShowsItsTimeAndThenItsFile)
@@ -127,16 +157,16 @@ TEST_F(PanelModelTest, thePageFollowsTheSettingsThenThePermission)
 {
     world.setPermission(SimulatedCapturePermission::denied);
     open();
-    EXPECT_EQ(panel->page(), "permission");
+    EXPECT_EQ(panel->page(), PanelModel::Page::Permission);
     EXPECT_TRUE(panel->isAccessDenied());
 
     panel->setShowsSettings(true);
-    EXPECT_EQ(panel->page(), "settings");
+    EXPECT_EQ(panel->page(), PanelModel::Page::Settings);
     panel->setShowsSettings(false);
     world.setPermission(SimulatedCapturePermission::granted);
     world.advance(5s);
 
-    EXPECT_EQ(panel->page(), "mixer");
+    EXPECT_EQ(panel->page(), PanelModel::Page::Mixer);
 }
 
 TEST_F(PanelModelTest, choosingTheSystemOutputMovesTheCheckmark)
@@ -156,9 +186,35 @@ TEST_F(PanelModelTest, anUpdateIsOfferedOnceItIsKnown)
     open();
     EXPECT_EQ(panel->availableVersion(), "");
 
-    host.publish("1.1");
+    around.publish("1.1");
 
     EXPECT_EQ(panel->availableVersion(), "1.1");
+    panel->openDownloadPage();
+    EXPECT_THAT(world.workspace().opened(), testing::ElementsAre("https://updates.example/download.php"));
+}
+
+TEST_F(PanelModelTest, aProgramThatLooksForNoUpdatesOffersNone)
+{
+    start();
+    auto parts = around.parts();
+    parts.updates = nullptr;
+    PanelModel silent(*controller, parts);
+
+    silent.openDownloadPage();
+
+    EXPECT_EQ(silent.availableVersion(), "");
+    EXPECT_THAT(world.workspace().opened(), testing::IsEmpty());
+    EXPECT_THAT(world.http().requests(), testing::IsEmpty());
+}
+
+TEST_F(PanelModelTest, theSystemSettingsOpenOnThePageOfThePermission)
+{
+    world.setPermission(SimulatedCapturePermission::denied);
+    open();
+
+    panel->openPrivacySettings();
+
+    EXPECT_THAT(world.workspace().opened(), testing::ElementsAre(std::string(AudioPermission::settingsURL)));
 }
 
 }  // namespace

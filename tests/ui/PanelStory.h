@@ -3,7 +3,7 @@
 #pragma once
 
 #include "tests/control/ControllerStory.h"
-#include "tests/ui/DemoHost.h"
+#include "tests/ui/DemoParts.h"
 #include "ui/PanelModel.h"
 
 #include <QVariant>
@@ -17,7 +17,7 @@ protected:
     void open()
     {
         start();
-        panel.emplace(*controller, world.platform(), host);
+        panel.emplace(*controller, around.parts());
     }
     AppRowModel& row(int position)
     {
@@ -29,7 +29,7 @@ protected:
     }
 
     const std::string player = "com.example.player";
-    DemoHost host;
+    DemoParts around{world};
     std::optional<PanelModel> panel;
 };
 

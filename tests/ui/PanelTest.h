@@ -26,8 +26,9 @@ QT_END_NAMESPACE
 namespace fadeloom {
 
 class PanelTest : public testing::Test {
-protected:
-    static void SetUpTestSuite()
+public:
+    /// Does nothing from the second time on.
+    static void startApplication()
     {
         static int argumentCount = 1;
         static char name[] = "uiTests";
@@ -41,6 +42,9 @@ protected:
         static const auto* const application = new QGuiApplication(argumentCount, arguments);
         static_cast<void>(application);
     }
+
+protected:
+    static void SetUpTestSuite() { startApplication(); }
 
     /// The interface has this language until the result is gone.
     static std::unique_ptr<QTranslator> speaking(const char* language)

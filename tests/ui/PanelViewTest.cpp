@@ -2,95 +2,12 @@
 // The views under the hand: clicks, drags, keys, and the actions of assistive programs. What counts is what the
 // controller makes of it, not how a control looks afterwards.
 #include "engine/EQPresets.h"
-#include "tests/ui/DemoPanel.h"
-#include "tests/ui/PanelTest.h"
-#include "ui/SettingsEditing.h"
-
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QTest>
+#include "tests/ui/PanelStage.h"
 
 namespace fadeloom {
 namespace {
 
-class PanelViewTest : public PanelTest {
-protected:
-    void show(DemoContents contents, const QString& expandedApp = {})
-    {
-        contents.settings.appearance.animations = false;
-        demo = std::make_unique<DemoPanel>(std::move(contents));
-        engine = std::make_unique<PanelEngine>();
-        view = engine->makeRootView(demo->panel, expandedApp);
-        ASSERT_TRUE(view);
-        window = std::make_unique<QQuickWindow>();
-        window->resize(380, 600);
-        view->setParentItem(window->contentItem());
-        window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-        window->requestActivate();
-        QTest::qWait(1);
-    }
-    ~PanelViewTest() override
-    {
-        view.reset();
-        window.reset();
-    }
-
-    static QString nameOf(QQuickItem* item)
-    {
-        auto* const interface = QAccessible::queryAccessibleInterface(item);
-        return interface ? interface->text(QAccessible::Name) : QString();
-    }
-    /// The item that assistive programs know by this name and role; null without one.
-    QQuickItem* find(const QString& name, QAccessible::Role role, QQuickItem* in = nullptr)
-    {
-        for (auto* const child : (in ? in : view.get())->childItems()) {
-            if (!child->isVisible())
-                continue;
-            auto* const interface = QAccessible::queryAccessibleInterface(child);
-            if (interface && interface->role() == role && nameOf(child) == name)
-                return child;
-            if (auto* const found = find(name, role, child))
-                return found;
-        }
-        return nullptr;
-    }
-    /// A button, also one that opens a menu. Qt 6.4 calls both buttons, later ones know more.
-    QQuickItem* button(const QString& name)
-    {
-        auto* const found = find(name, QAccessible::Button);
-        return found ? found : find(name, QAccessible::ComboBox);
-    }
-    QQuickItem* slider(const QString& name) { return find(name, QAccessible::Slider); }
-    bool isSeen(const QString& text) { return find(text, QAccessible::StaticText) != nullptr; }
-
-    QPoint at(QQuickItem* item, double x, double y) { return item->mapToScene({x, y}).toPoint(); }
-    void click(QQuickItem* item)
-    {
-        ASSERT_TRUE(item);
-        QTest::mouseClick(window.get(), Qt::LeftButton, {}, at(item, item->width() / 2, item->height() / 2));
-    }
-    void doubleClick(QQuickItem* item)
-    {
-        ASSERT_TRUE(item);
-        const auto place = at(item, item->width() / 2, item->height() / 2);
-        QTest::mouseDClick(window.get(), Qt::LeftButton, {}, place);
-    }
-    void press(QQuickItem* item)
-    {
-        ASSERT_TRUE(item);
-        auto* const actions = QAccessible::queryAccessibleInterface(item)->actionInterface();
-        ASSERT_TRUE(actions);
-        actions->doAction(QAccessibleActionInterface::pressAction());
-    }
-    AppAudioSettings music() { return appSettings(*demo->controller.state().settings, "com.apple.Music"); }
-
-    const QString musicID = QStringLiteral("com.apple.Music");
-    std::unique_ptr<DemoPanel> demo;
-    std::unique_ptr<PanelEngine> engine;
-    std::unique_ptr<QQuickWindow> window;
-    std::unique_ptr<QQuickItem> view;
-};
+class PanelViewTest : public PanelStage { };
 
 TEST_F(PanelViewTest, muteIsAClick)
 {
@@ -134,10 +51,10 @@ TEST_F(PanelViewTest, aFaderNearTheFullLevelSnaps)
 
     auto* const values = QAccessible::queryAccessibleInterface(fader)->valueInterface();
     ASSERT_TRUE(values);
-    values->setCurrentValue(0.97);
+    values->setCurrentValue(97);
 
     EXPECT_EQ(music().volume, 1);
-    EXPECT_EQ(fader->property("value").toDouble(), 1);
+    EXPECT_EQ(values->currentValue().toDouble(), 100);
 }
 
 TEST_F(PanelViewTest, aVolumeSetByAnAssistiveProgramDoesNotCutTheFaderOff)
@@ -146,13 +63,13 @@ TEST_F(PanelViewTest, aVolumeSetByAnAssistiveProgramDoesNotCutTheFaderOff)
     auto* const fader = slider("Music volume");
     ASSERT_TRUE(fader);
     auto* const values = QAccessible::queryAccessibleInterface(fader)->valueInterface();
-    EXPECT_EQ(values->maximumValue().toDouble(), 1);
+    EXPECT_EQ(values->maximumValue().toDouble(), 100);
 
-    values->setCurrentValue(0.25);
+    values->setCurrentValue(25);
     EXPECT_EQ(music().volume, 0.25F);
-    editAppSettings(demo->controller, "com.apple.Music", [](auto& app) { app.volume = 0.75F; });
+    demo->controller.editApp("com.apple.Music", [](auto& app) { app.volume = 0.75F; });
 
-    EXPECT_EQ(fader->property("value").toDouble(), 0.75);
+    EXPECT_EQ(values->currentValue().toDouble(), 75);
 }
 
 TEST_F(PanelViewTest, aDoubleClickOnThePercentageResets)
@@ -311,7 +228,7 @@ TEST_F(PanelViewTest, quitAsksTheProgram)
 
     press(button("Quit Fadeloom"));
 
-    EXPECT_THAT(demo->host.asked, testing::ElementsAre("quit"));
+    EXPECT_EQ(demo->around.quits, 1);
 }
 
 }  // namespace

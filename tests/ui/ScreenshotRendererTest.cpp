@@ -3,7 +3,7 @@
 #include "log/EngineLog.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/ui/DemoHost.h"
+#include "tests/ui/DemoParts.h"
 #include "tests/ui/PanelTest.h"
 
 #include <QImage>
@@ -20,7 +20,8 @@ protected:
     std::string render(const std::filesystem::path& output, const std::string& suffix, Theme look)
     {
         std::ostringstream lines;
-        ScreenshotRenderer::run(world.platform(), engineLog, host, output, suffix, look, lines);
+        ScreenshotRenderer::run(
+            world.platform(), engineLog, around.parts(), output, suffix, look, home, lines);
         return lines.str();
     }
     QImage picture(const std::string& name)
@@ -31,7 +32,8 @@ protected:
     TemporaryFolder folder;
     SimulatedPlatform world{folder.path()};
     EngineLog engineLog{world.systemLog(), world.platform().logQueue, folder.path() / "Fadeloom"};
-    DemoHost host;
+    DemoParts around{world};
+    DemoHome home = DemoHome::ofMacOS;
 };
 
 TEST_F(ScreenshotRendererTest, drawsThreeScreensAtTwiceTheirSize)
@@ -43,6 +45,26 @@ TEST_F(ScreenshotRendererTest, drawsThreeScreensAtTwiceTheirSize)
     EXPECT_EQ(picture("panelde.png").size(), QSize(760, 930));
     EXPECT_EQ(picture("eqde.png").size(), QSize(760, 1092));
     EXPECT_GT(picture("settingsde.png").height(), 2000);
+}
+
+TEST_F(ScreenshotRendererTest, eachHomeShowsItsOwnAppsAndDevices)
+{
+    const auto ofMacOS = demoContents(Theme::dark, DemoHome::ofMacOS);
+    const auto ofLinux = demoContents(Theme::dark, DemoHome::ofLinux);
+    EXPECT_EQ(ofMacOS.devices.front().name, "MacBook Pro Speakers");
+    EXPECT_EQ(ofLinux.devices.front().name, "Built-in Audio");
+    for (const auto& app : ofLinux.apps)
+        EXPECT_FALSE(app.bundleID.starts_with("com.apple.")) << app.bundleID;
+    for (const auto& id : ofLinux.settings.focus.callApps)
+        EXPECT_TRUE(ofLinux.settings.knownAppNames.contains(id)) << id;
+
+    render(folder.path(), "-macos", Theme::dark);
+    home = DemoHome::ofLinux;
+    render(folder.path(), "-linux", Theme::dark);
+
+    for (const auto* const screen : {"panel", "eq", "settings"})
+        EXPECT_NE(picture(std::string(screen) + "-macos.png"), picture(std::string(screen) + "-linux.png"));
+    EXPECT_EQ(picture("eq-linux.png").size(), QSize(760, 1092));
 }
 
 TEST_F(ScreenshotRendererTest, theTwoLooksDiffer)

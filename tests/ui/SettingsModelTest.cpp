@@ -33,9 +33,15 @@ TEST_F(SettingsModelTest, anAddedAppIsOfferedNoMore)
 TEST_F(SettingsModelTest, aChosenApplicationIsListedOnce)
 {
     const auto count = settings().focus.callApps.size();
+    const auto choose = [&](const std::optional<std::string>& bundleID) {
+        model().addCallApp("choose");
+        world.dialogs().answerApplication(bundleID);
+    };
 
-    model().addCallApp("choose");
-    model().addCallApp("choose");
+    choose(std::nullopt);
+    EXPECT_EQ(settings().focus.callApps.size(), count);
+    choose("com.example.chosen");
+    choose("com.example.chosen");
 
     EXPECT_EQ(settings().focus.callApps.size(), count + 1);
     model().removeCallApp("com.example.chosen");
@@ -84,11 +90,55 @@ TEST_F(SettingsModelTest, aLanguageIsStoredAtOnceAndAppliedByARestart)
 
     model().chooseLanguage("pl");
 
-    EXPECT_EQ(host.languageCode, "pl");
+    EXPECT_EQ(world.userDefaults().stringList("AppleLanguages"), std::vector<std::string>{"pl"});
     EXPECT_EQ(model().language(), "Polski");
     EXPECT_TRUE(model().needsRestart());
     model().chooseLanguage("system");
     EXPECT_FALSE(model().needsRestart());
+}
+
+TEST_F(SettingsModelTest, theLanguagesAreThoseThatThereAreTextsFor)
+{
+    const auto languages = model().languages();
+
+    ASSERT_EQ(languages.size(), 3);
+    EXPECT_EQ(entry(languages, 0).text, "System");
+    EXPECT_TRUE(entry(languages, 0).isChecked);
+    EXPECT_EQ(entry(languages, 1).text, "English");
+    EXPECT_EQ(entry(languages, 2).text, "Polski");
+    EXPECT_EQ(entry(languages, 2).key, "pl");
+}
+
+TEST_F(SettingsModelTest, aRestartEndsThisInstanceAfterTheNewOne)
+{
+    model().restart();
+    EXPECT_EQ(world.workspace().newInstances(), 1);
+    EXPECT_EQ(around.quits, 0);
+
+    world.workspace().reportStarts();
+
+    EXPECT_EQ(around.quits, 1);
+}
+
+TEST_F(SettingsModelTest, anInstalledCallAppHasItsName)
+{
+    world.workspace().install("com.example.call", "Call");
+
+    model().addCallApp("com.example.call");
+
+    EXPECT_EQ(entry(model().callApps(), model().callApps().size() - 1).text, "Call");
+}
+
+TEST_F(SettingsModelTest, theAboutPanelLinksToTheWebPage)
+{
+    model().openAboutPanel();
+    model().openWebPage();
+
+    EXPECT_EQ(world.application().aboutPanel()->linkURL, "https://fadeloom.example/");
+    EXPECT_EQ(world.application().aboutPanel()->linkText, "fadeloom.example");
+    EXPECT_EQ(model().webPageHost(), "fadeloom.example");
+    EXPECT_EQ(model().version(), "1.0");
+    EXPECT_THAT(world.workspace().opened(), testing::ElementsAre("https://fadeloom.example/"));
 }
 
 TEST_F(SettingsModelTest, theThemeAppliesAtOnce)

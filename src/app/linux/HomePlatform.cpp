@@ -7,13 +7,18 @@
 
 namespace fadeloom {
 
+QtUserDefaults homeUserDefaults()
+{
+    return QtUserDefaults(SettingsFile::defaultURL(XdgFolders()).parent_path() / "preferences.ini");
+}
+
 HomePlatform::HomePlatform(MainLoop& mainLoop, SystemLog& systemLog, HomeGuardian& guardian)
     : mainLoop_(mainLoop)
     , systemLog_(systemLog)
     , fileManager_(systemLog)
     , workspace_(linuxEnvironment(processVariables()), fileManager_)
     , graphWorkspace_(linuxEnvironment(processVariables()), fileManager_)
-    , userDefaults_(SettingsFile::defaultURL(folders_).parent_path() / "preferences.ini")
+    , userDefaults_(homeUserDefaults())
     , audio_(mainLoop,
           {
               .bundleIdentifier =
@@ -34,8 +39,22 @@ HomePlatform::HomePlatform(MainLoop& mainLoop, SystemLog& systemLog, HomeGuardia
 
 Platform HomePlatform::platform()
 {
-    return {audio_, audioFiles_, workspace_, capturePermission_, loginItem_, mainLoop_, utilityQueue_,
-        logQueue_, folders_, systemLog_, text_, clock_, userDefaults_, http_};
+    return {
+        .audio = audio_,
+        .audioFiles = audioFiles_,
+        .workspace = workspace_,
+        .capturePermission = capturePermission_,
+        .loginItem = loginItem_,
+        .mainLoop = mainLoop_,
+        .utilityQueue = utilityQueue_,
+        .logQueue = logQueue_,
+        .folders = folders_,
+        .systemLog = systemLog_,
+        .text = text_,
+        .clock = clock_,
+        .userDefaults = userDefaults_,
+        .http = http_,
+    };
 }
 
 // Any process of the sandboxed application will do: it stands for the application alone.

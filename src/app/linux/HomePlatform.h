@@ -20,6 +20,9 @@
 
 namespace fadeloom {
 
+/// The program's preferences, beside its settings.
+[[nodiscard]] QtUserDefaults homeUserDefaults();
+
 using HomeFolders = XdgFolders;
 using HomeLog = SyslogSystemLog;
 

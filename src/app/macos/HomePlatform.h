@@ -12,6 +12,12 @@ namespace fadeloom {
 using HomeFolders = FoundationFolders;
 using HomeLog = UnifiedLog;
 
+/// The program's preferences.
+[[nodiscard]] inline StandardUserDefaults homeUserDefaults()
+{
+    return {};
+}
+
 /// Thread: main.
 class HomePlatform {
 public:

@@ -2,37 +2,14 @@
 #include "app/macos/PopoverContent.h"
 
 #include "platform/macos/AppKitPopover.h"
-
-#include <QKeyEvent>
+#include "platform/qt/EscapableView.h"
 
 namespace fadeloom {
-
-/// Escape closes the popover when nothing inside has a use for the key.
-class PopoverContent::View final : public QQuickView {
-public:
-    View(QWindow& host, AppKitPopover& popover)
-        : QQuickView(&host)
-        , popover_(popover)
-    {
-    }
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        QQuickView::keyPressEvent(event);
-        const bool isUsed = activeFocusItem() != nullptr && event->isAccepted();
-        if (!isUsed && event->key() == Qt::Key_Escape)
-            popover_.close();
-    }
-
-private:
-    AppKitPopover& popover_;
-};
 
 PopoverContent::PopoverContent(AppKitPopover& popover, std::unique_ptr<QQuickItem> content)
     : popover_(popover)
     , host_(QWindow::fromWinId(reinterpret_cast<WId>(popover.contentView())))
-    , view_(std::make_unique<View>(*host_, popover))
+    , view_(std::make_unique<EscapableView>([&popover] { popover.close(); }, host_.get()))
 {
     view_->setColor(Qt::transparent);  // What the popover is made of shines through.
     view_->setResizeMode(QQuickView::SizeViewToRootObject);

@@ -25,13 +25,11 @@ public:
     [[nodiscard]] QQuickView& view();
 
 private:
-    class View;
-
     void fitPopover();
 
     AppKitPopover& popover_;
     std::unique_ptr<QWindow> host_;  // The popover's view, as Qt sees it.
-    std::unique_ptr<View> view_;
+    std::unique_ptr<QQuickView> view_;
 };
 
 }  // namespace fadeloom

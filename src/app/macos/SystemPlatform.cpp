@@ -20,8 +20,22 @@ SystemPlatform::SystemPlatform(MainLoop& mainLoop, SystemLog& systemLog, HttpCli
 
 Platform SystemPlatform::platform()
 {
-    return {audio_, audioFiles_, workspace_, capturePermission_, loginItem_, mainLoop_, utilityQueue_,
-        logQueue_, folders_, systemLog_, text_, clock_, userDefaults_, http_};
+    return {
+        .audio = audio_,
+        .audioFiles = audioFiles_,
+        .workspace = workspace_,
+        .capturePermission = capturePermission_,
+        .loginItem = loginItem_,
+        .mainLoop = mainLoop_,
+        .utilityQueue = utilityQueue_,
+        .logQueue = logQueue_,
+        .folders = folders_,
+        .systemLog = systemLog_,
+        .text = text_,
+        .clock = clock_,
+        .userDefaults = userDefaults_,
+        .http = http_,
+    };
 }
 
 }  // namespace fadeloom

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qtdesktop/QtPopover.h"
 
+#include "platform/qt/EscapableView.h"
 #include "platform/qtdesktop/Compositing.h"
 #include "platform/qtdesktop/PanelPlace.h"
 
 #include <QCursor>
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QPalette>
 #include <QQuickItem>
 #include <QScreen>
@@ -25,30 +25,9 @@ const QScreen& screenAt(const QRect& anchor)
 
 }  // namespace
 
-/// Escape closes it when nothing inside has a use for the key.
-class QtPopover::View final : public QQuickView {
-public:
-    explicit View(QtPopover& popover)
-        : popover_(popover)
-    {
-    }
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        QQuickView::keyPressEvent(event);
-        const bool isUsed = activeFocusItem() != nullptr && event->isAccepted();
-        if (!isUsed && event->key() == Qt::Key_Escape)
-            popover_.close();
-    }
-
-private:
-    QtPopover& popover_;
-};
-
 QtPopover::QtPopover(std::function<QRect()> place)
     : place_(std::move(place))
-    , view_(std::make_unique<View>(*this))
+    , view_(std::make_unique<EscapableView>([this] { close(); }))
 {
     view_->setFlags(
         Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint);
@@ -56,7 +35,8 @@ QtPopover::QtPopover(std::function<QRect()> place)
     view_->setColor(Qt::transparent);
     view_->setResizeMode(QQuickView::SizeViewToRootObject);
     QObject::connect(view_.get(), &QWindow::activeChanged, view_.get(), [this] { activeChanged(); });
-    QObject::connect(view_.get(), &QWindow::visibleChanged, view_.get(), [this] { visibleChanged(); });
+    QObject::connect(view_.get(), &QWindow::visibleChanged, view_.get(), [this] { seenChanged(); });
+    QObject::connect(view_.get(), &QWindow::windowStateChanged, view_.get(), [this] { seenChanged(); });
     const auto sizeChanged = [this] {
         if (isOpen_)
             putInPlace();
@@ -98,6 +78,7 @@ void QtPopover::show()
     wasActive_ = false;
     fitContent();
     putInPlace();
+    view_->setWindowStates(view_->windowStates() & ~Qt::WindowMinimized);
     view_->show();
     view_->raise();
     view_->requestActivate();
@@ -144,11 +125,21 @@ void QtPopover::activeChanged()
     close();
 }
 
-void QtPopover::visibleChanged()
+// A minimised window is not seen, though it counts as visible.
+bool QtPopover::isSeen() const
 {
-    if (view_->isVisible() || !std::exchange(isOpen_, false))
+    return view_->isVisible() && !view_->windowStates().testFlag(Qt::WindowMinimized);
+}
+
+void QtPopover::seenChanged()
+{
+    const bool isSeenNow = isSeen();
+    if (std::exchange(isOpen_, isSeenNow) == isSeenNow)
         return;
-    didClose_();
+    if (isSeenNow)
+        willShow_();
+    else
+        didClose_();
 }
 
 }  // namespace fadeloom

@@ -45,13 +45,12 @@ public:
     void whenClosed(std::function<void()> didClose) override { didClose_ = std::move(didClose); }
 
 private:
-    class View;
-
     [[nodiscard]] bool hasContent();
     void fitContent();
     void putInPlace();
     void activeChanged();
-    void visibleChanged();
+    [[nodiscard]] bool isSeen() const;
+    void seenChanged();
 
     std::function<QRect()> place_;
     MakeContent makeContent_;  // Until the first opening.
@@ -62,7 +61,7 @@ private:
     bool wasActive_ = false;
     bool isOpen_ = false;
     QElapsedTimer sinceFocusLoss_;
-    std::unique_ptr<View> view_;
+    std::unique_ptr<QQuickView> view_;
 };
 
 }  // namespace fadeloom

@@ -9,10 +9,26 @@ SimulatedPlatform::SimulatedPlatform(std::filesystem::path applicationSupport, T
 {
 }
 
-Platform SimulatedPlatform::platform()
+Platform SimulatedPlatform::platform(const Replacements& instead)
 {
-    return {audio_, audioFiles_, workspace_, permission_, loginItem_, mainLoop_, utilityQueue_, logQueue_,
-        folders_, systemLog_, text_, wallClock_, userDefaults_, http_, &application_, &dialogs_};
+    return {
+        .audio = audio_,
+        .audioFiles = audioFiles_,
+        .workspace = workspace_,
+        .capturePermission = permission_,
+        .loginItem = loginItem_,
+        .mainLoop = mainLoop_,
+        .utilityQueue = utilityQueue_,
+        .logQueue = logQueue_,
+        .folders = instead.folders == nullptr ? folders_ : *instead.folders,
+        .systemLog = instead.systemLog == nullptr ? systemLog_ : *instead.systemLog,
+        .text = text_,
+        .clock = wallClock_,
+        .userDefaults = userDefaults_,
+        .http = http_,
+        .application = &application_,
+        .dialogs = &dialogs_,
+    };
 }
 
 ProcessID SimulatedPlatform::launchApp(const std::string& name, const SimulatedAppTraits& traits)

@@ -46,8 +46,14 @@ public:
     SimulatedPlatform(const SimulatedPlatform&) = delete;
     SimulatedPlatform& operator=(const SimulatedPlatform&) = delete;
 
+    /// Parts to use in place of the world's own; null for these.
+    struct Replacements {
+        StandardFolders* folders = nullptr;
+        SystemLog* systemLog = nullptr;
+    };
     /// All parts, for the program.
-    [[nodiscard]] Platform platform();
+    [[nodiscard]] Platform platform(const Replacements& instead);
+    [[nodiscard]] Platform platform() { return platform({}); }
 
     // Time.
     /// Moves the clock: timers, background work and IO cycles happen in their order.

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 // A message across the mixer.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 Rectangle {
     id: banner
 
-    property string symbol
-    property color tint: Theme.bannerOrange
-    property string message
+    required property string symbol
+    required property color tint
+    required property string message
     property bool canClose: false
 
-    signal closed()
+    signal closed
 
     implicitHeight: words.height + 20
     radius: 8

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 // The apps whose calls lower the others.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 Rectangle {
     id: list
 
-    property SettingsModel settings
+    required property SettingsModel settings
 
-    width: parent ? parent.width : 0
     implicitHeight: column.implicitHeight + 6
     radius: 6
     color: Theme.layer(0.04)
@@ -19,7 +20,7 @@ Rectangle {
         width: parent.width
 
         Repeater {
-            model: list.settings ? list.settings.callApps : []
+            model: list.settings.callApps
 
             Item {
                 id: line

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The card that a row lies on.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
@@ -13,6 +15,9 @@ CardSurface {
     highlight: isHighlighted ? 1 : 0
     Behavior on highlight {
         enabled: Theme.animations
-        NumberAnimation { duration: Theme.row; easing.type: Easing.OutCubic }
+        NumberAnimation {
+            duration: Theme.row
+            easing.type: Easing.OutCubic
+        }
     }
 }

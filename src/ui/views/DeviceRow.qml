@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 // Where one app plays.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 Item {
     id: deviceRow
 
-    property AppRowModel row
+    required property AppRowModel row
 
     implicitHeight: 20
 
@@ -22,8 +24,8 @@ Item {
         width: Math.min(implicitWidth, parent.width - title.implicitWidth - 20)
         size: 11
         spokenName: title.text
-        text: deviceRow.row ? deviceRow.row.output : ""
-        entries: deviceRow.row ? deviceRow.row.outputEntries : []
+        text: deviceRow.row.output
+        entries: isOpen ? deviceRow.row.outputEntries : []
         onChosen: key => deviceRow.row.chooseOutput(key)
     }
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A line between parts.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 

@@ -1,44 +1,40 @@
 // SPDX-License-Identifier: MIT
 // What the mixer shows while there is nothing to mix.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 Item {
-    implicitHeight: column.implicitHeight + 72
+    implicitHeight: note.y + note.height + 36
 
-    Column {
-        id: column
+    Symbol {
+        id: picture
+        anchors.horizontalCenter: parent.horizontalCenter
         y: 36
+        name: "speaker.wave.2.light"
+        size: 29
+        colour: Theme.secondary
+    }
+    Label {
+        id: title
+        anchors.top: picture.bottom
+        anchors.topMargin: 10
         width: parent.width
-
-        Symbol {
-            anchors.horizontalCenter: parent.horizontalCenter
-            name: "speaker.wave.2.light"
-            size: 29
-            colour: Theme.secondary
-        }
-        Item {
-            width: 1
-            height: 10
-        }
-        Label {
-            width: parent.width
-            horizontalAlignment: Text.AlignHCenter
-            size: 13
-            weight: Font.Medium
-            text: qsTr("Nothing is playing")
-        }
-        Item {
-            width: 1
-            height: 3
-        }
-        Label {
-            width: parent.width
-            horizontalAlignment: Text.AlignHCenter
-            size: 11
-            line: 15
-            color: Theme.secondary
-            text: qsTr("Apps appear here as soon as they play sound.")
-        }
+        horizontalAlignment: Text.AlignHCenter
+        size: 13
+        weight: Font.Medium
+        text: qsTr("Nothing is playing")
+    }
+    Label {
+        id: note
+        anchors.top: title.bottom
+        anchors.topMargin: 3
+        width: parent.width
+        horizontalAlignment: Text.AlignHCenter
+        size: 11
+        line: 15
+        color: Theme.secondary
+        text: qsTr("Apps appear here as soon as they play sound.")
     }
 }

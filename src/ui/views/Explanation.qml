@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a setting does, in small words under it.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // A horizontal slider. It shows `modelValue` and nothing else: what the hand does is asked for with `edited`, and the
 // model's answer is what is seen, also when the model snaps or refuses.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 import Fadeloom
@@ -19,6 +21,8 @@ T.Slider {
     // What the accessibility of Qt reads.
     readonly property real minimumValue: from
     readonly property real maximumValue: to
+    readonly property real low: Math.min(modelValue, origin)
+    readonly property real high: Math.min(Math.max(modelValue, origin), boostFrom)
     property bool isReady: false
 
     signal edited(real wanted)
@@ -29,71 +33,38 @@ T.Slider {
     Accessible.description: spokenValue
 
     function shown(value) {
-        return to > from ? Math.max(0, Math.min(1, (value - from) / (to - from))) : 0
+        return to > from ? Math.max(0, Math.min(1, (value - from) / (to - from))) : 0;
     }
     function centre(value) {
-        return thumb / 2 + shown(value) * (width - thumb)
-    }
-    function edge(value) {
-        return value <= from ? 0 : value >= to ? width : centre(value)
+        return thumb / 2 + shown(value) * (width - thumb);
     }
     function sync() {
         if (!pressed && value !== modelValue)
-            value = modelValue
+            value = modelValue;
     }
     onModelValueChanged: sync()
     onPressedChanged: sync()
     // Also for the keyboard and for assistive programs, which move the value without a word.
     onValueChanged: {
         if (!isReady || Math.abs(value - Math.max(from, Math.min(to, modelValue))) < 1e-6)
-            return
-        edited(value)
-        sync()
+            return;
+        edited(value);
+        sync();
     }
     Component.onCompleted: {
-        sync()
-        isReady = true
+        sync();
+        isReady = true;
     }
 
-    background: Item {
+    background: FaderGroove {
         opacity: fader.enabled ? 1 : 0.4
-
-        Rectangle {
-            id: track
-            y: (parent.height - height) / 2
-            width: parent.width
-            height: fader.hovered || fader.pressed ? 5 : 4
-            radius: height / 2
-            color: Theme.sliderTrack
-        }
-        Rectangle {
-            readonly property real low: Math.min(fader.modelValue, fader.origin)
-            readonly property real high: Math.min(Math.max(fader.modelValue, fader.origin), fader.boostFrom)
-            x: low === fader.from ? 0 : fader.centre(low)
-            y: track.y
-            width: Math.max(0, fader.centre(high) - x)
-            height: track.height
-            radius: height / 2
-            opacity: fader.isMuted ? 0.45 : 1
-            color: fader.hovered || fader.pressed ? Theme.sliderFillHovered : Theme.sliderFill
-        }
-        Rectangle {
-            visible: fader.modelValue > fader.boostFrom
-            x: fader.centre(fader.boostFrom)
-            y: track.y
-            width: Math.max(0, fader.centre(fader.modelValue) - x)
-            height: track.height
-            opacity: fader.isMuted ? 0.45 : 1
-            color: Theme.boost
-        }
-        Rectangle {
-            visible: fader.boostFrom < fader.to
-            x: Math.round(fader.centre(fader.boostFrom))
-            y: (parent.height - height) / 2
-            width: 1
-            height: 14
-            color: Theme.layer(0.30)
-        }
+        isPointed: fader.hovered || fader.pressed
+        isMuted: fader.isMuted
+        fillStart: fader.low === fader.from ? 0 : fader.centre(fader.low)
+        fillEnd: fader.centre(fader.high)
+        boostStart: fader.centre(fader.boostFrom)
+        boostEnd: fader.modelValue > fader.boostFrom ? fader.centre(fader.modelValue) : boostStart
+        hasTick: fader.boostFrom < fader.to
     }
     handle: Item {
         x: fader.centre(fader.modelValue) - width / 2

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 // Shows where the keyboard is; fills the control that it lies in.
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import QtQuick.Templates as T
 import Fadeloom
 
 Rectangle {
-    property Item control: parent
+    required property T.Control control
     property real gap: 2
     property real corner: 6
-    property bool isShown: control.activeFocus && control.visualFocus
 
     anchors.fill: parent
     anchors.margins: -gap - 2
-    visible: isShown
+    visible: control.activeFocus && control.visualFocus
     color: "transparent"
     radius: corner + gap
     border.width: 2

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A help text that comes when the pointer rests on what it lies in.
+// Not bound: the Loader of Qt 6.4 refuses components that are.
+// qmllint disable unqualified
 import QtQuick
 import QtQuick.Templates as T
 import Fadeloom
@@ -31,12 +33,11 @@ Item {
             padding: 6
             leftPadding: 8
             rightPadding: 8
-            implicitWidth: Math.min(words.implicitWidth, 260) + leftPadding + rightPadding
-            implicitHeight: words.height + topPadding + bottomPadding
+            implicitWidth: Math.min(implicitContentWidth, 260) + leftPadding + rightPadding
+            implicitHeight: implicitContentHeight + topPadding + bottomPadding
             visible: true
             closePolicy: T.Popup.NoAutoClose
             contentItem: Label {
-                id: words
                 size: 11
                 line: 15
                 wrapMode: Text.Wrap
@@ -55,7 +56,7 @@ Item {
         target: hover
         function onHoveredChanged() {
             if (!hover.hovered)
-                bubble.active = false
+                bubble.active = false;
         }
     }
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Text of the panel. One line stands in the middle of its height; a wrapped one has a height for each line.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 

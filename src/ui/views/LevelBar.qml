@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How loud it is right now, drawn as it comes.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
@@ -20,9 +22,18 @@ Rectangle {
         radius: Math.min(width, height) / 2
         gradient: Gradient {
             orientation: Gradient.Horizontal
-            GradientStop { position: 0; color: Theme.cyan }
-            GradientStop { position: 0.5; color: Theme.violet }
-            GradientStop { position: 1; color: Theme.pink }
+            GradientStop {
+                position: 0
+                color: Theme.cyan
+            }
+            GradientStop {
+                position: 0.5
+                color: Theme.violet
+            }
+            GradientStop {
+                position: 1
+                color: Theme.pink
+            }
         }
     }
 }

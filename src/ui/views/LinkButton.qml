@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Words that can be pressed.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
@@ -8,12 +10,11 @@ Pressable {
 
     property int size: 12
 
-    implicitWidth: Math.ceil(words.implicitWidth) + leftPadding
-    implicitHeight: Math.max(22, words.line)
+    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding
+    implicitHeight: 22
     Accessible.role: Accessible.Link
 
     contentItem: Label {
-        id: words
         size: button.size
         line: 16
         color: Theme.accent

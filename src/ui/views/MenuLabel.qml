@@ -1,23 +1,27 @@
 // SPDX-License-Identifier: MIT
 // The words that open a menu and say what is chosen in it. They end on the right edge; their ground hangs out.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 Pressable {
     id: label
 
-    property alias menu: popup
+    readonly property PopUpMenu menu: popup
     property alias entries: popup.entries
     property alias pinned: popup.pinned
+    // Menus are read while they are open only.
+    readonly property alias isOpen: popup.isWanted
     property int size: 12
-    property string spokenName
+    required property string spokenName
 
     signal chosen(string key, bool isSubmenu)
 
-    implicitWidth: Math.ceil(words.implicitWidth) + 14
+    implicitWidth: Math.ceil(implicitContentWidth) + 14
     implicitHeight: 16
     Accessible.role: Accessible.ComboBox
-    Accessible.name: spokenName === "" ? text : spokenName + ", " + text
+    Accessible.name: spokenName + ", " + text
     onClicked: popup.opened ? popup.close() : popup.openAt(label, 8)
     Keys.onDownPressed: popup.openAt(label, 8)
 
@@ -34,8 +38,9 @@ Pressable {
         }
     }
     contentItem: Item {
+        implicitWidth: children[0].implicitWidth
+
         Label {
-            id: words
             width: parent.width - 14
             size: label.size
             elide: Text.ElideMiddle

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
 // One entry of an open menu.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 Item {
     id: line
 
-    property var entry
-    property bool isCurrent: false
-
-    signal pointed()
-    signal chosen()
-
+    required property var entry
+    required property bool isCurrent
     readonly property bool canBeChosen: !entry.isHeading && !entry.isSeparator
+    readonly property color ink: isCurrent ? Theme.inkOnFill : entry.isHeading ? Theme.secondary : Theme.ink
+
+    signal pointed
+    signal chosen
 
     implicitWidth: words.implicitWidth + 26 + (entry.isSubmenu ? 30 : 14)
     implicitHeight: entry.isSeparator ? 11 : entry.isHeading ? 22 : 24
@@ -20,7 +22,8 @@ Item {
     Accessible.name: entry.text
     Accessible.checkable: canBeChosen
     Accessible.checked: entry.isChecked
-    Accessible.onPressAction: if (canBeChosen) chosen()
+    Accessible.onPressAction: if (canBeChosen)
+        chosen()
 
     Rectangle {
         visible: line.isCurrent
@@ -34,7 +37,7 @@ Item {
         visible: line.entry.isChecked
         name: "checkmark"
         size: 11
-        colour: line.isCurrent ? "white" : Theme.ink
+        colour: line.ink
     }
     Label {
         id: words
@@ -44,7 +47,7 @@ Item {
         elide: Text.ElideMiddle
         size: line.entry.isHeading ? 10 : 12
         weight: line.entry.isHeading ? Font.DemiBold : Font.Normal
-        color: line.isCurrent ? "white" : line.entry.isHeading ? Theme.secondary : Theme.ink
+        color: line.ink
         text: line.entry.text
         Accessible.ignored: true
     }
@@ -55,7 +58,7 @@ Item {
         name: "chevron.down"
         rotation: -90
         size: 9
-        colour: line.isCurrent ? "white" : Theme.secondary
+        colour: line.isCurrent ? Theme.inkOnFill : Theme.secondary
     }
     Divider {
         visible: line.entry.isSeparator

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A line of text to type.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 import Fadeloom
@@ -12,7 +14,7 @@ T.TextField {
     rightPadding: 9
     color: Theme.ink
     selectionColor: Theme.fill
-    selectedTextColor: "white"
+    selectedTextColor: Theme.inkOnFill
     font.family: Theme.family
     font.pixelSize: 12
     font.hintingPreference: Font.PreferNoHinting

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 // The system's own output.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 Item {
     id: picker
 
-    property PanelModel panel
+    required property PanelModel panel
 
     implicitHeight: 38
 
@@ -25,13 +27,14 @@ Item {
         text: qsTr("Output")
     }
     MenuLabel {
+        id: output
         anchors.right: parent.right
-        anchors.rightMargin: 22
+        anchors.rightMargin: Theme.margin
         y: 11
-        width: Math.min(implicitWidth, picker.width - 22 - title.x - title.implicitWidth - 20)
+        width: Math.min(implicitWidth, picker.width - Theme.margin - title.x - title.implicitWidth - 20)
         spokenName: title.text
-        text: picker.panel ? picker.panel.output : ""
-        entries: picker.panel ? picker.panel.outputEntries : []
+        text: picker.panel.output
+        entries: isOpen ? picker.panel.outputEntries : []
         onChosen: key => picker.panel.chooseOutput(key)
     }
 }

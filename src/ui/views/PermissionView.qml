@@ -1,79 +1,69 @@
 // SPDX-License-Identifier: MIT
 // Asks for the permission to capture, or says how to give it.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 Item {
     id: view
 
-    property PanelModel panel
-    readonly property bool isDenied: panel ? panel.isAccessDenied : false
+    required property PanelModel panel
+    readonly property bool isDenied: panel.isAccessDenied
 
-    implicitHeight: column.implicitHeight + 66
-
-    Column {
-        id: column
+    component Words: Label {
         x: 36
-        y: 30
-        width: parent.width - 72
+        width: view.width - 72
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+    }
 
-        Symbol {
-            anchors.horizontalCenter: parent.horizontalCenter
-            name: "waveform.badge.mic.light"
-            size: 35
-            colour: Theme.accent
-        }
-        Item {
-            width: 1
-            height: 14
-        }
-        Label {
-            width: parent.width
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
-            size: 14
-            line: 18
-            weight: Font.DemiBold
-            text: qsTr("Allow Fadeloom to control app audio")
-        }
-        Item {
-            width: 1
-            height: 8
-        }
-        Label {
-            width: parent.width
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
-            line: 17
-            color: Theme.secondary
-            text: PlatformTexts.whyPermission
-        }
-        Item {
-            visible: view.isDenied
-            width: 1
-            height: 12
-        }
-        Label {
-            visible: view.isDenied
-            width: parent.width
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
-            size: 11
-            line: 15
-            color: Theme.orange
-            text: PlatformTexts.permissionDenied
-        }
-        Item {
-            width: 1
-            height: 18
-        }
-        PushButton {
-            anchors.horizontalCenter: parent.horizontalCenter
-            implicitHeight: 28
-            side: 16
-            isProminent: true
-            text: view.isDenied ? PlatformTexts.openSystemSettings : qsTr("Continue")
-            onClicked: view.isDenied ? view.panel.openPrivacySettings() : view.panel.requestPermission()
-        }
+    implicitHeight: button.y + button.height + 36
+
+    Symbol {
+        id: picture
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 30
+        name: "waveform.badge.mic.light"
+        size: 35
+        colour: Theme.accent
+    }
+    Words {
+        id: title
+        anchors.top: picture.bottom
+        anchors.topMargin: 14
+        size: 14
+        line: 18
+        weight: Font.DemiBold
+        text: qsTr("Allow Fadeloom to control app audio")
+    }
+    Words {
+        id: reason
+        anchors.top: title.bottom
+        anchors.topMargin: 8
+        line: 17
+        color: Theme.secondary
+        text: PlatformTexts.whyPermission
+    }
+    Words {
+        id: denial
+        anchors.top: reason.bottom
+        anchors.topMargin: 12
+        visible: view.isDenied
+        size: 11
+        line: 15
+        color: Theme.orange
+        text: PlatformTexts.permissionDenied
+    }
+    PushButton {
+        id: button
+        anchors.top: view.isDenied ? denial.bottom : reason.bottom
+        anchors.topMargin: 18
+        anchors.horizontalCenter: parent.horizontalCenter
+        implicitHeight: 28
+        side: 16
+        isProminent: true
+        text: view.isDenied ? PlatformTexts.openSystemSettings : qsTr("Continue")
+        onClicked: view.isDenied ? view.panel.openPrivacySettings() : view.panel.requestPermission()
     }
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A button that opens a menu.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
@@ -12,7 +14,8 @@ PushButton {
     signal chosen(string key)
 
     hasChevron: true
-    isOpen: popup.visible
+    // Menus are read while they are open only.
+    isOpen: popup.isWanted
     Accessible.role: Accessible.ComboBox
     Accessible.name: spokenName === "" ? text : spokenName + ", " + text
     onClicked: popup.opened ? popup.close() : popup.openAt(button, 4)

@@ -1,43 +1,45 @@
 // SPDX-License-Identifier: MIT
 // Which curve is chosen, and what else can be done with curves.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 MenuLabel {
     id: presets
 
-    property EQModel eq
+    required property EQModel eq
 
-    signal nameWanted()
+    signal nameWanted
 
     size: 11
     spokenName: qsTr("Equalizer preset")
-    text: eq ? eq.presetTitle : ""
-    entries: eq ? eq.presetEntries : []
-    pinned: eq ? eq.actionEntries : []
+    text: eq.presetTitle
+    entries: isOpen ? eq.presetEntries : []
+    pinned: isOpen ? eq.actionEntries : []
     onChosen: (key, isSubmenu) => {
         if (isSubmenu)
-            deletion.openBeside(presets.menu)
+            deletion.openBeside(presets.menu);
         else if (key === "save")
-            nameWanted()
+            nameWanted();
         else if (key === "reset")
-            eq.resetToFlat()
+            eq.resetToFlat();
         else
-            eq.applyPreset(key)
+            eq.applyPreset(key);
     }
 
     PopUpMenu {
         id: deletion
-        entries: presets.eq ? presets.eq.deleteEntries : []
+        entries: isWanted ? presets.eq.deleteEntries : []
         onChosen: key => {
-            presets.menu.close()
-            presets.eq.deletePreset(key)
+            presets.menu.close();
+            presets.eq.deletePreset(key);
         }
 
         function openBeside(menu) {
-            right = menu.x - 2
-            top = menu.y + menu.height - 70
-            openMeasured()
+            right = menu.x - 2;
+            top = menu.y + menu.height - 70;
+            openMeasured();
         }
     }
 }

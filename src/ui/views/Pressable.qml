@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What all our buttons have in common: a press by mouse, key or an assistive program is one `clicked`.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 
@@ -9,7 +11,8 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     Accessible.name: text
-    Accessible.onPressAction: if (enabled) clicked()
+    Accessible.onPressAction: if (enabled)
+        clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 

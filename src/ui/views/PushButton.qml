@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A button with a ground of its own.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
@@ -12,53 +14,37 @@ Pressable {
     property int side: isSmall ? 9 : 10
     property bool hasChevron: false
     property bool isOpen: false
-    readonly property color wordColour: isProminent ? "white" : Theme.ink
+    readonly property color wordColour: isProminent ? Theme.inkOnFill : Theme.ink
+    readonly property color ground: isProminent ? (pressed ? Theme.fillPressed : hovered ? Theme.fillHovered : Theme.fill) : Theme.layer(pressed || isOpen ? 0.18 : hovered ? 0.13 : 0.09)
 
     implicitHeight: isSmall ? 22 : 24
-    implicitWidth: Math.ceil(row.implicitWidth) + 2 * side
+    implicitWidth: Math.ceil(implicitContentWidth) + 2 * side
 
     background: Rectangle {
         radius: 6
         opacity: button.enabled ? 1 : 0.4
-        color: button.isProminent
-            ? (button.pressed ? Theme.fillPressed : button.hovered ? Theme.fillHovered : Theme.fill)
-            : Theme.layer(button.pressed || button.isOpen ? 0.18 : button.hovered ? 0.13 : 0.09)
+        color: button.ground
         Behavior on color {
             enabled: Theme.animations
-            ColorAnimation { duration: button.hovered ? Theme.hoverIn : Theme.hoverOut }
+            ColorAnimation {
+                duration: button.hovered ? Theme.hoverIn : Theme.hoverOut
+            }
         }
         FocusRing {
             control: button
         }
     }
     contentItem: Item {
-        Row {
-            id: row
-            anchors.centerIn: parent
-            spacing: button.hasChevron ? 6 : 5
+        implicitWidth: (children[0] as ButtonWords).natural
 
-            Symbol {
-                anchors.verticalCenter: parent.verticalCenter
-                visible: button.symbol !== ""
-                name: button.symbol
-                size: 13
-                colour: button.wordColour
-            }
-            Label {
-                size: button.isSmall ? 11 : 12
-                line: 16
-                weight: button.hasChevron ? Font.Normal : Font.Medium
-                color: button.wordColour
-                text: button.text
-                Accessible.ignored: true
-            }
-            Symbol {
-                anchors.verticalCenter: parent.verticalCenter
-                visible: button.hasChevron
-                name: "chevron.down"
-                size: 9
-                colour: Theme.secondary
-            }
+        ButtonWords {
+            anchors.centerIn: parent
+            widest: button.width - 2 * button.side
+            symbol: button.symbol
+            text: button.text
+            colour: button.wordColour
+            hasChevron: button.hasChevron
+            size: button.isSmall ? 11 : 12
         }
     }
 }

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Records one app's sound.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 Item {
     id: recordRow
 
-    property AppRowModel row
-    readonly property bool isRecording: row ? row.isRecording : false
+    required property AppRowModel row
+    readonly property string help: qsTr("Records this app’s sound (before volume and mute) to a WAV file")
 
     implicitHeight: 22
 
@@ -26,24 +28,24 @@ Item {
     Hint {
         width: 120
         anchors.right: undefined
-        text: qsTr("Records this app’s sound (before volume and mute) to a WAV file")
+        text: recordRow.help
     }
     Label {
         anchors.right: button.left
         anchors.rightMargin: 8
         y: 3
-        visible: recordRow.isRecording
+        visible: recordRow.row.isRecording
         size: 11
         color: Theme.secondary
-        text: recordRow.row ? recordRow.row.elapsed : ""
+        text: recordRow.row.elapsed
     }
     PushButton {
         id: button
         anchors.right: parent.right
         isSmall: true
-        symbol: recordRow.isRecording ? "" : "record.circle"
-        text: recordRow.isRecording ? qsTr("Stop") : qsTr("Start")
-        help: qsTr("Records this app’s sound (before volume and mute) to a WAV file")
-        onClicked: recordRow.isRecording ? recordRow.row.stopRecording() : recordRow.row.startRecording()
+        symbol: recordRow.row.isRecording ? "" : "record.circle"
+        text: recordRow.row.isRecording ? qsTr("Stop") : qsTr("Start")
+        help: recordRow.help
+        onClicked: recordRow.row.isRecording ? recordRow.row.stopRecording() : recordRow.row.startRecording()
     }
 }

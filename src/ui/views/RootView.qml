@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The panel's content: a header, and below it the settings, the question for permission, or the mixer.
+// Not bound: the Loader of Qt 6.4 refuses components that are.
+// qmllint disable unqualified
 import QtQuick
 import Fadeloom
 
@@ -7,7 +9,7 @@ Rectangle {
     id: root
 
     required property PanelModel panel
-    // Lives as long as the view: a panel that is built anew starts with all rows closed.
+    // Lives as long as the view: a panel that is built again starts with all rows closed.
     property string expandedApp
     // The height that the screen leaves to the panel.
     property real availableHeight: 100000
@@ -16,18 +18,29 @@ Rectangle {
     property bool isTranslucent: false
     // Off when the settings are to be seen at a stretch.
     property bool limitsSettings: true
+    // The first page does not arrive.
+    property bool isReady: false
+    readonly property real bodyLimit: availableHeight - body.y
+    readonly property real opacityOfGround: Theme.isTranslucent ? 0.94 : 1
 
-    width: 380
+    width: Theme.panelWidth
     height: implicitHeight
-    implicitWidth: 380
-    implicitHeight: Math.min(availableHeight, 47 + body.height)
+    implicitWidth: Theme.panelWidth
+    implicitHeight: Math.min(availableHeight, body.y + body.height)
     radius: hasRoundCorners ? 12 : 0
     gradient: Gradient {
-        GradientStop { position: 0; color: Theme.at(Theme.panelTop, Theme.isTranslucent ? 0.94 : 1) }
-        GradientStop { position: 1; color: Theme.at(Theme.panelBottom, Theme.isTranslucent ? 0.94 : 1) }
+        GradientStop {
+            position: 0
+            color: Theme.at(Theme.panelTop, root.opacityOfGround)
+        }
+        GradientStop {
+            position: 1
+            color: Theme.at(Theme.panelBottom, root.opacityOfGround)
+        }
     }
     Accessible.role: Accessible.Pane
     Accessible.name: "Fadeloom"
+    Component.onCompleted: isReady = true
 
     Binding {
         target: Theme
@@ -50,100 +63,46 @@ Rectangle {
         value: root.panel.animations
     }
 
-    Item {
+    PanelHeader {
         id: header
         width: parent.width
-        height: 46
-
-        AppIcon {
-            x: 23
-            y: 10
-        }
-        Label {
-            id: title
-            x: 60
-            y: 14
-            size: 14
-            line: 18
-            weight: Font.DemiBold
-            text: "Fadeloom"
-        }
-        PushButton {
-            anchors.left: title.right
-            anchors.leftMargin: 16
-            y: 12
-            visible: root.panel.availableVersion !== ""
-            isSmall: true
-            isProminent: true
-            symbol: "arrow.down.circle.fill"
-            text: qsTr("Update %1").arg(root.panel.availableVersion)
-            help: qsTr("Download Fadeloom %1").arg(root.panel.availableVersion)
-            onClicked: root.panel.openDownloadPage()
-        }
-        HeaderButton {
-            id: settingsButton
-            anchors.right: quitButton.left
-            anchors.rightMargin: 4
-            y: 11
-            symbol: root.panel.showsSettings ? "chevron.backward" : "gearshape"
-            text: root.panel.showsSettings ? qsTr("Back") : qsTr("Settings")
-            onClicked: root.panel.showsSettings = !root.panel.showsSettings
-        }
-        HeaderButton {
-            id: quitButton
-            // The glyph, not the frame, ends on the right content edge.
-            x: parent.width - 22 - width + 6
-            y: 11
-            symbol: "power"
-            text: qsTr("Quit Fadeloom")
-            onClicked: root.panel.quit()
-        }
+        panel: root.panel
     }
     Divider {
-        y: 46
+        id: line
+        y: header.height
         width: parent.width
     }
     Loader {
         id: body
-        y: 47
+        y: line.y + line.height
         width: parent.width
         focus: true
-        sourceComponent: root.panel.page === "settings" ? settingsPage
-            : root.panel.page === "permission" ? permissionPage : mixerPage
         onLoaded: arrival.restart()
-
         transform: Translate {
             id: slide
         }
-        // A page that comes fades in and slides a little; with animations off it is simply there.
-        ParallelAnimation {
-            id: arrival
-            NumberAnimation {
-                target: body
-                property: "opacity"
-                from: Theme.animations && root.isReady ? 0 : 1
-                to: 1
-                duration: Theme.page
-                easing.type: Easing.OutCubic
-            }
-            NumberAnimation {
-                target: slide
-                property: "x"
-                from: Theme.animations && root.isReady ? (root.panel.showsSettings ? 8 : -8) : 0
-                to: 0
-                duration: Theme.page
-                easing.type: Easing.OutCubic
-            }
+        sourceComponent: switch (root.panel.page) {
+        case PanelModel.Page.Settings:
+            return settingsPage;
+        case PanelModel.Page.Permission:
+            return permissionPage;
+        default:
+            return mixerPage;
         }
     }
-    property bool isReady: false
-    Component.onCompleted: isReady = true
-
+    PageArrival {
+        id: arrival
+        page: body
+        slide: slide
+        isAnimated: Theme.animations && root.isReady
+        offset: root.panel.showsSettings ? 8 : -8
+    }
     Component {
         id: settingsPage
         SettingsView {
             panel: root.panel
-            limit: root.limitsSettings ? Math.min(560, root.availableHeight - 47) : 100000
+            limit: root.limitsSettings ? Math.min(560, root.bodyLimit) : 100000
         }
     }
     Component {
@@ -156,7 +115,7 @@ Rectangle {
         id: mixerPage
         MixerView {
             panel: root.panel
-            limit: root.availableHeight - 47
+            limit: root.bodyLimit
             expandedApp: root.expandedApp
             onExpandedAppChanged: root.expandedApp = expandedApp
         }

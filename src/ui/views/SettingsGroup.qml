@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: MIT
 // A titled group of settings.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 Item {
     id: group
 
-    property string title
-    property string symbol
-    property bool isLast: false
+    required property string title
+    required property string symbol
     default property alias content: column.data
 
-    width: parent ? parent.width : 0
     implicitHeight: column.y + column.implicitHeight + 16
     Accessible.role: Accessible.Grouping
     Accessible.name: title
 
     Symbol {
-        x: 22
+        x: Theme.margin
         y: 15
         name: group.symbol
         size: 13
@@ -31,14 +31,14 @@ Item {
     }
     Column {
         id: column
-        x: 22
+        x: Theme.margin
         y: 38
-        width: group.width - 44
+        width: group.width - 2 * Theme.margin
         spacing: 10
     }
     Divider {
-        x: 22
+        x: Theme.margin
         y: parent.height - 1
-        width: parent.width - 44
+        width: parent.width - 2 * Theme.margin
     }
 }

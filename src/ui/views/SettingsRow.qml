@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 // A setting: its words on the left, its control on the right edge, its explanation below.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
 Column {
     id: settingsRow
 
-    property string title
+    required property string title
     property string explanation
     property color explanationColour: Theme.secondary
     default property alias control: side.data
 
-    width: parent ? parent.width : 0
     spacing: 3
 
     Item {

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A setting that is on or off.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // One of our symbols in one colour. Its box is square; it is drawn for the screen's own pixels.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
@@ -10,12 +12,13 @@ Image {
 
     width: size
     height: size
-    sourceSize: Qt.size(size, size)
+    sourceSize.width: size
+    sourceSize.height: size
     source: name === "" ? "" : "image://symbol/" + name + "/" + encodeURIComponent(argb(colour))
     asynchronous: false
 
     function argb(c) {
-        const part = value => Math.round(value * 255).toString(16).padStart(2, "0")
-        return "#" + part(c.a) + part(c.r) + part(c.g) + part(c.b)
+        const part = value => Math.round(value * 255).toString(16).padStart(2, "0");
+        return "#" + part(c.a) + part(c.r) + part(c.g) + part(c.b);
     }
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A symbol that can be pressed; its words are heard and hinted, not seen.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
@@ -22,7 +24,9 @@ Pressable {
         color: Theme.layer(button.pressed ? 0.16 : button.hovered ? 0.08 : 0)
         Behavior on color {
             enabled: Theme.animations
-            ColorAnimation { duration: button.hovered ? Theme.hoverIn : Theme.hoverOut }
+            ColorAnimation {
+                duration: button.hovered ? Theme.hoverIn : Theme.hoverOut
+            }
         }
         FocusRing {
             control: button
@@ -39,7 +43,10 @@ Pressable {
             rotation: button.turn
             Behavior on rotation {
                 enabled: Theme.animations
-                NumberAnimation { duration: Theme.row; easing.type: Easing.OutCubic }
+                NumberAnimation {
+                    duration: Theme.row
+                    easing.type: Easing.OutCubic
+                }
             }
         }
     }

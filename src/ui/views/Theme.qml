@@ -3,6 +3,7 @@
 pragma Singleton
 
 import QtQuick
+import Fadeloom
 
 QtObject {
     property bool isDark: true
@@ -42,6 +43,12 @@ QtObject {
     readonly property color violet: Qt.rgba(0.65, 0.30, 0.94, 1)
     readonly property color pink: Qt.rgba(0.96, 0.36, 0.62, 1)
 
+    // What lies on a filled ground, and the knobs of controls.
+    readonly property color inkOnFill: "#ffffff"
+
+    readonly property int panelWidth: 380
+    // Of the content, on both sides.
+    readonly property int margin: 22
     readonly property string family: "Fadeloom Inter"
 
     readonly property int hoverIn: time(60)
@@ -55,21 +62,28 @@ QtObject {
 
     // The ink at an opacity, for neutral layers.
     function layer(opacity) {
-        return Qt.rgba(ink.r, ink.g, ink.b, opacity)
+        return Qt.rgba(ink.r, ink.g, ink.b, opacity);
     }
     function at(colour, opacity) {
-        return Qt.rgba(colour.r, colour.g, colour.b, opacity)
+        return Qt.rgba(colour.r, colour.g, colour.b, opacity);
     }
-    // A colour by the name that a model gives it.
-    function tone(name) {
-        switch (name) {
-        case "orange": return orange
-        case "red": return red
-        case "green": return green
+    function shadow(opacity) {
+        return Qt.rgba(0, 0, 0, opacity);
+    }
+    // The colour of a status.
+    function tone(tone) {
+        switch (tone) {
+        case AppRowModel.Tone.Warning:
+            return orange;
+        case AppRowModel.Tone.Recording:
+            return red;
+        case AppRowModel.Tone.Call:
+            return green;
+        default:
+            return secondary;
         }
-        return secondary
     }
     function time(milliseconds) {
-        return animations ? milliseconds : 0
+        return animations ? milliseconds : 0;
     }
 }

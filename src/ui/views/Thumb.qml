@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The round handle of a slider with its shadow.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
@@ -13,20 +15,24 @@ Item {
     height: diameter
 
     Repeater {
-        model: [{ grow: 1.5, strength: 0.07 }, { grow: 1, strength: 0.10 }, { grow: 0.5, strength: 0.14 }]
+        model: [Qt.point(1.5, 0.07), Qt.point(1, 0.10), Qt.point(0.5, 0.14)]
+
         Rectangle {
+            // How far it reaches beyond the thumb, and how dark it is.
+            required property point modelData
+
             anchors.centerIn: parent
             anchors.verticalCenterOffset: 0.5
-            width: thumb.diameter + 2 * modelData.grow
+            width: thumb.diameter + 2 * modelData.x
             height: width
             radius: width / 2
-            color: Qt.rgba(0, 0, 0, modelData.strength)
+            color: Theme.shadow(modelData.y)
         }
     }
     Rectangle {
         anchors.fill: parent
         radius: width / 2
-        color: "white"
+        color: Theme.inkOnFill
         antialiasing: true
     }
     Rectangle {

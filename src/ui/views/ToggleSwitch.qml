@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // On or off. It shows `isOn` and asks for the other with `asked`.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 import Fadeloom
@@ -28,7 +30,7 @@ T.CheckBox {
 
     function flip() {
         if (enabled)
-            asked(!isOn)
+            asked(!isOn);
     }
 
     background: Rectangle {
@@ -37,7 +39,9 @@ T.CheckBox {
         color: toggle.isOn ? Theme.switchOn : Theme.switchOff
         Behavior on color {
             enabled: Theme.animations
-            ColorAnimation { duration: Theme.knob }
+            ColorAnimation {
+                duration: Theme.knob
+            }
         }
         FocusRing {
             control: toggle
@@ -49,12 +53,16 @@ T.CheckBox {
             width: toggle.knob
             height: toggle.knob
             radius: width / 2
-            color: "white"
+            color: Theme.inkOnFill
             Behavior on x {
                 enabled: Theme.animations
-                NumberAnimation { duration: Theme.knob; easing.type: Easing.OutCubic }
+                NumberAnimation {
+                    duration: Theme.knob
+                    easing.type: Easing.OutCubic
+                }
             }
         }
     }
-    contentItem: Item { }
+    contentItem: Item {
+    }
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // One band of the equalizer, in whole decibels.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
@@ -28,40 +30,41 @@ Item {
     Accessible.onDecreaseAction: step(-1)
 
     function ask(wanted) {
-        const whole = Math.round(Math.max(minimumValue, Math.min(maximumValue, wanted)))
+        const whole = Math.round(Math.max(minimumValue, Math.min(maximumValue, wanted)));
         if (whole !== modelValue)
-            edited(whole)
+            edited(whole);
     }
     function step(by) {
-        ask(modelValue + by)
+        ask(modelValue + by);
     }
     function follow(y) {
-        const fraction = 1 - Math.max(0, Math.min(height, y)) / height
-        ask(minimumValue + (maximumValue - minimumValue) * fraction)
+        const fraction = 1 - Math.max(0, Math.min(height, y)) / height;
+        ask(minimumValue + (maximumValue - minimumValue) * fraction);
     }
     function position(decibels) {
-        return height * (maximumValue - decibels) / (maximumValue - minimumValue)
+        return height * (maximumValue - decibels) / (maximumValue - minimumValue);
     }
     onModelValueChanged: value = modelValue
     onValueChanged: {
         if (value === modelValue)
-            return
-        ask(value)
-        value = modelValue
+            return;
+        ask(value);
+        value = modelValue;
     }
-    onActiveFocusChanged: if (!activeFocus) visualFocus = false
+    onActiveFocusChanged: if (!activeFocus)
+        visualFocus = false
 
     Keys.onPressed: event => {
         if (event.key !== Qt.Key_Up && event.key !== Qt.Key_Down)
-            return
-        visualFocus = true
-        step(event.key === Qt.Key_Up ? 1 : -1)
-        event.accepted = true
+            return;
+        visualFocus = true;
+        step(event.key === Qt.Key_Up ? 1 : -1);
+        event.accepted = true;
     }
     // Focus that came by the keyboard shows; focus that came by the mouse does not.
     Keys.onReleased: event => {
         if (event.key === Qt.Key_Tab || event.key === Qt.Key_Backtab)
-            visualFocus = true
+            visualFocus = true;
     }
 
     Rectangle {
@@ -80,8 +83,14 @@ Item {
         height: Math.abs(middle - end)
         radius: 1.5
         gradient: Gradient {
-            GradientStop { position: 0; color: Theme.violet }
-            GradientStop { position: 1; color: Theme.cyan }
+            GradientStop {
+                position: 0
+                color: Theme.violet
+            }
+            GradientStop {
+                position: 1
+                color: Theme.cyan
+            }
         }
     }
     Thumb {
@@ -91,15 +100,26 @@ Item {
         isFocused: slider.activeFocus && slider.visualFocus
     }
     MouseArea {
+        // A hand that shakes during a double click must not undo it.
+        property bool wasReset: false
+
         anchors.fill: parent
         preventStealing: true
         onPressed: mouse => {
-            slider.forceActiveFocus(Qt.MouseFocusReason)
-            slider.visualFocus = false
-            slider.follow(mouse.y)
+            slider.forceActiveFocus(Qt.MouseFocusReason);
+            slider.visualFocus = false;
+            slider.follow(mouse.y);
         }
-        onPositionChanged: mouse => slider.follow(mouse.y)
-        onDoubleClicked: slider.ask(0)
+        onPositionChanged: mouse => {
+            if (!wasReset)
+                slider.follow(mouse.y);
+        }
+        onDoubleClicked: {
+            wasReset = true;
+            slider.ask(0);
+        }
+        onReleased: wasReset = false
+        onCanceled: wasReset = false
     }
     Hint {
         text: slider.help

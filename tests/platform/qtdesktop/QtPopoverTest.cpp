@@ -118,6 +118,39 @@ TEST_F(QtPopoverTest, opensAgain)
     EXPECT_TRUE(popover.isShown());
 }
 
+TEST_F(QtPopoverTest, aMinimisedWindowIsNotShown)
+{
+    popover.becomeOrdinaryWindow();
+    popover.show();
+
+    popover.view().setWindowState(Qt::WindowMinimized);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(popover.isShown());
+    EXPECT_EQ(closed, 1);
+
+    popover.show();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(popover.isShown());
+    EXPECT_FALSE(popover.view().windowStates().testFlag(Qt::WindowMinimized));
+    EXPECT_EQ(shown, 2);
+    popover.close();
+    EXPECT_EQ(closed, 2);
+}
+
+TEST_F(QtPopoverTest, aMinimisedWindowThatComesBackIsShown)
+{
+    popover.becomeOrdinaryWindow();
+    popover.show();
+
+    popover.view().setWindowState(Qt::WindowMinimized);
+    popover.view().setWindowState(Qt::WindowNoState);
+    QCoreApplication::processEvents();
+
+    EXPECT_TRUE(popover.isShown());
+    EXPECT_EQ(shown, 2);
+    EXPECT_EQ(closed, 1);
+}
+
 TEST_F(QtPopoverTest, anOrdinaryWindowHasAFrame)
 {
     EXPECT_TRUE(popover.view().flags().testFlag(Qt::FramelessWindowHint));

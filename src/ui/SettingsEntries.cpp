@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "ui/SettingsEntries.h"
+
+#include "shell/AppLanguage.h"
+#include "ui/VolumeText.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cstddef>
+
+namespace fadeloom {
+namespace {
+
+QString words(const char* text)
+{
+    return QCoreApplication::translate("SettingsEntries", text);
+}
+
+QString nameOf(const AppLanguage::Choice& choice)
+{
+    return choice.ownName.empty() ? words(QT_TRANSLATE_NOOP("SettingsEntries", "System"))
+                                  : QString::fromUtf8(choice.ownName);
+}
+
+}  // namespace
+
+MenuEntries callAppEntries(const SettingsData& settings, const InstalledName& installedName)
+{
+    MenuEntries entries;
+    for (const auto& id : settings.focus.callApps)
+        entries.push_back({.text = QString::fromStdString(displayName(settings, id, installedName)),
+            .key = QString::fromStdString(id)});
+    return entries;
+}
+
+MenuEntries offeredAppEntries(const SettingsData& settings, const std::vector<AppEntry>& apps)
+{
+    const auto& callApps = settings.focus.callApps;
+    MenuEntries entries;
+    for (const auto& app : apps)
+        if (std::ranges::find(callApps, app.bundleID) == callApps.end())
+            entries.push_back(
+                {.text = QString::fromStdString(app.name), .key = QString::fromStdString(app.bundleID)});
+    if (!entries.empty())
+        entries.push_back({.kind = MenuEntry::Kind::separator});
+    entries.push_back({.text = words(QT_TRANSLATE_NOOP("SettingsEntries", "Choose from Applications…")),
+        .key = QString::fromLatin1(chooseAppKey)});
+    return entries;
+}
+
+QString volumeLimitText(float limit)
+{
+    return limit == 1 ? words(QT_TRANSLATE_NOOP("SettingsEntries", "100% (no boost)"))
+                      : percentText(static_cast<double>(limit));
+}
+
+MenuEntries volumeLimitEntries(float current)
+{
+    MenuEntries entries;
+    for (std::size_t i = 0; i < volumeLimits.size(); ++i)
+        entries.push_back({.text = volumeLimitText(volumeLimits.at(i)),
+            .key = QString::number(i),
+            .isChecked = current == volumeLimits.at(i)});
+    return entries;
+}
+
+QString languageName(const std::string& code)
+{
+    return nameOf(*std::ranges::find(AppLanguage::choices, code, &AppLanguage::Choice::code));
+}
+
+MenuEntries languageEntries(const std::string& current)
+{
+    MenuEntries entries;
+    for (const auto& each : AppLanguage::choices)
+        entries.push_back(
+            {.text = nameOf(each), .key = QString::fromUtf8(each.code), .isChecked = each.code == current});
+    return entries;
+}
+
+}  // namespace fadeloom

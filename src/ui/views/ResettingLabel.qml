@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// A value in words that a double click sets back.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Fadeloom
+
+Label {
+    id: label
+
+    property string help
+
+    signal reset
+
+    horizontalAlignment: Text.AlignRight
+
+    MouseArea {
+        anchors.fill: parent
+        onDoubleClicked: label.reset()
+    }
+    Hint {
+        text: label.help
+    }
+}
