@@ -190,13 +190,13 @@ TEST_F(MacOSAudioSystem, listensToEachProcessWhileItIsThereAndSomebodyWantsToHea
 
     world.change(501, [](doubles::Process& process) { process.isRunningOutput = true; });
     runQueues();
-    EXPECT_EQ(calls, 1);
+    EXPECT_GT(std::exchange(calls, 0), 0);
     world.change(501, [](doubles::Process& process) { process.isRunningInput = true; });
     runQueues();
-    EXPECT_EQ(calls, 2);
+    EXPECT_GT(std::exchange(calls, 0), 0);
     world.endProcess(501);
     runQueues();
-    EXPECT_EQ(calls, 3);
+    EXPECT_GT(calls, 0);
     (void)audio.processes(ReadMic::no);
     EXPECT_EQ(world.listeners.size(), 1U);
 

@@ -139,6 +139,7 @@ TEST(HAL, valueOfAnotherSizeIsAbsent)
 TEST(HAL, refusedWriteGivesItsStatus)
 {
     PropertyTable table;
+    table.set(object, rate, 44100.0);
     table.writeError = kAudioHardwareIllegalOperationError;
 
     EXPECT_EQ(HAL::setValue(object, rate, 96000.0), kAudioHardwareIllegalOperationError);
