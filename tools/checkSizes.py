@@ -18,10 +18,13 @@ MEASURES = (
     ("", (".cpp", ".mm"), 300),
 )
 LARGER = {
-    "src/control/AudioController.h": 190,
-    "src/platform/pipewire/GraphConnection.cpp": 400,
+    "src/control/AudioController.h": 211,
+    "src/platform/pipewire/GraphConnection.cpp": 446,
+    "tests/app/ProgramTest.cpp": 261,
+    "tests/base/AtomicFileTest.cpp": 298,
     "tests/control/CallStory.cpp": 260,
-    "tests/control/RecordingStory.cpp": 440,
+    "tests/control/RecordingStory.cpp": 485,
+    "tests/control/SettingsStory.cpp": 257,
     "tests/macos/declarations/AppKit/AppKit.h": 280,
     "tests/macos/doubles/AudioCalls.mm": 260,
     "tests/macos/doubles/Runtime.cpp": 290,

@@ -424,6 +424,10 @@
         <source>Disconnected, muted</source>
         <translation>Disconnected, muted</translation>
     </message>
+    <message>
+        <source>%1, chosen by the app</source>
+        <translation>%1, chosen by the app</translation>
+    </message>
 </context>
 <context>
     <name>OutputPicker</name>

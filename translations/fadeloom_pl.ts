@@ -425,6 +425,10 @@
         <source>Disconnected, muted</source>
         <translation>Odłączone, wyciszono</translation>
     </message>
+    <message>
+        <source>%1, chosen by the app</source>
+        <translation>%1, wybór aplikacji</translation>
+    </message>
 </context>
 <context>
     <name>OutputPicker</name>

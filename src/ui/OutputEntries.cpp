@@ -4,6 +4,8 @@
 #include "control/OutputChoice.h"
 
 #include <QCoreApplication>
+#include <QStringList>
+#include <algorithm>
 
 namespace fadeloom {
 namespace {
@@ -21,6 +23,23 @@ const OutputDevice* defaultDevice(const ControllerState& state)
 QString nameOf(const OutputDevice& device)
 {
     return QString::fromStdString(device.name);
+}
+
+/// The devices that the app plays on by its own choice; none for one that follows the system.
+QStringList ownOutputNames(const ControllerState& state, const std::string& bundleID)
+{
+    const auto app = std::ranges::find(*state.apps, bundleID, &AppEntry::bundleID);
+    if (app == state.apps->end())
+        return {};
+    const auto isDefault = [&](const std::string& uid) { return uid == *state.defaultDeviceUID; };
+    if (std::ranges::all_of(app->ownOutputs, isDefault))
+        return {};
+    QStringList names;
+    for (const auto& uid : app->ownOutputs) {
+        if (const auto* const device = findDevice(*state.devices, uid))
+            names.push_back(nameOf(*device));
+    }
+    return names;
 }
 
 }  // namespace
@@ -63,6 +82,8 @@ QString appOutputLabel(const ControllerState& state, const std::string& bundleID
         return nameOf(*device);
     if (state.missingOutput->contains(bundleID))
         return words(QT_TRANSLATE_NOOP("OutputEntries", "Disconnected, muted"));
+    if (const auto names = ownOutputNames(state, bundleID); !chosen && !names.empty())
+        return words(QT_TRANSLATE_NOOP("OutputEntries", "%1, chosen by the app")).arg(names.join(" + "));
     return words(QT_TRANSLATE_NOOP("OutputEntries", "System Output"));
 }
 

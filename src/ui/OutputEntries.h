@@ -18,7 +18,8 @@ namespace fadeloom {
 
 /// Following the system, with an empty key, then the connected devices; the keys are their unique ids.
 [[nodiscard]] MenuEntries appOutputEntries(const ControllerState& state, const std::string& bundleID);
-/// The name of the chosen device, "Disconnected, muted" when it is away, or "System Output".
+/// The name of the chosen device, "Disconnected, muted" when it is away, the devices that the app chose for itself, or
+/// "System Output".
 [[nodiscard]] QString appOutputLabel(const ControllerState& state, const std::string& bundleID);
 
 }  // namespace fadeloom

@@ -70,5 +70,20 @@ TEST_F(OutputEntriesTest, aDeviceThatIsAwayIsSaidToBe)
     EXPECT_EQ(appOutputLabel(state, "player"), "Disconnected, muted");
 }
 
+TEST_F(OutputEntriesTest, aDeviceOfTheAppsOwnChoiceIsNamedAsThat)
+{
+    state.apps.assign({{.bundleID = "player", .ownOutputs = {"a"}}});
+    EXPECT_EQ(appOutputLabel(state, "player"), "Speakers, chosen by the app");
+
+    state.apps.assign({{.bundleID = "player", .ownOutputs = {"b"}}});
+    EXPECT_EQ(appOutputLabel(state, "player"), "System Output") << "it follows the system";
+
+    state.apps.assign({{.bundleID = "player", .ownOutputs = {"a", "b"}}});
+    EXPECT_EQ(appOutputLabel(state, "player"), "Speakers + Speakers, chosen by the app");
+
+    choose("a");
+    EXPECT_EQ(appOutputLabel(state, "player"), "Speakers");
+}
+
 }  // namespace
 }  // namespace fadeloom

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+// Apps that chose a device for themselves.
+#include "tests/control/ControllerStory.h"
+
+namespace fadeloom {
+namespace {
+
+class OwnOutputStory : public ControllerStory {
+protected:
+    OwnOutputStory() { start(); }
+
+    const std::string player = "com.example.player";
+};
+
+TEST_F(OwnOutputStory, anAppThatChoseItsOwnDevicePlaysThere)
+{
+    const auto pid = launchPlaying("Player");
+    change(player, [](auto& app) { app.volume = 0.5F; });
+
+    world.chooseOutputs(pid, {"headphones"});
+    world.runPosted();
+
+    EXPECT_EQ(outputOf(player), "headphones");
+    EXPECT_NEAR(heardAt("headphones"), source / 2, tolerance);
+    EXPECT_TRUE(world.heard("speakers").isSilent());
+}
+
+TEST_F(OwnOutputStory, anAppOnTwoDevicesPlaysOnBothWithTheSameSettings)
+{
+    const auto pid = launchPlaying("Player");
+    change(player, [](auto& app) { app.volume = 0.5F; });
+
+    world.chooseOutputs(pid, {"headphones", "speakers"});
+    world.runPosted();
+
+    EXPECT_EQ(controller->tapsOf(player).size(), 2U);
+    EXPECT_NEAR(heardAt("headphones"), source / 2, tolerance);
+    EXPECT_NEAR(heardAt("speakers"), source / 2, tolerance);
+}
+
+TEST_F(OwnOutputStory, anOutputChosenHereOverridesTheAppsOwn)
+{
+    const auto pid = launchPlaying("Player");
+    world.chooseOutputs(pid, {"headphones"});
+    world.runPosted();
+
+    chooseOutput(player, "speakers");
+    EXPECT_NEAR(heardAt("speakers"), source, tolerance);
+    EXPECT_TRUE(world.heard("headphones").isSilent());
+
+    chooseOutput(player, std::nullopt);
+    EXPECT_NEAR(heardAt("headphones"), source, tolerance);
+    EXPECT_TRUE(world.heard("speakers").isSilent());
+}
+
+TEST_F(OwnOutputStory, aDeviceOfTheAppsChoiceThatIsAwayLeavesTheDefault)
+{
+    const auto pid = launchPlaying("Player");
+    world.chooseOutputs(pid, {"headphones"});
+    world.runPosted();
+
+    unplug("headphones");
+
+    EXPECT_EQ(outputOf(player), "speakers");
+}
+
+TEST_F(OwnOutputStory, fromTwoDevicesToOneNothingIsHeardTwice)
+{
+    const auto pid = launchPlaying("Player");
+    world.chooseOutputs(pid, {"headphones", "speakers"});
+    world.runPosted();
+
+    world.chooseOutputs(pid, {"speakers"});
+    world.runPosted();
+
+    EXPECT_EQ(controller->tapsOf(player).size(), 1U);
+    EXPECT_NEAR(heardAt("speakers"), source, tolerance);
+    EXPECT_TRUE(world.heard("headphones").isSilent());
+}
+
+}  // namespace
+}  // namespace fadeloom

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+// When a tap that was refused is tried again, and when none is made at all.
+#include "tests/control/ControllerStory.h"
+
+namespace fadeloom {
+namespace {
+
+class TapRetryStory : public ControllerStory {
+protected:
+    TapRetryStory() { start(); }
+    void refuseTaps() { world.refuse(AudioOperation::createTap, HowOften::always, -50); }
+
+    const std::string player = "com.example.player";
+};
+
+TEST_F(TapRetryStory, aFailureIsForgottenWhenTheDeviceComesBack)
+{
+    refuseTaps();
+    launchPlaying("Player");
+    ASSERT_EQ(tapOf(player), nullptr);
+    world.allow(AudioOperation::createTap);
+
+    unplug("speakers");
+    unplug("headphones");
+    plug("speakers");
+
+    EXPECT_NE(tapOf(player), nullptr);
+}
+
+TEST_F(TapRetryStory, aFailureIsForgottenWhenTheRateChanges)
+{
+    launchPlaying("Player");
+    refuseTaps();
+    world.changeRate("speakers", 44100);
+    world.advance(5s);
+    ASSERT_EQ(tapOf(player), nullptr);
+    const auto attempts = tapAttempts();
+    world.allow(AudioOperation::createTap);
+
+    world.advance(1min);
+    EXPECT_EQ(tapAttempts(), attempts) << "nothing has changed";
+    world.changeRate("speakers", 48000);
+    world.runPosted();
+
+    EXPECT_NE(tapOf(player), nullptr);
+}
+
+TEST_F(TapRetryStory, aFailureIsForgottenWhenThePermissionChanges)
+{
+    refuseTaps();
+    launchPlaying("Player");
+    world.allow(AudioOperation::createTap);
+    world.advance(10s);
+    ASSERT_EQ(tapOf(player), nullptr);
+
+    world.setPermission(SimulatedCapturePermission::denied);
+    world.advance(5s);
+    world.setPermission(SimulatedCapturePermission::granted);
+    world.advance(5s);
+
+    EXPECT_NE(tapOf(player), nullptr);
+}
+
+TEST_F(TapRetryStory, anotherOutputMakesNoTapWithoutPermission)
+{
+    world.setPermission(SimulatedCapturePermission::denied);
+    launchPlaying("Player");
+    world.advance(5s);
+
+    chooseOutput(player, "headphones");
+
+    EXPECT_EQ(tapAttempts(), 0);
+}
+
+}  // namespace
+}  // namespace fadeloom
