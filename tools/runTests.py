@@ -17,7 +17,7 @@ import renderInstructions
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
 SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
-SPECIAL = ("pipewire", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks")
+SPECIAL = ("pipewire", "week", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks")
 LONG_FORMS = ("engine", "platform/sndfile")  # Folders with test suites that are named LongForm.
 
 
@@ -268,6 +268,8 @@ def main():
     if everything or "pipewire" in arguments.suites:
         runPipeWire(tally)
     runPlayersAtOnce(tally, [suite for suite in ("pipewire", "desktop") if everything or suite in arguments.suites])
+    if "week" in arguments.suites:  # Without a name it is a part of the suite pipewire.
+        runPyTest(tally, "pipewire/test_week.py", "week")
     if everything or "instructions" in arguments.suites:
         runInstructions(tally)
     if everything or "checks" in arguments.suites:
