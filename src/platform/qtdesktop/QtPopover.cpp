@@ -36,7 +36,10 @@ QtPopover::QtPopover(std::function<QRect()> place)
     view_->setResizeMode(QQuickView::SizeViewToRootObject);
     QObject::connect(view_.get(), &QWindow::activeChanged, view_.get(), [this] { activeChanged(); });
     QObject::connect(view_.get(), &QWindow::visibleChanged, view_.get(), [this] { seenChanged(); });
-    QObject::connect(view_.get(), &QWindow::windowStateChanged, view_.get(), [this] { seenChanged(); });
+    QObject::connect(view_.get(), &QWindow::windowStateChanged, view_.get(), [this] {
+        if (view_->isVisible())  // It is announced on the way to being shown, too.
+            seenChanged();
+    });
     const auto sizeChanged = [this] {
         if (isOpen_)
             putInPlace();
