@@ -143,6 +143,7 @@ TEST_F(QtPopoverTest, aMinimisedWindowThatComesBackIsShown)
     popover.show();
 
     popover.view().setWindowState(Qt::WindowMinimized);
+    QCoreApplication::processEvents();
     popover.view().setWindowState(Qt::WindowNoState);
     QCoreApplication::processEvents();
 
