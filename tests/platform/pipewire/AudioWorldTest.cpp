@@ -162,7 +162,9 @@ TEST_F(AudioWorldBuilding, whatDiffersIsAnnounced)
 
     EXPECT_FALSE(changesBetween(before, before).any());
     EXPECT_EQ(changesBetween(before, playing), AudioChanges{.processes = true});
-    EXPECT_EQ(changesBetween(playing, plugged), (AudioChanges{.outputDevices = true, .defaultOutput = true}));
+    EXPECT_EQ(changesBetween(playing, plugged),
+        (AudioChanges{.processes = true, .outputDevices = true, .defaultOutput = true}))
+        << "the stream has a device now";
 }
 
 TEST_F(AudioWorldBuilding, aProcessHasTheDevicesThatItsStreamsWouldPlayTo)
