@@ -93,6 +93,7 @@ void AudioController::createTap(
     if (!block)
         block = std::make_shared<TapParameters>();
     pushSettings(id);  // Before any audio flows.
+    block->recorder.forgetWriter();  // A tap that is made anew goes on with the recording of the one before.
     auto tap = AppTap::create(platform_.audio, entry.processIDs, device, scope, block, entry.name);
     if (!tap) {
         tapFailed(entry, device, tap.error());

@@ -154,7 +154,7 @@ void Renderer::record(std::size_t frames) noexcept FADELOOM_NONBLOCKING
         interleaved_[2 * frame] = left_[frame];
         interleaved_[2 * frame + 1] = right_[frame];
     }
-    parameters_->recorder.write(static_cast<std::uint32_t>(frames), interleaved_.data());
+    parameters_->recorder.write(this, static_cast<std::uint32_t>(frames), interleaved_.data());
 }
 
 float Renderer::process(std::size_t frames) noexcept FADELOOM_NONBLOCKING

@@ -74,7 +74,7 @@ TEST_F(ClosingRecordingsTest, stayOpenWhileACycleIsWriting)
         EXPECT_THAT(closed, IsEmpty());
     };
 
-    parameters->recorder.write(0, nullptr);
+    parameters->recorder.write(this, 0, nullptr);
     loop.advance(ClosingRecordings::delay);
 
     EXPECT_THAT(closed, ElementsAre("player"));

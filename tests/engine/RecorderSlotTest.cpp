@@ -31,11 +31,11 @@ TEST(RecorderSlot, writesToTheFileThatIsInIt)
     CountingFile file;
     RecorderSlot slot;
 
-    slot.write(1, nullptr);
+    slot.write(&slot, 1, nullptr);
     slot.set(&file);
-    slot.write(2, nullptr);
+    slot.write(&slot, 2, nullptr);
     slot.set(nullptr);
-    slot.write(4, nullptr);
+    slot.write(&slot, 4, nullptr);
 
     EXPECT_EQ(file.frames, 2U);
 }
@@ -51,10 +51,30 @@ TEST(RecorderSlot, isInUseWhileACycleWrites)
         wasInUse = slot.isInUse();
     };
 
-    slot.write(1, nullptr);
+    slot.write(&slot, 1, nullptr);
 
     EXPECT_TRUE(wasInUse);
     EXPECT_FALSE(slot.isInUse());
+}
+
+TEST(RecorderSlot, takesTheCyclesOfOneRendererAlone)
+{
+    CountingFile file;
+    RecorderSlot slot;
+    const int speakers = 0;
+    const int headphones = 0;
+    slot.set(&file);
+
+    for (int cycle = 0; cycle < 10; ++cycle) {
+        slot.write(&speakers, 480, nullptr);
+        slot.write(&headphones, 480, nullptr);
+    }
+    EXPECT_EQ(file.frames, 4800U);
+
+    slot.forgetWriter();
+    slot.write(&headphones, 480, nullptr);
+    slot.write(&speakers, 480, nullptr);
+    EXPECT_EQ(file.frames, 5280U) << "whoever comes first after that";
 }
 
 // An IO thread writes all the time; every file is destroyed as soon as the slot says that it can be. The address and
@@ -65,7 +85,7 @@ TEST(RecorderSlot, aFileThatIsNotInUseIsNeverReachedAgain)
     std::atomic<bool> isOver = false;
     const auto cycles = [&] {
         while (!isOver.load())
-            slot.write(1, nullptr);
+            slot.write(&slot, 1, nullptr);
     };
     {
         const std::jthread thread(cycles);

@@ -18,7 +18,9 @@ namespace fadeloom {
 class Heartbeat {
 public:
     static constexpr std::chrono::milliseconds interval{80};
-    static constexpr int missesAllowed = 3;  // So many intervals without an answer are a stall.
+    /// So many intervals without an answer are a stall: about a second. On a loaded machine a thread that works may be
+    /// held up for a quarter of one, and to let go of the applications then would end their recordings.
+    static constexpr int missesAllowed = 12;
 
     struct Callbacks {
         std::function<void()> stalled;

@@ -118,11 +118,11 @@ TEST_F(HeartbeatTest, asksNothingWhileItIsNotNeeded)
 {
     freeze();
 
-    runFor(600ms);
+    runFor(1500ms);
     heartbeat->setActive(true);
     runFor(40ms);
     heartbeat->setActive(false);
-    runFor(600ms);
+    runFor(1500ms);
 
     EXPECT_EQ(stalls, 0);
 }
@@ -131,7 +131,7 @@ TEST_F(HeartbeatTest, followsAStallToItsEndAlsoWhenItIsNotNeededAnyMore)
 {
     heartbeat->setActive(true);
     freeze();
-    runFor(800ms);
+    runFor(2000ms);
     ASSERT_EQ(stalls, 1);
 
     heartbeat->setActive(false);
