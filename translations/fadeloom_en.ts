@@ -113,6 +113,13 @@
     </message>
 </context>
 <context>
+    <name>CallOffer</name>
+    <message>
+        <source>Don’t offer this for %1 again</source>
+        <translation>Don’t offer this for %1 again</translation>
+    </message>
+</context>
+<context>
     <name>CallSettings</name>
     <message>
         <source>Focus Mode</source>
@@ -604,6 +611,11 @@
     <message>
         <source>100% (no boost)</source>
         <translation>100% (no boost)</translation>
+    </message>
+    <message>
+        <source>Lower others during calls in %1</source>
+        <extracomment>The name of an app.</extracomment>
+        <translation>Lower others during calls in %1</translation>
     </message>
 </context>
 <context>

@@ -26,8 +26,10 @@ EventPrinter::EventPrinter(const AudioController& controller, Console& console)
     });
     follow(state.apps, [this] { printApps(); });
     follow(state.settings, [this] { printOutputs(); });
-    subscriptions_.push_back(
-        state.callApp.whenAssigned([this] { console_.print(callLine(*controller_.state().callApp)); }));
+    if (*state.callApp)
+        printCall();
+    subscriptions_.push_back(state.callApp.whenAssigned([this] { printCall(); }));
+    follow(state.callOffers, [this] { printCallOffers(); });
     follow(state.recordings, [this] { printRecordings(); });
     follow(state.lastRecording, [this] { printSavedRecording(); });
     follow(state.errorMessage, [this] { printMessage(); });
@@ -56,6 +58,18 @@ void EventPrinter::printOutputs()
         now.emplace(entry.bundleID, controller_.outputUID(entry.bundleID));
     print(outputLines(outputs_, now));
     outputs_ = std::move(now);
+}
+
+void EventPrinter::printCall()
+{
+    console_.print(callLine(*controller_.state().callApp));
+}
+
+void EventPrinter::printCallOffers()
+{
+    const auto& now = *controller_.state().callOffers;
+    print(callOfferLines(callOffers_, now));
+    callOffers_ = now;
 }
 
 void EventPrinter::printRecordings()

@@ -26,6 +26,8 @@ private:
     void printApps();
     void printDevices();
     void printOutputs();
+    void printCall();
+    void printCallOffers();
     void printRecordings();
     void printSavedRecording();
     void printMessage();
@@ -33,9 +35,10 @@ private:
 
     const AudioController& controller_;
     Console& console_;
-    std::vector<AppEntry> apps_;  // As last printed, all four.
+    std::vector<AppEntry> apps_;  // As last printed, all five.
     std::vector<OutputDevice> devices_;
     AppOutputs outputs_;
+    std::set<std::string> callOffers_;
     std::set<std::string> recordings_;
     std::vector<Subscription> subscriptions_;
 };

@@ -99,6 +99,16 @@ std::string callLine(const std::optional<std::string>& bundleID)
     return "call " + textOrNone(bundleID);
 }
 
+std::vector<std::string> callOfferLines(const std::set<std::string>& before, const std::set<std::string>& now)
+{
+    std::vector<std::string> lines;
+    for (const auto& id : now) {
+        if (!before.contains(id))
+            lines.push_back("call-app offered " + asWord(id));
+    }
+    return lines;
+}
+
 std::vector<std::string> recordingLines(const std::set<std::string>& before, const std::set<std::string>& now)
 {
     std::vector<std::string> lines;

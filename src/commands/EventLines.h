@@ -34,6 +34,8 @@ using AppOutputs = std::map<std::string, std::optional<std::string>>;
 [[nodiscard]] std::vector<std::string> deviceLines(
     std::span<const OutputDevice> before, std::span<const OutputDevice> now);
 [[nodiscard]] std::string callLine(const std::optional<std::string>& bundleID);
+[[nodiscard]] std::vector<std::string> callOfferLines(
+    const std::set<std::string>& before, const std::set<std::string>& now);
 [[nodiscard]] std::vector<std::string> recordingLines(
     const std::set<std::string>& before, const std::set<std::string>& now);
 [[nodiscard]] std::string savedRecordingLine(const std::filesystem::path& location);

@@ -88,16 +88,14 @@ Reply CommandInterpreter::setCallApp(Arguments arguments)
     const auto id = findApp(controller_.state(), text_, arguments[0]).value_or(arguments[0]);
     if (id.empty())
         return error("unknown app " + asWord(id));
-    return changeSettings("call-app", arguments, [&](SettingsData& settings) -> Problem {
-        bool isCallApp = false;
-        if (auto problem = setSwitch(isCallApp, arguments[1]))
-            return problem;
-        auto& apps = settings.focus.callApps;
-        std::erase(apps, id);
-        if (isCallApp)
-            apps.push_back(id);
-        return std::nullopt;
-    });
+    bool isWanted = false;
+    if (const auto problem = setSwitch(isWanted, arguments[1]))
+        return error(*problem);
+    if (isWanted)
+        controller_.addCallApp(id);
+    else
+        controller_.removeCallApp(id);
+    return done("call-app", arguments);
 }
 
 Reply CommandInterpreter::setRecordingsFolder(Arguments arguments)

@@ -18,6 +18,7 @@ struct AppEntry {
     AppIcon icon{};
     bool isPlaying = false;  // At least one of its processes is.
     bool isUsingMic = false;  // Likewise; false for every app while calls are not looked for.
+    std::vector<std::string> callIDs{};  // Under which it may stand among the call apps; its own first.
     std::vector<AudioProcessID> processIDs{};  // Ascending.
     std::vector<std::string> ownOutputs{};  // Unique ids of the devices of its own choice, ascending.
 

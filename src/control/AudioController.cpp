@@ -22,7 +22,8 @@ std::optional<std::string> unreadableMessage(const std::optional<SettingsError>&
 
 AudioController::AudioController(const Platform& platform, EngineLog& engineLog, const std::string& version)
     : AudioController(platform, engineLog, version,
-          SettingsFile::load(SettingsFile::defaultURL(platform.folders), platform.systemLog))
+          SettingsFile::load(SettingsFile::defaultURL(platform.folders), platform.systemLog,
+              defaultCallApps(platform.callApps)))
 {
 }
 

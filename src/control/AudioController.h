@@ -12,10 +12,12 @@
 
 #include "base/LifeToken.h"
 #include "control/AppGroups.h"
+#include "control/AppTraits.h"
 #include "control/AudioPermission.h"
 #include "control/ClosingRecordings.h"
 #include "control/ControllerState.h"
 #include "control/DemoContents.h"
+#include "control/FailedTap.h"
 #include "control/LevelStore.h"
 #include "control/SettingsSaver.h"
 #include "engine/AppTap.h"
@@ -101,6 +103,12 @@ public:
     /// Shows the recording that was stopped last in the file manager.
     void revealLastRecording();
 
+    [[nodiscard]] const CallApps& callApps() const { return platform_.callApps; }
+    /// Its use of the microphone is a call from now on; is none any more and not offered; as if nothing had been said.
+    void addCallApp(const std::string& bundleID);
+    void removeCallApp(const std::string& bundleID);
+    void resetCallApps();
+
     void applyPreset(const EQPreset& preset, const std::string& bundleID);
     /// Keeps the app's curve under this name. A blank name does nothing; the name of a built-in preset becomes the
     /// error message.
@@ -129,6 +137,7 @@ private:
     void holdNewStreams();
 
     void updateFocus();
+    [[nodiscard]] std::vector<std::string> callIDsOf(const std::string& bundleID) const;
 
     void updatePermission();
     void updateSeen(const AppGroups& groups);
@@ -146,7 +155,6 @@ private:
     void tapFailed(const AppEntry& entry, const OutputDevice& device, const TapError& error);
     void tapMade(const AppEntry& entry, const AppTap& tap, double formerRate);
     [[nodiscard]] const AppTap* tapOn(const std::string& bundleID, const std::string& outputUID) const;
-    struct FailedTap;
     [[nodiscard]] FailedTap failureOf(const AppEntry& entry, const OutputDevice& device) const;
     [[nodiscard]] bool wasRefused(const AppEntry& entry, const OutputDevice& device) const;
     void removeTapsOfQuitApps(const AppGroups& groups);
@@ -186,18 +194,10 @@ private:
     std::map<std::string, std::unique_ptr<Recording>> active_;
     ClosingRecordings closing_{platform_.mainLoop,
         [this](const std::string& bundleID, Recording& recording) { finish(bundleID, recording); }};
-    /// A failed attempt is not repeated while all of this is as it was.
-    struct FailedTap {
-        std::string key;
-        OutputDeviceID device = 0;
-        double rate = 0;
-
-        friend bool operator==(const FailedTap&, const FailedTap&) = default;
-    };
     std::map<std::string, std::map<std::string, FailedTap>> failed_;  // By app and its output.
     std::set<std::string> audioConfirmed_;  // Taps through which audio was seen to flow.
     std::set<std::string> seen_;  // Apps that have played while they were there.
-    std::map<std::string, AppIcon> icons_;
+    std::map<std::string, AppTraits> traits_;
     bool isPollScheduled_ = false;
     bool isShutDown_ = false;
 

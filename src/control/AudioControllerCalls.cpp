@@ -3,12 +3,42 @@
 #include "control/AudioController.h"
 #include "control/CallDucking.h"
 
+#include <utility>
+
 namespace fadeloom {
 
 void AudioController::updateFocus()
 {
+    // Whoever observes the one may change what the other is made of.
+    auto offers = callOffers(*state_.apps, state_.settings->focus, *state_.callOffers);
+    state_.callOffers.assignIfDifferent(std::move(offers));
     if (state_.callApp.assignIfDifferent(appOnCall(*state_.apps, state_.settings->focus)))
         pushAllSettings();
+}
+
+std::vector<std::string> AudioController::callIDsOf(const std::string& bundleID) const
+{
+    const auto traits = traits_.find(bundleID);
+    return traits == traits_.end() ? platform_.callApps.identifiersOf(bundleID) : traits->second.callIDs;
+}
+
+void AudioController::addCallApp(const std::string& bundleID)
+{
+    editSettings([&](SettingsData& settings) { fadeloom::addCallApp(settings.focus, callIDsOf(bundleID)); });
+}
+
+void AudioController::removeCallApp(const std::string& bundleID)
+{
+    editSettings(
+        [&](SettingsData& settings) { fadeloom::removeCallApp(settings.focus, callIDsOf(bundleID)); });
+}
+
+void AudioController::resetCallApps()
+{
+    editSettings([&](SettingsData& settings) {
+        settings.focus.callApps = defaultCallApps(platform_.callApps).current;
+        settings.focus.declinedCallApps.clear();
+    });
 }
 
 }  // namespace fadeloom

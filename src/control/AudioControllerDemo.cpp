@@ -14,6 +14,7 @@ AudioController::AudioController(const Platform& platform, EngineLog& engineLog,
           .devices = demo.devices,
           .defaultDeviceUID = demo.devices.empty() ? std::nullopt : std::optional(demo.devices.front().uid),
           .permission = AudioPermission::State::granted,
+          .callOffers = demo.callOffers,
           .settings = demo.settings}
     , saver_(platform.utilityQueue, platform.mainLoop, SettingsFile::defaultURL(platform.folders), {})
 {

@@ -61,15 +61,20 @@ void AudioController::updateApps(const AppGroups& groups)
 
 AppEntry AudioController::makeEntry(const std::string& bundleID, const AppGroup& group)
 {
-    auto icon = icons_.find(bundleID);
-    if (icon == icons_.end())
-        icon = icons_.emplace(bundleID, group.owner.icon.value_or(AppIcon{})).first;
+    auto traits = traits_.find(bundleID);
+    if (traits == traits_.end())
+        traits = traits_
+                     .emplace(bundleID,
+                         AppTraits{.icon = group.owner.icon.value_or(AppIcon{}),
+                             .callIDs = platform_.callApps.identifiersOf(bundleID)})
+                     .first;
     return {
         .bundleID = bundleID,
         .name = group.owner.localizedName.value_or(bundleID),
-        .icon = icon->second,
+        .icon = traits->second.icon,
         .isPlaying = group.isPlaying(),
         .isUsingMic = group.isUsingMic(),
+        .callIDs = traits->second.callIDs,
         .processIDs = group.processIDs(),
         .ownOutputs = group.ownOutputs(),
     };
@@ -95,7 +100,7 @@ void AudioController::forgetQuitApps(const AppGroups& groups)
 {
     const auto hasQuit = [&](const auto& item) { return !groups.contains(item.first); };
     std::erase_if(params_, [&](const auto& item) { return hasQuit(item) && !taps_.contains(item.first); });
-    std::erase_if(icons_, hasQuit);
+    std::erase_if(traits_, hasQuit);
     std::erase_if(failed_, hasQuit);
     std::erase_if(audioConfirmed_, [&](const auto& id) { return !groups.contains(id); });
 

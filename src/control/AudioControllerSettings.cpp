@@ -95,7 +95,7 @@ void AudioController::pushSettings(const std::string& bundleID, std::optional<do
     if (block == params_.end())
         return;
     const auto app = appSettings(*state_.settings, bundleID);
-    const float duck = duckFactor(state_.settings->focus, *state_.callApp, bundleID);
+    const float duck = duckFactor(state_.settings->focus, *state_.callApp, callIDsOf(bundleID));
     store(tapValues(*state_.settings, app, isOutputMissing(bundleID), duck), *block->second);
 
     if (const auto* const tap = tapOf(bundleID); !sampleRate && tap)

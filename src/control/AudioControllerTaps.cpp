@@ -76,7 +76,7 @@ bool AudioController::wasRefused(const AppEntry& entry, const OutputDevice& devi
     return failure != failures->second.end() && failure->second == failureOf(entry, device);
 }
 
-AudioController::FailedTap AudioController::failureOf(const AppEntry& entry, const OutputDevice& device) const
+FailedTap AudioController::failureOf(const AppEntry& entry, const OutputDevice& device) const
 {
     return {.key = failureKey(entry.processIDs, device.uid),
         .device = device.id,

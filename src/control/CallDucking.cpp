@@ -6,9 +6,10 @@
 namespace fadeloom {
 namespace {
 
-bool isCallApp(const FocusSettings& focus, const std::string& bundleID)
+bool isDeclined(const FocusSettings& focus, const AppEntry& entry)
 {
-    return std::ranges::find(focus.callApps, bundleID) != focus.callApps.end();
+    const auto& declined = focus.declinedCallApps;
+    return std::ranges::find_first_of(declined, entry.callIDs) != declined.end();
 }
 
 }  // namespace
@@ -18,16 +19,28 @@ std::optional<std::string> appOnCall(std::span<const AppEntry> entries, const Fo
     if (!focus.enabled)
         return std::nullopt;
     const auto found = std::ranges::find_if(
-        entries, [&](const AppEntry& entry) { return entry.isUsingMic && isCallApp(focus, entry.bundleID); });
+        entries, [&](const AppEntry& entry) { return entry.isUsingMic && isCallApp(focus, entry.callIDs); });
     if (found == entries.end())
         return std::nullopt;
     return found->bundleID;
 }
 
-float duckFactor(
-    const FocusSettings& focus, const std::optional<std::string>& callApp, const std::string& bundleID)
+float duckFactor(const FocusSettings& focus, const std::optional<std::string>& callApp,
+    std::span<const std::string> identifiers)
 {
-    return callApp && !isCallApp(focus, bundleID) ? focus.duckLevel : 1.0F;
+    return callApp && !isCallApp(focus, identifiers) ? focus.duckLevel : 1.0F;
+}
+
+std::set<std::string> callOffers(
+    std::span<const AppEntry> entries, const FocusSettings& focus, const std::set<std::string>& offered)
+{
+    std::set<std::string> offers;
+    for (const auto& entry : entries) {
+        const bool hasReason = (entry.isUsingMic && entry.isPlaying) || offered.contains(entry.bundleID);
+        if (focus.enabled && hasReason && !isCallApp(focus, entry.callIDs) && !isDeclined(focus, entry))
+            offers.insert(entry.bundleID);
+    }
+    return offers;
 }
 
 }  // namespace fadeloom

@@ -29,6 +29,9 @@ struct ControllerState {
     Published<AudioPermission::State> permission{};
     /// The app whose call lowers the others.
     Published<std::optional<std::string>> callApp{};
+    /// The listed apps that are no call apps and have used the microphone while they played, until the user says what
+    /// they are.
+    Published<std::set<std::string>> callOffers{};
     /// Why the tap of an app could not be made, in words for the user.
     Published<std::map<std::string, std::string>> tapErrors{};
     /// The listed apps whose chosen output is not connected; they are muted.

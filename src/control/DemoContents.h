@@ -7,6 +7,8 @@
 #include "platform/OutputDevice.h"
 #include "settings/SettingsData.h"
 
+#include <set>
+#include <string>
 #include <vector>
 
 namespace fadeloom {
@@ -15,6 +17,7 @@ namespace fadeloom {
 struct DemoContents {
     std::vector<AppEntry> apps{};
     std::vector<OutputDevice> devices{};
+    std::set<std::string> callOffers{};
     SettingsData settings{};
     LevelStore::Levels levels{};
 };

@@ -8,6 +8,7 @@ class Application;
 class AudioFiles;
 class AudioSystem;
 class BackgroundQueue;
+class CallApps;
 class CapturePermission;
 class Dialogs;
 class HttpClient;
@@ -36,6 +37,7 @@ struct Platform {
     WallClock& clock;
     UserDefaults& userDefaults;
     HttpClient& http;
+    const CallApps& callApps;
 
     // Null without windows.
     Application* application = nullptr;

@@ -1,53 +1,44 @@
 // SPDX-License-Identifier: MIT
 #include "settings/FocusSettings.h"
 
-#include <array>
+#include <algorithm>
 
 namespace fadeloom {
-
 namespace {
 
-struct CallApp {
-    const char* bundleID;
-    const char* name;
-};
-
-constexpr std::array callAppCatalogue = {
-    CallApp{"us.zoom.xos", "Zoom"},
-    CallApp{"com.microsoft.teams2", "Microsoft Teams"},
-    CallApp{"com.microsoft.teams", "Microsoft Teams (classic)"},
-    CallApp{"com.apple.FaceTime", "FaceTime"},
-    CallApp{"com.hnc.Discord", "Discord"},
-    CallApp{"com.tinyspeck.slackmacgap", "Slack"},
-    CallApp{"Cisco-Systems.Spark", "Webex"},
-    CallApp{"com.skype.skype", "Skype"},
-    CallApp{"net.whatsapp.WhatsApp", "WhatsApp"},
-    CallApp{"org.whispersystems.signal-desktop", "Signal"},
-    CallApp{"com.google.Chrome.app.kjgfgldnnfoeklkmfkjfagphfepbbdan", "Google Meet"},
-};
+void eraseAll(std::vector<std::string>& list, std::span<const std::string> identifiers)
+{
+    std::erase_if(
+        list, [&](const auto& id) { return std::ranges::find(identifiers, id) != identifiers.end(); });
+}
 
 }  // namespace
 
-const std::vector<std::string>& FocusSettings::defaultCallApps()
+DefaultCallApps defaultCallApps(const CallApps& callApps)
 {
-    static const std::vector<std::string> bundleIDs = [] {
-        std::vector<std::string> result;
-        for (const auto& app : callAppCatalogue)
-            result.emplace_back(app.bundleID);
-        return result;
-    }();
-    return bundleIDs;
+    DefaultCallApps defaults{.former = callApps.formerDefaults()};
+    for (const auto& app : callApps.wellKnown())
+        defaults.current.push_back(app.bundleIDs.front());
+    return defaults;
 }
 
-const std::map<std::string, std::string>& FocusSettings::knownNames()
+bool isCallApp(const FocusSettings& focus, std::span<const std::string> identifiers)
 {
-    static const std::map<std::string, std::string> names = [] {
-        std::map<std::string, std::string> result;
-        for (const auto& app : callAppCatalogue)
-            result.emplace(app.bundleID, app.name);
-        return result;
-    }();
-    return names;
+    return std::ranges::find_first_of(focus.callApps, identifiers) != focus.callApps.end();
+}
+
+void addCallApp(FocusSettings& focus, std::span<const std::string> identifiers)
+{
+    eraseAll(focus.declinedCallApps, identifiers);
+    if (!isCallApp(focus, identifiers))
+        focus.callApps.push_back(identifiers.front());
+}
+
+void removeCallApp(FocusSettings& focus, std::span<const std::string> identifiers)
+{
+    eraseAll(focus.callApps, identifiers);
+    eraseAll(focus.declinedCallApps, identifiers);
+    focus.declinedCallApps.push_back(identifiers.front());
 }
 
 }  // namespace fadeloom

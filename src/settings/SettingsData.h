@@ -18,7 +18,8 @@ namespace fadeloom {
 /// The ceilings that can be chosen for every app's volume, as linear factors.
 inline constexpr std::array<float, 4> volumeLimits = {1.0F, 1.25F, 1.5F, 2.0F};
 
-/// As made, it is what a user has who never changed anything. Apps are named by their bundle identifiers.
+/// As made, it is what a user has who never changed anything, but for the call apps, which depend on the system. Apps
+/// are named by their bundle identifiers.
 struct SettingsData {
     std::map<std::string, AppAudioSettings> apps{};
     FocusSettings focus{};
@@ -32,5 +33,13 @@ struct SettingsData {
 
     friend bool operator==(const SettingsData&, const SettingsData&) = default;
 };
+
+/// What a user has who never changed anything.
+[[nodiscard]] inline SettingsData defaultSettings(const DefaultCallApps& callApps)
+{
+    SettingsData settings;
+    settings.focus.callApps = callApps.current;
+    return settings;
+}
 
 }  // namespace fadeloom

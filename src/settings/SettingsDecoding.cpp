@@ -73,6 +73,7 @@ static void decode(const Json& value, FocusSettings& focus, DecodingProblem& pro
     decodeField(value, "enabled", focus.enabled, problem);
     decodeField(value, "duckLevel", focus.duckLevel, problem);
     decodeField(value, "callApps", focus.callApps, problem);
+    decodeField(value, "declinedCallApps", focus.declinedCallApps, problem);
     focus.duckLevel = std::clamp(focus.duckLevel, 0.0F, 1.0F);
 }
 
@@ -136,18 +137,21 @@ static void decode(const Json& value, SettingsData& settings, DecodingProblem& p
     }
 }
 
-std::expected<SettingsData, SettingsError> decodeSettings(std::string_view text)
+std::expected<SettingsData, SettingsError> decodeSettings(
+    std::string_view text, const DefaultCallApps& defaults)
 {
     const std::string readable = withFiniteNumbers(text);
     const auto value = parse(readable);
     if (!value)
         return std::unexpected(value.error());
 
-    SettingsData settings;
+    auto settings = defaultSettings(defaults);
     DecodingProblem problem;
     decode(*value, settings, problem);
     if (problem.isNoted())
         return std::unexpected(SettingsError{problem.text()});
+    if (!defaults.former.empty() && settings.focus.callApps == defaults.former)
+        settings.focus.callApps = defaults.current;
     return settings;
 }
 

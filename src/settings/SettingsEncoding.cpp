@@ -46,11 +46,14 @@ Json encode(const AppAudioSettings& app)
 
 Json encode(const FocusSettings& focus)
 {
-    return {
+    Json object{
         {"enabled", focus.enabled},
         {"duckLevel", finite(focus.duckLevel, FocusSettings().duckLevel)},
         {"callApps", focus.callApps},
     };
+    if (!focus.declinedCallApps.empty())
+        object["declinedCallApps"] = focus.declinedCallApps;
+    return object;
 }
 
 Json encode(const AppearanceSettings& appearance)

@@ -35,11 +35,11 @@ std::optional<SettingsError> reasonToKeep(const std::expected<std::string, Atomi
 }
 
 std::expected<SettingsData, SettingsError> decode(
-    const std::expected<std::string, AtomicFile::ReadError>& content)
+    const std::expected<std::string, AtomicFile::ReadError>& content, const DefaultCallApps& callApps)
 {
     if (!content)
         return std::unexpected(tooLarge());
-    return decodeSettings(*content);
+    return decodeSettings(*content, callApps);
 }
 
 fs::path backupOf(const fs::path& file)
@@ -54,14 +54,14 @@ fs::path defaultURL(const StandardFolders& folders)
     return folders.applicationSupport() / "Fadeloom" / "settings.json";
 }
 
-Loaded load(const fs::path& file, SystemLog& log)
+Loaded load(const fs::path& file, SystemLog& log, const DefaultCallApps& callApps)
 {
     const auto content = AtomicFile::read(file, maximumSize);
     if (auto unreadable = reasonToKeep(content))
-        return {.settings = {}, .unreadable = std::move(unreadable)};
+        return {.settings = defaultSettings(callApps), .unreadable = std::move(unreadable)};
     if (!content && content.error().reason == AtomicFile::ReadError::Reason::missing)
-        return {};
-    auto settings = decode(content);
+        return {.settings = defaultSettings(callApps), .unreadable = {}};
+    auto settings = decode(content, callApps);
     if (settings)
         return {.settings = std::move(*settings), .unreadable = {}};
 
@@ -71,7 +71,7 @@ Loaded load(const fs::path& file, SystemLog& log)
     fs::copy_file(file, backup, ignored);
     log.write(SystemLog::Level::error,
         "Fadeloom: settings unreadable (" + settings.error().description + "), backup at " + backup.string());
-    return {};
+    return {.settings = defaultSettings(callApps), .unreadable = {}};
 }
 
 std::expected<void, SettingsError> save(const SettingsData& settings, const fs::path& file)

@@ -28,7 +28,8 @@ struct Loaded {
 /// gives them as well; it is copied to a backup beside it, in place of any older one, before the next save overwrites
 /// it, and `log` gets one line. A file that is there and cannot be read gives them, too, with the reason: nothing may
 /// be saved in its place.
-[[nodiscard]] Loaded load(const std::filesystem::path& file, SystemLog& log);
+[[nodiscard]] Loaded load(
+    const std::filesystem::path& file, SystemLog& log, const DefaultCallApps& callApps = {});
 
 /// Replaces the file, and makes the folders above it. Refuses what `load` would find too large, and to replace a file
 /// that cannot be read. After an error the file is as it was.

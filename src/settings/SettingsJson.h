@@ -15,8 +15,10 @@
 
 namespace fadeloom {
 
-/// Reads and repairs a record. Any bytes may come in. Thread: any.
-[[nodiscard]] std::expected<SettingsData, SettingsError> decodeSettings(std::string_view text);
+/// Reads and repairs a record. Any bytes may come in. A list of call apps that is missing, or is the former default,
+/// becomes the current default. Thread: any.
+[[nodiscard]] std::expected<SettingsData, SettingsError> decodeSettings(
+    std::string_view text, const DefaultCallApps& defaults = {});
 
 /// Writes a record, one member per line, keys in order; the same record gives the same bytes. What JSON cannot say is
 /// replaced: a number that is not finite by its default, bytes that are not UTF-8 by replacement characters.

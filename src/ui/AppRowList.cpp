@@ -35,6 +35,7 @@ void AppRowList::observe()
     whenAssigned(state.defaultDeviceUID, refresh);
     whenAssigned(state.callApp, refresh);
     whenAssigned(state.tapErrors, refresh);
+    whenAssigned(state.callOffers, refresh);
     whenAssigned(state.missingOutput, refresh);
     whenAssigned(state.recordings, [this] {
         refreshRows();

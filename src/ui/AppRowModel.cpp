@@ -6,6 +6,7 @@
 #include "ui/AppIconProvider.h"
 #include "ui/ElapsedText.h"
 #include "ui/OutputEntries.h"
+#include "ui/SettingsEntries.h"
 
 #include <utility>
 
@@ -88,6 +89,16 @@ void AppRowModel::chooseOutput(const QString& key)
         [&](auto& app) { app.outputUID = key.isEmpty() ? std::nullopt : std::optional(key.toStdString()); });
 }
 
+void AppRowModel::acceptCallOffer()
+{
+    controller_.addCallApp(bundleID_);
+}
+
+void AppRowModel::declineCallOffer()
+{
+    controller_.removeCallApp(bundleID_);
+}
+
 void AppRowModel::startRecording()
 {
     controller_.startRecording(bundleID_);
@@ -142,11 +153,13 @@ AppRowModel::Shown AppRowModel::readState(AppEntry app) const
 {
     const auto& state = controller_.state();
     auto status = statusLine(state, app);
+    auto offer = state.callOffers->contains(bundleID_) ? callOfferText(app.name) : QString();
     return {.app = std::move(app),
         .status = std::move(status),
         .settings = appSettings(*state.settings, bundleID_),
         .volumeLimit = state.settings->volumeLimit,
         .output = appOutputLabel(state, bundleID_),
+        .callOffer = std::move(offer),
         .isRecording = state.recordings->contains(bundleID_)};
 }
 

@@ -42,6 +42,7 @@ class AppRowModel : public QObject {
     Q_PROPERTY(QString spokenVolume READ spokenVolume NOTIFY changed)
     Q_PROPERTY(QString output READ output NOTIFY changed)
     Q_PROPERTY(QVariantList outputEntries READ outputEntries NOTIFY outputsChanged)
+    Q_PROPERTY(QString callOffer READ callOffer NOTIFY changed)
     Q_PROPERTY(bool isRecording READ isRecording NOTIFY changed)
     Q_PROPERTY(QString elapsed READ elapsed NOTIFY elapsedChanged)
     Q_PROPERTY(qreal level READ level NOTIFY levelChanged)
@@ -76,6 +77,8 @@ public:
     [[nodiscard]] QString output() const { return shown_.output; }
     /// Built for each call: views ask while the menu is open.
     [[nodiscard]] QVariantList outputEntries() const;
+    /// What accepting would do; empty while the app is not offered as a call app.
+    [[nodiscard]] QString callOffer() const { return shown_.callOffer; }
     [[nodiscard]] bool isRecording() const { return shown_.isRecording; }
     /// How long the recording has been going on; empty without one.
     [[nodiscard]] QString elapsed() const { return elapsed_; }
@@ -90,6 +93,8 @@ public:
     Q_INVOKABLE void retry();
     /// `key`: of an entry of `outputEntries`.
     Q_INVOKABLE void chooseOutput(const QString& key);
+    Q_INVOKABLE void acceptCallOffer();
+    Q_INVOKABLE void declineCallOffer();
     Q_INVOKABLE void startRecording();
     Q_INVOKABLE void stopRecording();
 
@@ -114,6 +119,7 @@ private:
         AppAudioSettings settings{};
         float volumeLimit = 1;
         QString output{};
+        QString callOffer{};
         bool isRecording = false;
 
         friend bool operator==(const Shown&, const Shown&) = default;

@@ -2,6 +2,7 @@
 #include "ui/DemoData.h"
 
 #include "engine/EQPresets.h"
+#include "platform/FirstCallApps.h"
 
 #include <algorithm>
 #include <array>
@@ -21,7 +22,7 @@ struct DemoNames {
     // A music player, a browser, a call app and a video player.
     std::array<DemoApp, 4> apps;
     std::array<const char*, 3> devices;
-    std::vector<DemoApp> callApps{};  // None: the defaults.
+    std::vector<CallApp> callApps;
 };
 
 DemoNames namesOf(DemoHome home)
@@ -31,13 +32,14 @@ DemoNames namesOf(DemoHome home)
             .apps = {{{"org.gnome.Rhythmbox3", "Rhythmbox"}, {"org.gnome.Epiphany", "Web"},
                 {"us.zoom.Zoom", "Zoom"}, {"org.gnome.Totem", "Videos"}}},
             .devices = {"Built-in Audio", "Headphones", "Living Room"},
-            .callApps = {{"us.zoom.Zoom", "Zoom"}, {"com.discordapp.Discord", "Discord"},
-                {"com.slack.Slack", "Slack"}, {"org.signal.Signal", "Signal"}},
+            .callApps = {{"Zoom", {"us.zoom.Zoom"}}, {"Discord", {"com.discordapp.Discord"}},
+                {"Slack", {"com.slack.Slack"}}, {"Signal", {"org.signal.Signal"}}},
         };
     return {
         .apps = {{{"com.apple.Music", "Music"}, {"com.apple.Safari", "Safari"},
             {"com.apple.FaceTime", "FaceTime"}, {"com.apple.TV", "TV"}}},
         .devices = {"MacBook Pro Speakers", "AirPods Pro", "HomePod"},
+        .callApps = firstCallApps(),
     };
 }
 
@@ -46,7 +48,8 @@ AppEntry app(const DemoApp& names, const std::string& icon, bool isPlaying)
     return {.bundleID = names.bundleID,
         .name = names.name,
         .icon = {.themeName = {}, .file = ":/icons/demo-" + icon + ".svg"},
-        .isPlaying = isPlaying};
+        .isPlaying = isPlaying,
+        .callIDs = {names.bundleID}};
 }
 
 SettingsData demoSettings(Theme theme, const DemoNames& names)
@@ -61,11 +64,9 @@ SettingsData demoSettings(Theme theme, const DemoNames& names)
     settings.apps[names.apps[3].bundleID].muted = true;
     settings.focus.enabled = true;
     settings.focus.duckLevel = 0.2F;
-    if (!names.callApps.empty())
-        settings.focus.callApps.clear();
     for (const auto& callApp : names.callApps) {
-        settings.focus.callApps.emplace_back(callApp.bundleID);
-        settings.knownAppNames.emplace(callApp.bundleID, callApp.name);
+        settings.focus.callApps.push_back(callApp.bundleIDs.front());
+        settings.knownAppNames.emplace(callApp.bundleIDs.front(), callApp.name);
     }
     settings.appearance.theme = theme;
     return settings;

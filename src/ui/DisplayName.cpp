@@ -15,14 +15,13 @@ std::string withoutEach(std::string text, std::string_view part)
 
 }  // namespace
 
-std::string displayName(
-    const SettingsData& settings, const std::string& bundleID, const InstalledName& installedName)
+std::string displayName(const SettingsData& settings, const CallApps& callApps, const std::string& bundleID,
+    const InstalledName& installedName)
 {
     if (const auto known = settings.knownAppNames.find(bundleID); known != settings.knownAppNames.end())
         return known->second;
-    const auto& callApps = FocusSettings::knownNames();
-    if (const auto known = callApps.find(bundleID); known != callApps.end())
-        return known->second;
+    if (const auto* const known = callAppWith(callApps.wellKnown(), bundleID))
+        return known->name;
     if (const auto installed = installedName ? installedName(bundleID) : std::nullopt)
         return withoutEach(*installed, ".app");
     return bundleID;

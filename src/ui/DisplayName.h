@@ -2,6 +2,7 @@
 // What an app is called in a list, whether it runs or not.
 #pragma once
 
+#include "platform/CallApps.h"
 #include "settings/SettingsData.h"
 
 #include <functional>
@@ -15,7 +16,7 @@ using InstalledName = std::function<std::optional<std::string>(const std::string
 
 /// The name remembered for the app, else that of a well-known call app, else the system's without ".app", else the
 /// identifier itself.
-[[nodiscard]] std::string displayName(
-    const SettingsData& settings, const std::string& bundleID, const InstalledName& installedName);
+[[nodiscard]] std::string displayName(const SettingsData& settings, const CallApps& callApps,
+    const std::string& bundleID, const InstalledName& installedName);
 
 }  // namespace fadeloom

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <set>
 
 namespace fadeloom {
 namespace {
@@ -25,25 +26,46 @@ QString nameOf(const AppLanguage::Choice& choice)
 
 }  // namespace
 
-MenuEntries callAppEntries(const SettingsData& settings, const InstalledName& installedName)
+MenuEntries callAppEntries(
+    const SettingsData& settings, const CallApps& callApps, const InstalledName& installedName)
 {
     MenuEntries entries;
-    for (const auto& id : settings.focus.callApps)
-        entries.push_back({.text = QString::fromStdString(displayName(settings, id, installedName)),
-            .key = QString::fromStdString(id)});
+    std::set<std::string> named;
+    for (const auto& id : settings.focus.callApps) {
+        const auto identifiers = callApps.identifiersOf(id);
+        if (!named.contains(id))
+            entries.push_back(
+                {.text = QString::fromStdString(displayName(settings, callApps, id, installedName)),
+                    .key = QString::fromStdString(id)});
+        named.insert(identifiers.begin(), identifiers.end());
+    }
     return entries;
 }
 
-MenuEntries offeredAppEntries(const SettingsData& settings, const std::vector<AppEntry>& apps)
+QString callOfferText(const std::string& appName)
 {
-    const auto& callApps = settings.focus.callApps;
+    //: The name of an app.
+    return words(QT_TRANSLATE_NOOP("SettingsEntries", "Lower others during calls in %1"))
+        .arg(QString::fromStdString(appName));
+}
+
+MenuEntries offeredAppEntries(const ControllerState& state)
+{
+    MenuEntries offered;
+    MenuEntries others;
+    for (const auto& app : *state.apps) {
+        const auto key = QString::fromStdString(app.bundleID);
+        if (state.callOffers->contains(app.bundleID))
+            offered.push_back({.text = callOfferText(app.name), .key = key});
+        else if (!isCallApp(state.settings->focus, app.callIDs))
+            others.push_back({.text = QString::fromStdString(app.name), .key = key});
+    }
     MenuEntries entries;
-    for (const auto& app : apps)
-        if (std::ranges::find(callApps, app.bundleID) == callApps.end())
-            entries.push_back(
-                {.text = QString::fromStdString(app.name), .key = QString::fromStdString(app.bundleID)});
-    if (!entries.empty())
-        entries.push_back({.kind = MenuEntry::Kind::separator});
+    for (const auto& group : {offered, others}) {
+        entries.insert(entries.end(), group.begin(), group.end());
+        if (!group.empty())
+            entries.push_back({.kind = MenuEntry::Kind::separator});
+    }
     entries.push_back({.text = words(QT_TRANSLATE_NOOP("SettingsEntries", "Choose from Applications…")),
         .key = QString::fromLatin1(chooseAppKey)});
     return entries;

@@ -2,7 +2,7 @@
 // The lists and menus of the settings page.
 #pragma once
 
-#include "control/AppEntry.h"
+#include "control/ControllerState.h"
 #include "settings/SettingsData.h"
 #include "ui/DisplayName.h"
 #include "ui/MenuEntry.h"
@@ -17,10 +17,15 @@ namespace fadeloom {
 /// The key of the entry that asks for any application.
 inline constexpr const char* chooseAppKey = "choose";
 
-/// The call apps by their names; the keys are their bundle identifiers.
-[[nodiscard]] MenuEntries callAppEntries(const SettingsData& settings, const InstalledName& installedName);
-/// The listed apps that can be added to them, then one with the key `chooseAppKey`.
-[[nodiscard]] MenuEntries offeredAppEntries(const SettingsData& settings, const std::vector<AppEntry>& apps);
+/// The call apps by their names, one entry for each however many of its identifiers are listed; the keys are bundle
+/// identifiers.
+[[nodiscard]] MenuEntries callAppEntries(
+    const SettingsData& settings, const CallApps& callApps, const InstalledName& installedName);
+/// The apps of the mixer that can be added to them: those that are offered first, and in words; then the others; then an
+/// entry with the key `chooseAppKey`.
+[[nodiscard]] MenuEntries offeredAppEntries(const ControllerState& state);
+/// What a click would do for an app that is offered as a call app.
+[[nodiscard]] QString callOfferText(const std::string& appName);
 
 /// A limit of the volume in words.
 [[nodiscard]] QString volumeLimitText(float limit);

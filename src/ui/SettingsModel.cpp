@@ -57,17 +57,18 @@ void SettingsModel::observe()
     }));
     observed_.push_back(state.launchAtLogin.whenAssigned([this] { Q_EMIT changed(); }));
     observed_.push_back(state.apps.whenAssigned([this] { Q_EMIT offeredAppsChanged(); }));
+    observed_.push_back(state.callOffers.whenAssigned([this] { Q_EMIT offeredAppsChanged(); }));
 }
 
 QVariantList SettingsModel::callApps() const
 {
-    return variantsOf(callAppEntries(
-        settings(), [this](const std::string& id) { return parts_.workspace.installedName(id); }));
+    return variantsOf(callAppEntries(settings(), controller_.callApps(),
+        [this](const std::string& id) { return parts_.workspace.installedName(id); }));
 }
 
 QVariantList SettingsModel::offeredApps() const
 {
-    return variantsOf(offeredAppEntries(settings(), *controller_.state().apps));
+    return variantsOf(offeredAppEntries(controller_.state()));
 }
 
 QVariantList SettingsModel::volumeLimits() const
@@ -177,32 +178,22 @@ void SettingsModel::setDuckLevel(qreal level)
 
 void SettingsModel::removeCallApp(const QString& bundleID)
 {
-    controller_.editSettings(
-        [&](auto& settings) { std::erase(settings.focus.callApps, bundleID.toStdString()); });
+    controller_.removeCallApp(bundleID.toStdString());
 }
 
 void SettingsModel::addCallApp(const QString& key)
 {
     if (key != QLatin1String(chooseAppKey))
-        return appendCallApp(key.toStdString());
+        return controller_.addCallApp(key.toStdString());
     parts_.dialogs.chooseApplication([self = QPointer(this)](const std::optional<std::string>& bundleID) {
         if (self && bundleID)
-            self->appendCallApp(*bundleID);
+            self->controller_.addCallApp(*bundleID);
     });
-}
-
-void SettingsModel::appendCallApp(const std::string& bundleID)
-{
-    const auto& callApps = settings().focus.callApps;
-    if (std::ranges::find(callApps, bundleID) != callApps.end())
-        return;
-    controller_.editSettings([&](auto& settings) { settings.focus.callApps.push_back(bundleID); });
 }
 
 void SettingsModel::resetCallApps()
 {
-    controller_.editSettings(
-        [](auto& settings) { settings.focus.callApps = FocusSettings::defaultCallApps(); });
+    controller_.resetCallApps();
 }
 
 void SettingsModel::chooseRecordingsFolder()

@@ -103,7 +103,6 @@ Q_SIGNALS:
 private:
     void observe();
     [[nodiscard]] const SettingsData& settings() const { return *controller_.state().settings; }
-    void appendCallApp(const std::string& bundleID);
 
     AudioController& controller_;
     const PanelParts parts_;

@@ -3,8 +3,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 namespace fadeloom {
 namespace {
 
@@ -34,8 +32,7 @@ StatusLine statusLine(const ControllerState& state, const AppEntry& app)
             .symbol = QStringLiteral("record.circle.fill")};
     if (*state.callApp == app.bundleID)
         return {.kind = Kind::onCall, .text = words(QT_TRANSLATE_NOOP("StatusLine", "On a call"))};
-    const auto& callApps = state.settings->focus.callApps;
-    if (*state.callApp && std::ranges::find(callApps, app.bundleID) == callApps.end())
+    if (*state.callApp && !isCallApp(state.settings->focus, app.callIDs))
         return {.kind = Kind::lowered, .text = words(QT_TRANSLATE_NOOP("StatusLine", "Lowered for call"))};
     if (app.isPlaying)
         return {.kind = Kind::playing, .text = words(QT_TRANSLATE_NOOP("StatusLine", "Playing"))};

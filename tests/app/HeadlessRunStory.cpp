@@ -93,6 +93,27 @@ TEST_F(HeadlessRunStory, tellsOfARecordingBeforeTheAnswer)
             "ok record com.example.player stop"));
 }
 
+TEST_F(HeadlessRunStory, tellsAtItsStartOfACallUnderWay)
+{
+    world.startUsingMic(launchPlaying("Talk"));
+
+    start();
+
+    EXPECT_THAT(lines(), Contains("call com.example.talk"));
+}
+
+TEST_F(HeadlessRunStory, tellsOfAnOfferedCallApp)
+{
+    start();
+    const auto browser = launchPlaying("Browser");
+    lines();
+
+    world.startUsingMic(browser);
+    world.runPosted();
+
+    EXPECT_THAT(lines(), Contains("call-app offered com.example.browser"));
+}
+
 TEST_F(HeadlessRunStory, tellsOfACall)
 {
     start();

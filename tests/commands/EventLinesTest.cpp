@@ -87,6 +87,12 @@ TEST(EventLines, tellOfRecordings)
     EXPECT_EQ(savedRecordingLine("/music/a b.wav"), "recording saved \"/music/a b.wav\"");
 }
 
+TEST(EventLines, tellOfAppsThatAreOfferedAsCallApps)
+{
+    EXPECT_THAT(callOfferLines({"com.a"}, {"com.a", "com.b"}), ElementsAre("call-app offered com.b"));
+    EXPECT_THAT(callOfferLines({"com.a"}, {}), IsEmpty());
+}
+
 TEST(EventLines, stayOneLineWhateverANameHolds)
 {
     for (const auto& line : appLines({}, Apps{app("com.a", true, "x\napp disappeared com.b")}))

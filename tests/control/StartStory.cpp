@@ -77,7 +77,25 @@ TEST_F(StartStory, startsWithTheDefaultsWhenTheSettingsAreUnreadable)
 
     start();
 
-    EXPECT_EQ(settings(), SettingsData{});
+    EXPECT_EQ(settings(), defaultSettings(defaultCallApps(world.callApps())));
+}
+
+TEST_F(StartStory, listsTheCallAppsOfTheSystem)
+{
+    start();
+    EXPECT_THAT(settings().focus.callApps, testing::ElementsAre("com.example.meet", "com.example.talk"));
+}
+
+TEST_F(StartStory, bringsAListOverThatNobodyEdited)
+{
+    SettingsData former;
+    former.focus.callApps = {"old", "older"};
+    givenSettings(former);
+    world.callApps().setFormerDefaults({"old", "older"});
+
+    start();
+
+    EXPECT_THAT(settings().focus.callApps, testing::ElementsAre("com.example.meet", "com.example.talk"));
 }
 
 TEST_F(StartStory, pollsEveryFiveSeconds)

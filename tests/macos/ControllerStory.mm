@@ -100,12 +100,13 @@ protected:
     FoundationClock clock;
     StandardUserDefaults userDefaults;
     UnaskedWeb web;
+    MacOSCallApps callApps;
     DispatchQueue utilityQueue{"com.fadeloom.settings"};
     DispatchQueue logQueue{"com.fadeloom.log"};
     CoreAudioSystem audio;
     ExtendedAudioFiles files;
     Platform platform{audio, files, workspace, permission, loginItem, mainLoop, utilityQueue, logQueue,
-        folders, systemLog, text, clock, userDefaults, web};
+        folders, systemLog, text, clock, userDefaults, web, callApps};
     EngineLog engineLog{systemLog, logQueue, folder.path() / "Library/Application Support/Fadeloom"};
     std::optional<AudioController> controller;
 };

@@ -2,6 +2,7 @@
 #include "settings/SettingsData.h"
 
 #include "engine/EQPresets.h"
+#include "platform/simulated/SimulatedCallApps.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,7 +21,8 @@ TEST(SettingsData, startsAsAUserWhoChangedNothing)
     EXPECT_THAT(settings.apps, IsEmpty());
     EXPECT_TRUE(settings.focus.enabled);
     EXPECT_EQ(settings.focus.duckLevel, 0.2F);
-    EXPECT_EQ(settings.focus.callApps, FocusSettings::defaultCallApps());
+    EXPECT_THAT(settings.focus.callApps, IsEmpty()) << "they depend on the system";
+    EXPECT_THAT(settings.focus.declinedCallApps, IsEmpty());
     EXPECT_EQ(settings.recordingsFolder, std::nullopt);
     EXPECT_THAT(settings.knownAppNames, IsEmpty());
     EXPECT_THAT(settings.userPresets, IsEmpty());
@@ -45,25 +47,43 @@ TEST(AppAudioSettings, startUntouchedAndFlat)
     EXPECT_EQ(app.eqPreamp, 0.0F);
 }
 
-TEST(FocusSettings, knowElevenCallAppsInTheirOrder)
+TEST(DefaultCallApps, nameEachWellKnownAppOnce)
 {
-    EXPECT_THAT(FocusSettings::defaultCallApps(),
-        ElementsAre("us.zoom.xos", "com.microsoft.teams2", "com.microsoft.teams", "com.apple.FaceTime",
-            "com.hnc.Discord", "com.tinyspeck.slackmacgap", "Cisco-Systems.Spark", "com.skype.skype",
-            "net.whatsapp.WhatsApp", "org.whispersystems.signal-desktop",
-            "com.google.Chrome.app.kjgfgldnnfoeklkmfkjfagphfepbbdan"));
+    SimulatedCallApps callApps;
+    callApps.setFormerDefaults({"old"});
+
+    const auto defaults = defaultCallApps(callApps);
+
+    EXPECT_THAT(defaults.current, ElementsAre("com.example.meet", "com.example.talk"));
+    EXPECT_THAT(defaults.former, ElementsAre("old"));
+    EXPECT_EQ(defaultSettings(defaults).focus.callApps, defaults.current);
 }
 
-TEST(FocusSettings, knowTheNamesOfTheirCallApps)
+TEST(FocusSettings, listAnAppUnderAnyOfItsIdentifiers)
 {
-    const auto& names = FocusSettings::knownNames();
+    FocusSettings focus{.callApps = {"b", "x"}};
+    const std::vector<std::string> app = {"a", "b", "c"};
 
-    EXPECT_EQ(names.size(), 11U);
-    for (const auto& bundleID : FocusSettings::defaultCallApps())
-        EXPECT_TRUE(names.contains(bundleID)) << bundleID;
-    EXPECT_EQ(names.at("com.microsoft.teams"), "Microsoft Teams (classic)");
-    EXPECT_EQ(names.at("com.google.Chrome.app.kjgfgldnnfoeklkmfkjfagphfepbbdan"), "Google Meet");
-    EXPECT_EQ(&names, &FocusSettings::knownNames()) << "made once";
+    EXPECT_TRUE(isCallApp(focus, app));
+    addCallApp(focus, app);
+    EXPECT_THAT(focus.callApps, ElementsAre("b", "x")) << "it is there";
+    removeCallApp(focus, app);
+    EXPECT_THAT(focus.callApps, ElementsAre("x"));
+    EXPECT_FALSE(isCallApp(focus, app));
+}
+
+TEST(FocusSettings, rememberWhatWasDeclinedUntilItIsAdded)
+{
+    FocusSettings focus;
+    const std::vector<std::string> app = {"a", "b"};
+
+    removeCallApp(focus, app);
+    removeCallApp(focus, app);
+    EXPECT_THAT(focus.declinedCallApps, ElementsAre("a"));
+    addCallApp(focus, app);
+
+    EXPECT_THAT(focus.declinedCallApps, IsEmpty());
+    EXPECT_THAT(focus.callApps, ElementsAre("a"));
 }
 
 TEST(Theme, hasATextForEachCaseAndNoCaseForAnyOtherText)

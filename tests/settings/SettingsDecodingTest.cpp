@@ -50,6 +50,27 @@ TEST(SettingsDecoding, nullStandsForADefault)
         AppAudioSettings());
 }
 
+TEST(SettingsDecoding, callAppsThatNobodyEditedAreTheDefaults)
+{
+    const DefaultCallApps defaults{.current = {"new", "newer"}, .former = {"old", "older"}};
+    const auto callApps = [&](std::string_view text) {
+        return decodeSettings(text, defaults)->focus.callApps;
+    };
+
+    for (const auto* const untouched : {"{}", R"({"focus": {}})", R"({"focus": {"callApps": null}})",
+             R"({"focus": {"callApps": ["old", "older"]}})"})
+        EXPECT_EQ(callApps(untouched), defaults.current) << untouched;
+
+    EXPECT_THAT(callApps(R"({"focus": {"callApps": ["older", "old"]}})"), ElementsAre("older", "old"));
+    EXPECT_THAT(callApps(R"({"focus": {"callApps": ["old"]}})"), ElementsAre("old"));
+    EXPECT_THAT(callApps(R"({"focus": {"callApps": ["old", "older", "mine"]}})"),
+        ElementsAre("old", "older", "mine"));
+    EXPECT_THAT(callApps(R"({"focus": {"callApps": []}})"), IsEmpty());
+    const DefaultCallApps unchanged{.current = {"new"}};
+    EXPECT_THAT(decodeSettings(R"({"focus": {"callApps": []}})", unchanged)->focus.callApps, IsEmpty())
+        << "no former list is not an empty one";
+}
+
 TEST(SettingsDecoding, unknownKeysAreIgnored)
 {
     EXPECT_EQ(decoded(R"({"version": 7, "later": {"deep": [1, {"x": null}]}, "focus": {"mood": "calm"}})"),
@@ -62,7 +83,7 @@ TEST(SettingsDecoding, readsEveryField)
     const auto settings = decoded(R"({
         "apps": {"org.music": {"volume": 0.5, "muted": true, "outputUID": "usb", "eqEnabled": true,
             "eqPresetName": "Mine", "eqGains": [1,2,3,4,5,6,7,8,9,10], "eqPreamp": -3.5}},
-        "focus": {"enabled": false, "duckLevel": 0.4, "callApps": ["x", "y"]},
+        "focus": {"enabled": false, "duckLevel": 0.4, "callApps": ["x", "y"], "declinedCallApps": ["z"]},
         "recordingsFolder": "/tmp/r",
         "knownAppNames": {"org.music": "Music"},
         "userPresets": [{"name": "Mine", "gains": [1,2,3,4,5,6,7,8,9,10]}],
@@ -71,7 +92,7 @@ TEST(SettingsDecoding, readsEveryField)
 
     SettingsData expected;
     expected.apps["org.music"] = {0.5F, true, "usb", true, "Mine", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, -3.5F};
-    expected.focus = {false, 0.4F, {"x", "y"}};
+    expected.focus = {false, 0.4F, {"x", "y"}, {"z"}};
     expected.recordingsFolder = "/tmp/r";
     expected.knownAppNames = {{"org.music", "Music"}};
     expected.userPresets = {{"Mine", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}}};

@@ -84,6 +84,16 @@ TEST(SettingsEncoding, leavesOutWhatIsAbsentButThePresetName)
         testing::ContainsRegex("knownAppNames[^a-z]*recordingsFolder.*\n.*userPresets"));
 }
 
+TEST(SettingsEncoding, writesDeclinedCallAppsOnlyWhereThereAreSome)
+{
+    SettingsData settings;
+    EXPECT_THAT(encodeSettings(settings), Not(HasSubstr("declinedCallApps")));
+
+    settings.focus.declinedCallApps = {"a"};
+    EXPECT_THAT(encodeSettings(settings), HasSubstr("\"declinedCallApps\": [\n      \"a\"\n    ]"));
+    EXPECT_EQ(decodeSettings(encodeSettings(settings)), settings);
+}
+
 TEST(SettingsEncoding, presetHasItsNameAndItsGainsOnly)
 {
     SettingsData settings;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/DisplayName.h"
 
+#include "platform/simulated/SimulatedCallApps.h"
+
 #include <gtest/gtest.h>
 
 namespace fadeloom {
@@ -11,25 +13,27 @@ std::optional<std::string> installed(const std::string& bundleID)
     return bundleID == "unheard.of" ? std::nullopt : std::optional<std::string>("Installed.app");
 }
 
+const SimulatedCallApps callApps;
+
 TEST(DisplayName, theRememberedNameComesFirst)
 {
     SettingsData settings;
-    const auto known = *FocusSettings::knownNames().begin();
-    settings.knownAppNames[known.first] = "Remembered";
+    settings.knownAppNames["com.example.meet"] = "Remembered";
 
-    EXPECT_EQ(displayName(settings, known.first, installed), "Remembered");
-    EXPECT_EQ(displayName({}, known.first, installed), known.second);
+    EXPECT_EQ(displayName(settings, callApps, "com.example.meet", installed), "Remembered");
+    EXPECT_EQ(displayName({}, callApps, "com.example.meet", installed), "Meet");
+    EXPECT_EQ(displayName({}, callApps, "com.example.meet.sandboxed", installed), "Meet");
 }
 
 TEST(DisplayName, theSystemsNameLosesItsEnding)
 {
-    EXPECT_EQ(displayName({}, "some.app", installed), "Installed");
+    EXPECT_EQ(displayName({}, callApps, "some.app", installed), "Installed");
 }
 
 TEST(DisplayName, anUnknownAppIsCalledByItsIdentifier)
 {
-    EXPECT_EQ(displayName({}, "unheard.of", installed), "unheard.of");
-    EXPECT_EQ(displayName({}, "unheard.of", {}), "unheard.of");
+    EXPECT_EQ(displayName({}, callApps, "unheard.of", installed), "unheard.of");
+    EXPECT_EQ(displayName({}, callApps, "unheard.of", {}), "unheard.of");
 }
 
 }  // namespace

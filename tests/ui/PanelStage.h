@@ -63,6 +63,12 @@ protected:
         auto* const found = find(name, QAccessible::Button);
         return found ? found : find(name, QAccessible::ComboBox);
     }
+    /// Words that can be pressed; Qt 6.4 calls them a button as well.
+    QQuickItem* link(const QString& name)
+    {
+        auto* const found = find(name, QAccessible::Link);
+        return found ? found : find(name, QAccessible::Button);
+    }
     QQuickItem* slider(const QString& name) { return find(name, QAccessible::Slider); }
     bool isSeen(const QString& text) { return find(text, QAccessible::StaticText) != nullptr; }
 

@@ -30,6 +30,36 @@ TEST_F(SettingsModelTest, anAddedAppIsOfferedNoMore)
     EXPECT_EQ(settings().focus.callApps.back(), player);
 }
 
+TEST_F(SettingsModelTest, anAppThatListensIsOfferedFirstAndInWords)
+{
+    launchPlaying("Accordion");
+    world.startUsingMic(launchPlaying("Browser"));
+    world.runPosted();
+
+    const auto offered = model().offeredApps();
+
+    ASSERT_EQ(offered.size(), 5);
+    EXPECT_EQ(entry(offered, 0).text, "Lower others during calls in Browser");
+    EXPECT_EQ(entry(offered, 1).kind, MenuEntry::Kind::separator);
+    EXPECT_EQ(entry(offered, 2).text, "Accordion");
+    model().addCallApp(entry(offered, 0).key);
+    EXPECT_EQ(*state().callApp, "com.example.browser");
+    EXPECT_EQ(entry(model().offeredApps(), 0).text, "Accordion");
+}
+
+TEST_F(SettingsModelTest, anAppWithSeveralIdentifiersIsOneLine)
+{
+    auto given = settings();
+    given.focus.callApps = {"com.example.meet.sandboxed", "com.example.talk", "com.example.meet"};
+    controller->setSettings(given);
+
+    ASSERT_EQ(model().callApps().size(), 2);
+    EXPECT_EQ(entry(model().callApps(), 0).text, "Meet");
+    model().removeCallApp(entry(model().callApps(), 0).key);
+
+    EXPECT_THAT(settings().focus.callApps, testing::ElementsAre("com.example.talk"));
+}
+
 TEST_F(SettingsModelTest, aChosenApplicationIsListedOnce)
 {
     const auto count = settings().focus.callApps.size();
@@ -51,11 +81,12 @@ TEST_F(SettingsModelTest, aChosenApplicationIsListedOnce)
 TEST_F(SettingsModelTest, theListOfCallAppsCanBeReset)
 {
     model().removeCallApp(entry(model().callApps(), 0).key);
-    ASSERT_NE(settings().focus.callApps, FocusSettings::defaultCallApps());
+    ASSERT_THAT(settings().focus.callApps, testing::ElementsAre("com.example.talk"));
 
     model().resetCallApps();
 
-    EXPECT_EQ(settings().focus.callApps, FocusSettings::defaultCallApps());
+    EXPECT_THAT(settings().focus.callApps, testing::ElementsAre("com.example.meet", "com.example.talk"));
+    EXPECT_TRUE(settings().focus.declinedCallApps.empty());
 }
 
 TEST_F(SettingsModelTest, thereAreFourVolumeLimits)

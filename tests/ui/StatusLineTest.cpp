@@ -13,7 +13,7 @@ protected:
     Kind kind() const { return statusLine(state, app).kind; }
 
     ControllerState state;
-    AppEntry app{.bundleID = "player", .name = "Player", .isPlaying = true};
+    AppEntry app{.bundleID = "player", .name = "Player", .isPlaying = true, .callIDs = {"player"}};
 };
 
 TEST_F(StatusLineTest, anAppPlaysOrIsIdle)

@@ -54,6 +54,7 @@ Platform HomePlatform::platform()
         .clock = clock_,
         .userDefaults = userDefaults_,
         .http = http_,
+        .callApps = callApps_,
     };
 }
 

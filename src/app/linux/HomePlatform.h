@@ -7,6 +7,7 @@
 #include "platform/linux/AlwaysGrantedPermission.h"
 #include "platform/linux/AutostartLoginItem.h"
 #include "platform/linux/FileManager.h"
+#include "platform/linux/LinuxCallApps.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/SyslogSystemLog.h"
 #include "platform/linux/SystemClock.h"
@@ -46,6 +47,7 @@ private:
     FileManager fileManager_;
     LinuxWorkspace workspace_;
     LinuxWorkspace graphWorkspace_;  // Of the graph thread alone.
+    LinuxCallApps callApps_{[this](const std::string& id) { return workspace_.desktopEntry(id); }};
     AutostartLoginItem loginItem_;
     AlwaysGrantedPermission capturePermission_;
     QtText text_;

@@ -35,6 +35,7 @@ Platform SystemPlatform::platform()
         .clock = clock_,
         .userDefaults = userDefaults_,
         .http = http_,
+        .callApps = callApps_,
     };
 }
 

@@ -33,6 +33,7 @@ private:
     MainLoop& mainLoop_;
     SystemLog& systemLog_;
     HttpClient& http_;
+    MacOSCallApps callApps_;
     FoundationFolders folders_;
     AppKitWorkspace workspace_;
     MainAppLoginItem loginItem_;

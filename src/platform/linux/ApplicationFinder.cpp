@@ -28,7 +28,7 @@ std::optional<FoundApplication> ApplicationFinder::decide(ProcessID pid)
     if (process == nullptr)
         return std::nullopt;
     const auto& parent = find(process->parent);
-    auto application = ownTraces(*process);
+    auto application = isHelper(*process) ? parent : ownTraces(*process);
     if (!application)
         application = inheritance(process->parent);
     if (!application)
@@ -36,6 +36,17 @@ std::optional<FoundApplication> ApplicationFinder::decide(ProcessID pid)
     if (parent && parent->bundleID == application->bundleID)
         application->owner = parent->owner;
     return application;
+}
+
+// A browser starts itself again for its helpers, without the arguments by which a web app of it is known.
+bool ApplicationFinder::isHelper(const ProcessInfo& process)
+{
+    const ProcessInfo* const parent = processes_.find(process.parent);
+    if (parent == nullptr || process.executable.empty() || process.executable != parent->executable
+        || process.unit != parent->unit || programOf(process).path != programOf(*parent).path)
+        return false;
+    const auto& application = find(process.parent);
+    return application && application->entry != nullptr;
 }
 
 std::optional<FoundApplication> ApplicationFinder::ownTraces(const ProcessInfo& process)

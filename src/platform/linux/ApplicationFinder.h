@@ -35,6 +35,8 @@ public:
     [[nodiscard]] const std::optional<FoundApplication>& find(ProcessID pid);
 
 private:
+    /// Whether the process is its parent's program once more, without being an application of its own.
+    [[nodiscard]] bool isHelper(const ProcessInfo& process);
     /// What the process itself tells of its application.
     [[nodiscard]] std::optional<FoundApplication> ownTraces(const ProcessInfo& process);
     [[nodiscard]] const DesktopEntry* entryOfUnit(const ProcessInfo& process, const DesktopEntry* ofProgram);

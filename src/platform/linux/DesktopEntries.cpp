@@ -3,6 +3,7 @@
 
 #include "platform/linux/BoundedFile.h"
 #include "platform/linux/ProgramFiles.h"
+#include "platform/linux/WebPage.h"
 
 #include <algorithm>
 #include <array>
@@ -69,6 +70,7 @@ void DesktopEntries::refresh()
     entries_.clear();
     byPath_.clear();
     byName_.clear();
+    byWindowClass_.clear();
     for (const auto& folder : environment_.applicationFolders)
         readFolder(folder, "", 0);
     index();
@@ -117,6 +119,8 @@ void DesktopEntries::index()
             || (!entry.tryExec.empty() && findProgram(entry.tryExec, environment_.programFolders).empty());
     });
     for (const auto& [id, entry] : entries_) {
+        if (!entry.windowClass.empty())
+            byWindowClass_.emplace(entry.windowClass, &entry);
         if (entry.program.empty())
             continue;
         byPath_.emplace(entry.program, &entry);
@@ -134,6 +138,9 @@ const DesktopEntry* DesktopEntries::withID(const std::string& id) const
 
 const DesktopEntry* DesktopEntries::starting(const ProcessProgram& program) const
 {
+    if (const auto found = byWindowClass_.find(windowClassOf(program.arguments));
+        found != byWindowClass_.end())
+        return found->second;
     std::vector<const DesktopEntry*> candidates;
     const auto [first, last] = byPath_.equal_range(program.path);
     for (auto each = first; each != last && !program.path.empty(); ++each)

@@ -23,8 +23,9 @@ public:
     void refresh();
     /// Null for none.
     [[nodiscard]] const DesktopEntry* withID(const std::string& id) const;
-    /// The entry that starts this program: the same file, else the same name. Of several, the one whose arguments the
-    /// process was given, else the plainest. Null for none.
+    /// The entry that starts this program: the one whose window class it was given, as web apps are; else of the same
+    /// file, else of the same name. Of several, the one whose arguments the process was given, else the plainest. Null
+    /// for none.
     [[nodiscard]] const DesktopEntry* starting(const ProcessProgram& program) const;
 
 private:
@@ -40,6 +41,7 @@ private:
     std::map<std::string, DesktopEntry> entries_;  // By id; hidden ones until all is read.
     std::multimap<std::filesystem::path, const DesktopEntry*> byPath_;
     std::multimap<std::string, const DesktopEntry*> byName_;
+    std::map<std::string, const DesktopEntry*> byWindowClass_;
     bool isRead_ = false;
 };
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/DesktopEntry.h"
 
+#include "platform/linux/WebPage.h"
+
 #include <algorithm>
 #include <map>
 
@@ -212,6 +214,11 @@ std::optional<DesktopEntry> parseDesktopEntry(
     entry.icon = text(*values, "Icon");
     entry.tryExec = text(*values, "TryExec");
     entry.command = parseExec(text(*values, "Exec"));
+    entry.windowClass = text(*values, "StartupWMClass");
+    entry.site = hostOf(text(*values, "X-WebApp-URL"));
+    if (entry.site.empty())
+        entry.site = hostOfExec(content);
+    entry.chromiumID = chromiumIDOf(entry.command);
     entry.noDisplay = isTrue(*values, "NoDisplay");
     entry.isHidden = isTrue(*values, "Hidden");
     entry.startsAtLogin = !is("false", *values, "X-GNOME-Autostart-enabled");

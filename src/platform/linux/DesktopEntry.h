@@ -22,6 +22,9 @@ struct DesktopEntry {
     std::vector<std::string> command;  // The program and its fixed arguments; empty for none.
     std::filesystem::path program{};  // The command's program where it was found; empty for nowhere.
     std::filesystem::path realProgram{};  // The same without symbolic links.
+    std::string windowClass;  // "StartupWMClass".
+    std::string site{};  // The host of the web page that it shows; empty for none that is told.
+    std::string chromiumID{};  // Of a web app, as browsers of Chromium's kind name it; empty for any other.
     bool noDisplay = false;
     bool isHidden = false;  // As if the file did not exist, nor another one of this id.
     bool startsAtLogin = true;  // Among the autostart entries: not switched off by a tool of the desktop.

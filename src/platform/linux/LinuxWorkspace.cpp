@@ -155,10 +155,16 @@ std::string LinuxWorkspace::bundleIdentifier(ProcessID pid, const std::string& p
     return found ? found->bundleID : std::string{};
 }
 
-std::optional<std::string> LinuxWorkspace::installedName(const std::string& bundleID) const
+std::optional<DesktopEntry> LinuxWorkspace::desktopEntry(const std::string& bundleID) const
 {
     entries_.refresh();
     const auto* const entry = entries_.withID(bundleID);
+    return entry ? std::optional(*entry) : std::nullopt;
+}
+
+std::optional<std::string> LinuxWorkspace::installedName(const std::string& bundleID) const
+{
+    const auto entry = desktopEntry(bundleID);
     return entry ? entry->name : std::nullopt;
 }
 

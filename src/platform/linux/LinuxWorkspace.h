@@ -36,6 +36,8 @@ public:
     void reveal(const std::filesystem::path& file) override;
     void open(const std::string& url) override;
     std::optional<std::string> installedName(const std::string& bundleID) const override;
+    /// The desktop entry of an installed application.
+    [[nodiscard]] std::optional<DesktopEntry> desktopEntry(const std::string& bundleID) const;
     /// Started with the arguments of this one; reports before it returns.
     void openNewInstance(std::function<void()> reported) override;
 

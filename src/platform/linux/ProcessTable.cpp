@@ -80,6 +80,17 @@ std::string flatpakIDOf(const std::filesystem::path& folder)
     return {};
 }
 
+/// Browsers put one text in the place of their arguments, parted by blanks.
+std::vector<std::string> argumentsOf(std::string_view commandLine, const std::string& executable)
+{
+    const auto first = commandLine.substr(0, commandLine.find('\0'));
+    const bool isRewritten = !executable.empty() && first.starts_with(executable + " -");
+    std::vector<std::string> arguments;
+    for (const auto argument : isRewritten ? parts(first, ' ') : parts(commandLine, '\0'))
+        arguments.emplace_back(argument);
+    return arguments;
+}
+
 }  // namespace
 
 ProcessTable::ProcessTable(const LinuxEnvironment& environment)
@@ -110,8 +121,7 @@ std::optional<ProcessInfo> ProcessTable::read(ProcessID pid) const
         return std::nullopt;
     info.executable = executableOf(folder);
     const auto commandLine = readBoundedFile(folder / "cmdline", longestFile).value_or("");
-    for (const auto argument : parts(commandLine, '\0'))
-        info.arguments.emplace_back(argument);
+    info.arguments = argumentsOf(commandLine, info.executable.native());
     info.unit = applicationUnit(readBoundedFile(folder / "cgroup", longestFile).value_or(""));
     info.flatpakID = flatpakIDOf(folder);
     return info;

@@ -26,6 +26,7 @@ Platform SimulatedPlatform::platform(const Replacements& instead)
         .clock = wallClock_,
         .userDefaults = userDefaults_,
         .http = http_,
+        .callApps = callApps_,
         .application = &application_,
         .dialogs = &dialogs_,
     };

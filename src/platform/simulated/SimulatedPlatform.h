@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A whole world in memory: applications, audio, time, the user's consent.
 //
-// The program runs on it unchanged, in tests and in its simulation mode. The world speaks in the words of the domain,
-// and nothing in it moves by itself:
+// The program runs on it unchanged, in tests and in its simulation mode. Nothing in it moves by itself:
 //
 //      SimulatedPlatform world{folder};
 //      world.plug({.uid = "speakers", .name = "Speakers"});
@@ -18,6 +17,7 @@
 #include "platform/simulated/SimulatedAudioSystem.h"
 #include "platform/simulated/SimulatedAudioWorld.h"
 #include "platform/simulated/SimulatedBackgroundQueue.h"
+#include "platform/simulated/SimulatedCallApps.h"
 #include "platform/simulated/SimulatedCapturePermission.h"
 #include "platform/simulated/SimulatedClock.h"
 #include "platform/simulated/SimulatedDialogs.h"
@@ -55,7 +55,6 @@ public:
     [[nodiscard]] Platform platform(const Replacements& instead);
     [[nodiscard]] Platform platform() { return platform({}); }
 
-    // Time.
     /// Moves the clock: timers, background work and IO cycles happen in their order.
     void advance(SimulatedClock::Duration duration) { mainLoop_.advance(duration); }
     /// Runs what is posted to the main loop, without moving the clock.
@@ -97,7 +96,6 @@ public:
     // The user's consent: `SimulatedCapturePermission::granted`, `denied`, `undecided`, or absent.
     void setPermission(std::optional<int> preflight) { permission_.set(preflight); }
 
-    // Faults.
     /// Refuses a call of the audio system, the next one or all of them.
     void refuse(AudioOperation operation, HowOften howOften, std::int32_t status = -1)
     {
@@ -115,6 +113,7 @@ public:
     SimulatedApplication& application() { return application_; }
     SimulatedDialogs& dialogs() { return dialogs_; }
     SimulatedHttpClient& http() { return http_; }
+    SimulatedCallApps& callApps() { return callApps_; }
     SimulatedUserDefaults& userDefaults() { return userDefaults_; }
     SimulatedMainLoop& mainLoop() { return mainLoop_; }
     SimulatedBackgroundQueue& utilityQueue() { return utilityQueue_; }
@@ -139,6 +138,7 @@ private:
     SimulatedApplication application_;
     SimulatedDialogs dialogs_;
     SimulatedHttpClient http_{mainLoop_};
+    SimulatedCallApps callApps_;
     SimulatedUserDefaults userDefaults_;
     SimulatedSystemLog systemLog_;
     SimulatedFolders folders_;

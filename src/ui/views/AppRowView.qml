@@ -15,7 +15,7 @@ Item {
 
     signal toggled
 
-    implicitHeight: head.height + details.height
+    implicitHeight: head.height + offer.height + details.height
     Accessible.role: Accessible.Grouping
     Accessible.name: row.name
     Component.onCompleted: isReady = true
@@ -32,9 +32,16 @@ Item {
         isExpanded: view.isExpanded
         onToggled: view.toggled()
     }
+    CallOffer {
+        id: offer
+        y: head.height - 4
+        width: parent.width
+        height: implicitHeight
+        row: view.row
+    }
     Item {
         id: details
-        y: head.height
+        y: head.height + offer.height
         width: parent.width
         height: view.isExpanded ? content.implicitHeight : 0
         clip: true

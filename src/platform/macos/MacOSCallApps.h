@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// The well-known call apps of macOS, by their bundle identifiers.
+#pragma once
+
+#include "platform/CallApps.h"
+
+namespace fadeloom {
+
+class MacOSCallApps : public CallApps {
+public:
+    [[nodiscard]] const std::vector<CallApp>& wellKnown() const override;
+    [[nodiscard]] std::vector<std::string> formerDefaults() const override { return {}; }
+    [[nodiscard]] std::vector<std::string> identifiersOf(const std::string& bundleID) const override;
+};
+
+}  // namespace fadeloom
