@@ -103,4 +103,4 @@ def test_settingsFollow(desk):
     waitUntil(lambda: abs(desk.saved()["focus"]["duckLevel"] - 0.35) < 1e-6, "the settings file")
 
     person.find("Remove Zoom").press()
-    waitUntil(lambda: "us.zoom.xos" not in desk.saved()["focus"]["callApps"], "the settings file")
+    waitUntil(lambda: "us.zoom.Zoom" not in desk.saved()["focus"]["callApps"], "the settings file")

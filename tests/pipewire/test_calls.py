@@ -142,7 +142,7 @@ def test_anAppThatIsNotOfTheListStartsNoCall(calls):
         calls.listen("talk")
         time.sleep(1.5)
 
-        assert not any("call" in line for line in fadeloom.text())
+        assert not any(line.startswith("call ") for line in fadeloom.text())
         assert fadeloom.command("call-app talk on").startswith("ok")
         fadeloom.waitFor("call talk")
 
