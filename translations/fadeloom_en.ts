@@ -412,6 +412,106 @@
         <source>Recording of %1 stopped: the file could not be written (%2).</source>
         <translation>Recording of %1 stopped: the file could not be written (%2).</translation>
     </message>
+    <message>
+        <source>Create process tap</source>
+        <translation>Create process tap</translation>
+    </message>
+    <message>
+        <source>Unsupported tap format</source>
+        <translation>Unsupported tap format</translation>
+    </message>
+    <message>
+        <source>Create aggregate device</source>
+        <translation>Create aggregate device</translation>
+    </message>
+    <message>
+        <source>Create IOProc</source>
+        <translation>Create IOProc</translation>
+    </message>
+    <message>
+        <source>Start device</source>
+        <translation>Start device</translation>
+    </message>
+    <message>
+        <source>Create recording file</source>
+        <translation>Create recording file</translation>
+    </message>
+    <message>
+        <source>Set recording format</source>
+        <translation>Set recording format</translation>
+    </message>
+    <message>
+        <source>no PipeWire server is running</source>
+        <translation>no PipeWire server is running</translation>
+    </message>
+    <message>
+        <source>the device is gone</source>
+        <translation>the device is gone</translation>
+    </message>
+    <message>
+        <source>a process is gone</source>
+        <translation>a process is gone</translation>
+    </message>
+    <message>
+        <source>too few of the files that may be open are left</source>
+        <translation>too few of the files that may be open are left</translation>
+    </message>
+    <message>
+        <source>PipeWire made no node for it</source>
+        <translation>PipeWire made no node for it</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>Cannot read %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot follow %1: %2</source>
+        <translation>Cannot follow %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot replace %1: %2</source>
+        <translation>Cannot replace %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot create a file beside %1: %2</source>
+        <translation>Cannot create a file beside %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>Cannot write %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot create the folder %1: %2</source>
+        <translation>Cannot create the folder %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot remove %1: %2</source>
+        <translation>Cannot remove %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 failed (OSStatus %2)</source>
+        <translation>%1 failed (OSStatus %2)</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1 failed: %2</translation>
+    </message>
+    <message>
+        <source>larger than %1 bytes</source>
+        <translation>larger than %1 bytes</translation>
+    </message>
+    <message>
+        <source>The system does not tell where this program is.</source>
+        <translation>The system does not tell where this program is.</translation>
+    </message>
+    <message>
+        <source>Recording of %1 stopped: the output device changed its sample rate.</source>
+        <translation>Recording of %1 stopped: the output device changed its sample rate.</translation>
+    </message>
+    <message>
+        <source>Could not switch output to %1.</source>
+        <translation>Could not switch output to %1.</translation>
+    </message>
 </context>
 <context>
     <name>OutputEntries</name>
@@ -616,6 +716,14 @@
         <source>Lower others during calls in %1</source>
         <extracomment>The name of an app.</extracomment>
         <translation>Lower others during calls in %1</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>Choose</source>
+        <extracomment>On the button that confirms a folder.</extracomment>
+        <translation>Choose</translation>
     </message>
 </context>
 <context>

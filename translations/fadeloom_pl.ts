@@ -413,6 +413,106 @@
         <source>Recording of %1 stopped: the file could not be written (%2).</source>
         <translation>Nagrywanie aplikacji %1 zostało zatrzymane: nie można zapisać pliku (%2).</translation>
     </message>
+    <message>
+        <source>Create process tap</source>
+        <translation>Przechwycenie dźwięku aplikacji</translation>
+    </message>
+    <message>
+        <source>Unsupported tap format</source>
+        <translation>Nieobsługiwany format przechwyconego dźwięku</translation>
+    </message>
+    <message>
+        <source>Create aggregate device</source>
+        <translation>Utworzenie urządzenia zbiorczego</translation>
+    </message>
+    <message>
+        <source>Create IOProc</source>
+        <translation>Utworzenie procedury wejścia i wyjścia</translation>
+    </message>
+    <message>
+        <source>Start device</source>
+        <translation>Uruchomienie urządzenia</translation>
+    </message>
+    <message>
+        <source>Create recording file</source>
+        <translation>Utworzenie pliku nagrania</translation>
+    </message>
+    <message>
+        <source>Set recording format</source>
+        <translation>Ustawienie formatu nagrania</translation>
+    </message>
+    <message>
+        <source>no PipeWire server is running</source>
+        <translation>serwer PipeWire nie działa</translation>
+    </message>
+    <message>
+        <source>the device is gone</source>
+        <translation>urządzenia już nie ma</translation>
+    </message>
+    <message>
+        <source>a process is gone</source>
+        <translation>proces już się zakończył</translation>
+    </message>
+    <message>
+        <source>too few of the files that may be open are left</source>
+        <translation>można otworzyć już zbyt mało plików</translation>
+    </message>
+    <message>
+        <source>PipeWire made no node for it</source>
+        <translation>PipeWire nie utworzył dla niego węzła</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>Nie można odczytać %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot follow %1: %2</source>
+        <translation>Nie można podążyć za dowiązaniem %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot replace %1: %2</source>
+        <translation>Nie można zastąpić %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot create a file beside %1: %2</source>
+        <translation>Nie można utworzyć pliku obok %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>Nie można zapisać %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot create the folder %1: %2</source>
+        <translation>Nie można utworzyć folderu %1: %2</translation>
+    </message>
+    <message>
+        <source>Cannot remove %1: %2</source>
+        <translation>Nie można usunąć %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 failed (OSStatus %2)</source>
+        <translation>%1: niepowodzenie (OSStatus %2)</translation>
+    </message>
+    <message>
+        <source>%1 failed: %2</source>
+        <translation>%1: niepowodzenie, %2</translation>
+    </message>
+    <message>
+        <source>larger than %1 bytes</source>
+        <translation>więcej niż %1 bajtów</translation>
+    </message>
+    <message>
+        <source>The system does not tell where this program is.</source>
+        <translation>System nie podaje, gdzie jest ten program.</translation>
+    </message>
+    <message>
+        <source>Recording of %1 stopped: the output device changed its sample rate.</source>
+        <translation>Nagrywanie aplikacji %1 zostało zatrzymane: urządzenie wyjściowe zmieniło częstotliwość próbkowania.</translation>
+    </message>
+    <message>
+        <source>Could not switch output to %1.</source>
+        <translation>Nie udało się przełączyć wyjścia na %1.</translation>
+    </message>
 </context>
 <context>
     <name>OutputEntries</name>
@@ -617,6 +717,14 @@
         <source>Lower others during calls in %1</source>
         <extracomment>The name of an app.</extracomment>
         <translation>Przyciszaj inne podczas rozmów w: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>Choose</source>
+        <extracomment>On the button that confirms a folder.</extracomment>
+        <translation>Wybierz</translation>
     </message>
 </context>
 <context>

@@ -32,7 +32,7 @@ EventPrinter::EventPrinter(const AudioController& controller, Console& console)
     follow(state.callOffers, [this] { printCallOffers(); });
     follow(state.recordings, [this] { printRecordings(); });
     follow(state.lastRecording, [this] { printSavedRecording(); });
-    follow(state.errorMessage, [this] { printMessage(); });
+    follow(state.error, [this] { printMessage(); });
 }
 
 void EventPrinter::printApps()
@@ -89,8 +89,8 @@ void EventPrinter::printSavedRecording()
 
 void EventPrinter::printMessage()
 {
-    if (const auto& message = *controller_.state().errorMessage)
-        console_.print(messageLine(*message));
+    if (const auto& error = *controller_.state().error)
+        console_.print(messageLine(englishText(*error)));
 }
 
 void EventPrinter::print(const std::vector<std::string>& lines)

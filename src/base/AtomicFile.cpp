@@ -16,19 +16,20 @@ namespace fadeloom::AtomicFile {
 namespace {
 
 namespace fs = std::filesystem;
+using Step = FileError::Step;
 
-/// An error in the system's words, which `errno` still holds.
-std::unexpected<std::string> failed(const std::string& what, const fs::path& file, int code = errno)
+/// The system's answer is in `errno` still.
+std::unexpected<FileError> failed(FileError::Step step, const fs::path& file, int code = errno)
 {
-    const auto reason = std::error_code(code, std::generic_category()).message();
-    return std::unexpected(what + " " + file.string() + ": " + reason);
+    return std::unexpected(
+        FileError{.step = step, .file = file, .reason = std::error_code(code, std::generic_category())});
 }
 
 std::unexpected<ReadError> unread(const fs::path& file, int code = errno)
 {
     const bool isMissing = code == ENOENT || code == ENOTDIR;
     return std::unexpected(ReadError{isMissing ? ReadError::Reason::missing : ReadError::Reason::unreadable,
-        failed("Cannot read", file, code).error()});
+        failed(Step::read, file, code).error()});
 }
 
 std::optional<struct stat> statusOf(const fs::path& file)
@@ -40,7 +41,7 @@ std::optional<struct stat> statusOf(const fs::path& file)
 }
 
 /// The file that a chain of symbolic links ends at; it need not exist.
-std::expected<fs::path, std::string> endOfLinks(fs::path file)
+std::expected<fs::path, FileError> endOfLinks(fs::path file)
 {
     constexpr int longestChain = 40;
     std::error_code ignored;
@@ -50,7 +51,7 @@ std::expected<fs::path, std::string> endOfLinks(fs::path file)
         const auto target = fs::read_symlink(file, ignored);
         file = file.parent_path() / target;  // An absolute target replaces the left side.
     }
-    return failed("Cannot follow", file, ELOOP);
+    return failed(Step::follow, file, ELOOP);
 }
 
 bool writeAll(int descriptor, std::string_view content)
@@ -150,11 +151,10 @@ std::expected<std::string, ReadError> read(const fs::path& file, std::size_t max
             return content;
         content.append(block, 0, static_cast<std::size_t>(count));
     }
-    return std::unexpected(ReadError{ReadError::Reason::tooLarge,
-        "Cannot read " + file.string() + ": larger than " + std::to_string(maximumSize) + " bytes"});
+    return std::unexpected(ReadError{ReadError::Reason::tooLarge, {.step = Step::read, .file = file}});
 }
 
-std::expected<void, std::string> replace(const fs::path& file, std::string_view content)
+std::expected<void, FileError> replace(const fs::path& file, std::string_view content)
 {
     const auto target = endOfLinks(file);
     if (!target)
@@ -162,17 +162,17 @@ std::expected<void, std::string> replace(const fs::path& file, std::string_view 
     const auto old = statusOf(*target);
     // A folder could not be replaced, but a device could: by a file, for everyone.
     if (old && !S_ISREG(old->st_mode))
-        return failed("Cannot replace", *target, S_ISDIR(old->st_mode) ? EISDIR : EINVAL);
+        return failed(Step::replace, *target, S_ISDIR(old->st_mode) ? EISDIR : EINVAL);
 
     Successor successor(*target);
     if (!successor.isOpen())
-        return failed("Cannot create a file beside", *target);
+        return failed(Step::createBeside, *target);
     if (old)
         successor.takeOwnerAndPermissions(*old);
     if (!successor.fill(content))
-        return failed("Cannot write", *target);
+        return failed(Step::write, *target);
     if (!successor.takePlace())
-        return failed("Cannot replace", *target);
+        return failed(Step::replace, *target);
     syncFolder(target->parent_path());
     return {};
 }

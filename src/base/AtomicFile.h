@@ -5,6 +5,8 @@
 // content or the new one and never a part.
 #pragma once
 
+#include "base/FileError.h"
+
 #include <cstddef>
 #include <expected>
 #include <filesystem>
@@ -17,7 +19,7 @@ struct ReadError {
     enum class Reason { missing, unreadable, tooLarge };
 
     Reason reason{};
-    std::string description;  // In English, with the file's path; ends with the system's own words.
+    FileError error{};  // Without a reason of the system for a file that is too large.
 
     friend bool operator==(const ReadError&, const ReadError&) = default;
 };
@@ -28,10 +30,9 @@ struct ReadError {
     const std::filesystem::path& file, std::size_t maximumSize);
 
 /// Puts `content` in the place of a file, or makes it, readable by its owner alone; a file that is there keeps its
-/// permissions and, as far as the user may give it away, its owner, and a symbolic link keeps pointing to it. After an error the old content is untouched and nothing
-/// else is left in the folder. The error is in English and ends with the system's own words. Thread: any, one at a time
-/// for a file.
-[[nodiscard]] std::expected<void, std::string> replace(
+/// permissions and, as far as the user may give it away, its owner, and a symbolic link keeps pointing to it. After an
+/// error the old content is untouched and nothing else is left in the folder. Thread: any, one at a time for a file.
+[[nodiscard]] std::expected<void, FileError> replace(
     const std::filesystem::path& file, std::string_view content);
 
 }  // namespace fadeloom::AtomicFile

@@ -132,10 +132,8 @@ Reply CommandInterpreter::savePreset(Arguments arguments)
     const auto name = text_.trimmed(arguments[1]);
     if (name.empty())
         return error("a preset needs a name");
-    controller_.dismissErrorMessage();
-    controller_.saveUserPreset(name, *id);
-    if (const auto& message = *controller_.state().errorMessage)
-        return error(*message);
+    if (const auto saved = controller_.saveUserPreset(name, *id); !saved)
+        return error(englishText(saved.error()));
     return done("save-preset", std::array{*id, name});
 }
 
@@ -148,10 +146,8 @@ Reply CommandInterpreter::record(Arguments arguments)
     if (arguments[1] == "start") {
         if (isRecorded())
             return error(asWord(*id) + " is being recorded already");
-        controller_.dismissErrorMessage();
-        controller_.startRecording(*id);
-        if (!isRecorded())
-            return error(controller_.state().errorMessage->value_or("nothing is recorded"));
+        if (const auto started = controller_.startRecording(*id); !started)
+            return error(englishText(started.error()));
     } else if (arguments[1] == "stop") {
         if (!isRecorded())
             return error(asWord(*id) + " is not being recorded");

@@ -116,10 +116,10 @@ Reply CommandInterpreter::setLogin(Arguments arguments)
     bool isWanted = false;
     if (const auto problem = setSwitch(isWanted, arguments[0]))
         return error(*problem);
-    controller_.dismissErrorMessage();
-    controller_.setLaunchAtLogin(isWanted);
+    if (const auto changed = controller_.setLaunchAtLogin(isWanted); !changed)
+        return error(englishText(changed.error()));
     if (*controller_.state().launchAtLogin != isWanted)
-        return error(controller_.state().errorMessage->value_or("the system asks for your approval first"));
+        return error("the system asks for your approval first");
     return done("login", arguments);
 }
 

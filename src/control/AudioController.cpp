@@ -11,11 +11,11 @@
 namespace fadeloom {
 namespace {
 
-std::optional<std::string> unreadableMessage(const std::optional<SettingsError>& error)
+std::optional<ControllerError> unreadSettings(const std::optional<SettingsFileError>& reason)
 {
-    if (!error)
+    if (!reason)
         return std::nullopt;
-    return "Settings could not be read, and changes will not be saved: " + error->description;
+    return SettingsNotRead{*reason};
 }
 
 }  // namespace
@@ -34,12 +34,10 @@ AudioController::AudioController(
     , isSaving_(!loaded.unreadable)
     , state_{.permission = audioPermission_.current(),
           .launchAtLogin = platform.loginItem.status() == LoginItem::Status::enabled,
-          .errorMessage = unreadableMessage(loaded.unreadable),
+          .error = unreadSettings(loaded.unreadable),
           .settings = std::move(loaded.settings)}
     , saver_(platform.utilityQueue, platform.mainLoop, SettingsFile::defaultURL(platform.folders),
-          [this](const std::string& description) {
-              state_.errorMessage.assign("Could not save settings: " + description);
-          })
+          [this](const SettingsFileError& reason) { state_.error.assign(SettingsNotSaved{reason}); })
 {
     applyAppearance();
     refreshDevices();
@@ -49,6 +47,12 @@ AudioController::AudioController(
     listenToSystem();
     poll();
     timer_ = platform_.mainLoop.every(pollInterval, onMainThread(&AudioController::poll));
+}
+
+std::unexpected<ControllerError> AudioController::failed(ControllerError error)
+{
+    state_.error.assign(error);
+    return std::unexpected(std::move(error));
 }
 
 std::function<void()> AudioController::onMainThread(void (AudioController::*action)())

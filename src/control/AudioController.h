@@ -46,8 +46,8 @@ public:
     /// How soon a recording that cannot be written any more is noticed.
     static constexpr std::chrono::seconds recordingCheckInterval{1};
 
-    /// Loads the settings, begins to listen, polls once. Settings that are there and cannot be read become the error
-    /// message; nothing is saved in their place. `version` is for the log; "?" when empty.
+    /// Loads the settings, begins to listen, polls once. Settings that are there and cannot be read are an error, and
+    /// nothing is saved in their place. `version` is for the log; "?" when empty.
     AudioController(const Platform& platform, EngineLog& engineLog, const std::string& version);
     /// One that publishes fixed contents, for pictures: it looks at nothing, taps nothing and saves nothing.
     AudioController(const Platform& platform, EngineLog& engineLog, const DemoContents& demo);
@@ -63,7 +63,7 @@ public:
     void editSettings(const std::function<void(SettingsData&)>& change);
     /// The same with the settings of one app; one that is left with the defaults has no entry afterwards.
     void editApp(const std::string& bundleID, const std::function<void(AppAudioSettings&)>& change);
-    void dismissErrorMessage() { state_.errorMessage.assign(std::nullopt); }
+    void dismissError() { state_.error.assign(std::nullopt); }
 
     /// Compares the world with what is wanted, now.
     void poll();
@@ -79,8 +79,8 @@ public:
     [[nodiscard]] std::optional<std::string> outputUID(const std::string& bundleID) const;
     /// Whether the app has a chosen output that is not connected.
     [[nodiscard]] bool isOutputMissing(const std::string& bundleID) const;
-    /// Makes the device the system's default output; says whether the system accepted it.
-    bool setSystemOutput(const OutputDevice& device);
+    /// Makes the device the system's default output.
+    Outcome setSystemOutput(const OutputDevice& device);
 
     /// The app's parameter block, or null: it comes with the app's first tap and goes with its last process.
     [[nodiscard]] const TapParameters* parametersOf(const std::string& bundleID) const;
@@ -91,15 +91,15 @@ public:
     /// The meters; whoever shows them says when.
     [[nodiscard]] LevelStore& levels() { return levels_; }
 
-    /// Writes what the app plays to a file, before volume, mute and equalizer. Whatever stands in the way becomes the
-    /// error message; a second call while the app is being recorded does nothing.
-    void startRecording(const std::string& bundleID);
+    /// Writes what the app plays to a file, before volume, mute and equalizer; a second call while the app is being
+    /// recorded does nothing.
+    Outcome startRecording(const std::string& bundleID);
     /// The file is complete half a second later, or once the renderer has let go of it.
     void stopRecording(const std::string& bundleID);
     /// Where recordings go.
     [[nodiscard]] std::filesystem::path recordingsFolder() const;
-    /// Lets the user choose where they go.
-    void chooseRecordingsFolder();
+    /// Lets the user choose where they go. `prompt`: on the button that confirms.
+    void chooseRecordingsFolder(const std::string& prompt);
     /// Shows the recording that was stopped last in the file manager.
     void revealLastRecording();
 
@@ -110,13 +110,12 @@ public:
     void resetCallApps();
 
     void applyPreset(const EQPreset& preset, const std::string& bundleID);
-    /// Keeps the app's curve under this name. A blank name does nothing; the name of a built-in preset becomes the
-    /// error message.
-    void saveUserPreset(const std::string& name, const std::string& bundleID);
+    /// Keeps the app's curve under this name. A blank name does nothing, that of a built-in preset is an error.
+    Outcome saveUserPreset(const std::string& name, const std::string& bundleID);
     void deleteUserPreset(const EQPreset& preset);
 
-    /// Afterwards `launchAtLogin` is what the system made of it; a refusal becomes the error message.
-    void setLaunchAtLogin(bool isWanted);
+    /// Afterwards `launchAtLogin` is what the system made of it.
+    Outcome setLaunchAtLogin(bool isWanted);
 
     /// Ends the work before the program does: no tap is left, every recording is a whole file, and a save that waits
     /// is done when this returns.
@@ -126,6 +125,7 @@ private:
     AudioController(const Platform& platform, EngineLog& engineLog, const std::string& version,
         SettingsFile::Loaded loaded);
 
+    std::unexpected<ControllerError> failed(ControllerError error);
     [[nodiscard]] std::function<void()> onMainThread(void (AudioController::*action)());
     void listenToSystem();
 

@@ -22,16 +22,18 @@ Application::Appearance appearanceOf(Theme theme)
 
 }  // namespace
 
-void AudioController::setLaunchAtLogin(bool isWanted)
+Outcome AudioController::setLaunchAtLogin(bool isWanted)
 {
     if (isWanted == *state_.launchAtLogin)
-        return;
+        return {};
     auto& loginItem = platform_.loginItem;
     const auto changed = isWanted ? loginItem.registerItem() : loginItem.unregisterItem();
+    Outcome outcome;
     if (!changed)
-        state_.errorMessage.assign("Launch at login: " + changed.error());
+        outcome = failed(LoginItemRefused{changed.error()});
     // Assigned also when it is as before: a switch that was moved has to move back.
     state_.launchAtLogin.assign(loginItem.status() == LoginItem::Status::enabled);
+    return outcome;
 }
 
 void AudioController::applyAppearance()

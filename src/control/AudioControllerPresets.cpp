@@ -11,18 +11,17 @@ void AudioController::applyPreset(const EQPreset& preset, const std::string& bun
     editSettings([&](SettingsData& settings) { fadeloom::applyPreset(settings, preset, bundleID); });
 }
 
-void AudioController::saveUserPreset(const std::string& name, const std::string& bundleID)
+Outcome AudioController::saveUserPreset(const std::string& name, const std::string& bundleID)
 {
     const auto trimmed = platform_.text.trimmed(name);
     if (trimmed.empty())
-        return;
-    if (isBuiltInPresetName(trimmed, platform_.text)) {
-        state_.errorMessage.assign("“" + trimmed + "” is a built-in preset name. Choose another name.");
-        return;
-    }
+        return {};
+    if (isBuiltInPresetName(trimmed, platform_.text))
+        return failed(BuiltInPresetName{trimmed});
     editSettings([&](SettingsData& settings) {
         fadeloom::saveUserPreset(settings, trimmed, bundleID, platform_.text);
     });
+    return {};
 }
 
 void AudioController::deleteUserPreset(const EQPreset& preset)

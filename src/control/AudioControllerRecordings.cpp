@@ -13,29 +13,25 @@
 
 namespace fadeloom {
 
-void AudioController::startRecording(const std::string& bundleID)
+Outcome AudioController::startRecording(const std::string& bundleID)
 {
     if (active_.contains(bundleID))
-        return;
+        return {};
     const auto* const tap = tapOf(bundleID);
     const auto block = params_.find(bundleID);
-    if (!tap || block == params_.end()) {
-        state_.errorMessage.assign("Start playback in this app first, then press record.");
-        return;
-    }
-    const auto fail = [this](const std::string& reason) {
-        state_.errorMessage.assign("Could not start recording: " + reason);
-    };
+    if (!tap || block == params_.end())
+        return failed(NothingToRecord{});
 
     const auto startedAt = platform_.clock.now();
     const auto location = newRecordingLocation(bundleID, startedAt);
     std::error_code error;
     std::filesystem::create_directories(location.parent_path(), error);
     if (error)
-        return fail(location.parent_path().string() + ": " + error.message());
+        return failed(RecordingNotStarted{FileError{
+            .step = FileError::Step::createFolder, .file = location.parent_path(), .reason = error}});
     auto recording = Recording::create(platform_.audioFiles, location, tap->sampleRate(), startedAt);
     if (!recording)
-        return fail(recording.error().description());
+        return failed(RecordingNotStarted{recording.error()});
 
     auto& file = (*recording)->file();
     active_.emplace(bundleID, std::move(*recording));
@@ -44,6 +40,7 @@ void AudioController::startRecording(const std::string& bundleID)
         recordingCheck_ =
             platform_.mainLoop.every(recordingCheckInterval, onMainThread(&AudioController::checkRecordings));
     state_.recordings.modify([&](auto& recordings) { recordings.emplace(bundleID, startedAt); });
+    return {};
 }
 
 void AudioController::stopRecording(const std::string& bundleID)
@@ -89,8 +86,7 @@ void AudioController::checkRecordings()
     }
     for (const auto& [id, status] : broken) {
         stopRecording(id);
-        state_.errorMessage.assign("Recording of " + nameOf(id) + " stopped: the file could not be written ("
-            + platform_.audioFiles.describe(status) + ").");
+        state_.error.assign(RecordingNotWritten{nameOf(id), platform_.audioFiles.describe(status)});
     }
 }
 
@@ -130,18 +126,17 @@ std::filesystem::path AudioController::recordingsFolder() const
     return fadeloom::recordingsFolder(*state_.settings, platform_.folders);
 }
 
-void AudioController::chooseRecordingsFolder()
+void AudioController::chooseRecordingsFolder(const std::string& prompt)
 {
     if (!platform_.dialogs)
         return;
     if (platform_.application)
         platform_.application->activate();
-    platform_.dialogs->chooseFolder(
-        recordingsFolder(), "Choose", life_.whileAlive([this](const auto& folder) {
-            platform_.mainLoop.requireCurrent();
-            if (folder)
-                editSettings([&](SettingsData& settings) { settings.recordingsFolder = folder->string(); });
-        }));
+    platform_.dialogs->chooseFolder(recordingsFolder(), prompt, life_.whileAlive([this](const auto& folder) {
+        platform_.mainLoop.requireCurrent();
+        if (folder)
+            editSettings([&](SettingsData& settings) { settings.recordingsFolder = folder->string(); });
+    }));
 }
 
 void AudioController::revealLastRecording()

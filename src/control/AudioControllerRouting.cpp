@@ -56,13 +56,13 @@ void AudioController::updateMissingOutput()
     }
 }
 
-bool AudioController::setSystemOutput(const OutputDevice& device)
+Outcome AudioController::setSystemOutput(const OutputDevice& device)
 {
-    const bool isAccepted = platform_.audio.setDefaultOutput(device);
-    if (!isAccepted)
-        state_.errorMessage.assign("Could not switch output to " + device.name + ".");
+    Outcome outcome;
+    if (!platform_.audio.setDefaultOutput(device))
+        outcome = failed(OutputRefused{device.name});
     poll();
-    return isAccepted;
+    return outcome;
 }
 
 }  // namespace fadeloom

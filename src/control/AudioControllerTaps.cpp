@@ -110,10 +110,9 @@ void AudioController::tapFailed(const AppEntry& entry, const OutputDevice& devic
     const auto& id = entry.bundleID;
     if (!taps_.contains(id))
         stopRecording(id);
-    const auto description = error.description();
     failed_[id].insert_or_assign(device.uid, failureOf(entry, device));
-    state_.tapErrors.modify([&](auto& errors) { errors.insert_or_assign(id, description); });
-    engineLog_.error("tap failed: " + id + ": " + description);
+    state_.tapErrors.modify([&](auto& errors) { errors.insert_or_assign(id, error); });
+    engineLog_.error("tap failed: " + id + ": " + error.description());
 }
 
 void AudioController::tapMade(const AppEntry& entry, const AppTap& tap, double formerRate)
@@ -129,8 +128,7 @@ void AudioController::tapMade(const AppEntry& entry, const AppTap& tap, double f
     // A file has one rate from its beginning to its end.
     if (formerRate != 0 && formerRate != tap.sampleRate() && active_.contains(id)) {
         stopRecording(id);
-        state_.errorMessage.assign(
-            "Recording of " + entry.name + " stopped: the output device changed its sample rate.");
+        state_.error.assign(RecordingRateChanged{entry.name});
     }
 }
 

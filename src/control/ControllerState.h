@@ -5,6 +5,7 @@
 #include "base/Published.h"
 #include "control/AppEntry.h"
 #include "control/AudioPermission.h"
+#include "control/ControllerError.h"
 #include "platform/OutputDevice.h"
 #include "settings/SettingsData.h"
 
@@ -32,8 +33,8 @@ struct ControllerState {
     /// The listed apps that are no call apps and have used the microphone while they played, until the user says what
     /// they are.
     Published<std::set<std::string>> callOffers{};
-    /// Why the tap of an app could not be made, in words for the user.
-    Published<std::map<std::string, std::string>> tapErrors{};
+    /// Why the tap of an app could not be made.
+    Published<std::map<std::string, TapError>> tapErrors{};
     /// The listed apps whose chosen output is not connected; they are muted.
     Published<std::set<std::string>> missingOutput{};
     /// The apps that are being recorded, and since when.
@@ -42,8 +43,8 @@ struct ControllerState {
     Published<std::optional<std::filesystem::path>> lastRecording{};
     /// Whether the program starts when the user logs in; as the system has it.
     Published<bool> launchAtLogin{};
-    /// A message for the user, until it is dismissed.
-    Published<std::optional<std::string>> errorMessage{};
+    /// What went wrong last, until the user dismisses it.
+    Published<std::optional<ControllerError>> error{};
     Published<SettingsData> settings{};
 };
 

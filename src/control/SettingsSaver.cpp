@@ -21,16 +21,16 @@ void SettingsSaver::schedule(const SettingsData& settings)
     if (saveWork_)
         saveWork_->cancel();
 
-    auto report = life_.whileAlive([this](const std::string& description) {
+    auto report = life_.whileAlive([this](const SettingsFileError& error) {
         mainLoop_.requireCurrent();
-        failed_(description);
+        failed_(error);
     });
     // The work knows nothing of this object, which may be gone when it runs.
     saveWork_ = queue_.submit(
         delay, [snapshot = settings, file = file_, &mainLoop = mainLoop_, report = std::move(report)] {
             const auto saved = SettingsFile::save(snapshot, file);
             if (!saved)
-                mainLoop.post([report, description = saved.error().description] { report(description); });
+                mainLoop.post([report, error = saved.error()] { report(error); });
         });
 }
 

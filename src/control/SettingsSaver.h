@@ -8,6 +8,7 @@
 #include "platform/BackgroundQueue.h"
 #include "platform/MainLoop.h"
 #include "settings/SettingsData.h"
+#include "settings/SettingsError.h"
 
 #include <chrono>
 #include <filesystem>
@@ -20,8 +21,8 @@ namespace fadeloom {
 /// Thread: main.
 class SettingsSaver {
 public:
-    /// Gets a failed write's description, on the main loop, and only while the saver lives.
-    using Failed = std::function<void(const std::string& description)>;
+    /// Gets what was wrong with a write, on the main loop, and only while the saver lives.
+    using Failed = std::function<void(const SettingsFileError& error)>;
 
     static constexpr std::chrono::milliseconds delay{500};
 

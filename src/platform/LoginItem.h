@@ -2,8 +2,9 @@
 // Whether the program starts when the user logs in.
 #pragma once
 
+#include "platform/LoginItemError.h"
+
 #include <expected>
-#include <string>
 
 namespace fadeloom {
 
@@ -17,9 +18,9 @@ public:
 
     /// As the system has it now, whoever made it so.
     [[nodiscard]] virtual Status status() const = 0;
-    /// Both are no error when it is so already. The error is a sentence for the user.
-    virtual std::expected<void, std::string> registerItem() = 0;
-    virtual std::expected<void, std::string> unregisterItem() = 0;
+    /// Both are no error when it is so already.
+    virtual std::expected<void, LoginItemError> registerItem() = 0;
+    virtual std::expected<void, LoginItemError> unregisterItem() = 0;
 };
 
 }  // namespace fadeloom

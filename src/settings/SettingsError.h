@@ -2,14 +2,28 @@
 // Why settings cannot be read or written.
 #pragma once
 
+#include "base/FileError.h"
+
+#include <cstddef>
 #include <string>
+#include <variant>
 
 namespace fadeloom {
 
+/// A text that is not understood as settings.
 struct SettingsError {
-    std::string description;  // In English; ends with the system's own words where it has any.
+    std::string description;  // In English, for the log.
 
     friend bool operator==(const SettingsError&, const SettingsError&) = default;
 };
+
+struct SettingsTooLarge {
+    std::size_t maximumBytes = 0;
+
+    friend bool operator==(const SettingsTooLarge&, const SettingsTooLarge&) = default;
+};
+
+/// Why the file of settings cannot be read or replaced.
+using SettingsFileError = std::variant<FileError, SettingsTooLarge>;
 
 }  // namespace fadeloom

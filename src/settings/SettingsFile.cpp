@@ -21,24 +21,25 @@ namespace fs = std::filesystem;
 // it apart would need many times its size in memory.
 constexpr std::size_t maximumSize = std::size_t{16} * 1024 * 1024;
 
-SettingsError tooLarge()
+SettingsTooLarge tooLarge()
 {
-    return {"larger than " + std::to_string(maximumSize) + " bytes"};
+    return {.maximumBytes = maximumSize};
 }
 
 /// Why the file must not be replaced: it may hold what nobody has seen.
-std::optional<SettingsError> reasonToKeep(const std::expected<std::string, AtomicFile::ReadError>& content)
+std::optional<SettingsFileError> reasonToKeep(
+    const std::expected<std::string, AtomicFile::ReadError>& content)
 {
     if (content || content.error().reason != AtomicFile::ReadError::Reason::unreadable)
         return std::nullopt;
-    return SettingsError{content.error().description};
+    return content.error().error;
 }
 
 std::expected<SettingsData, SettingsError> decode(
     const std::expected<std::string, AtomicFile::ReadError>& content, const DefaultCallApps& callApps)
 {
     if (!content)
-        return std::unexpected(tooLarge());
+        return std::unexpected(SettingsError{"larger than " + std::to_string(maximumSize) + " bytes"});
     return decodeSettings(*content, callApps);
 }
 
@@ -74,7 +75,7 @@ Loaded load(const fs::path& file, SystemLog& log, const DefaultCallApps& callApp
     return {.settings = defaultSettings(callApps), .unreadable = {}};
 }
 
-std::expected<void, SettingsError> save(const SettingsData& settings, const fs::path& file)
+std::expected<void, SettingsFileError> save(const SettingsData& settings, const fs::path& file)
 {
     const auto folder = file.parent_path();
     std::error_code error;
@@ -82,7 +83,7 @@ std::expected<void, SettingsError> save(const SettingsData& settings, const fs::
         fs::create_directories(folder, error);
     if (error)
         return std::unexpected(
-            SettingsError{"Cannot create the folder " + folder.string() + ": " + error.message()});
+            FileError{.step = FileError::Step::createFolder, .file = folder, .reason = error});
     const auto content = encodeSettings(settings);
     if (content.size() > maximumSize)
         return std::unexpected(tooLarge());
@@ -90,7 +91,7 @@ std::expected<void, SettingsError> save(const SettingsData& settings, const fs::
     if (auto unreadable = reasonToKeep(AtomicFile::read(file, maximumSize)))
         return std::unexpected(std::move(*unreadable));
     if (const auto replaced = AtomicFile::replace(file, content); !replaced)
-        return std::unexpected(SettingsError{replaced.error()});
+        return std::unexpected(replaced.error());
     return {};
 }
 

@@ -21,7 +21,7 @@ namespace SettingsFile {
 
 struct Loaded {
     SettingsData settings;
-    std::optional<SettingsError> unreadable;  // Why there may be settings that are not these.
+    std::optional<SettingsFileError> unreadable;  // Why there may be settings that are not these.
 };
 
 /// Never fails. Where there is no file yet, the settings are the defaults. A file that can be read but not understood
@@ -33,7 +33,7 @@ struct Loaded {
 
 /// Replaces the file, and makes the folders above it. Refuses what `load` would find too large, and to replace a file
 /// that cannot be read. After an error the file is as it was.
-[[nodiscard]] std::expected<void, SettingsError> save(
+[[nodiscard]] std::expected<void, SettingsFileError> save(
     const SettingsData& settings, const std::filesystem::path& file);
 
 }  // namespace SettingsFile

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The controller's messages in the user's language.
-//
-// The controller knows no language: its messages are English sentences around a name or a reason. They are known again
-// by their fixed parts; one that is not known is shown as it came.
+// The controller's errors in the user's language.
 #pragma once
+
+#include "control/ControllerError.h"
 
 #include <QString>
 
-#include <string>
-
 namespace fadeloom {
 
-[[nodiscard]] QString messageText(const std::string& message);
+[[nodiscard]] QString messageText(const ControllerError& error);
+/// Without a full stop.
+[[nodiscard]] QString messageText(const TapError& error);
 
 }  // namespace fadeloom

@@ -39,7 +39,7 @@ void PanelModel::observe()
     whenAssigned(state.lastRecording, [this] { Q_EMIT lastRecordingChanged(); });
     whenAssigned(state.apps, [this] { refreshBanner(); });  // One of them may be the call's.
     whenAssigned(state.callApp, [this] { refreshBanner(); });
-    whenAssigned(state.errorMessage, [this] { refreshBanner(); });
+    whenAssigned(state.error, [this] { refreshBanner(); });
     whenAssigned(state.settings, [this] {
         refreshBanner();
         refreshLook();
@@ -90,8 +90,8 @@ PanelModel::ShownBanner PanelModel::readBanner() const
     const auto& state = controller_.state();
     if (const auto& callApp = *state.callApp)
         return {Banner::Call, callText(*callApp)};
-    if (const auto& message = *state.errorMessage)
-        return {Banner::Error, messageText(*message)};
+    if (const auto& error = *state.error)
+        return {Banner::Error, messageText(*error)};
     return {};
 }
 
@@ -166,7 +166,7 @@ void PanelModel::chooseOutput(const QString& key)
 
 void PanelModel::dismissError()
 {
-    controller_.dismissErrorMessage();
+    controller_.dismissError();
 }
 
 void PanelModel::revealLastRecording()

@@ -10,6 +10,7 @@
 #include "ui/ShortPath.h"
 #include "ui/VolumeText.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <algorithm>
@@ -198,7 +199,8 @@ void SettingsModel::resetCallApps()
 
 void SettingsModel::chooseRecordingsFolder()
 {
-    controller_.chooseRecordingsFolder();
+    //: On the button that confirms a folder.
+    controller_.chooseRecordingsFolder(QCoreApplication::translate("SettingsModel", "Choose").toStdString());
 }
 
 void SettingsModel::chooseVolumeLimit(const QString& key)

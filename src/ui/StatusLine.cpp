@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/StatusLine.h"
 
+#include "ui/MessageText.h"
+
 #include <QCoreApplication>
 
 namespace fadeloom {
@@ -19,7 +21,7 @@ StatusLine statusLine(const ControllerState& state, const AppEntry& app)
     if (const auto error = state.tapErrors->find(app.bundleID); error != state.tapErrors->end())
         return {.kind = Kind::failed,
             .text = words(QT_TRANSLATE_NOOP("StatusLine", "Can’t control audio")),
-            .help = QString::fromStdString(error->second)};
+            .help = messageText(error->second)};
     if (state.missingOutput->contains(app.bundleID))
         return {.kind = Kind::disconnected,
             .text = words(QT_TRANSLATE_NOOP("StatusLine", "Output disconnected, muted")),

@@ -100,8 +100,7 @@ TEST_F(AtomicFileTest, isReadUpToTheLargestSize)
     EXPECT_EQ(AtomicFile::read(file, 5), "12345");
     const auto tooLarge = AtomicFile::read(file, 4);
     ASSERT_FALSE(tooLarge);
-    EXPECT_EQ(tooLarge.error(),
-        (ReadError{Reason::tooLarge, "Cannot read " + file.string() + ": larger than 4 bytes"}));
+    EXPECT_EQ(tooLarge.error().reason, Reason::tooLarge);
 }
 
 TEST_F(AtomicFileTest, whatIsNoFileIsUnreadableAndNotWaitedFor)
@@ -131,8 +130,8 @@ TEST_F(AtomicFileTest, aFileThatIsNotOursIsUnreadable)
     const auto content = AtomicFile::read(file, 100);
 
     ASSERT_FALSE(content);
-    EXPECT_EQ(content.error(),
-        (ReadError{Reason::unreadable, "Cannot read " + file.string() + ": Permission denied"}));
+    EXPECT_EQ(content.error().reason, Reason::unreadable);
+    EXPECT_EQ(content.error().error.description(), "Cannot read " + file.string() + ": Permission denied");
 }
 
 TEST_F(AtomicFileTest, aFileBehindAClosedFolderIsUnreadable)
@@ -151,8 +150,8 @@ TEST_F(AtomicFileTest, aFileThatFailsWhileItIsReadIsUnreadable)
         AtomicFile::read("/proc/self/mem", 100);  // Opens; nothing is mapped at its beginning.
 
     ASSERT_FALSE(content);
-    EXPECT_EQ(
-        content.error(), (ReadError{Reason::unreadable, "Cannot read /proc/self/mem: Input/output error"}));
+    EXPECT_EQ(content.error().reason, Reason::unreadable);
+    EXPECT_EQ(content.error().error.description(), "Cannot read /proc/self/mem: Input/output error");
 }
 
 TEST_F(AtomicFileTest, replacedOneKeepsItsOwner)
@@ -238,7 +237,7 @@ TEST_F(AtomicFileTest, symbolicLinksInACircleAreRefused)
     const auto replaced = AtomicFile::replace(file, "new");
 
     ASSERT_FALSE(replaced);
-    EXPECT_THAT(replaced.error(), HasSubstr("symbolic links"));
+    EXPECT_THAT(replaced.error().description(), HasSubstr("symbolic links"));
 }
 
 TEST_F(AtomicFileTest, whatIsNoFileIsNotReplaced)
@@ -249,7 +248,7 @@ TEST_F(AtomicFileTest, whatIsNoFileIsNotReplaced)
 
     const auto replaced = AtomicFile::replace(file, "new");
     ASSERT_FALSE(replaced);
-    EXPECT_THAT(replaced.error(), HasSubstr("Is a directory"));
+    EXPECT_THAT(replaced.error().description(), HasSubstr("Is a directory"));
     EXPECT_FALSE(AtomicFile::replace(pipe, "new"));
     EXPECT_FALSE(AtomicFile::replace("/dev/null", "new"));
 
@@ -262,7 +261,7 @@ TEST_F(AtomicFileTest, missingFolderIsToldInTheSystemsWords)
     const auto replaced = AtomicFile::replace(folder.path() / "missing" / "file.json", "new");
 
     ASSERT_FALSE(replaced);
-    EXPECT_THAT(replaced.error(), HasSubstr("missing/file.json: No such file or directory"));
+    EXPECT_THAT(replaced.error().description(), HasSubstr("missing/file.json: No such file or directory"));
 }
 
 TEST_F(AtomicFileTest, fullDiskLeavesTheOldContentAndNothingElse)
@@ -270,14 +269,14 @@ TEST_F(AtomicFileTest, fullDiskLeavesTheOldContentAndNothingElse)
     put(file, "old");
     const std::string large(100'000, 'x');
 
-    std::expected<void, std::string> replaced;
+    std::expected<void, FileError> replaced;
     {
         const FullDisk disk(4096);
         replaced = AtomicFile::replace(file, large);
     }
 
     ASSERT_FALSE(replaced);
-    EXPECT_THAT(replaced.error(), HasSubstr("File too large"));
+    EXPECT_THAT(replaced.error().description(), HasSubstr("File too large"));
     EXPECT_EQ(contentOf(file), "old");
     EXPECT_THAT(names(), ElementsAre("file.json"));
     EXPECT_TRUE(AtomicFile::replace(file, large)) << "once there is room";

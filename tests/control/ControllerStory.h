@@ -86,6 +86,12 @@ protected:
     // Measurements.
 
     [[nodiscard]] const ControllerState& state() const { return controller->state(); }
+    /// What the user hears of what went wrong; empty for nothing.
+    [[nodiscard]] std::string message() const
+    {
+        const auto& error = *state().error;
+        return error ? englishText(*error) : "";
+    }
     [[nodiscard]] const SettingsData& settings() const { return *state().settings; }
     /// The mixer's rows as the log describes them.
     [[nodiscard]] std::string mixer() const { return describe(*state().apps); }

@@ -10,7 +10,6 @@ using Appearance = Application::Appearance;
 class DesktopStory : public ControllerStory {
 protected:
     bool launchesAtLogin() { return *state().launchAtLogin; }
-    std::string message() { return state().errorMessage->value_or(""); }
     void setTheme(Theme theme)
     {
         auto settings = this->settings();

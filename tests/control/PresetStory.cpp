@@ -18,8 +18,6 @@ protected:
         world.advance(1s);
     }
 
-    std::string message() { return state().errorMessage->value_or(""); }
-
     const std::string player = "com.example.player";
 };
 

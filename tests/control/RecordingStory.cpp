@@ -27,7 +27,6 @@ protected:
     void record(const std::string& bundleID) { controller->startRecording(bundleID); }
     void stop(const std::string& bundleID) { controller->stopRecording(bundleID); }
     bool isRecorded(const std::string& bundleID) { return state().recordings->contains(bundleID); }
-    std::string message() { return state().errorMessage->value_or(""); }
     std::vector<std::filesystem::path> files() { return world.audioFiles().locations(); }
     const SimulatedAudioContent& lastFile() { return *world.audioFiles().at(**state().lastRecording); }
     long closings()
@@ -83,17 +82,6 @@ TEST_F(RecordingStory, bearsTheAppsNameAndTheTime)
 
     EXPECT_THAT(files(),
         ElementsAre(folder.path() / "Music" / "Fadeloom Recordings" / "AC-DC- Live 2025-03-02 14.05.09.wav"));
-}
-
-TEST_F(RecordingStory, makesItsFolderOnce)
-{
-    launchPlaying("Player");
-    const auto recordings = controller->recordingsFolder();
-    EXPECT_FALSE(std::filesystem::exists(recordings));
-
-    record(player);
-
-    EXPECT_TRUE(std::filesystem::is_directory(recordings));
 }
 
 TEST_F(RecordingStory, goesToTheChosenFolder)
@@ -445,40 +433,6 @@ TEST_F(RecordingStory, isShownInTheFileManager)
     controller->revealLastRecording();
 
     EXPECT_THAT(world.workspace().revealed(), ElementsAre(**state().lastRecording));
-}
-
-TEST_F(RecordingStory, itsFolderIsChosenInADialog)
-{
-    const auto chosen = folder.path() / "tapes";
-    controller->chooseRecordingsFolder();
-    ASSERT_THAT(world.dialogs().questions(), SizeIs(1));
-    EXPECT_EQ(world.dialogs().questions().front().start, controller->recordingsFolder());
-    EXPECT_EQ(world.dialogs().questions().front().prompt, "Choose");
-    EXPECT_EQ(world.application().activationCount(), 1);
-
-    world.dialogs().answer(chosen);
-    world.advance(1s);
-
-    EXPECT_EQ(controller->recordingsFolder(), chosen);
-    EXPECT_EQ(saved().recordingsFolder, chosen.string());
-}
-
-TEST_F(RecordingStory, aCancelledDialogChangesNothing)
-{
-    controller->chooseRecordingsFolder();
-
-    world.dialogs().answer(std::nullopt);
-
-    EXPECT_FALSE(settings().recordingsFolder);
-    EXPECT_FALSE(isSaveWaiting());
-}
-
-TEST_F(RecordingStory, aDialogMayOutliveTheController)
-{
-    controller->chooseRecordingsFolder();
-    end();
-
-    world.dialogs().answer("/somewhere");
 }
 
 }  // namespace

@@ -172,7 +172,7 @@ TEST_F(RoutingStory, theSystemsDefaultOutputCanBeSet)
 
     EXPECT_EQ(*state().defaultDeviceUID, "headphones");
     EXPECT_EQ(outputOf(player), "headphones");
-    EXPECT_EQ(*state().errorMessage, std::nullopt);
+    EXPECT_EQ(*state().error, std::nullopt);
 }
 
 TEST_F(RoutingStory, aDefaultOutputThatCannotBeSetIsToldToTheUser)
@@ -183,7 +183,7 @@ TEST_F(RoutingStory, aDefaultOutputThatCannotBeSetIsToldToTheUser)
 
     EXPECT_FALSE(controller->setSystemOutput(state().devices->at(1)));
 
-    EXPECT_EQ(*state().errorMessage, "Could not switch output to Headphones.");
+    EXPECT_EQ(message(), "Could not switch output to Headphones.");
     EXPECT_EQ(*state().defaultDeviceUID, "speakers");
     EXPECT_EQ(world.audio().callCount(AudioOperation::processes), 1);
 }
@@ -193,10 +193,10 @@ TEST_F(RoutingStory, theMessageStaysUntilItIsDismissed)
     world.refuse(AudioOperation::setDefaultOutput, HowOften::once);
     controller->setSystemOutput(state().devices->at(1));
     world.advance(1min);
-    EXPECT_NE(*state().errorMessage, std::nullopt);
+    EXPECT_NE(*state().error, std::nullopt);
 
-    controller->dismissErrorMessage();
-    EXPECT_EQ(*state().errorMessage, std::nullopt);
+    controller->dismissError();
+    EXPECT_EQ(*state().error, std::nullopt);
 }
 
 TEST_F(RoutingStory, aDeviceThatIsPluggedInAgainIsANewOne)

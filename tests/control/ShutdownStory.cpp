@@ -106,7 +106,7 @@ TEST_F(ShutdownStory, saysNothingWhenAFileIsBroken)
 
     controller->shutdown();
 
-    EXPECT_FALSE(*state().errorMessage);
+    EXPECT_FALSE(*state().error);
 }
 
 TEST_F(ShutdownStory, canComeTwice)

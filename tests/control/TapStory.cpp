@@ -118,7 +118,7 @@ TEST_F(TapStory, aFailedTapIsToldToTheUserAndTheLog)
     launchPlaying("Player");
 
     EXPECT_EQ(mixer(), "com.example.player▶");
-    EXPECT_EQ(state().tapErrors->at(player), "Create process tap failed (OSStatus -50)");
+    EXPECT_EQ(state().tapErrors->at(player), (TapError{.step = "Create process tap", .status = -50}));
     EXPECT_TRUE(hasLogged("tap failed: com.example.player: Create process tap failed (OSStatus -50)"));
     EXPECT_EQ(world.systemLog().lines().back().level, SystemLog::Level::error);
 }

@@ -9,6 +9,7 @@
 #include "platform/macos/ExtendedAudioFiles.h"
 #include "platform/macos/FoundationClock.h"
 #include "platform/macos/FoundationFolders.h"
+#include "platform/macos/MacOSCallApps.h"
 #include "platform/macos/MainAppLoginItem.h"
 #include "platform/macos/StandardUserDefaults.h"
 #include "platform/macos/TccPermission.h"
@@ -188,8 +189,8 @@ TEST_F(MacOSController, tellsWhatTheAudioSystemRefused)
     tcc.preflightAnswer = 0;
     pass(AudioController::pollInterval);
 
-    EXPECT_THAT(*controller->state().tapErrors,
-        Contains(::testing::Pair("com.example.Music", HasSubstr("Create aggregate device"))));
+    EXPECT_EQ(controller->state().tapErrors->at("com.example.Music"),
+        (TapError{.step = "Create aggregate device", .status = -50}));
 }
 
 TEST_F(MacOSController, recordsIntoAWholeFile)

@@ -4,6 +4,7 @@
 #include "platform/macos/DispatchQueue.h"
 #include "platform/macos/FoundationClock.h"
 #include "platform/macos/FoundationFolders.h"
+#include "platform/macos/MacOSCallApps.h"
 #include "platform/macos/MainAppLoginItem.h"
 #include "platform/macos/StandardUserDefaults.h"
 #include "platform/macos/UnifiedLog.h"
@@ -57,9 +58,26 @@ TEST_F(MacOSServices, loginItemTellsWhyItWasRefused)
     MainAppLoginItem item;
     desktop.loginItemError = doubles::errorSaying(@"Der Vorgang ist nicht erlaubt.");
 
-    EXPECT_EQ(item.registerItem().error(), "Der Vorgang ist nicht erlaubt.");
+    const LoginItemError refused = SystemWords{"Der Vorgang ist nicht erlaubt."};
+    EXPECT_EQ(item.registerItem().error(), refused);
     desktop.loginItem = SMAppServiceStatusRequiresApproval;
-    EXPECT_EQ(item.unregisterItem().error(), "Der Vorgang ist nicht erlaubt.");
+    EXPECT_EQ(item.unregisterItem().error(), refused);
+}
+
+TEST_F(MacOSServices, elevenCallAppsAreKnown)
+{
+    const MacOSCallApps callApps;
+    const std::vector<CallApp> all = {{"Zoom", {"us.zoom.xos"}},
+        {"Microsoft Teams", {"com.microsoft.teams2"}}, {"Microsoft Teams (classic)", {"com.microsoft.teams"}},
+        {"FaceTime", {"com.apple.FaceTime"}}, {"Discord", {"com.hnc.Discord"}},
+        {"Slack", {"com.tinyspeck.slackmacgap"}}, {"Webex", {"Cisco-Systems.Spark"}},
+        {"Skype", {"com.skype.skype"}}, {"WhatsApp", {"net.whatsapp.WhatsApp"}},
+        {"Signal", {"org.whispersystems.signal-desktop"}},
+        {"Google Meet", {"com.google.Chrome.app.kjgfgldnnfoeklkmfkjfagphfepbbdan"}}};
+
+    EXPECT_EQ(callApps.wellKnown(), all);
+    EXPECT_TRUE(callApps.formerDefaults().empty());
+    EXPECT_EQ(callApps.identifiersOf("us.zoom.xos"), std::vector<std::string>{"us.zoom.xos"});
 }
 
 TEST_F(MacOSServices, defaultsKeepALanguage)

@@ -192,7 +192,8 @@ TEST_F(SettingsFileTest, fileThatCannotBeReadIsNeitherReportedNorReplaced)
     const OrdinaryUser user(folder.path());
     put(R"({"volumeLimit": 2})");
     ::chmod(file.c_str(), 0);
-    const SettingsError reason{"Cannot read " + file.string() + ": Permission denied"};
+    const SettingsFileError reason = FileError{
+        .step = FileError::Step::read, .file = file, .reason = make_error_code(std::errc::permission_denied)};
 
     const auto loaded = SettingsFile::load(file, log);
     const auto saved = SettingsFile::save(SettingsData(), file);
@@ -211,7 +212,8 @@ TEST_F(SettingsFileTest, fileThatFailsWhileItIsReadCountsAsUnreadable)
     const auto loaded = SettingsFile::load("/proc/self/mem", log);
 
     ASSERT_TRUE(loaded.unreadable);
-    EXPECT_THAT(loaded.unreadable->description, HasSubstr("Input/output error"));
+    EXPECT_EQ(std::get<FileError>(*loaded.unreadable).description(),
+        "Cannot read /proc/self/mem: Input/output error");
 }
 
 TEST_F(SettingsFileTest, whatWouldBeTooLargeToReadIsNotWritten)
@@ -223,7 +225,7 @@ TEST_F(SettingsFileTest, whatWouldBeTooLargeToReadIsNotWritten)
 
     const auto saved = SettingsFile::save(settings, file);
 
-    EXPECT_EQ(saved, std::unexpected(SettingsError{"larger than 16777216 bytes"}));
+    EXPECT_EQ(saved, std::unexpected(SettingsFileError{SettingsTooLarge{16777216}}));
     EXPECT_EQ(contentOf(file), before);
 }
 
@@ -234,7 +236,7 @@ TEST_F(SettingsFileTest, folderThatCannotBeMadeIsTold)
     const auto saved = SettingsFile::save(SettingsData(), file);
 
     ASSERT_FALSE(saved);
-    EXPECT_EQ(saved.error().description,
+    EXPECT_EQ(std::get<FileError>(saved.error()).description(),
         "Cannot create the folder " + file.parent_path().string() + ": Not a directory");
 }
 

@@ -33,9 +33,9 @@ TEST_F(StatusLineTest, theMostUrgentIsSaidFirst)
     EXPECT_EQ(kind(), Kind::recording);
     state.missingOutput.assign({"player"});
     EXPECT_EQ(kind(), Kind::disconnected);
-    state.tapErrors.assign({{"player", "no rights"}});
+    state.tapErrors.assign({{"player", {.step = "Start device", .reason = "the device is gone"}}});
     EXPECT_EQ(kind(), Kind::failed);
-    EXPECT_EQ(statusLine(state, app).help, "no rights");
+    EXPECT_EQ(statusLine(state, app).help, "Start device failed: the device is gone");
 }
 
 TEST_F(StatusLineTest, aCallAppIsNotLoweredForAnothersCall)
@@ -50,7 +50,7 @@ TEST_F(StatusLineTest, whatHappensToOthersIsNotSaid)
 {
     state.recordings.assign({{"other", {}}});
     state.missingOutput.assign({"other"});
-    state.tapErrors.assign({{"other", "no rights"}});
+    state.tapErrors.assign({{"other", {.step = "Start device"}}});
 
     EXPECT_EQ(kind(), Kind::playing);
 }

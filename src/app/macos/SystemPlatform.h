@@ -9,6 +9,7 @@
 #include "platform/macos/ExtendedAudioFiles.h"
 #include "platform/macos/FoundationClock.h"
 #include "platform/macos/FoundationFolders.h"
+#include "platform/macos/MacOSCallApps.h"
 #include "platform/macos/MainAppLoginItem.h"
 #include "platform/macos/StandardUserDefaults.h"
 #include "platform/macos/TccPermission.h"

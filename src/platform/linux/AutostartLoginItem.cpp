@@ -28,9 +28,9 @@ std::string entryText(const fs::path& program)
     return firstKeys + ("Exec=" + execValue(program.native())) + "\n";
 }
 
-std::unexpected<std::string> failed(const std::string& what, const fs::path& file, std::error_code error)
+std::unexpected<FileError> failed(FileError::Step step, const fs::path& file, std::error_code error)
 {
-    return std::unexpected(what + " " + file.string() + ": " + error.message());
+    return std::unexpected(FileError{.step = step, .file = file, .reason = error});
 }
 
 }  // namespace
@@ -56,27 +56,29 @@ LoginItem::Status AutostartLoginItem::status() const
     return !entry->command.empty() && isThere(entry->command.front()) ? Status::enabled : Status::notFound;
 }
 
-std::expected<void, std::string> AutostartLoginItem::registerItem()
+std::expected<void, LoginItemError> AutostartLoginItem::registerItem()
 {
     if (program_.empty())
-        return std::unexpected("The system does not tell where this program is.");
+        return std::unexpected(ProgramUnknown{});
     std::error_code error;
     const auto folder = entry_.parent_path();
     fs::create_directories(folder, error);
     if (error)
-        return failed("Cannot create the folder", folder, error);
+        return failed(FileError::Step::createFolder, folder, error);
     // A link to the null device masks an entry. It is switched on by going, for nothing can be written through it.
     if (fs::is_character_file(entry_, error))
         fs::remove(entry_, error);
-    return AtomicFile::replace(entry_, entryText(program_));
+    if (const auto replaced = AtomicFile::replace(entry_, entryText(program_)); !replaced)
+        return std::unexpected(replaced.error());
+    return {};
 }
 
-std::expected<void, std::string> AutostartLoginItem::unregisterItem()
+std::expected<void, LoginItemError> AutostartLoginItem::unregisterItem()
 {
     std::error_code error;
     fs::remove(entry_, error);
     if (error && error != std::errc::not_a_directory)
-        return failed("Cannot remove", entry_, error);
+        return failed(FileError::Step::remove, entry_, error);
     return {};
 }
 

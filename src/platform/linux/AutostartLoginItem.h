@@ -24,8 +24,8 @@ public:
 
     Status status() const override;
     /// Writes the entry anew, also when there is one: it may name another program, or be switched off.
-    std::expected<void, std::string> registerItem() override;
-    std::expected<void, std::string> unregisterItem() override;
+    std::expected<void, LoginItemError> registerItem() override;
+    std::expected<void, LoginItemError> unregisterItem() override;
 
 private:
     const std::filesystem::path entry_;

@@ -40,9 +40,9 @@ bool hasFloatSamples(const AudioStreamBasicDescription& format)
         && format.mBitsPerChannel == sampleBits;
 }
 
-std::unexpected<TapError> failed(std::string step, OSStatus status)
+std::unexpected<TapError> failed(TapStep step, OSStatus status)
 {
-    return std::unexpected(TapError{.step = std::move(step), .status = status});
+    return std::unexpected(TapError{.step = step, .status = status});
 }
 
 }  // namespace

@@ -9,8 +9,8 @@ namespace fadeloom {
 class MainAppLoginItem final : public LoginItem {
 public:
     Status status() const override;
-    std::expected<void, std::string> registerItem() override;
-    std::expected<void, std::string> unregisterItem() override;
+    std::expected<void, LoginItemError> registerItem() override;
+    std::expected<void, LoginItemError> unregisterItem() override;
 };
 
 }  // namespace fadeloom

@@ -8,11 +8,11 @@
 namespace fadeloom {
 namespace {
 
-std::expected<void, std::string> outcome(BOOL isDone, NSError* error)
+std::expected<void, LoginItemError> outcome(BOOL isDone, NSError* error)
 {
     if (isDone)
         return {};
-    return std::unexpected(textOf(error.localizedDescription).value_or(""));
+    return std::unexpected(SystemWords{textOf(error.localizedDescription).value_or("")});
 }
 
 }  // namespace
@@ -34,7 +34,7 @@ LoginItem::Status MainAppLoginItem::status() const
     }
 }
 
-std::expected<void, std::string> MainAppLoginItem::registerItem()
+std::expected<void, LoginItemError> MainAppLoginItem::registerItem()
 {
     @autoreleasepool {
         if (status() == Status::enabled)
@@ -45,7 +45,7 @@ std::expected<void, std::string> MainAppLoginItem::registerItem()
     }
 }
 
-std::expected<void, std::string> MainAppLoginItem::unregisterItem()
+std::expected<void, LoginItemError> MainAppLoginItem::unregisterItem()
 {
     @autoreleasepool {
         if (status() == Status::notRegistered)

@@ -191,8 +191,8 @@ void PipeWireAudioSystem::holdStreamsOf(const std::set<std::string>& bundleIDs)
 std::expected<std::unique_ptr<ProcessTap>, TapError> PipeWireAudioSystem::createTap(
     const TapRequest& request, const AudioIOProcFactory& makeIOProc)
 {
-    const auto failed = [](std::string reason) {
-        return std::unexpected(TapError{.step = "Start device", .reason = std::move(reason)});
+    const auto failed = [](TapReason reason) {
+        return std::unexpected(TapError{.step = "Start device", .reason = reason});
     };
     if (!session_->isConnected())
         return failed("no PipeWire server is running");
@@ -207,8 +207,8 @@ std::expected<std::unique_ptr<ProcessTap>, TapError> PipeWireAudioSystem::create
         .isTapInterleaved = false,
     };
     // Before the server hands anything over: what finds no room is lost, and the connection with it.
-    if (const auto limit = limitWithoutRoomForTap())
-        return failed("of " + std::to_string(*limit) + " files that may be open, too few are left");
+    if (limitWithoutRoomForTap())
+        return failed("too few of the files that may be open are left");
     auto* path =
         session_->startPath({request.processes.begin(), request.processes.end()}, *device, makeIOProc(format),
             request.scope == TapScope::everyStream ? StreamScope::every : StreamScope::ofTheDevice);

@@ -12,8 +12,8 @@ namespace fadeloom {
 class SimulatedLoginItem final : public LoginItem {
 public:
     Status status() const override { return status_; }
-    std::expected<void, std::string> registerItem() override { return change(Status::enabled); }
-    std::expected<void, std::string> unregisterItem() override { return change(Status::notRegistered); }
+    std::expected<void, LoginItemError> registerItem() override { return change(Status::enabled); }
+    std::expected<void, LoginItemError> unregisterItem() override { return change(Status::notRegistered); }
 
     /// The user changes it in the system's settings.
     void set(Status status) { status_ = status; }
@@ -26,11 +26,11 @@ public:
     [[nodiscard]] int changeCount() const { return changeCount_; }
 
 private:
-    std::expected<void, std::string> change(Status wanted)
+    std::expected<void, LoginItemError> change(Status wanted)
     {
         changeCount_ += 1;
         if (refusal_)
-            return std::unexpected(*refusal_);
+            return std::unexpected(SystemWords{*refusal_});
         status_ = wanted == Status::enabled ? registered_ : wanted;
         return {};
     }

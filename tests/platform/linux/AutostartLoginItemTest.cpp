@@ -191,25 +191,30 @@ TEST_F(AutostartLoginItemTest, programsOfAnyNameAreStarted)
     }
 }
 
-TEST_F(AutostartLoginItemTest, refusalsEndWithTheSystemsWords)
+std::string wordsOf(const std::expected<void, LoginItemError>& outcome)
+{
+    const auto* const error = outcome ? nullptr : std::get_if<FileError>(&outcome.error());
+    return error == nullptr ? "" : error->description();
+}
+
+TEST_F(AutostartLoginItemTest, refusalsTellTheSystemsReason)
 {
     put(folder.path() / "config", "a file where a folder should be");
-    EXPECT_EQ(item.registerItem(),
-        std::unexpected("Cannot create the folder " + entry.parent_path().string() + ": Not a directory"));
+    EXPECT_EQ(wordsOf(item.registerItem()),
+        "Cannot create the folder " + entry.parent_path().string() + ": Not a directory");
     EXPECT_TRUE(item.unregisterItem()) << "there is none";
 
     fs::remove(folder.path() / "config");
     put(entry / "in the way", "");
-    EXPECT_EQ(item.registerItem(), std::unexpected("Cannot replace " + entry.string() + ": Is a directory"));
-    EXPECT_EQ(
-        item.unregisterItem(), std::unexpected("Cannot remove " + entry.string() + ": Directory not empty"));
+    EXPECT_EQ(wordsOf(item.registerItem()), "Cannot replace " + entry.string() + ": Is a directory");
+    EXPECT_EQ(wordsOf(item.unregisterItem()), "Cannot remove " + entry.string() + ": Directory not empty");
 }
 
 TEST_F(AutostartLoginItemTest, withoutAProgramThereIsNothingToRegister)
 {
     AutostartLoginItem lost{session, fs::path{}};
 
-    EXPECT_FALSE(lost.registerItem());
+    EXPECT_EQ(lost.registerItem(), std::unexpected(LoginItemError{ProgramUnknown{}}));
     EXPECT_FALSE(fs::exists(entry));
 }
 
