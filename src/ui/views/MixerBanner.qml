@@ -17,7 +17,7 @@ Item {
 
     height: isOpen ? banner.implicitHeight + 10 : 0
     clip: true
-    onWantedChanged: if (isOpen)
+    onWantedChanged: if (wanted !== PanelModel.Banner.None)
         kind = wanted
     Component.onCompleted: kind = wanted
     Behavior on height {
