@@ -93,7 +93,7 @@ TEST(CommandLine, screenshotsWithoutAFolderAreANormalStart)
 
 TEST(CommandLine, usageNamesEveryArgument)
 {
-    for (const auto argument : {"--headless", "--simulate", "--help", "--version"})
+    for (const auto argument : {"--headless", "--simulate", "--render-screenshots", "--help", "--version"})
         EXPECT_NE(usageText().find(argument), std::string_view::npos) << argument;
 }
 

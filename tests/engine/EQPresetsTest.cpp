@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <set>
+#include <sstream>
 
 namespace fadeloom {
 namespace {
@@ -53,12 +54,55 @@ TEST(EQPresets, flatChangesNothing)
     EXPECT_EQ(EQPresets::flat(), (EQPreset{"Flat", std::vector<float>(10, 0)}));
 }
 
-TEST(EQPresets, keepTheirOrderAndTheirCurves)
+TEST(EQPresets, areTheseWithTheseGains)
 {
-    EXPECT_EQ(EQPresets::all()[1], (EQPreset{"Bass Boost", {7, 6, 5, 3, 1, 0, 0, 0, 0, 0}}));
-    EXPECT_EQ(EQPresets::groups()[1].presets[13], (EQPreset{"R&B", {3, 6, 5, 1, -2, -1, 2, 3, 3, 2}}));
-    EXPECT_EQ(EQPresets::groups()[2].presets[0], (EQPreset{"Bright", {-2, -1, 0, 0, 1, 2, 3, 4, 5, 5}}));
-    EXPECT_EQ(EQPresets::groups()[3].presets[8], (EQPreset{"Spoken Word", {-3, -1, 0, 2, 4, 5, 5, 4, 2, 0}}));
+    std::ostringstream told;
+    for (const auto& group : EQPresets::groups()) {
+        for (const auto& preset : group.presets) {
+            told << group.title << ": " << preset.name;
+            for (const float gain : preset.gains)
+                told << ' ' << gain;
+            told << '\n';
+        }
+    }
+
+    EXPECT_EQ(told.str(), R"(Basic: Flat 0 0 0 0 0 0 0 0 0 0
+Basic: Bass Boost 7 6 5 3 1 0 0 0 0 0
+Basic: Treble Boost 0 0 0 0 0 1 3 5 6 7
+Basic: Loudness 4 3 1 0 -1 -1 0 1 3 4
+Genres: Acoustic 3 2 1 2 3 2 2 3 2 2
+Genres: Blues 2 3 3 1 -2 0 2 3 3 2
+Genres: Classical 5 4 3 2 -2 -2 0 2 3 4
+Genres: Country 2 2 1 1 0 0 1 2 3 3
+Genres: Dance 4 6 5 0 -2 -2 0 2 4 4
+Genres: Electronic 5 4 1 0 -2 2 1 2 4 5
+Genres: Funk 4 4 2 0 -2 -2 0 2 3 3
+Genres: Hip-Hop 5 4 2 1 -1 -1 1 0 2 3
+Genres: Jazz 4 3 2 2 -2 -2 0 2 3 4
+Genres: Latin 3 2 0 0 -2 -2 -2 0 3 4
+Genres: Metal 6 4 0 0 2 -1 0 3 5 5
+Genres: Pop -1 -1 0 2 4 4 2 0 -1 -1
+Genres: Reggae 0 0 0 -3 0 3 3 0 0 0
+Genres: R&B 3 6 5 1 -2 -1 2 3 3 2
+Genres: Rock 5 4 3 1 -1 -1 1 3 4 5
+Genres: Soul 3 4 3 1 -1 0 2 3 3 2
+Moods: Bright -2 -1 0 0 1 2 3 4 5 5
+Moods: Late Night 2 2 1 0 -1 -1 0 1 2 3
+Moods: Lounge -1 1 2 1 -1 -1 0 1 2 1
+Moods: Powerful 4 3 2 1 0 0 1 3 4 5
+Moods: Soft 2 1 0 -1 -2 -2 -1 0 1 2
+Moods: Warm 3 3 2 1 0 -1 -1 0 1 1
+Use Cases: Car Audio 4 4 2 0 -1 -1 0 3 4 5
+Use Cases: Cinema 4 5 3 1 0 0 1 3 4 3
+Use Cases: Club 5 5 4 2 0 0 0 2 4 4
+Use Cases: Headphones 3 5 4 2 -1 -1 2 3 4 5
+Use Cases: Large Hall 3 3 2 1 0 -1 -1 0 2 3
+Use Cases: Piano 2 1 0 2 3 2 3 4 3 3
+Use Cases: Podcast -2 -1 1 3 5 5 4 2 0 -1
+Use Cases: Small Speakers 5 4 3 2 1 0 -1 -2 -1 0
+Use Cases: Spoken Word -3 -1 0 2 4 5 5 4 2 0
+Use Cases: Vocal -2 -2 -1 1 3 3 3 2 1 0
+)");
 }
 
 }  // namespace

@@ -10,7 +10,8 @@
 namespace fadeloom {
 namespace {
 
-constexpr float tenthOfADecibel = 0.1F;
+// Narrow enough that a scan of other frequencies or at another rate does not fit.
+constexpr float loudnessTolerance = 0.002F;
 
 float loudnessOf(const std::vector<float>& gains)
 {
@@ -30,13 +31,16 @@ TEST(EqualizerHeadroom, cutsAreNotGivenBack)
 
 TEST(EqualizerHeadroom, neighbouringBoostsAddUp)
 {
-    EXPECT_NEAR(loudnessOf(std::vector<float>(10, 12)), 15.5F, tenthOfADecibel);
-    EXPECT_NEAR(loudnessOf(std::vector<float>(10, 6)), 7.4F, tenthOfADecibel);
+    EXPECT_NEAR(loudnessOf(std::vector<float>(10, 12)), 15.5415F, loudnessTolerance);
+    EXPECT_NEAR(loudnessOf(std::vector<float>(10, 6)), 7.3772F, loudnessTolerance);
+    EXPECT_NEAR(loudnessOf({5, 4, 3, 1, -1, -1, 1, 3, 4, 5}), 3.0034F, loudnessTolerance);
 }
 
 TEST(EqualizerHeadroom, oneBandWeighsAsMuchAsItSpans)
 {
-    EXPECT_NEAR(loudnessOf({0, 0, 0, 0, 0, 12}), 3.2F, tenthOfADecibel);
+    EXPECT_NEAR(loudnessOf({0, 0, 0, 0, 0, 12}), 3.1624F, loudnessTolerance);
+    EXPECT_NEAR(loudnessOf({12}), 3.0057F, loudnessTolerance) << "its lower half is below what is heard";
+    EXPECT_NEAR(loudnessOf({0, 0, 0, 0, 0, 0, 0, 0, 0, 12}), 1.62F, loudnessTolerance);
 }
 
 TEST(EqualizerHeadroom, growsWithEveryBoost)

@@ -179,6 +179,9 @@ TEST_F(PanelModelTest, choosingTheSystemOutputMovesTheCheckmark)
     world.runPosted();
 
     EXPECT_EQ(panel->output(), other.text);
+    const auto entries = panel->outputEntries();
+    for (qsizetype i = 0; i < entries.size(); ++i)
+        EXPECT_EQ(entry(entries, i).isChecked, entry(entries, i).key == other.key) << i;
 }
 
 TEST_F(PanelModelTest, anUpdateIsOfferedOnceItIsKnown)

@@ -172,15 +172,38 @@ TEST_F(SettingsModelTest, theAboutPanelLinksToTheWebPage)
     EXPECT_THAT(world.workspace().opened(), testing::ElementsAre("https://fadeloom.example/"));
 }
 
-TEST_F(SettingsModelTest, theThemeAppliesAtOnce)
+TEST_F(SettingsModelTest, theThemeAppliesAtOnceWhateverTheSystemHas)
 {
-    model().setTheme(1);
-    EXPECT_FALSE(panel->isDark());
-    model().setTheme(2);
-    EXPECT_TRUE(panel->isDark());
-    model().setTheme(0);
-    panel->setSystemIsDark(false);
-    EXPECT_FALSE(panel->isDark());
+    for (const bool isSystemDark : {false, true}) {
+        panel->setSystemIsDark(isSystemDark);
+        model().setTheme(1);
+        EXPECT_FALSE(panel->isDark());
+        model().setTheme(2);
+        EXPECT_TRUE(panel->isDark());
+        model().setTheme(0);
+        EXPECT_EQ(panel->isDark(), isSystemDark);
+    }
+}
+
+TEST_F(SettingsModelTest, eachSwitchChangesWhatItSays)
+{
+    const auto before = settings();
+
+    model().setLevelMeters(false);
+    EXPECT_EQ(settings().appearance, (AppearanceSettings{.levelMeters = false}));
+    model().setAnimations(false);
+    EXPECT_EQ(settings().appearance, (AppearanceSettings{.animations = false, .levelMeters = false}));
+    model().setGlass(false);
+    EXPECT_EQ(settings().appearance,
+        (AppearanceSettings{.glass = false, .animations = false, .levelMeters = false}));
+    model().setAutoHeadroom(false);
+    model().setLowersOthers(false);
+
+    auto expected = before;
+    expected.appearance = {.glass = false, .animations = false, .levelMeters = false};
+    expected.eqAutoHeadroom = false;
+    expected.focus.enabled = false;
+    EXPECT_EQ(settings(), expected);
 }
 
 }  // namespace
