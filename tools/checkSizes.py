@@ -25,7 +25,6 @@ LARGER = {
     "tests/control/CallStory.cpp": 260,
     "tests/control/RecordingStory.cpp": 485,
     "tests/control/SettingsStory.cpp": 257,
-    "tests/macos/declarations/AppKit/AppKit.h": 280,
     "tests/macos/doubles/AudioCalls.mm": 260,
     "tests/macos/doubles/Runtime.cpp": 290,
     "tests/platform/linux/FileManagerTest.cpp": 270,
