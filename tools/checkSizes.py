@@ -26,7 +26,7 @@ LARGER = {
     "tests/control/RecordingStory.cpp": 485,
     "tests/control/SettingsStory.cpp": 257,
     "tests/macos/doubles/AudioCalls.mm": 260,
-    "tests/macos/doubles/Runtime.cpp": 290,
+    "tests/macos/doubles/Runtime.cpp": 283,
     "tests/platform/linux/FileManagerTest.cpp": 270,
     "tests/platform/pipewire/StreamCirclesTest.cpp": 265,
     "tests/ui/DrawPictures.cpp": 295,
