@@ -53,7 +53,7 @@ void AudioController::ensureTap(const AppEntry& entry)
 // Whether the tap serves the entry on the device, perhaps after a change of its processes.
 bool AudioController::adaptTap(AppTap& tap, const AppEntry& entry, const OutputDevice& device, TapScope scope)
 {
-    if (tap.outputID() != device.id || tap.scope() != scope)
+    if (!tap.isRunning() || tap.outputID() != device.id || tap.scope() != scope)
         return false;
     const double rate = platform_.audio.sampleRate(device.id);
     if (rate > 0 && rate != tap.sampleRate())

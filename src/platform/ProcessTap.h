@@ -62,7 +62,7 @@ class ProcessTap {
 public:
     virtual ~ProcessTap() = default;
 
-    /// Hertz: the rate at which the procedure runs.
+    /// Hertz: the rate at which the procedure runs; 0 once the system has ended that, and a new tap is due.
     [[nodiscard]] virtual double sampleRate() const = 0;
     /// How many of the output device's own inputs had to be switched off for this tap.
     [[nodiscard]] virtual int disabledInputs() const { return 0; }

@@ -7,9 +7,11 @@
 namespace fadeloom {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::MatchesRegex;
+using ::testing::Not;
 
 class MacOSAppTap : public AppTapStage { };
 
@@ -170,18 +172,20 @@ TEST_F(MacOSAppTap, switchesEachInputOfItsDeviceOff)
     EXPECT_THAT(onlyProc().inputIsOn, ElementsAre(0, 0, 0, 1));
 }
 
-TEST_F(MacOSAppTap, playsWithTheMicrophoneWhenThatCannotBeSwitchedOff)
+TEST_F(MacOSAppTap, isRefusedWhereAMicrophoneCannotBeSwitchedOff)
 {
     const auto headset = world.plug({.uid = "headset", .inputs = {1}});
     for (const char* call :
         {"size suse inpt of aggregate", "get suse inpt of aggregate", "set suse inpt of aggregate"}) {
         world.failNext(call, kAudioHardwareUnspecifiedError);
+        asked();
 
         const auto tap = createOn("headset", headset);
 
-        ASSERT_TRUE(tap) << call;
-        EXPECT_EQ((*tap)->disabledInputs(), 0) << call;
-        EXPECT_THAT(onlyProc().inputIsOn, ElementsAre(1, 1)) << call;
+        ASSERT_FALSE(tap) << call;
+        EXPECT_EQ(tap.error().description(),
+            "Switch off the microphone failed: the one of A device would listen while apps play there");
+        EXPECT_THAT(asked(), Not(Contains("start aggregate"))) << call;
     }
 }
 

@@ -33,6 +33,7 @@ struct Device {
     std::vector<std::uint32_t> outputs{2};
     double rate = 48000;
     std::array<std::uint32_t, 2> stereoPair{1, 2};
+    bool isAlive = true;
 };
 
 struct Process {
@@ -98,7 +99,11 @@ public:
 
     AudioObjectID plug(Device device);
     void unplug(const std::string& uid);
+    /// It is still listed, and plays no more.
+    void die(const std::string& uid);
     void setDefaultOutput(const std::string& uid);
+    /// The audio service ends and begins anew: whatever it was given is gone, also those who listened.
+    void restartService();
     AudioObjectID addProcess(Process process);
     /// Changes a process and tells its listeners.
     void change(std::int32_t pid, const std::function<void(Process&)>& how);

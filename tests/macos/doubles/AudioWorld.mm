@@ -39,9 +39,26 @@ AudioObjectID AudioWorld::plug(Device device)
     return id;
 }
 
+void AudioWorld::die(const std::string& uid)
+{
+    const AudioObjectID id = deviceOf(uid);
+    devices.at(id).isAlive = false;
+    changed(id, kAudioDevicePropertyDeviceIsAlive);
+}
+
+void AudioWorld::restartService()
+{
+    taps.clear();
+    aggregates.clear();
+    pending.clear();
+    changed(kAudioObjectSystemObject, kAudioHardwarePropertyServiceRestarted);
+    listeners.clear();
+}
+
 void AudioWorld::unplug(const std::string& uid)
 {
     const AudioObjectID id = deviceOf(uid);
+    changed(id, kAudioDevicePropertyDeviceIsAlive);
     devices.erase(id);
     changed(kAudioObjectSystemObject, kAudioHardwarePropertyDevices);
     if (defaultOutput == id) {
