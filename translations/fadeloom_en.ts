@@ -453,10 +453,6 @@
         <translation>a process is gone</translation>
     </message>
     <message>
-        <source>too few of the files that may be open are left</source>
-        <translation>too few of the files that may be open are left</translation>
-    </message>
-    <message>
         <source>PipeWire made no node for it</source>
         <translation>PipeWire made no node for it</translation>
     </message>
@@ -511,6 +507,18 @@
     <message>
         <source>Could not switch output to %1.</source>
         <translation>Could not switch output to %1.</translation>
+    </message>
+    <message>
+        <source>Switch off the microphone</source>
+        <translation>Switch off the microphone</translation>
+    </message>
+    <message>
+        <source>of %1 files that may be open, too few are left</source>
+        <translation>of %1 files that may be open, too few are left</translation>
+    </message>
+    <message>
+        <source>the one of %1 would listen while apps play there</source>
+        <translation>the one of %1 would listen while apps play there</translation>
     </message>
 </context>
 <context>

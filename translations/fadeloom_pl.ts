@@ -454,10 +454,6 @@
         <translation>proces już się zakończył</translation>
     </message>
     <message>
-        <source>too few of the files that may be open are left</source>
-        <translation>można otworzyć już zbyt mało plików</translation>
-    </message>
-    <message>
         <source>PipeWire made no node for it</source>
         <translation>PipeWire nie utworzył dla niego węzła</translation>
     </message>
@@ -512,6 +508,18 @@
     <message>
         <source>Could not switch output to %1.</source>
         <translation>Nie udało się przełączyć wyjścia na %1.</translation>
+    </message>
+    <message>
+        <source>Switch off the microphone</source>
+        <translation>Wyłączenie mikrofonu</translation>
+    </message>
+    <message>
+        <source>of %1 files that may be open, too few are left</source>
+        <translation>z %1 plików, które wolno otworzyć, zostało zbyt mało</translation>
+    </message>
+    <message>
+        <source>the one of %1 would listen while apps play there</source>
+        <translation>mikrofon urządzenia %1 słuchałby, gdy grają tam aplikacje</translation>
     </message>
 </context>
 <context>

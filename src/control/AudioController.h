@@ -14,14 +14,13 @@
 #include "control/AppGroups.h"
 #include "control/AppTraits.h"
 #include "control/AudioPermission.h"
-#include "control/ClosingRecordings.h"
 #include "control/ControllerState.h"
 #include "control/DemoContents.h"
 #include "control/FailedTap.h"
 #include "control/LevelStore.h"
+#include "control/Recordings.h"
 #include "control/SettingsSaver.h"
 #include "engine/AppTap.h"
-#include "engine/Recording.h"
 #include "engine/TapParameters.h"
 #include "log/EngineLog.h"
 #include "platform/Platform.h"
@@ -43,8 +42,6 @@ namespace fadeloom {
 class AudioController {
 public:
     static constexpr std::chrono::seconds pollInterval{5};
-    /// How soon a recording that cannot be written any more is noticed.
-    static constexpr std::chrono::seconds recordingCheckInterval{1};
 
     /// Loads the settings, begins to listen, polls once. Settings that are there and cannot be read are an error, and
     /// nothing is saved in their place. `version` is for the log; "?" when empty.
@@ -165,9 +162,7 @@ private:
     [[nodiscard]] std::filesystem::path newRecordingLocation(
         const std::string& bundleID, Recording::Moment startedAt) const;
     void stopAllRecordings();
-    void checkRecordings();
-    [[nodiscard]] std::shared_ptr<const TapParameters> takeRecorderFrom(const std::string& bundleID);
-    void finish(const std::string& bundleID, Recording& recording);
+    void recordingBroken(const std::string& bundleID, AudioStatus status);
 
     void applyAppearance();
 
@@ -191,9 +186,8 @@ private:
     using OutputTaps =
         std::map<std::string, std::unique_ptr<AppTap>>;  // By the output's unique id; never empty.
     std::map<std::string, OutputTaps> taps_;
-    std::map<std::string, std::unique_ptr<Recording>> active_;
-    ClosingRecordings closing_{platform_.mainLoop,
-        [this](const std::string& bundleID, Recording& recording) { finish(bundleID, recording); }};
+    Recordings recordings_{platform_.mainLoop, platform_.audio, platform_.audioFiles, engineLog_,
+        [this](const std::string& bundleID, AudioStatus status) { recordingBroken(bundleID, status); }};
     std::map<std::string, std::map<std::string, FailedTap>> failed_;  // By app and its output.
     std::set<std::string> audioConfirmed_;  // Taps through which audio was seen to flow.
     std::set<std::string> seen_;  // Apps that have played while they were there.
@@ -204,7 +198,6 @@ private:
     // Last, so that they end first: no callback comes into an object that is going.
     std::vector<Subscription> systemListeners_;
     Subscription timer_;
-    std::optional<Subscription> recordingCheck_;  // While anything is recorded.
     LifeToken life_;
 };
 

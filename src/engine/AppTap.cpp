@@ -25,6 +25,7 @@ AppTap::AppTap(OutputDevice output, TapScope scope, std::vector<AudioProcessID> 
     , scope_(scope)
     , processIDs_(std::move(processIDs))
     , tap_(std::move(tap))
+    , sampleRate_(tap_->sampleRate())
 {
 }
 

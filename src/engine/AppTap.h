@@ -26,8 +26,10 @@ public:
     [[nodiscard]] const std::string& outputUID() const { return output_.uid; }
     [[nodiscard]] OutputDeviceID outputID() const { return output_.id; }
     [[nodiscard]] TapScope scope() const { return scope_; }
-    /// Hertz: the rate at which the procedure runs.
-    [[nodiscard]] double sampleRate() const { return tap_->sampleRate(); }
+    /// Hertz: the rate at which the procedure was made to run.
+    [[nodiscard]] double sampleRate() const { return sampleRate_; }
+    /// Whether it still does. One that the system has ended is to be made anew.
+    [[nodiscard]] bool isRunning() const { return tap_->sampleRate() == sampleRate_; }
     /// How many of the output device's own inputs are switched off for us.
     [[nodiscard]] int disabledInputs() const { return tap_->disabledInputs(); }
 
@@ -42,6 +44,7 @@ private:
     const TapScope scope_;
     std::vector<AudioProcessID> processIDs_;
     const std::unique_ptr<ProcessTap> tap_;
+    const double sampleRate_;
 };
 
 }  // namespace fadeloom

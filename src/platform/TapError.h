@@ -32,13 +32,13 @@ private:
 };
 
 /// What may be done when an error comes.
-inline constexpr std::array<std::string_view, 7> tapSteps = {"Create process tap", "Unsupported tap format",
-    "Create aggregate device", "Create IOProc", "Start device", "Create recording file",
-    "Set recording format"};
-/// What may be wrong where the system has no code for it.
-inline constexpr std::array<std::string_view, 5> tapReasons = {"no PipeWire server is running",
-    "the device is gone", "a process is gone", "too few of the files that may be open are left",
-    "PipeWire made no node for it"};
+inline constexpr std::array<std::string_view, 8> tapSteps = {"Create process tap", "Unsupported tap format",
+    "Create aggregate device", "Create IOProc", "Start device", "Switch off the microphone",
+    "Create recording file", "Set recording format"};
+/// What may be wrong where the system has no code for it. "%1" is the place of a name or a number.
+inline constexpr std::array<std::string_view, 6> tapReasons = {"no PipeWire server is running",
+    "the device is gone", "a process is gone", "of %1 files that may be open, too few are left",
+    "PipeWire made no node for it", "the one of %1 would listen while apps play there"};
 
 using TapStep = KnownText<tapSteps>;
 using TapReason = KnownText<tapReasons>;
@@ -47,13 +47,18 @@ struct TapError {
     TapStep step{};
     std::int32_t status = 0;  // The system's own code, where it gives codes.
     TapReason reason{};  // Empty where it does.
+    std::string detail{};  // What stands in the reason's place.
 
     /// A sentence in English, without a full stop.
     [[nodiscard]] std::string description() const
     {
         const std::string failed = std::string(step.words()) + " failed";
-        return reason.words().empty() ? failed + " (OSStatus " + std::to_string(status) + ")"
-                                      : failed + ": " + std::string(reason.words());
+        if (reason.words().empty())
+            return failed + " (OSStatus " + std::to_string(status) + ")";
+        std::string words(reason.words());
+        if (const auto place = words.find("%1"); place != std::string::npos)
+            words.replace(place, 2, detail);
+        return failed + ": " + words;
     }
 
     friend bool operator==(const TapError&, const TapError&) = default;

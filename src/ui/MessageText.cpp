@@ -18,13 +18,15 @@ QString words(const char* text)
     QT_TRANSLATE_NOOP("MessageText", "Create aggregate device"),
     QT_TRANSLATE_NOOP("MessageText", "Create IOProc"),
     QT_TRANSLATE_NOOP("MessageText", "Start device"),
+    QT_TRANSLATE_NOOP("MessageText", "Switch off the microphone"),
     QT_TRANSLATE_NOOP("MessageText", "Create recording file"),
     QT_TRANSLATE_NOOP("MessageText", "Set recording format"),
     QT_TRANSLATE_NOOP("MessageText", "no PipeWire server is running"),
     QT_TRANSLATE_NOOP("MessageText", "the device is gone"),
     QT_TRANSLATE_NOOP("MessageText", "a process is gone"),
-    QT_TRANSLATE_NOOP("MessageText", "too few of the files that may be open are left"),
+    QT_TRANSLATE_NOOP("MessageText", "of %1 files that may be open, too few are left"),
     QT_TRANSLATE_NOOP("MessageText", "PipeWire made no node for it"),
+    QT_TRANSLATE_NOOP("MessageText", "the one of %1 would listen while apps play there"),
 };
 
 const char* pattern(FileError::Step step)
@@ -61,8 +63,9 @@ struct Wording {
         if (error.reason.words().empty())
             return words(QT_TRANSLATE_NOOP("MessageText", "%1 failed (OSStatus %2)"))
                 .arg(step, QString::number(error.status));
-        return words(QT_TRANSLATE_NOOP("MessageText", "%1 failed: %2"))
-            .arg(step, words(error.reason.words().data()));
+        auto reason = words(error.reason.words().data());
+        reason.replace(QLatin1String("%1"), QString::fromStdString(error.detail));
+        return words(QT_TRANSLATE_NOOP("MessageText", "%1 failed: %2")).arg(step, reason);
     }
     QString operator()(const SettingsTooLarge& error) const
     {

@@ -89,6 +89,7 @@ TEST_F(AppCommandsStory, recordWritesAFileAndSaysWhere)
 
     const auto file = folder.path() / "Music" / "Fadeloom Recordings" / "Player 2030-01-02 12.00.01.wav";
     EXPECT_EQ(*controller.state().lastRecording, file);
+    world.advance(1s);  // What was played last is written after the stop.
     ASSERT_NE(world.audioFiles().at(file), nullptr);
     EXPECT_GT(world.audioFiles().at(file)->frameCount(), 40000);
     EXPECT_EQ(answer("reveal"), "ok reveal");

@@ -40,8 +40,15 @@ protected:
         return AppTap::create(audio, {player}, {.id = device, .uid = uid, .name = "A device"},
             TapScope::everyStream, parameters, "Music");
     }
-    /// What was asked since this was asked last.
-    static Lines asked() { return std::exchange(doubles::journal(), {}); }
+    /// What was asked since this was asked last, without who was listened to.
+    static Lines asked()
+    {
+        Lines lines = std::exchange(doubles::journal(), {});
+        std::erase_if(lines, [](const std::string& line) {
+            return line.starts_with("listen to ") || line.starts_with("forget ");
+        });
+        return lines;
+    }
     const doubles::Tap& onlyTap() { return world.taps.begin()->second; }
     const doubles::Aggregate& onlyAggregate() { return world.aggregates.begin()->second; }
     const doubles::Proc& onlyProc() { return onlyAggregate().procs.begin()->second; }

@@ -7,9 +7,11 @@
 namespace fadeloom {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::MatchesRegex;
+using ::testing::Not;
 
 class MacOSAppTap : public AppTapStage { };
 
@@ -109,6 +111,26 @@ TEST_F(MacOSAppTap, playsTheAppAtTheRateOfTheAggregate)
     EXPECT_NEAR(parameters->takePeak(), 0.5F, 0.01F);
 }
 
+TEST_F(MacOSAppTap, recordsEachCycleAtItsTime)
+{
+    const auto tap = create();
+    ASSERT_TRUE(tap);
+    const auto lanes = std::make_shared<RecordingLanes>(48000);
+    parameters->recorder.set(lanes);
+    world.runCycle();
+    world.pause(std::chrono::seconds(2));
+    world.runCycle();
+
+    std::vector<CycleTime> times;
+    lanes->drain([&](const CycleTime& time, std::span<const float>) { times.push_back(time); });
+
+    ASSERT_EQ(times.size(), 2U);
+    EXPECT_EQ(times[0].clock, world.aggregates.begin()->first);
+    EXPECT_EQ(times[1].frame - times[0].frame, 512);
+    const std::chrono::duration<double> passed = times[1].host - times[0].host;
+    EXPECT_NEAR(passed.count(), 2 + 512 / 48000.0, 1e-6);
+}
+
 TEST_F(MacOSAppTap, readsATapWithABufferForEachChannel)
 {
     world.tapFormat.mFormatFlags |= kAudioFormatFlagIsNonInterleaved;
@@ -150,18 +172,20 @@ TEST_F(MacOSAppTap, switchesEachInputOfItsDeviceOff)
     EXPECT_THAT(onlyProc().inputIsOn, ElementsAre(0, 0, 0, 1));
 }
 
-TEST_F(MacOSAppTap, playsWithTheMicrophoneWhenThatCannotBeSwitchedOff)
+TEST_F(MacOSAppTap, isRefusedWhereAMicrophoneCannotBeSwitchedOff)
 {
     const auto headset = world.plug({.uid = "headset", .inputs = {1}});
     for (const char* call :
         {"size suse inpt of aggregate", "get suse inpt of aggregate", "set suse inpt of aggregate"}) {
         world.failNext(call, kAudioHardwareUnspecifiedError);
+        asked();
 
         const auto tap = createOn("headset", headset);
 
-        ASSERT_TRUE(tap) << call;
-        EXPECT_EQ((*tap)->disabledInputs(), 0) << call;
-        EXPECT_THAT(onlyProc().inputIsOn, ElementsAre(1, 1)) << call;
+        ASSERT_FALSE(tap) << call;
+        EXPECT_EQ(tap.error().description(),
+            "Switch off the microphone failed: the one of A device would listen while apps play there");
+        EXPECT_THAT(asked(), Not(Contains("start aggregate"))) << call;
     }
 }
 

@@ -153,6 +153,16 @@ TEST_F(MacOSController, followsTheDefaultOutput)
     EXPECT_THAT(world.aggregates.begin()->second.procs.begin()->second.inputIsOn, ElementsAre(0, 1));
 }
 
+TEST_F(MacOSController, takesItsAppsAgainWhenTheAudioServiceHasRestarted)
+{
+    world.restartService();
+    pass(10ms);
+
+    ASSERT_EQ(world.taps.size(), 1U);
+    world.runCycle();
+    EXPECT_TRUE(controller->parametersOf("com.example.Music")->audioSeen);
+}
+
 TEST_F(MacOSController, givesEverythingBackWithinAPollWhenThePermissionIsWithdrawn)
 {
     tcc.preflightAnswer = 1;

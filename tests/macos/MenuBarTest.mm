@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The item in the menu bar, its menu, and the popover below it.
-#include "platform/macos/AppKitPopover.h"
+// The item in the menu bar and its menu.
 #include "platform/macos/MenuBarItem.h"
 #include "tests/macos/DesktopStage.h"
 
@@ -38,6 +37,7 @@ protected:
 TEST_F(MacOSMenuBar, showsATintedPictureUnderItsName)
 {
     EXPECT_THAT(done(), ElementsAre("square item"));
+    EXPECT_STREQ(button().image.drawnName.UTF8String, "MenuBarIcon");
     EXPECT_TRUE(button().image.isTemplate);
     EXPECT_STREQ(button().toolTip.UTF8String, "Fadeloom");
     EXPECT_STREQ(button().accessibilityLabel.UTF8String, "Fadeloom");
@@ -61,6 +61,46 @@ TEST_F(MacOSMenuBar, opensItsMenuOnARightClickAndWithControl)
     EXPECT_EQ(NSStatusBar.systemStatusBar.onlyItem.menu, nil);  // Or the next left click would open it.
     [button() click:NSEventTypeLeftMouseUp modifiers:0];
     EXPECT_THAT(happened, ElementsAre("clicked"));
+}
+
+TEST_F(MacOSMenuBar, opensItsMenuByControlOrOptionWhereClicksAreGestures)
+{
+    [button() clickByGesture:NSEventModifierFlagControl];
+    [button() clickByGesture:NSEventModifierFlagOption];
+    EXPECT_THAT(std::exchange(happened, {}), ElementsAre("menu will open", "menu will open"));
+
+    [button() clickByGesture:0];
+    // Which is what VoiceOver holds while it presses.
+    [button() clickByGesture:NSEventModifierFlagControl | NSEventModifierFlagOption];
+    EXPECT_THAT(std::exchange(happened, {}), ElementsAre("clicked", "clicked"));
+
+    [button() performClick:nil];  // Without any event.
+    EXPECT_THAT(happened, ElementsAre("clicked"));
+}
+
+TEST_F(MacOSMenuBar, offersItsMenuToScreenReaders)
+{
+    ASSERT_THAT(button().accessibilityCustomActions.count, 1U);
+    NSAccessibilityCustomAction* action = button().accessibilityCustomActions.firstObject;
+
+    EXPECT_TRUE(action.handler());
+    EXPECT_THAT(happened, IsEmpty()) << "whoever asks waits for the answer";
+    doubles::runQueues();
+
+    EXPECT_STREQ(action.name.UTF8String, "Menü einblenden");
+    EXPECT_THAT(happened, ElementsAre("menu will open"));
+}
+
+TEST_F(MacOSMenuBar, opensNoMenuAfterItsEnd)
+{
+    NSAccessibilityCustomAction* action = button().accessibilityCustomActions.firstObject;
+    action.handler();
+
+    item.reset();
+    doubles::runQueues();
+
+    EXPECT_THAT(happened, IsEmpty());
+    action = nil;
 }
 
 TEST_F(MacOSMenuBar, hasTheEntriesOfTheMomentInItsMenu)
@@ -99,71 +139,6 @@ TEST_F(MacOSMenuBar, removesItsItemAtItsEnd)
     item.reset();
 
     EXPECT_THAT(done(), ElementsAre("item removed"));
-}
-
-class MacOSPopover : public MacOSMenuBar {
-protected:
-    MacOSPopover()
-    {
-        popover->whenShown([this] { happened.emplace_back("will show"); });
-        popover->whenClosed([this] { happened.emplace_back("did close"); });
-        done();
-    }
-
-    std::optional<AppKitPopover> popover{std::in_place, *item};
-};
-
-TEST_F(MacOSPopover, opensBelowTheItemWithTheKeyboard)
-{
-    NSView* content = (__bridge NSView*)popover->contentView();
-    content.subviews = @[ [[NSView alloc] initWithFrame:NSZeroRect] ];
-    popover->setAnimated(false);
-    EXPECT_FALSE(popover->isShown());
-
-    popover->show();
-
-    EXPECT_TRUE(popover->isShown());
-    EXPECT_THAT(done(), ElementsAre("popover opens", "make key", "keys to the content"));
-    EXPECT_THAT(happened, ElementsAre("will show"));
-}
-
-TEST_F(MacOSPopover, isAnimatedWhenThatIsWanted)
-{
-    popover->setAnimated(true);
-
-    popover->show();
-
-    EXPECT_THAT(done(), ElementsAre("popover opens slowly", "make key", "keys to nobody"));
-}
-
-TEST_F(MacOSPopover, tellsWhenItHasClosed)
-{
-    popover->show();
-
-    popover->close();
-    popover->close();
-
-    EXPECT_FALSE(popover->isShown());
-    EXPECT_THAT(happened, ElementsAre("will show", "did close"));
-}
-
-TEST_F(MacOSPopover, handsOutAViewForItsContent)
-{
-    EXPECT_NE(popover->contentView(), nullptr);
-    EXPECT_EQ(popover->contentView(), popover->contentView());
-    popover->setContentSize(380, 520);
-}
-
-TEST_F(MacOSPopover, endsWithoutTellingItsOwnerWhoMayBeGone)
-{
-    popover->show();
-    done();
-    happened.clear();
-
-    popover.reset();
-
-    EXPECT_THAT(happened, IsEmpty());
-    EXPECT_THAT(done(), ElementsAre("popover closes"));
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ def test_whatIsMissingIsNamedAndNothingElseSuffers(stage):
     with stage.fadeloom(settings(), wrapper=["prlimit", "--nofile=128:128"]) as fadeloom:
         fadeloom.waitFor("default speakers")
         apps = startApps(stage, 14)
-        fadeloom.waitFor("Start device failed: too few of the files that may be open are left", seconds=20)
+        fadeloom.waitFor("Start device failed: of 128 files that may be open, too few are left", seconds=20)
         time.sleep(3)
 
         tapped = [name for name in apps if any(f"tap ready: {name} " in line for line in fadeloom.text())]

@@ -104,6 +104,12 @@ TEST_F(MessageTextTest, everyStepAndReasonOfAFailedTapIsTranslated)
 {
     const TapError gone{.step = "Start device", .reason = "the device is gone"};
     const TapError refused{.step = "Create process tap", .status = -50};
+    const TapError listening{.step = "Switch off the microphone",
+        .reason = "the one of %1 would listen while apps play there",
+        .detail = "Head%2set"};
+    EXPECT_EQ(listening.description(),
+        "Switch off the microphone failed: the one of Head%2set would listen while apps play there");
+    EXPECT_EQ(messageText(listening).toStdString(), listening.description());
     EXPECT_EQ(messageText(gone).toStdString(), gone.description());
     EXPECT_EQ(messageText(refused).toStdString(), refused.description());
 

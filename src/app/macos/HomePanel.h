@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace fadeloom {
 
@@ -24,11 +25,13 @@ public:
     HomePanel& operator=(const HomePanel&) = delete;
 
     [[nodiscard]] Popover& popover() { return popover_; }
-    /// What it shows; its implicit size is the panel's.
-    void setContent(const std::function<std::unique_ptr<QQuickItem>()>& make)
+    /// What it shows, made when it opens for the first time; its implicit size is the panel's.
+    void setContent(std::function<std::unique_ptr<QQuickItem>()> make)
     {
-        if (auto content = make())
-            content_.emplace(popover_, std::move(content));
+        popover_.whenFirstNeeded([this, make = std::move(make)] {
+            if (auto content = make())
+                content_.emplace(popover_, std::move(content));
+        });
     }
 
 private:

@@ -4,7 +4,9 @@
 
 #include "platform/Popover.h"
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace fadeloom {
 
@@ -21,11 +23,14 @@ public:
 
     /// An `NSView` that stays the popover's.
     [[nodiscard]] void* contentView() const;
+    /// What fills the view, called once, before it is shown for the first time.
+    void whenFirstNeeded(std::function<void()> makeContent) { makeContent_ = std::move(makeContent); }
     /// Points.
     void setContentSize(double width, double height);
 
     void show() override;
     void close() override;
+    /// Also while the click lasts that has closed it by a press on the item.
     bool isShown() const override;
     void setAnimated(bool isAnimated) override;
     void whenShown(std::function<void()> willShow) override;
@@ -34,8 +39,8 @@ public:
 private:
     class Parts;
 
-    const MenuBarItem& item_;
     const std::unique_ptr<Parts> parts_;
+    std::function<void()> makeContent_;
 };
 
 }  // namespace fadeloom

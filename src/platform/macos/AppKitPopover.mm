@@ -5,11 +5,27 @@
 
 #import <AppKit/AppKit.h>
 
+#include <optional>
 #include <utility>
+
+/// Content lies at its upper edge and grows downwards, as Qt's windows do.
+@interface FadeloomPopoverView : NSView
+@end
+
+@implementation FadeloomPopoverView
+
+- (BOOL)isFlipped
+{
+    return YES;
+}
+
+@end
 
 @interface FadeloomPopoverDelegate : NSObject <NSPopoverDelegate> {
 @public
     std::function<void()> willShow;
+    std::function<void()> didShow;
+    std::function<void()> willClose;
     std::function<void()> didClose;
 }
 @end
@@ -21,6 +37,18 @@
     (void)notification;
     if (willShow)
         willShow();
+}
+
+- (void)popoverDidShow:(NSNotification*)notification
+{
+    (void)notification;
+    didShow();
+}
+
+- (void)popoverWillClose:(NSNotification*)notification
+{
+    (void)notification;
+    willClose();
 }
 
 - (void)popoverDidClose:(NSNotification*)notification
@@ -36,31 +64,80 @@ namespace fadeloom {
 
 class AppKitPopover::Parts {
 public:
-    Parts()
+    explicit Parts(const MenuBarItem& item)
         : popover([[NSPopover alloc] init])
         , delegate([[FadeloomPopoverDelegate alloc] init])
+        , item_(item)
     {
         NSViewController* content = [[NSViewController alloc] initWithNibName:nil bundle:nil];
-        content.view = [[NSView alloc] initWithFrame:NSZeroRect];
+        content.view = [[FadeloomPopoverView alloc] initWithFrame:NSZeroRect];
         popover.contentViewController = content;
         popover.behavior = NSPopoverBehaviorTransient;
         popover.delegate = delegate;
+        // Both may come long after `show` has returned.
+        delegate->didShow = [this] { takeKeyboard(); };
+        delegate->willClose = [this] { noteClose(); };
+        activeObserver_ =
+            [NSNotificationCenter.defaultCenter addObserverForName:NSApplicationDidBecomeActiveNotification
+                                                            object:nil
+                                                             queue:nil
+                                                        usingBlock:^(NSNotification*) { takeKeyboard(); }];
     }
     Parts(const Parts&) = delete;
     Parts& operator=(const Parts&) = delete;
     ~Parts()
     {
+        [NSNotificationCenter.defaultCenter removeObserver:activeObserver_];
         popover.delegate = nil;  // Its end must not be told to somebody half gone.
         [popover close];
     }
 
+    [[nodiscard]] NSView* button() const { return (__bridge NSView*)item_.button(); }
+    void show()
+    {
+        closedByPress_ = std::nullopt;
+        [popover showRelativeToRect:button().bounds ofView:button() preferredEdge:NSRectEdgeMinY];
+        takeKeyboard();
+    }
+    void close()
+    {
+        [popover performClose:nil];
+        closedByPress_ = std::nullopt;
+    }
+    /// A press on the item closes the popover, as any elsewhere; what follows it is the click that is to close it.
+    [[nodiscard]] bool isBeingClosedByClick() const
+    {
+        return closedByPress_ && NSProcessInfo.processInfo.systemUptime - *closedByPress_ < clickTime;
+    }
+
     NSPopover* const popover;
     FadeloomPopoverDelegate* const delegate;  // Which the popover does not keep.
+
+private:
+    void takeKeyboard() const
+    {
+        if (!popover.shown)
+            return;
+        NSView* content = popover.contentViewController.view;
+        [content.window makeKeyWindow];
+        [content.window makeFirstResponder:content.subviews.firstObject];  // Whoever draws gets the keys.
+    }
+    void noteClose()
+    {
+        NSWindow* bar = button().window;
+        if (bar != nil && NSPointInRect(NSEvent.mouseLocation, bar.frame))
+            closedByPress_ = NSProcessInfo.processInfo.systemUptime;
+    }
+
+    static constexpr NSTimeInterval clickTime = 1;  // Seconds that a button is held, at most.
+
+    const MenuBarItem& item_;
+    id activeObserver_ = nil;
+    std::optional<NSTimeInterval> closedByPress_;
 };
 
 AppKitPopover::AppKitPopover(const MenuBarItem& item)
-    : item_(item)
-    , parts_(std::make_unique<Parts>())
+    : parts_(std::make_unique<Parts>(item))
 {
 }
 
@@ -73,30 +150,35 @@ void* AppKitPopover::contentView() const
 
 void AppKitPopover::setContentSize(double width, double height)
 {
-    parts_->popover.contentSize = NSMakeSize(width, height);
+    // A row that opens has its place at once; the content is drawn for no size in between.
+    NSPopover* popover = parts_->popover;
+    const BOOL isAnimated = popover.animates;
+    popover.animates = NO;
+    popover.contentSize = NSMakeSize(width, height);
+    popover.animates = isAnimated;
 }
 
 void AppKitPopover::show()
 {
     @autoreleasepool {
-        NSView* button = (__bridge NSView*)item_.button();
-        [parts_->popover showRelativeToRect:button.bounds ofView:button preferredEdge:NSRectEdgeMinY];
-        NSView* content = parts_->popover.contentViewController.view;
-        [content.window makeKeyWindow];
-        [content.window makeFirstResponder:content.subviews.firstObject];  // Whoever draws gets the keys.
+        if (const auto make = std::exchange(makeContent_, nullptr))
+            make();
+        parts_->show();
     }
 }
 
 void AppKitPopover::close()
 {
     @autoreleasepool {
-        [parts_->popover performClose:nil];
+        parts_->close();
     }
 }
 
 bool AppKitPopover::isShown() const
 {
-    return parts_->popover.shown;
+    @autoreleasepool {
+        return parts_->popover.shown || parts_->isBeingClosedByClick();
+    }
 }
 
 void AppKitPopover::setAnimated(bool isAnimated)

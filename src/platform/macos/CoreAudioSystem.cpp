@@ -2,6 +2,7 @@
 #include "platform/macos/CoreAudioSystem.h"
 
 #include "base/Observers.h"
+#include "platform/macos/AudioProcesses.h"
 #include "platform/macos/CoreAudioTap.h"
 #include "platform/macos/HAL.h"
 #include "platform/macos/OutputDevices.h"
@@ -12,22 +13,9 @@
 
 namespace fadeloom {
 
-namespace {
-
-/// What cannot be listened to is seen by whoever asks regularly.
-Subscription listen(AudioObjectPropertySelector selector, AudioSystem::Listener listener)
-{
-    auto added = PropertyListener::add(kAudioObjectSystemObject, HAL::address(selector), std::move(listener));
-    if (!added)
-        return {};
-    // A subscription's end is copyable, as every std::function.
-    return Subscription([kept = std::shared_ptr(std::move(*added))]() mutable { kept.reset(); });
-}
-
-}  // namespace
-
 /// The processes one by one, while anybody wants to hear of them.
 struct CoreAudioSystem::ProcessWatch {
+    AudioProcesses processes;
     Observers observers;
     ProcessListeners listeners{[this] { observers.notify(); }};
 };
@@ -39,21 +27,56 @@ CoreAudioSystem::CoreAudioSystem()
 
 CoreAudioSystem::~CoreAudioSystem() = default;
 
+// What cannot be listened to is seen by whoever asks regularly.
+Subscription CoreAudioSystem::listen(AudioObjectPropertySelector selector, Listener listener)
+{
+    struct Listening {
+        std::unique_ptr<PropertyListener> property;
+        Subscription restarts;
+    };
+    const auto add = [selector, listener] {
+        auto added = PropertyListener::add(kAudioObjectSystemObject, HAL::address(selector), listener);
+        return added ? std::move(*added) : nullptr;
+    };
+    auto listening = std::make_shared<Listening>();
+    listening->property = add();
+    if (!listening->property)
+        return {};
+    listening->restarts = restarts_.add([weakly = std::weak_ptr(listening), add, listener] {
+        if (const auto kept = weakly.lock()) {
+            kept->property.reset();
+            kept->property = add();
+            listener();
+        }
+    });
+    // A subscription's end is copyable, as every std::function.
+    return Subscription([listening]() mutable { listening.reset(); });
+}
+
 std::vector<AudioProcess> CoreAudioSystem::processes(ReadMic readMic)
 {
-    auto processes = processes_.all(readMic);
+    auto processes = processWatch_->processes.all(readMic);
     if (!processWatch_->observers.isEmpty())
         processWatch_->listeners.sync(processes);
+    silentTaps_.look(processes);
     return processes;
 }
 
 Subscription CoreAudioSystem::whenProcessesChange(Listener listener)
 {
     auto watched = std::make_shared<Subscription>(processWatch_->observers.add(listener));
+    // Ids of before are those of others now.
+    auto restarts = std::make_shared<Subscription>(restarts_.add([watch = std::weak_ptr(processWatch_)] {
+        if (const auto alive = watch.lock()) {
+            alive->processes = {};
+            alive->listeners.sync({});
+        }
+    }));
     auto listed =
         std::make_shared<Subscription>(listen(kAudioHardwarePropertyProcessObjectList, std::move(listener)));
-    return Subscription([watched, listed, watch = std::weak_ptr(processWatch_)] {
+    return Subscription([watched, listed, restarts, watch = std::weak_ptr(processWatch_)] {
         listed->reset();
+        restarts->reset();
         watched->reset();
         if (const auto alive = watch.lock(); alive && alive->observers.isEmpty())
             alive->listeners.sync({});
@@ -92,10 +115,15 @@ bool CoreAudioSystem::setDefaultOutput(const OutputDevice& device)
         == kAudioHardwareNoError;
 }
 
+HostTime CoreAudioSystem::hostTime() const
+{
+    return HostTime(AudioConvertHostTimeToNanos(AudioGetCurrentHostTime()));
+}
+
 std::expected<std::unique_ptr<ProcessTap>, TapError> CoreAudioSystem::createTap(
     const TapRequest& request, const AudioIOProcFactory& makeIOProc)
 {
-    return CoreAudioTap::create(request, makeIOProc);
+    return CoreAudioTap::create(request, makeIOProc, {restarts_, silentTaps_});
 }
 
 }  // namespace fadeloom

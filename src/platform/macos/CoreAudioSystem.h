@@ -3,13 +3,17 @@
 #pragma once
 
 #include "platform/AudioSystem.h"
-#include "platform/macos/AudioProcesses.h"
+#include "platform/macos/ServiceRestarts.h"
+#include "platform/macos/SilentTaps.h"
+
+#include <CoreAudio/CoreAudio.h>
 
 #include <memory>
 
 namespace fadeloom {
 
-/// Listeners are called from the main dispatch queue, which the main loop serves.
+/// Listeners are called from the main dispatch queue, which the main loop serves; all of them once more when the audio
+/// service has restarted.
 class CoreAudioSystem final : public AudioSystem {
 public:
     CoreAudioSystem();
@@ -23,13 +27,17 @@ public:
     [[nodiscard]] std::optional<std::string> defaultOutput() const override;
     [[nodiscard]] Subscription whenDefaultOutputChanges(Listener listener) override;
     bool setDefaultOutput(const OutputDevice& device) override;
+    [[nodiscard]] HostTime hostTime() const override;
     [[nodiscard]] std::expected<std::unique_ptr<ProcessTap>, TapError> createTap(
         const TapRequest& request, const AudioIOProcFactory& makeIOProc) override;
 
 private:
     struct ProcessWatch;
 
-    AudioProcesses processes_;
+    [[nodiscard]] Subscription listen(AudioObjectPropertySelector selector, Listener listener);
+
+    ServiceRestarts restarts_;
+    SilentTaps silentTaps_;
     std::shared_ptr<ProcessWatch> processWatch_;  // Shared with subscriptions, which hold it weakly.
 };
 

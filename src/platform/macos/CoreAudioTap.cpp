@@ -4,6 +4,7 @@
 #include "platform/macos/AggregateDictionary.h"
 #include "platform/macos/HAL.h"
 #include "platform/macos/OutputDevices.h"
+#include "platform/macos/PropertyListener.h"
 #include "platform/macos/StreamUsage.h"
 #include "platform/macos/Uuid.h"
 
@@ -45,20 +46,32 @@ std::unexpected<TapError> failed(TapStep step, OSStatus status)
     return std::unexpected(TapError{.step = step, .status = status});
 }
 
+// The time of the input, which is the captured sound; without a valid one, that of the cycle itself.
+CycleTime cycleTime(AudioObjectID clock, const AudioTimeStamp& input, const AudioTimeStamp& now) noexcept
+{
+    constexpr UInt32 needed = kAudioTimeStampSampleHostTimeValid;
+    const AudioTimeStamp& time = (input.mFlags & needed) == needed ? input : now;
+    return {.clock = clock,
+        .frame = static_cast<std::int64_t>(time.mSampleTime),
+        .host = HostTime(AudioConvertHostTimeToNanos(time.mHostTime))};
+}
+
 }  // namespace
 
 std::expected<std::unique_ptr<CoreAudioTap>, TapError> CoreAudioTap::create(
-    const TapRequest& request, const AudioIOProcFactory& makeIOProc)
+    const TapRequest& request, const AudioIOProcFactory& makeIOProc, TapSurroundings surroundings)
 {
     // The constructor is private, which std::make_unique cannot reach.
-    std::unique_ptr<CoreAudioTap> tap(new CoreAudioTap(request.output));
+    std::unique_ptr<CoreAudioTap> tap(new CoreAudioTap(request.output, surroundings));
     if (auto built = tap->build(request, makeIOProc); !built)
         return std::unexpected(std::move(built.error()));  // Its destructor takes down what there is.
+    tap->watch();
     return tap;
 }
 
-CoreAudioTap::CoreAudioTap(OutputDevice output)
+CoreAudioTap::CoreAudioTap(OutputDevice output, TapSurroundings surroundings)
     : output_(std::move(output))
+    , surroundings_(surroundings)
 {
 }
 
@@ -92,11 +105,15 @@ std::expected<void, TapError> CoreAudioTap::build(
     const auto rate = HAL::value<double>(aggregate_, HAL::address(kAudioDevicePropertyNominalSampleRate));
     sampleRate_ = rate && *rate > 0 ? *rate : format->mSampleRate;
 
-    if (const auto status = createIOProc(makeIOProc(formatOf(*format))); status != kAudioHardwareNoError)
+    const auto layout = formatOf(*format);
+    if (const auto status = createIOProc(makeIOProc(layout), layout.tapBufferCount);
+        status != kAudioHardwareNoError)
         return failed("Create IOProc", status);
-    disableDeviceInputs();
+    if (auto disabled = disableDeviceInputs(); !disabled)
+        return disabled;
     if (const auto status = AudioDeviceStart(aggregate_, *proc_); status != kAudioHardwareNoError)
         return failed("Start device", status);
+    isRunning_ = true;
     return {};
 }
 
@@ -133,36 +150,100 @@ TapFormat CoreAudioTap::formatOf(const AudioStreamBasicDescription& format) cons
     };
 }
 
-OSStatus CoreAudioTap::createIOProc(std::shared_ptr<AudioIOProc> proc)
+OSStatus CoreAudioTap::createIOProc(std::shared_ptr<AudioIOProc> proc, std::size_t tapBufferCount)
 {
     // Without a queue the block runs on the device's IO thread itself. It is copied, and the procedure with it, until
     // the audio system has destroyed it.
     AudioDeviceIOProcID created = nullptr;
+    const auto clock = aggregate_;
+    const auto silence = silence_;
     const OSStatus status = AudioDeviceCreateIOProcIDWithBlock(&created, aggregate_, nullptr,
-        ^(const AudioTimeStamp*, const AudioBufferList* input, const AudioTimeStamp*, AudioBufferList* output,
-            const AudioTimeStamp*) { proc->render(buffersOf(input), buffersOf(output)); });
+        ^(const AudioTimeStamp* now, const AudioBufferList* input, const AudioTimeStamp* inputTime,
+            AudioBufferList* output, const AudioTimeStamp*) {
+            const AudioBuffers captured = buffersOf(input);
+            silence->note(captured.last(std::min(tapBufferCount, captured.size())));
+            proc->render(cycleTime(clock, *inputTime, *now), captured, buffersOf(output));
+        });
     if (status == kAudioHardwareNoError)
         proc_ = created;
     return status;
 }
 
-void CoreAudioTap::disableDeviceInputs()
+// A microphone that ran along would light its indicator and bring a headset into its worse mode; and the system ends a
+// program that opens one without saying why.
+std::expected<void, TapError> CoreAudioTap::disableDeviceInputs()
 {
     constexpr auto input = kAudioObjectPropertyScopeInput;
     const std::size_t deviceInputs = HAL::getArray(output_.id, kAudioDevicePropertyStreams, input).size();
     if (deviceInputs == 0)
-        return;
+        return {};
+    const auto refused = [&](OSStatus status) {
+        return std::unexpected(TapError{.step = "Switch off the microphone",
+            .status = status,
+            .reason = "the one of %1 would listen while apps play there",
+            .detail = output_.name});
+    };
     auto usage = StreamUsage::read(aggregate_, *proc_, input);
-    if (!usage || usage->streamCount() < 2)
-        return;
+    if (!usage)
+        return refused(kAudioHardwareUnspecifiedError);
+    if (usage->streamCount() < 2)
+        return {};  // The tap's, and none of the device's.
 
     // The aggregate lists the device's streams first; the last one is the tap and stays on.
     const std::size_t disabled = std::min(usage->streamCount() - 1, deviceInputs);
     for (std::size_t stream = 0; stream < disabled; ++stream)
         usage->switchOff(stream);
-    // When it is refused the device's microphone runs along, unheard.
-    if (usage->write(aggregate_, input) == kAudioHardwareNoError)
-        disabledInputs_ = static_cast<int>(disabled);
+    if (const OSStatus status = usage->write(aggregate_, input); status != kAudioHardwareNoError)
+        return refused(status);
+    disabledInputs_ = static_cast<int>(disabled);
+    return {};
+}
+
+void CoreAudioTap::watch()
+{
+    const auto isAlive = HAL::address(kAudioDevicePropertyDeviceIsAlive);
+    auto listener = PropertyListener::add(output_.id, isAlive, [this, isAlive] {
+        if (HAL::value<std::uint32_t>(output_.id, isAlive).value_or(0) == 0)
+            isRunning_ = false;
+    });
+    if (listener)
+        deviceListener_ = std::move(*listener);
+    restarts_ = surroundings_.restarts.add([this] { abandon(); });
+    looks_ = surroundings_.silentTaps.whenLooking([this] { lookForSilence(); });
+}
+
+void CoreAudioTap::lookForSilence()
+{
+    auto& taps = surroundings_.silentTaps;
+    const SilentTaps::Key key{description_.processes, output_.uid};
+    const std::uint64_t silent = silence_->silentFrames();
+    if (silent < silentWhilePaused_)
+        silentWhilePaused_ = 0;
+    if (silent == 0)
+        taps.noteSound(key);
+    if (!taps.isAnyPlaying(description_.processes))
+        silentWhilePaused_ = silent;
+    if (!isRunning_)
+        return;
+    const auto patience = static_cast<double>(taps.patienceWith(key).count());
+    if (static_cast<double>(silent - silentWhilePaused_) < patience * sampleRate_)
+        return;
+    taps.noteRenewal(key);
+    isRunning_ = false;
+}
+
+// What has our ids now is not ours.
+void CoreAudioTap::abandon()
+{
+    isRunning_ = false;
+    if (proc_) {
+        AudioDeviceStop(aggregate_, *proc_);
+        AudioDeviceDestroyIOProcID(aggregate_, *proc_);
+        proc_.reset();
+    }
+    aggregate_ = kAudioObjectUnknown;
+    tap_ = kAudioObjectUnknown;
+    deviceListener_.reset();
 }
 
 bool CoreAudioTap::setProcesses(const std::vector<AudioProcessID>& processes)

@@ -4,52 +4,80 @@
 // A process tap mixes the processes and keeps them silent elsewhere while it is read. A private aggregate device joins
 // the tap to the output device, which gives the clock. An IO procedure on it runs what the program asked for. They are
 // made in this order and taken down in the opposite one.
+//
+// Three things end a tap from outside: its device goes, the audio service restarts, or it delivers zeros while its
+// processes play. It then has no rate, and whoever owns it makes a new one.
 #pragma once
 
 #include "platform/ProcessTap.h"
 #include "platform/TapError.h"
 #include "platform/macos/ProcessTaps.h"
+#include "platform/macos/ServiceRestarts.h"
+#include "platform/macos/SilenceCount.h"
+#include "platform/macos/SilentTaps.h"
 
 #include <CoreAudio/CoreAudio.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <expected>
 #include <memory>
 #include <optional>
 
 namespace fadeloom {
 
+class PropertyListener;
+
+/// What taps have from their audio system, which outlives them.
+struct TapSurroundings {
+    ServiceRestarts& restarts;
+    SilentTaps& silentTaps;
+};
+
 /// Thread: main.
 class CoreAudioTap final : public ProcessTap {
 public:
     /// Builds everything and starts the sound; after a failure nothing of it is left, and the error names the step.
     [[nodiscard]] static std::expected<std::unique_ptr<CoreAudioTap>, TapError> create(
-        const TapRequest& request, const AudioIOProcFactory& makeIOProc);
+        const TapRequest& request, const AudioIOProcFactory& makeIOProc, TapSurroundings surroundings);
     CoreAudioTap(const CoreAudioTap&) = delete;
     CoreAudioTap& operator=(const CoreAudioTap&) = delete;
     ~CoreAudioTap() override;
 
-    [[nodiscard]] double sampleRate() const override { return sampleRate_; }
+    [[nodiscard]] double sampleRate() const override { return isRunning_ ? sampleRate_ : 0; }
     [[nodiscard]] int disabledInputs() const override { return disabledInputs_; }
     [[nodiscard]] bool setProcesses(const std::vector<AudioProcessID>& processes) override;
 
 private:
-    explicit CoreAudioTap(OutputDevice output);
+    CoreAudioTap(OutputDevice output, TapSurroundings surroundings);
 
     [[nodiscard]] std::expected<void, TapError> build(
         const TapRequest& request, const AudioIOProcFactory& makeIOProc);
     [[nodiscard]] std::expected<AudioStreamBasicDescription, TapError> readFormat() const;
     [[nodiscard]] OSStatus createAggregate();
     [[nodiscard]] TapFormat formatOf(const AudioStreamBasicDescription& format) const;
-    [[nodiscard]] OSStatus createIOProc(std::shared_ptr<AudioIOProc> proc);
-    void disableDeviceInputs();
+    [[nodiscard]] OSStatus createIOProc(std::shared_ptr<AudioIOProc> proc, std::size_t tapBufferCount);
+    [[nodiscard]] std::expected<void, TapError> disableDeviceInputs();
+    void watch();
+    void lookForSilence();
+    void abandon();
 
     const OutputDevice output_;
+    const TapSurroundings surroundings_;
+    bool isRunning_ = false;
     double sampleRate_ = 0;
     int disabledInputs_ = 0;
     ProcessTapDescription description_;
     AudioObjectID tap_ = kAudioObjectUnknown;
     AudioObjectID aggregate_ = kAudioObjectUnknown;
     std::optional<AudioDeviceIOProcID> proc_;
+
+    // Shared with the block, which the system keeps until no cycle can reach it.
+    const std::shared_ptr<SilenceCount> silence_ = std::make_shared<SilenceCount>();
+    std::uint64_t silentWhilePaused_ = 0;  // Frames of the silence that were no fault.
+    std::unique_ptr<PropertyListener> deviceListener_;
+    Subscription restarts_;
+    Subscription looks_;
 };
 
 }  // namespace fadeloom

@@ -2,13 +2,15 @@
 // The program's item in the menu bar.
 #pragma once
 
+#include "base/LifeToken.h"
 #include "platform/StatusItem.h"
 
 #include <memory>
 
 namespace fadeloom {
 
-/// Its picture is the resource "MenuBarIcon", which the system tints; without it the item is empty.
+/// Its picture is the resource "MenuBarIcon", which the system tints; without it the item is empty. A right click opens
+/// the menu, and a click with Control or Option held, and an action for screen readers.
 class MenuBarItem final : public StatusItem {
 public:
     MenuBarItem();
@@ -29,11 +31,13 @@ private:
     class Shown;
 
     void clicked();
+    void openMenu();
 
     std::function<void()> clicked_ = [] { };
     std::function<void()> menuOpens_ = [] { };
     std::function<StatusMenu()> buildMenu_ = [] { return StatusMenu{}; };
     std::unique_ptr<Shown> shown_;
+    LifeToken life_;
 };
 
 }  // namespace fadeloom

@@ -12,9 +12,30 @@
 namespace fadeloom {
 namespace {
 
+bool isOfMouse(NSEvent* event)
+{
+    switch (event.type) {
+    case NSEventTypeLeftMouseDown:
+    case NSEventTypeLeftMouseUp:
+    case NSEventTypeRightMouseDown:
+    case NSEventTypeRightMouseUp:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Where a click is a gesture, the event of the moment may be any, or none: then the keyboard itself is asked. Control
+/// and Option together are how VoiceOver presses what it reads.
 bool asksForMenu(NSEvent* event)
 {
-    return event.type == NSEventTypeRightMouseUp || (event.modifierFlags & NSEventModifierFlagControl) != 0;
+    const bool isMouse = event != nil && isOfMouse(event);
+    if (isMouse && (event.type == NSEventTypeRightMouseUp || event.type == NSEventTypeRightMouseDown))
+        return true;
+    const NSEventModifierFlags held = isMouse ? event.modifierFlags : NSEvent.modifierFlags;
+    const bool isControl = (held & NSEventModifierFlagControl) != 0;
+    const bool isOption = (held & NSEventModifierFlagOption) != 0;
+    return isControl != isOption;
 }
 
 }  // namespace
@@ -22,7 +43,7 @@ bool asksForMenu(NSEvent* event)
 /// One place in the menu bar.
 class MenuBarItem::Shown {
 public:
-    Shown(NSString* name, std::function<void()> clicked)
+    Shown(NSString* name, std::function<void()> clicked, std::function<void()> asksForMenu)
         : item_([NSStatusBar.systemStatusBar statusItemWithLength:NSSquareStatusItemLength])
         , action_([[FadeloomAction alloc] initWithFunction:std::move(clicked)])
     {
@@ -35,6 +56,7 @@ public:
         button.target = action_;
         button.action = @selector(act:);
         [button sendActionOn:NSEventMaskLeftMouseUp | NSEventMaskRightMouseUp];
+        offerMenu(std::move(asksForMenu));
     }
     Shown(const Shown&) = delete;
     Shown& operator=(const Shown&) = delete;
@@ -51,6 +73,19 @@ public:
     }
 
 private:
+    /// To screen readers, which have no right button. The menu opens later: whoever asks waits for the answer.
+    void offerMenu(std::function<void()> asksForMenu)
+    {
+        NSString* name = NSAccessibilityActionDescription(NSAccessibilityShowMenuAction);
+        NSAccessibilityCustomAction* action = [[NSAccessibilityCustomAction alloc]
+            initWithName:name == nil ? @"show menu" : name
+                 handler:^{
+                     dispatch_async(dispatch_get_main_queue(), ^{ asksForMenu(); });
+                     return YES;
+                 }];
+        item_.button.accessibilityCustomActions = @[ action ];
+    }
+
     NSStatusItem* const item_;
     FadeloomAction* const action_;
 };
@@ -61,7 +96,8 @@ MenuBarItem::~MenuBarItem() = default;
 void MenuBarItem::show(const std::string& name)
 {
     @autoreleasepool {
-        shown_ = std::make_unique<Shown>(nsText(name), [this] { clicked(); });
+        shown_ = std::make_unique<Shown>(
+            nsText(name), [this] { clicked(); }, life_.whileAlive([this] { openMenu(); }));
     }
 }
 
@@ -88,8 +124,16 @@ void* MenuBarItem::button() const
 void MenuBarItem::clicked()
 {
     @autoreleasepool {
-        if (!asksForMenu(NSApp.currentEvent))
-            return clicked_();
+        if (asksForMenu(NSApp.currentEvent))
+            openMenu();
+        else
+            clicked_();
+    }
+}
+
+void MenuBarItem::openMenu()
+{
+    @autoreleasepool {
         menuOpens_();
         shown_->open(nsMenu(buildMenu_()));
     }

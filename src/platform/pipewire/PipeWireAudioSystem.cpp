@@ -166,6 +166,12 @@ double PipeWireAudioSystem::sampleRate(OutputDeviceID device) const
     return known ? session_->rateOf(*known) : 0;
 }
 
+HostTime PipeWireAudioSystem::hostTime() const
+{
+    // The server reads the same clock, which is that of std::chrono::steady_clock as well.
+    return std::chrono::steady_clock::now().time_since_epoch();
+}
+
 std::optional<std::string> PipeWireAudioSystem::defaultOutput() const
 {
     const auto world = session_->world();
@@ -191,8 +197,9 @@ void PipeWireAudioSystem::holdStreamsOf(const std::set<std::string>& bundleIDs)
 std::expected<std::unique_ptr<ProcessTap>, TapError> PipeWireAudioSystem::createTap(
     const TapRequest& request, const AudioIOProcFactory& makeIOProc)
 {
-    const auto failed = [](TapReason reason) {
-        return std::unexpected(TapError{.step = "Start device", .reason = reason});
+    const auto failed = [](TapReason reason, std::string detail = {}) {
+        return std::unexpected(
+            TapError{.step = "Start device", .reason = reason, .detail = std::move(detail)});
     };
     if (!session_->isConnected())
         return failed("no PipeWire server is running");
@@ -207,8 +214,8 @@ std::expected<std::unique_ptr<ProcessTap>, TapError> PipeWireAudioSystem::create
         .isTapInterleaved = false,
     };
     // Before the server hands anything over: what finds no room is lost, and the connection with it.
-    if (limitWithoutRoomForTap())
-        return failed("too few of the files that may be open are left");
+    if (const auto limit = limitWithoutRoomForTap())
+        return failed("of %1 files that may be open, too few are left", std::to_string(*limit));
     auto* path =
         session_->startPath({request.processes.begin(), request.processes.end()}, *device, makeIOProc(format),
             request.scope == TapScope::everyStream ? StreamScope::every : StreamScope::ofTheDevice);

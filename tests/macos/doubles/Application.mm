@@ -36,6 +36,16 @@ __kindof NSApplication* NSApp = nil;
 @end
 
 @implementation NSEvent
+
++ (NSEventModifierFlags)modifierFlags
+{
+    return desktop().heldModifiers;
+}
++ (NSPoint)mouseLocation
+{
+    return desktop().mouse;
+}
+
 @end
 
 @implementation NSApplication {

@@ -63,6 +63,8 @@ Found ofSystem(AudioWorld& world, AudioObjectPropertySelector selector)
     }
     case kAudioHardwarePropertyProcessObjectList:
         return idsOf(world.processes);
+    case kAudioHardwarePropertyServiceRestarted:  // Which says nothing but that it has.
+        return Property{};
     case kAudioHardwarePropertyDefaultOutputDevice: {
         Property property = valued(world.defaultOutput);
         property.write = [&world](const void* data) -> OSStatus {
@@ -90,6 +92,8 @@ Found ofDevice(const Device& device, const AudioObjectPropertyAddress& address)
         return worded(device.name);
     case kAudioDevicePropertyNominalSampleRate:
         return valued(device.rate);
+    case kAudioDevicePropertyDeviceIsAlive:
+        return valued(UInt32{device.isAlive});
     case kAudioDevicePropertyStreams:
         return streams(
             address.mScope == kAudioObjectPropertyScopeInput ? device.inputs.size() : device.outputs.size());

@@ -12,6 +12,7 @@
 #import <CoreAudio/CoreAudio.h>
 
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -32,6 +33,7 @@ struct Device {
     std::vector<std::uint32_t> outputs{2};
     double rate = 48000;
     std::array<std::uint32_t, 2> stereoPair{1, 2};
+    bool isAlive = true;
 };
 
 struct Process {
@@ -64,6 +66,7 @@ struct Aggregate {
     std::string master;
     std::string tapUID;
     std::map<AudioDeviceIOProcID, Proc> procs{};
+    std::uint64_t framesRun = 0;
 };
 
 /// A value, or the status of asking for it.
@@ -96,7 +99,11 @@ public:
 
     AudioObjectID plug(Device device);
     void unplug(const std::string& uid);
+    /// It is still listed, and plays no more.
+    void die(const std::string& uid);
     void setDefaultOutput(const std::string& uid);
+    /// The audio service ends and begins anew: whatever it was given is gone, also those who listened.
+    void restartService();
     AudioObjectID addProcess(Process process);
     /// Changes a process and tells its listeners.
     void change(std::int32_t pid, const std::function<void(Process&)>& how);
@@ -106,8 +113,10 @@ public:
     void failNext(const std::string& call, OSStatus status) { failures[call] = status; }
     /// What was set takes effect now; listeners are called when their queues run.
     void settleProperties();
-    /// One IO cycle of each procedure that runs.
+    /// One IO cycle of each procedure that runs, and the time that it takes.
     void runCycle();
+    /// Time passes without a cycle.
+    void pause(std::chrono::nanoseconds time) { hostTime += time; }
 
     // What the functions need.
     [[nodiscard]] std::expected<Property, OSStatus> property(
@@ -138,6 +147,7 @@ public:
     std::map<std::string, OSStatus> failures;
     AudioStreamBasicDescription tapFormat{};
     AudioObjectID lastID = 100;
+    std::chrono::nanoseconds hostTime = std::chrono::hours(1);
     PropertyAnswers* answers = nullptr;
 
 private:

@@ -36,8 +36,17 @@
 @property BOOL isActive;
 @end
 
+@interface NSNotificationCenter ()
++ (NSNotificationCenter*)centerNamed:(const char*)name;
+@end
+
 @interface NSStatusBar ()
 @property (readonly) NSStatusItem* onlyItem;
+@end
+
+@interface NSImage ()
+/// What it is a picture of.
+@property (readonly) NSString* drawnName;
 @end
 
 @interface NSStatusBarButton ()
@@ -45,6 +54,8 @@
 @property (unsafe_unretained) NSStatusItem* owner;
 /// As a user clicks: what is listened for reaches the target.
 - (void)click:(NSEventType)type modifiers:(NSEventModifierFlags)modifiers;
+/// As a user clicks where the bar is driven by gestures: the event of the moment is none of the mouse.
+- (void)clickByGesture:(NSEventModifierFlags)heldModifiers;
 @end
 
 @interface NSPopover ()
@@ -52,6 +63,12 @@
 @property NSRectEdge edge;
 @property NSRect place;
 @property (unsafe_unretained) NSView* anchor;
+/// As a user presses the mouse outside of it.
+- (void)pressElsewhere;
+@end
+
+@interface NSWindow ()
+@property NSRect frame;
 @end
 
 @interface NSOpenPanel ()
@@ -79,7 +96,20 @@ struct Desktop {
     NSError* loginItemError = nil;
     bool isNewInstanceRefused = false;
     long secondsFromGMT = 3600;
-    std::string folders = "/Users/someone";  // The user's home.
+    std::string folders = "/Users/someone";  // The user's home; empty: without the folders in it.
+
+    // What the user does just now.
+    NSEventModifierFlags heldModifiers = 0;
+    NSPoint mouse{-1, -1};
+    NSTimeInterval uptime = 1000;
+
+    struct NotificationObserver {
+        std::string center;
+        NSNotificationName name;
+        void (^block)(NSNotification*);
+        id token;
+    };
+    std::vector<NotificationObserver> observers{};
 
     // What is shown.
     std::function<void(NSOpenPanel*, std::function<void(NSModalResponse)>)> whenPanelOpens =
@@ -94,6 +124,10 @@ Desktop& desktop();
 Desktop& beginDesktop();
 void endDesktop();
 NSRunningApplication* launch(const std::string& name, pid_t pid, const std::string& bundle);
+/// What is posted reaches the observers of this center: "default", or "workspace".
+void post(const std::string& center, NSNotificationName name);
+/// The popover that was made last.
+NSPopover* lastPopover();
 /// Does what a menu's entry does.
 void choose(NSMenuItem* item);
 std::vector<std::string> titles(NSMenu* menu);

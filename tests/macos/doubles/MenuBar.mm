@@ -6,6 +6,32 @@
 
 using namespace doubles;
 
+NSAccessibilityActionName const NSAccessibilityShowMenuAction = @"AXShowMenu";
+
+NSString* NSAccessibilityActionDescription(NSAccessibilityActionName action)
+{
+    return action == NSAccessibilityShowMenuAction ? @"Menü einblenden" : nil;
+}
+
+BOOL NSPointInRect(NSPoint point, NSRect rectangle)
+{
+    return point.x >= rectangle.origin.x && point.x < rectangle.origin.x + rectangle.size.width
+        && point.y >= rectangle.origin.y && point.y < rectangle.origin.y + rectangle.size.height;
+}
+
+@implementation NSAccessibilityCustomAction
+
+- (instancetype)initWithName:(NSString*)name handler:(BOOL (^)(void))handler
+{
+    if ((self = [super init])) {
+        self.name = name;
+        self.handler = handler;
+    }
+    return self;
+}
+
+@end
+
 @implementation NSWindow
 
 - (void)makeKeyWindow
@@ -35,6 +61,10 @@ using namespace doubles;
 - (NSWindow*)window
 {
     return window_;
+}
+- (BOOL)isFlipped
+{
+    return NO;
 }
 
 @end
@@ -103,6 +133,16 @@ using namespace doubles;
     [self performClick:nil];
     static_cast<NSApplication*>(NSApp).currentEvent = nil;
 }
+- (void)clickByGesture:(NSEventModifierFlags)heldModifiers
+{
+    desktop().heldModifiers = heldModifiers;
+    NSEvent* event = [[NSEvent alloc] init];
+    event.type = NSEventTypeGesture;
+    static_cast<NSApplication*>(NSApp).currentEvent = event;
+    [self performClick:nil];
+    static_cast<NSApplication*>(NSApp).currentEvent = nil;
+    desktop().heldModifiers = 0;
+}
 - (void)performClick:(id)sender
 {
     // With a menu, a click opens that and reaches no target.
@@ -142,6 +182,7 @@ __unsafe_unretained NSStatusItem* shownItem = nil;
     NSStatusItem* item = [[NSStatusItem alloc] init];
     item.button = [[NSStatusBarButton alloc] initWithFrame:NSMakeRect(0, 0, 24, 22)];
     item.button.owner = item;
+    item.button.window.frame = NSMakeRect(1000, 900, 24, 22);
     shownItem = item;
     return item;
 }

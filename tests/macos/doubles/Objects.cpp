@@ -7,6 +7,22 @@
 #include <cstring>
 #include <utility>
 
+extern "C" {
+extern void* _NSConcreteGlobalBlock[];
+extern void* _NSConcreteMallocBlock[];
+extern void* _NSConcreteStackBlock[];
+}
+
+namespace doubles {
+
+bool isBlock(const ObjectData* object)
+{
+    const void* type = object->type;
+    return type == _NSConcreteGlobalBlock || type == _NSConcreteMallocBlock || type == _NSConcreteStackBlock;
+}
+
+}  // namespace doubles
+
 using namespace doubles;
 
 // NOLINTBEGIN: the names are the compiler's.
@@ -62,8 +78,8 @@ void objc_setProperty_atomic(ObjectData* object, const char*, ObjectData* value,
 }
 void objc_setProperty_atomic_copy(ObjectData* object, const char*, ObjectData* value, std::ptrdiff_t offset)
 {
-    ObjectData* copied = value;
-    if (value != nullptr)
+    ObjectData* copied = objc_retain(value != nullptr && isBlock(value) ? value : nullptr);
+    if (value != nullptr && copied == nullptr)
         copied = reinterpret_cast<ObjectData* (*)(ObjectData*, const char*)>(fadeloomMethod(value, "copy"))(
             value, "copy");
     objc_release(std::exchange(fieldAt(object, offset), copied));

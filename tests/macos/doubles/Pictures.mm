@@ -38,6 +38,10 @@ struct CGImage {
     made->image_.drawn = name.UTF8String;
     return made;
 }
+- (NSString*)drawnName
+{
+    return [NSString stringWithUTF8String:image_.drawn.c_str()];
+}
 - (BOOL)isTemplate
 {
     return isTemplate_;

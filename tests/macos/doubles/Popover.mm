@@ -16,8 +16,22 @@ using namespace doubles;
 
 @end
 
-@implementation NSPopover
+namespace {
 
+__unsafe_unretained NSPopover* madePopover = nil;
+
+}  // namespace
+
+@implementation NSPopover {
+    NSSize contentSize_;
+}
+
+- (instancetype)init
+{
+    if ((self = [super init]))
+        madePopover = self;
+    return self;
+}
 - (void)showRelativeToRect:(NSRect)rectangle ofView:(NSView*)view preferredEdge:(NSRectEdge)edge
 {
     if (view == nil)
@@ -29,6 +43,26 @@ using namespace doubles;
     self.anchor = view;
     self.edge = edge;
     self.shown = YES;
+    // Once it has appeared, in a later turn.
+    dispatch_async(dispatch_get_main_queue(), ^{
+        if (self.shown && [self.delegate respondsToSelector:@selector(popoverDidShow:)])
+            [self.delegate popoverDidShow:[[NSNotification alloc] init]];
+    });
+}
+- (void)setContentSize:(NSSize)size
+{
+    if (self.shown)
+        note(self.animates ? "popover grows slowly" : "popover grows");
+    contentSize_ = size;
+}
+- (NSSize)contentSize
+{
+    return contentSize_;
+}
+- (void)pressElsewhere
+{
+    if (self.behavior == NSPopoverBehaviorTransient)
+        [self close];
 }
 - (void)performClose:(id)sender
 {
@@ -39,6 +73,8 @@ using namespace doubles;
 {
     if (!self.shown)
         return;
+    if ([self.delegate respondsToSelector:@selector(popoverWillClose:)])
+        [self.delegate popoverWillClose:[[NSNotification alloc] init]];
     note("popover closes");
     self.shown = NO;
     if ([self.delegate respondsToSelector:@selector(popoverDidClose:)])
@@ -46,3 +82,12 @@ using namespace doubles;
 }
 
 @end
+
+namespace doubles {
+
+NSPopover* lastPopover()
+{
+    return madePopover;
+}
+
+}  // namespace doubles

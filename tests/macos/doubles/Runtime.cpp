@@ -3,6 +3,7 @@
 
 #include "tests/macos/doubles/RuntimeClasses.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -13,9 +14,6 @@
 #include <vector>
 
 extern "C" {
-extern void* _NSConcreteGlobalBlock[];
-extern void* _NSConcreteMallocBlock[];
-extern void* _NSConcreteStackBlock[];
 void* _Block_copy(const void* block);
 void _Block_release(const void* block);
 }
@@ -50,12 +48,6 @@ std::vector<std::vector<ObjectData*>>& pools()
 Head& headOf(const ObjectData* object)
 {
     return *(reinterpret_cast<Head*>(const_cast<ObjectData*>(object)) - 1);
-}
-
-bool isBlock(const ObjectData* object)
-{
-    const void* type = object->type;
-    return type == _NSConcreteGlobalBlock || type == _NSConcreteMallocBlock || type == _NSConcreteStackBlock;
 }
 
 /// Classes, constant texts, queues: what is never freed.
@@ -120,10 +112,12 @@ AutoreleasePool::~AutoreleasePool()
 
 ObjectData* makeObject(const ClassData* type)
 {
-    // The platform moves fields then; here a class and the one above it with fields are compiled in one source.
-    if (type->superclass != nullptr && type->ro().instanceStart < type->superclass->ro().instanceSize)
-        crash(std::string(type->ro().name) + " was compiled without knowing the fields above it");
-    const std::size_t size = sizeof(Head) + type->ro().instanceSize;
+    // The platform moves fields then; here a class with fields is compiled in one source with those above it.
+    const ClassRo& own = type->ro();
+    const std::size_t above = type->superclass == nullptr ? 0 : type->superclass->ro().instanceSize;
+    if (own.instanceSize > own.instanceStart && own.instanceStart < above)
+        crash(std::string(own.name) + " was compiled without knowing the fields above it");
+    const std::size_t size = sizeof(Head) + std::max<std::size_t>(own.instanceSize, above);
     auto* const head = new (std::calloc(1, size)) Head;
     auto* const object = reinterpret_cast<ObjectData*>(head + 1);
     object->type = type;

@@ -69,6 +69,8 @@ struct Super {
 
 ObjectData* makeObject(const ClassData* type);
 void disposeOf(ObjectData* object);
+/// Blocks are objects to the language, and have a class of their own that knows no messages here.
+bool isBlock(const ObjectData* object);
 
 }  // namespace doubles
 

@@ -97,9 +97,6 @@ extern "C" CFURLRef CFURLCreateFromFileSystemRepresentation(
 @implementation NSError
 @end
 
-@implementation NSNotification
-@end
-
 namespace doubles {
 
 std::string urlPath(CFURLRef location)

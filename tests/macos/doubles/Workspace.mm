@@ -36,6 +36,10 @@ using namespace doubles;
 {
     return [[self alloc] init];
 }
+- (NSNotificationCenter*)notificationCenter
+{
+    return [NSNotificationCenter centerNamed:"workspace"];
+}
 - (NSArray<NSRunningApplication*>*)runningApplications
 {
     return [desktop().applications copy];
@@ -62,7 +66,8 @@ using namespace doubles;
            completionHandler:(void (^)(NSRunningApplication*, NSError*))answered
 {
     note(std::string("launch ") + location.path.UTF8String
-        + (configuration.createsNewApplicationInstance ? " once more" : ""));
+        + (configuration.createsNewApplicationInstance ? " once more" : "")
+        + (configuration.environment == nil ? "" : " with " + described(configuration.environment)));
     // The answer comes on a queue of the system's.
     static dispatch_queue_t queue = dispatch_queue_create("answers", nil);
     dispatch_async(
@@ -136,7 +141,7 @@ using namespace doubles;
 - (NSArray<NSURL*>*)URLsForDirectory:(NSSearchPathDirectory)directory
                            inDomains:(NSSearchPathDomainMask)domains
 {
-    if (domains != NSUserDomainMask)
+    if (domains != NSUserDomainMask || desktop().folders.empty())
         return @[];
     const std::string below = directory == NSMusicDirectory ? "/Music/"
         : directory == NSApplicationSupportDirectory        ? "/Library/Application Support/"

@@ -2,17 +2,16 @@
 // What we use of AppKit, declared by us.
 #pragma once
 
+#include <AppKit/AppKitDefines.h>
+#include <AppKit/NSEvent.h>
+#include <AppKit/NSImage.h>
+#include <AppKit/NSPopover.h>
+#include <AppKit/NSStatusBar.h>
+#include <AppKit/NSView.h>
 #include <Foundation/Foundation.h>
 #include <sys/types.h>
 
-#ifdef __cplusplus
-#define APPKIT_EXTERN extern "C"
-#else
-#define APPKIT_EXTERN extern
-#endif
-
 @class UTType;
-typedef struct CGImage* CGImageRef;
 
 NS_ASSUME_NONNULL_BEGIN
 
@@ -45,33 +44,20 @@ APPKIT_EXTERN NSAttributedStringKey const NSParagraphStyleAttributeName;
 @property (class, readonly, strong) NSColor* labelColor;
 @end
 
+// On Apple's processors as on its phones.
 typedef NS_ENUM(NSInteger, NSTextAlignment) {
     NSTextAlignmentLeft = 0,
+#if defined(__arm64__)
+    NSTextAlignmentCenter = 1,
+    NSTextAlignmentRight = 2,
+#else
     NSTextAlignmentRight = 1,
-    NSTextAlignmentCenter = 2
+    NSTextAlignmentCenter = 2,
+#endif
 };
 
 @interface NSMutableParagraphStyle : NSObject
 @property NSTextAlignment alignment;
-@end
-
-// Pictures.
-
-@interface NSImage : NSObject
-+ (nullable NSImage*)imageNamed:(NSString*)name;
-- (BOOL)isTemplate;
-- (void)setTemplate:(BOOL)isTemplate;
-- (nullable CGImageRef)CGImageForProposedRect:(nullable NSRect*)rectangle
-                                      context:(nullable id)context
-                                        hints:(nullable NSDictionary<NSString*, id>*)hints;
-@end
-
-typedef NS_ENUM(NSUInteger, NSBitmapImageFileType) { NSBitmapImageFileTypePNG = 4 };
-
-@interface NSBitmapImageRep : NSObject
-- (instancetype)initWithCGImage:(CGImageRef)image;
-- (nullable NSData*)representationUsingType:(NSBitmapImageFileType)type
-                                 properties:(NSDictionary<NSString*, id>*)properties;
 @end
 
 // The application.
@@ -84,18 +70,6 @@ APPKIT_EXTERN NSAppearanceName const NSAppearanceNameDarkAqua;
 + (nullable NSAppearance*)appearanceNamed:(NSAppearanceName)name;
 @property (readonly, copy) NSAppearanceName name;
 - (nullable NSAppearanceName)bestMatchFromAppearancesWithNames:(NSArray<NSAppearanceName>*)names;
-@end
-
-typedef NS_ENUM(NSUInteger, NSEventType) { NSEventTypeLeftMouseUp = 2, NSEventTypeRightMouseUp = 4 };
-typedef NS_OPTIONS(unsigned long long, NSEventMask) {
-    NSEventMaskLeftMouseUp = 1ULL << 2,
-    NSEventMaskRightMouseUp = 1ULL << 4
-};
-typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) { NSEventModifierFlagControl = 1 << 18 };
-
-@interface NSEvent : NSObject
-@property (readonly) NSEventType type;
-@property (readonly) NSEventModifierFlags modifierFlags;
 @end
 
 typedef NSString* NSAboutPanelOptionKey;
@@ -111,6 +85,7 @@ APPKIT_EXTERN NSAboutPanelOptionKey const NSAboutPanelOptionCredits;
 @end
 
 APPKIT_EXTERN __kindof NSApplication* _Null_unspecified NSApp;
+APPKIT_EXTERN NSNotificationName const NSApplicationDidBecomeActiveNotification;
 
 // Running applications.
 
@@ -136,10 +111,12 @@ API_AVAILABLE(macos(10.15))
 @interface NSWorkspaceOpenConfiguration : NSObject
 + (instancetype)configuration;
 @property BOOL createsNewApplicationInstance;
+@property (copy) NSDictionary<NSString*, NSString*>* environment;
 @end
 
 @interface NSWorkspace : NSObject
 @property (class, readonly, strong) NSWorkspace* sharedWorkspace;
+@property (readonly, strong) NSNotificationCenter* notificationCenter;
 @property (readonly, copy) NSArray<NSRunningApplication*>* runningApplications;
 - (BOOL)openURL:(NSURL*)location;
 - (void)activateFileViewerSelectingURLs:(NSArray<NSURL*>*)files;
@@ -150,104 +127,7 @@ API_AVAILABLE(macos(10.15))
     API_AVAILABLE(macos(10.15));
 @end
 
-// Views.
-
-typedef NS_ENUM(NSUInteger, NSRectEdge) {
-    NSRectEdgeMinX = 0,
-    NSRectEdgeMinY = 1,
-    NSRectEdgeMaxX = 2,
-    NSRectEdgeMaxY = 3
-};
-
-@class NSView;
-
-@interface NSWindow : NSObject
-- (void)makeKeyWindow;
-- (BOOL)makeFirstResponder:(nullable NSView*)responder;
-@end
-
-@interface NSView : NSObject
-@property (copy) NSArray<__kindof NSView*>* subviews;
-- (instancetype)initWithFrame:(NSRect)frame;
-@property NSRect bounds;
-@property (nullable, readonly, unsafe_unretained) NSWindow* window;
-@property (nullable, copy) NSString* toolTip;
-@property (nullable, copy) NSString* accessibilityLabel;
-@end
-
-@interface NSViewController : NSObject
-- (instancetype)initWithNibName:(nullable NSString*)name bundle:(nullable NSBundle*)bundle;
-@property (strong) NSView* view;
-@end
-
-@class NSPopover;
-@protocol NSPopoverDelegate <NSObject>
-@optional
-- (void)popoverWillShow:(NSNotification*)notification;
-- (void)popoverDidClose:(NSNotification*)notification;
-@end
-
-typedef NS_ENUM(NSInteger, NSPopoverBehavior) {
-    NSPopoverBehaviorApplicationDefined = 0,
-    NSPopoverBehaviorTransient = 1
-};
-
-@interface NSPopover : NSObject
-@property (nullable, weak) id<NSPopoverDelegate> delegate;
-@property BOOL animates;
-@property NSPopoverBehavior behavior;
-@property NSSize contentSize;
-@property (nullable, strong) NSViewController* contentViewController;
-@property (readonly, getter=isShown) BOOL shown;
-- (void)showRelativeToRect:(NSRect)rectangle ofView:(NSView*)view preferredEdge:(NSRectEdge)edge;
-- (void)performClose:(nullable id)sender;
-- (void)close;
-@end
-
-// The menu bar.
-
-typedef NSInteger NSControlStateValue;
-static const NSControlStateValue NSControlStateValueOff = 0;
-static const NSControlStateValue NSControlStateValueOn = 1;
-
-@interface NSMenuItem : NSObject
-+ (NSMenuItem*)separatorItem;
-- (instancetype)initWithTitle:(NSString*)title action:(nullable SEL)action keyEquivalent:(NSString*)key;
-@property (copy) NSString* title;
-@property (copy) NSString* keyEquivalent;
-@property (nullable) SEL action;
-@property (nullable, weak) id target;
-@property NSControlStateValue state;
-@property (nullable, strong) id representedObject;
-@property (readonly, getter=isSeparatorItem) BOOL separatorItem;
-@end
-
-@interface NSMenu : NSObject
-- (instancetype)initWithTitle:(NSString*)title;
-- (void)addItem:(NSMenuItem*)item;
-@property (readonly, copy) NSArray<NSMenuItem*>* itemArray;
-@end
-
-@interface NSStatusBarButton : NSView
-@property (nullable, strong) NSImage* image;
-@property (nullable, weak) id target;
-@property (nullable) SEL action;
-- (NSInteger)sendActionOn:(NSEventMask)mask;
-- (void)performClick:(nullable id)sender;
-@end
-
-static const double NSSquareStatusItemLength = -2.0;
-
-@interface NSStatusItem : NSObject
-@property (nullable, readonly, strong) NSStatusBarButton* button;
-@property (nullable, strong) NSMenu* menu;
-@end
-
-@interface NSStatusBar : NSObject
-@property (class, readonly, strong) NSStatusBar* systemStatusBar;
-- (NSStatusItem*)statusItemWithLength:(double)length;
-- (void)removeStatusItem:(NSStatusItem*)item;
-@end
+APPKIT_EXTERN NSNotificationName const NSWorkspaceWillPowerOffNotification;
 
 // Panels.
 

@@ -4,13 +4,15 @@
 
 #include <CoreAudio/CoreAudio.h>
 
+CF_ASSUME_NONNULL_BEGIN
+
 #ifdef __cplusplus
 extern "C" {
 #endif
 
 #ifdef __OBJC__
 @class CATapDescription;
-OSStatus AudioHardwareCreateProcessTap(CATapDescription* description, AudioObjectID* tap)
+OSStatus AudioHardwareCreateProcessTap(CATapDescription* _Nullable description, AudioObjectID* tap)
     API_AVAILABLE(macos(14.2));
 #endif
 OSStatus AudioHardwareDestroyProcessTap(AudioObjectID tap) API_AVAILABLE(macos(14.2));
@@ -18,3 +20,5 @@ OSStatus AudioHardwareDestroyProcessTap(AudioObjectID tap) API_AVAILABLE(macos(1
 #ifdef __cplusplus
 }
 #endif
+
+CF_ASSUME_NONNULL_END

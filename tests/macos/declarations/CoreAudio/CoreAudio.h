@@ -3,6 +3,7 @@
 #pragma once
 
 #include <CoreAudio/CoreAudioTypes.h>
+#include <CoreAudio/HostTime.h>
 #include <dispatch/dispatch.h>
 
 typedef UInt32 AudioObjectID;
@@ -17,21 +18,24 @@ struct AudioObjectPropertyAddress {
 };
 typedef struct AudioObjectPropertyAddress AudioObjectPropertyAddress;
 
-enum { kAudioObjectUnknown = 0, kAudioObjectSystemObject = 1 };
+CF_ENUM(AudioObjectID){kAudioObjectUnknown = 0};
+CF_ENUM(AudioObjectID){kAudioObjectSystemObject = 1};
 
-enum {
+CF_ENUM(AudioObjectPropertyScope){
     kAudioObjectPropertyScopeGlobal = 'glob',
     kAudioObjectPropertyScopeInput = 'inpt',
     kAudioObjectPropertyScopeOutput = 'outp',
-    kAudioObjectPropertyElementMain = 0
 };
+CF_ENUM(AudioObjectPropertyElement){kAudioObjectPropertyElementMain = 0};
 
-enum {
+CF_ENUM(AudioObjectPropertySelector){
     kAudioObjectPropertyName = 'lnam',
     kAudioHardwarePropertyDevices = 'dev#',
     kAudioHardwarePropertyDefaultOutputDevice = 'dOut',
     kAudioHardwarePropertyProcessObjectList = 'prs#',
+    kAudioHardwarePropertyServiceRestarted = 'srst',
     kAudioDevicePropertyDeviceUID = 'uid ',
+    kAudioDevicePropertyDeviceIsAlive = 'livn',
     kAudioDevicePropertyNominalSampleRate = 'nsrt',
     kAudioDevicePropertyStreams = 'stm#',
     kAudioDevicePropertyPreferredChannelsForStereo = 'dch2',
@@ -41,10 +45,10 @@ enum {
     kAudioProcessPropertyIsRunningInput = 'piri',
     kAudioProcessPropertyIsRunningOutput = 'piro',
     kAudioTapPropertyDescription = 'tdsc',
-    kAudioTapPropertyFormat = 'tfmt'
+    kAudioTapPropertyFormat = 'tfmt',
 };
 
-enum {
+CF_ENUM(OSStatus){
     kAudioHardwareNoError = 0,
     kAudioHardwareNotRunningError = 'stop',
     kAudioHardwareUnspecifiedError = 'what',
@@ -53,7 +57,7 @@ enum {
     kAudioHardwareIllegalOperationError = 'nope',
     kAudioHardwareBadObjectError = '!obj',
     kAudioHardwareBadDeviceError = '!dev',
-    kAudioHardwareUnsupportedOperationError = 'unop'
+    kAudioHardwareUnsupportedOperationError = 'unop',
 };
 
 #define kAudioAggregateDeviceUIDKey "uid"
@@ -68,6 +72,8 @@ enum {
 #define kAudioSubTapUIDKey "uid"
 #define kAudioSubTapDriftCompensationKey "drift"
 
+CF_ASSUME_NONNULL_BEGIN
+
 struct AudioHardwareIOProcStreamUsage {
     void* mIOProc;
     UInt32 mNumberStreams;
@@ -77,7 +83,7 @@ typedef struct AudioHardwareIOProcStreamUsage AudioHardwareIOProcStreamUsage;
 
 typedef OSStatus (*AudioDeviceIOProc)(AudioObjectID device, const AudioTimeStamp* now,
     const AudioBufferList* input, const AudioTimeStamp* inputTime, AudioBufferList* output,
-    const AudioTimeStamp* outputTime, void* clientData);
+    const AudioTimeStamp* outputTime, void* _Nullable clientData);
 typedef AudioDeviceIOProc AudioDeviceIOProcID;
 typedef void (^AudioDeviceIOBlock)(const AudioTimeStamp* now, const AudioBufferList* input,
     const AudioTimeStamp* inputTime, AudioBufferList* output, const AudioTimeStamp* outputTime);
@@ -88,26 +94,28 @@ extern "C" {
 #endif
 
 OSStatus AudioObjectGetPropertyDataSize(AudioObjectID object, const AudioObjectPropertyAddress* address,
-    UInt32 qualifierSize, const void* qualifier, UInt32* size);
+    UInt32 qualifierSize, const void* _Nullable qualifier, UInt32* size);
 OSStatus AudioObjectGetPropertyData(AudioObjectID object, const AudioObjectPropertyAddress* address,
-    UInt32 qualifierSize, const void* qualifier, UInt32* size, void* data);
+    UInt32 qualifierSize, const void* _Nullable qualifier, UInt32* size, void* data);
 OSStatus AudioObjectSetPropertyData(AudioObjectID object, const AudioObjectPropertyAddress* address,
-    UInt32 qualifierSize, const void* qualifier, UInt32 size, const void* data);
+    UInt32 qualifierSize, const void* _Nullable qualifier, UInt32 size, const void* data);
 OSStatus AudioObjectAddPropertyListenerBlock(AudioObjectID object, const AudioObjectPropertyAddress* address,
-    dispatch_queue_t queue, AudioObjectPropertyListenerBlock listener);
+    dispatch_queue_t _Nullable queue, AudioObjectPropertyListenerBlock listener);
 OSStatus AudioObjectRemovePropertyListenerBlock(AudioObjectID object,
-    const AudioObjectPropertyAddress* address, dispatch_queue_t queue,
+    const AudioObjectPropertyAddress* address, dispatch_queue_t _Nullable queue,
     AudioObjectPropertyListenerBlock listener);
 
 OSStatus AudioHardwareCreateAggregateDevice(CFDictionaryRef description, AudioObjectID* device);
 OSStatus AudioHardwareDestroyAggregateDevice(AudioObjectID device);
 
-OSStatus AudioDeviceCreateIOProcIDWithBlock(
-    AudioDeviceIOProcID* proc, AudioObjectID device, dispatch_queue_t queue, AudioDeviceIOBlock block);
+OSStatus AudioDeviceCreateIOProcIDWithBlock(AudioDeviceIOProcID _Nullable* _Nonnull proc,
+    AudioObjectID device, dispatch_queue_t _Nullable queue, AudioDeviceIOBlock block);
 OSStatus AudioDeviceDestroyIOProcID(AudioObjectID device, AudioDeviceIOProcID proc);
-OSStatus AudioDeviceStart(AudioObjectID device, AudioDeviceIOProcID proc);
-OSStatus AudioDeviceStop(AudioObjectID device, AudioDeviceIOProcID proc);
+OSStatus AudioDeviceStart(AudioObjectID device, AudioDeviceIOProcID _Nullable proc);
+OSStatus AudioDeviceStop(AudioObjectID device, AudioDeviceIOProcID _Nullable proc);
 
 #ifdef __cplusplus
 }
 #endif
+
+CF_ASSUME_NONNULL_END

@@ -10,7 +10,7 @@ typedef UInt32 AudioFormatFlags;
 struct AudioBuffer {
     UInt32 mNumberChannels;
     UInt32 mDataByteSize;
-    void* mData;
+    void* _Nullable mData;
 };
 typedef struct AudioBuffer AudioBuffer;
 
@@ -33,13 +33,13 @@ struct AudioStreamBasicDescription {
 };
 typedef struct AudioStreamBasicDescription AudioStreamBasicDescription;
 
-enum { kAudioFormatLinearPCM = 'lpcm' };
-enum {
+CF_ENUM(AudioFormatID){kAudioFormatLinearPCM = 'lpcm'};
+CF_ENUM(AudioFormatFlags){
     kAudioFormatFlagIsFloat = 1U << 0,
     kAudioFormatFlagIsBigEndian = 1U << 1,
     kAudioFormatFlagIsSignedInteger = 1U << 2,
     kAudioFormatFlagIsPacked = 1U << 3,
-    kAudioFormatFlagIsNonInterleaved = 1U << 5
+    kAudioFormatFlagIsNonInterleaved = 1U << 5,
 };
 
 struct SMPTETime {
@@ -65,3 +65,9 @@ struct AudioTimeStamp {
     UInt32 mReserved;
 };
 typedef struct AudioTimeStamp AudioTimeStamp;
+
+enum {
+    kAudioTimeStampSampleTimeValid = 1U << 0,
+    kAudioTimeStampHostTimeValid = 1U << 1,
+    kAudioTimeStampSampleHostTimeValid = kAudioTimeStampSampleTimeValid | kAudioTimeStampHostTimeValid,
+};

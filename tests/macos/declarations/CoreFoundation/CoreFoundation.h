@@ -10,6 +10,11 @@
 #define API_AVAILABLE_(platform) __attribute__((availability(API_##platform)))
 #define API_macos(version) macos, introduced = version
 
+// The platform's codes are enumerators of their property's type, and what may be null is said.
+#define CF_ENUM(type) enum : type
+#define CF_ASSUME_NONNULL_BEGIN _Pragma("clang assume_nonnull begin")
+#define CF_ASSUME_NONNULL_END _Pragma("clang assume_nonnull end")
+
 typedef uint8_t UInt8;
 typedef int16_t SInt16;
 typedef uint32_t UInt32;

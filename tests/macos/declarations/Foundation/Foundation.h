@@ -41,6 +41,11 @@ static inline NSRange NSMakeRange(NSUInteger location, NSUInteger length)
 NS_ASSUME_NONNULL_BEGIN
 
 extern const NSRect NSZeroRect;
+#ifdef __cplusplus
+extern "C"
+#endif
+    BOOL
+    NSPointInRect(NSPoint point, NSRect rectangle);
 
 typedef struct {
     unsigned long state;
@@ -109,6 +114,11 @@ typedef struct {
 - (NSInteger)secondsFromGMTForDate:(NSDate*)date;
 @end
 
+@interface NSProcessInfo : NSObject
+@property (class, readonly, strong) NSProcessInfo* processInfo;
+@property (readonly) NSTimeInterval systemUptime;
+@end
+
 @interface NSData : NSObject
 - (BOOL)writeToURL:(NSURL*)location atomically:(BOOL)isAtomic;
 @end
@@ -117,7 +127,21 @@ typedef struct {
 @property (readonly, copy) NSString* localizedDescription;
 @end
 
+typedef NSString* NSNotificationName;
+
 @interface NSNotification : NSObject
+@property (readonly, copy) NSNotificationName name;
+@end
+
+@class NSOperationQueue;
+
+@interface NSNotificationCenter : NSObject
+@property (class, readonly, strong) NSNotificationCenter* defaultCenter;
+- (id<NSObject>)addObserverForName:(nullable NSNotificationName)name
+                            object:(nullable id)object
+                             queue:(nullable NSOperationQueue*)queue
+                        usingBlock:(void (^)(NSNotification* notification))block;
+- (void)removeObserver:(id)observer;
 @end
 
 @interface NSBundle : NSObject

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+// A tap that ends from outside: its device dies, the audio service restarts, or it delivers nothing but zeros.
+#include "tests/macos/AppTapStage.h"
+
+namespace fadeloom {
+namespace {
+
+using std::chrono::seconds;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class MacOSAppTapEnd : public AppTapStage {
+protected:
+    MacOSAppTapEnd() { other = world.addProcess({.pid = 502}); }
+
+    std::unique_ptr<AppTap> made()
+    {
+        auto tap = create();
+        return tap ? std::move(*tap) : nullptr;
+    }
+    /// The device runs for so long, and the processes are looked at every five seconds.
+    void run(seconds duration)
+    {
+        const auto cycles =
+            static_cast<double>(duration.count()) * 48000 / doubles::AudioWorld::framesInCycle;
+        const auto cyclesInPoll = static_cast<int>(5 * 48000.0 / doubles::AudioWorld::framesInCycle);
+        for (int cycle = 1; cycle <= static_cast<int>(cycles) + 1; ++cycle) {
+            world.runCycle();
+            if (cycle % cyclesInPoll == 0)
+                (void)audio.processes(ReadMic::no);
+        }
+        (void)audio.processes(ReadMic::no);
+    }
+    void play(float amplitude)
+    {
+        world.change(501, [=](doubles::Process& process) { process.amplitude = amplitude; });
+    }
+    void setPlaying(bool isPlaying)
+    {
+        world.change(501, [=](doubles::Process& process) { process.isRunningOutput = isPlaying; });
+        (void)audio.processes(ReadMic::no);
+    }
+
+    AudioObjectID other = kAudioObjectUnknown;
+};
+
+TEST_F(MacOSAppTapEnd, comesWhenItsDeviceDies)
+{
+    const auto tap = made();
+    ASSERT_TRUE(tap && tap->isRunning());
+
+    world.die("speakers");
+    doubles::runQueues();
+
+    EXPECT_FALSE(tap->isRunning());
+    EXPECT_EQ(tap->sampleRate(), 48000) << "what it was made with is still known";
+}
+
+TEST_F(MacOSAppTapEnd, comesWhenItsDeviceIsUnplugged)
+{
+    const auto tap = made();
+
+    world.unplug("speakers");
+    doubles::runQueues();
+
+    EXPECT_FALSE(tap->isRunning());
+}
+
+TEST_F(MacOSAppTapEnd, comesWithTheServiceAndLeavesAloneWhatHasItsIdsNow)
+{
+    auto tap = made();
+    int changes = 0;
+    const auto devices = audio.whenOutputDevicesChange([&] { ++changes; });
+    asked();
+
+    world.restartService();
+    doubles::runQueues();
+    EXPECT_FALSE(tap->isRunning());
+    EXPECT_GT(changes, 0) << "so that somebody makes a new one";
+    tap.reset();
+
+    EXPECT_THAT(asked(), ElementsAre("stop nothing", "destroy proc of nothing"));
+}
+
+TEST_F(MacOSAppTapEnd, isNoEndOfThoseWhoListen)
+{
+    int devices = 0;
+    int processes = 0;
+    const auto first = audio.whenOutputDevicesChange([&] { ++devices; });
+    const auto second = audio.whenProcessesChange([&] { ++processes; });
+    (void)audio.processes(ReadMic::no);
+
+    for (int i = 0; i < 2; ++i) {
+        world.restartService();
+        doubles::runQueues();
+        (void)audio.processes(ReadMic::no);
+    }
+    devices = processes = 0;
+    world.plug({.uid = "headphones"});
+    world.change(501, [](doubles::Process& process) { process.isRunningOutput = false; });
+    doubles::runQueues();
+
+    EXPECT_EQ(devices, 1);
+    EXPECT_GT(processes, 0);
+}
+
+TEST_F(MacOSAppTapEnd, hearsOfRestartsOnlyWhileThereIsSomethingToLose)
+{
+    auto tap = made();
+    EXPECT_THAT(doubles::journal(), Contains("listen to srst of system"));
+
+    tap.reset();
+
+    EXPECT_THAT(world.listeners, IsEmpty());
+}
+
+TEST_F(MacOSAppTapEnd, comesAfterTenSecondsOfZerosWhileItsAppPlays)
+{
+    const auto tap = made();
+    run(seconds(30));
+    ASSERT_TRUE(tap->isRunning());
+
+    play(0);
+    run(seconds(9));
+    EXPECT_TRUE(tap->isRunning());
+    run(seconds(2));
+
+    EXPECT_FALSE(tap->isRunning());
+}
+
+TEST_F(MacOSAppTapEnd, doesNotComeWhileItsAppIsPaused)
+{
+    const auto tap = made();
+    setPlaying(false);
+    run(seconds(60));
+    EXPECT_TRUE(tap->isRunning());
+
+    play(0);
+    setPlaying(true);
+    run(seconds(8));
+    EXPECT_TRUE(tap->isRunning()) << "only zeros of a playing app count";
+    run(seconds(3));
+
+    EXPECT_FALSE(tap->isRunning());
+}
+
+TEST_F(MacOSAppTapEnd, takesTwiceAsLongEachTimeThatANewTapDoesNotHelp)
+{
+    play(0);
+    for (const auto patience : {seconds(10), seconds(20), seconds(40)}) {
+        const auto tap = made();
+        run(patience - seconds(1));
+        EXPECT_TRUE(tap->isRunning()) << patience.count();
+        run(seconds(2));
+        EXPECT_FALSE(tap->isRunning()) << patience.count();
+    }
+
+    const auto tap = made();
+    play(0.5F);
+    run(seconds(1));
+    play(0);
+    run(seconds(11));
+
+    EXPECT_FALSE(tap->isRunning()) << "sound has come, and all is as before";
+}
+
+TEST_F(MacOSAppTapEnd, countsNoSilenceOfAnotherApp)
+{
+    const auto tap = AppTap::create(audio, {other}, {.id = speakers, .uid = "speakers", .name = "A device"},
+        TapScope::everyStream, parameters, "Films");
+    ASSERT_TRUE(tap);
+
+    run(seconds(30));
+
+    EXPECT_TRUE((*tap)->isRunning());
+}
+
+}  // namespace
+}  // namespace fadeloom
