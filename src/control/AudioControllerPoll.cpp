@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The controller's regular look at the world: from audio processes to the mixer's rows.
+#include "control/AppResolver.h"
 #include "control/AudioController.h"
 
 #include "platform/AudioSystem.h"
@@ -113,6 +114,15 @@ void AudioController::confirmAudio()
             engineLog_.notice("audio flowing through tap: " + id);
         }
     }
+}
+
+std::optional<std::string> AudioController::appOfProcess(ProcessID process) const
+{
+    const auto& workspace = platform_.workspace;
+    const auto owner = AppResolver(workspace).owningApp(process, "", workspace.runningApplications());
+    const bool isInMixer = owner && owner->bundleID
+        && std::ranges::find(*state_.apps, *owner->bundleID, &AppEntry::bundleID) != state_.apps->end();
+    return isInMixer ? owner->bundleID : std::nullopt;
 }
 
 }  // namespace fadeloom

@@ -183,18 +183,6 @@ TEST_F(SettingsStory, settingsThatCannotBeReadAreToldOfAndNeverReplaced)
     EXPECT_FALSE(isSaveWaiting());
 }
 
-TEST_F(SettingsStory, aSaveThatFailsAfterTheControllerIsGoneDoesNothing)
-{
-    startWithPlayer();
-    std::filesystem::create_directories(settingsFile());
-    setVolumeLimit(2);
-
-    end();
-    world.advance(1s);
-
-    EXPECT_FALSE(isSaveWaiting());
-}
-
 TEST_F(SettingsStory, theEqualizerIsPreparedWhileItIsOff)
 {
     startWithPlayer();
