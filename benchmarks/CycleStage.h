@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A renderer in cycles of its own: buffers, settings, and a recorder that keeps what it gets in a ring.
+// A renderer in cycles of its own: buffers, settings, and a recording whose sound nobody reads.
 #pragma once
 
 #include "engine/RenderChoice.h"
@@ -15,26 +15,6 @@
 #include <vector>
 
 namespace fadeloom {
-
-/// Takes frames as a recorder does on the IO thread. Nobody reads them.
-class RingFile final : public AudioFile {
-public:
-    AudioStatus setClientFormat(const AudioStreamBasicDescription&) override { return kAudioHardwareNoError; }
-    AudioStatus write(std::uint32_t frameCount, const float* samples) noexcept FADELOOM_NONBLOCKING override
-    {
-        const std::size_t count = 2 * static_cast<std::size_t>(frameCount);
-        if (place_ + count > ring_.size())
-            place_ = 0;
-        std::memcpy(ring_.data() + place_, samples, count * sizeof(float));
-        place_ += count;
-        return kAudioHardwareNoError;
-    }
-    AudioFileHealth health() const override { return {}; }
-
-private:
-    std::vector<float> ring_ = std::vector<float>(2 * 48000);
-    std::size_t place_ = 0;
-};
 
 class CycleStage {
 public:
@@ -54,7 +34,7 @@ public:
             samples_[i] = 0.01F * std::sin(0.05F * static_cast<float>(i));
         parameters_->values.eqEnabled = setting.isEqualized;
         if (setting.isRecorded)
-            parameters_->recorder.set(&file_);
+            parameters_->recorder.set(lanes_);
         parameters_->setEQ(eqCoefficients(std::array<float, 10>{6, -4, 3, -2, 7, -6, 4, 2, -3, 5}, 48000));
         const TapFormat layout{
             .output = {1, 2},
@@ -66,14 +46,19 @@ public:
 
     void cycle()
     {
+        // As the main thread does, so that there is always room.
+        if (setting_.isRecorded && ++cyclesWaiting_ == 100) {
+            lanes_->drain([](const CycleTime&, std::span<const float>) { });
+            cyclesWaiting_ = 0;
+        }
         const auto size = static_cast<std::uint32_t>(setting_.frames * sizeof(float));
         if (setting_.isPlanar) {
             const std::array buffers{AudioBuffer{1, size, at(0)}, AudioBuffer{1, size, at(1)},
                 AudioBuffer{1, size, at(2)}, AudioBuffer{1, size, at(3)}};
-            renderer_->render(AudioBuffers(buffers).first(2), AudioBuffers(buffers).last(2));
+            renderer_->render({}, AudioBuffers(buffers).first(2), AudioBuffers(buffers).last(2));
         } else {
             const std::array buffers{AudioBuffer{2, 2 * size, at(0)}, AudioBuffer{2, 2 * size, at(2)}};
-            renderer_->render(AudioBuffers(buffers).first(1), AudioBuffers(buffers).last(1));
+            renderer_->render({}, AudioBuffers(buffers).first(1), AudioBuffers(buffers).last(1));
         }
     }
 
@@ -83,7 +68,8 @@ private:
     float* at(std::size_t side) { return samples_.data() + side * setting_.frames; }
 
     Setting setting_;
-    RingFile file_;
+    std::shared_ptr<RecordingLanes> lanes_ = std::make_shared<RecordingLanes>(48000);
+    std::size_t cyclesWaiting_ = 0;
     std::shared_ptr<TapParameters> parameters_ = std::make_shared<TapParameters>();
     std::vector<float> samples_;  // Two sides in, two sides out.
     std::unique_ptr<Renderer> renderer_;

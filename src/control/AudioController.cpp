@@ -99,11 +99,9 @@ void AudioController::shutdown()
     systemListeners_.clear();
     life_.end();
 
-    recordingCheck_.reset();
-    for (auto& [id, recording] : std::exchange(active_, {}))
-        closing_.add(id, std::move(recording), takeRecorderFrom(id));
+    recordings_.stopAll();
     taps_.clear();
-    closing_.closeNow();
+    recordings_.closeNow();
     saver_.flush();
 }
 

@@ -13,13 +13,12 @@
 #include "base/LifeToken.h"
 #include "control/AppGroups.h"
 #include "control/AudioPermission.h"
-#include "control/ClosingRecordings.h"
 #include "control/ControllerState.h"
 #include "control/DemoContents.h"
 #include "control/LevelStore.h"
+#include "control/Recordings.h"
 #include "control/SettingsSaver.h"
 #include "engine/AppTap.h"
-#include "engine/Recording.h"
 #include "engine/TapParameters.h"
 #include "log/EngineLog.h"
 #include "platform/Platform.h"
@@ -41,8 +40,6 @@ namespace fadeloom {
 class AudioController {
 public:
     static constexpr std::chrono::seconds pollInterval{5};
-    /// How soon a recording that cannot be written any more is noticed.
-    static constexpr std::chrono::seconds recordingCheckInterval{1};
 
     /// Loads the settings, begins to listen, polls once. Settings that are there and cannot be read become the error
     /// message; nothing is saved in their place. `version` is for the log; "?" when empty.
@@ -157,9 +154,7 @@ private:
     [[nodiscard]] std::filesystem::path newRecordingLocation(
         const std::string& bundleID, Recording::Moment startedAt) const;
     void stopAllRecordings();
-    void checkRecordings();
-    [[nodiscard]] std::shared_ptr<const TapParameters> takeRecorderFrom(const std::string& bundleID);
-    void finish(const std::string& bundleID, Recording& recording);
+    void recordingBroken(const std::string& bundleID, AudioStatus status);
 
     void applyAppearance();
 
@@ -183,9 +178,8 @@ private:
     using OutputTaps =
         std::map<std::string, std::unique_ptr<AppTap>>;  // By the output's unique id; never empty.
     std::map<std::string, OutputTaps> taps_;
-    std::map<std::string, std::unique_ptr<Recording>> active_;
-    ClosingRecordings closing_{platform_.mainLoop,
-        [this](const std::string& bundleID, Recording& recording) { finish(bundleID, recording); }};
+    Recordings recordings_{platform_.mainLoop, platform_.audio, platform_.audioFiles, engineLog_,
+        [this](const std::string& bundleID, AudioStatus status) { recordingBroken(bundleID, status); }};
     /// A failed attempt is not repeated while all of this is as it was.
     struct FailedTap {
         std::string key;
@@ -204,7 +198,6 @@ private:
     // Last, so that they end first: no callback comes into an object that is going.
     std::vector<Subscription> systemListeners_;
     Subscription timer_;
-    std::optional<Subscription> recordingCheck_;  // While anything is recorded.
     LifeToken life_;
 };
 

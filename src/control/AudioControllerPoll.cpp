@@ -45,7 +45,7 @@ void AudioController::updateSeen(const AppGroups& groups)
         if (group.isPlaying())
             seen_.insert(id);
     }
-    std::erase_if(seen_, [&](const auto& id) { return !groups.contains(id) && !active_.contains(id); });
+    std::erase_if(seen_, [&](const auto& id) { return !groups.contains(id) && !recordings_.contains(id); });
 }
 
 void AudioController::updateApps(const AppGroups& groups)

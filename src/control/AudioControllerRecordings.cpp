@@ -15,7 +15,7 @@ namespace fadeloom {
 
 void AudioController::startRecording(const std::string& bundleID)
 {
-    if (active_.contains(bundleID))
+    if (recordings_.contains(bundleID))
         return;
     const auto* const tap = tapOf(bundleID);
     const auto block = params_.find(bundleID);
@@ -33,77 +33,33 @@ void AudioController::startRecording(const std::string& bundleID)
     std::filesystem::create_directories(location.parent_path(), error);
     if (error)
         return fail(location.parent_path().string() + ": " + error.message());
-    auto recording = Recording::create(platform_.audioFiles, location, tap->sampleRate(), startedAt);
-    if (!recording)
-        return fail(recording.error().description());
-
-    auto& file = (*recording)->file();
-    active_.emplace(bundleID, std::move(*recording));
-    block->second->recorder.set(&file);
-    if (!recordingCheck_)
-        recordingCheck_ =
-            platform_.mainLoop.every(recordingCheckInterval, onMainThread(&AudioController::checkRecordings));
+    const auto started = recordings_.start(bundleID, location, tap->sampleRate(), startedAt, block->second);
+    if (!started)
+        return fail(started.error().description());
     state_.recordings.modify([&](auto& recordings) { recordings.emplace(bundleID, startedAt); });
 }
 
 void AudioController::stopRecording(const std::string& bundleID)
 {
-    const auto found = active_.find(bundleID);
-    if (found == active_.end())
+    if (!recordings_.contains(bundleID))
         return;
-    auto recording = std::move(found->second);
-    active_.erase(found);
-    if (active_.empty())
-        recordingCheck_.reset();
-    const auto location = recording->location();
-    closing_.add(bundleID, std::move(recording), takeRecorderFrom(bundleID));
+    const auto location = recordings_.stop(bundleID);
     state_.recordings.modify([&](auto& recordings) { recordings.erase(bundleID); });
     state_.lastRecording.assign(location);
 }
 
-std::shared_ptr<const TapParameters> AudioController::takeRecorderFrom(const std::string& bundleID)
-{
-    const auto block = params_.find(bundleID);
-    if (block == params_.end())
-        return nullptr;
-    block->second->recorder.set(nullptr);
-    return block->second;
-}
-
 void AudioController::stopAllRecordings()
 {
-    std::vector<std::string> ids;
-    for (const auto& [id, recording] : active_)
-        ids.push_back(id);
-    for (const auto& id : ids)
+    for (const auto& id : recordings_.bundleIDs())
         stopRecording(id);
 }
 
-// A recording that takes nothing any more would go on as a file of silence that nobody notices.
-void AudioController::checkRecordings()
+// A recording that takes nothing any more would go on as a file that nobody notices to be too short.
+void AudioController::recordingBroken(const std::string& bundleID, AudioStatus status)
 {
-    std::map<std::string, AudioStatus> broken;
-    for (const auto& [id, recording] : active_) {
-        if (const auto status = recording->health().status; status != kAudioHardwareNoError)
-            broken.emplace(id, status);
-    }
-    for (const auto& [id, status] : broken) {
-        stopRecording(id);
-        state_.errorMessage.assign("Recording of " + nameOf(id) + " stopped: the file could not be written ("
-            + platform_.audioFiles.describe(status) + ").");
-    }
-}
-
-void AudioController::finish(const std::string& bundleID, Recording& recording)
-{
-    recording.finish();
-    const auto health = recording.health();
-    if (health.droppedWrites > 0)
-        engineLog_.error("recording has gaps: " + bundleID + ", " + std::to_string(health.droppedWrites)
-            + " cycle(s) lost");
-    if (health.status != kAudioHardwareNoError)
-        engineLog_.error(
-            "recording failed: " + bundleID + ": " + platform_.audioFiles.describe(health.status));
+    stopRecording(bundleID);
+    state_.errorMessage.assign("Recording of " + nameOf(bundleID)
+        + " stopped: the file could not be written (" + platform_.audioFiles.describe(status) + ").");
 }
 
 std::string AudioController::nameOf(const std::string& bundleID) const

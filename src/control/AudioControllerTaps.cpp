@@ -93,7 +93,6 @@ void AudioController::createTap(
     if (!block)
         block = std::make_shared<TapParameters>();
     pushSettings(id);  // Before any audio flows.
-    block->recorder.forgetWriter();  // A tap that is made anew goes on with the recording of the one before.
     auto tap = AppTap::create(platform_.audio, entry.processIDs, device, scope, block, entry.name);
     if (!tap) {
         tapFailed(entry, device, tap.error());
@@ -127,7 +126,7 @@ void AudioController::tapMade(const AppEntry& entry, const AppTap& tap, double f
     if (!failed_.contains(id) && state_.tapErrors->contains(id))
         state_.tapErrors.modify([&](auto& errors) { errors.erase(id); });
     // A file has one rate from its beginning to its end.
-    if (formerRate != 0 && formerRate != tap.sampleRate() && active_.contains(id)) {
+    if (formerRate != 0 && formerRate != tap.sampleRate() && recordings_.contains(id)) {
         stopRecording(id);
         state_.errorMessage.assign(
             "Recording of " + entry.name + " stopped: the output device changed its sample rate.");

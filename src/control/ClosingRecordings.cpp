@@ -12,7 +12,7 @@ ClosingRecordings::ClosingRecordings(MainLoop& mainLoop, Finish finish)
 }
 
 void ClosingRecordings::add(const std::string& bundleID, std::unique_ptr<Recording> recording,
-    std::shared_ptr<const TapParameters> parameters)
+    std::shared_ptr<TapParameters> parameters)
 {
     closeLater(closing_.insert(closing_.end(),
         {.bundleID = bundleID,
@@ -35,7 +35,7 @@ void ClosingRecordings::closeNow()
 
 bool ClosingRecordings::isReachable(const Closing& closing)
 {
-    return closing.parameters && closing.parameters->recorder.isInUse();
+    return closing.parameters && !closing.parameters->recorder.letGo();
 }
 
 void ClosingRecordings::closeLater(Place place)

@@ -32,7 +32,7 @@ public:
 
     /// `parameters`: through which renderers reached the file, which has been taken away from them; null for none.
     void add(const std::string& bundleID, std::unique_ptr<Recording> recording,
-        std::shared_ptr<const TapParameters> parameters);
+        std::shared_ptr<TapParameters> parameters);
     /// Closes at once, without the delay, what nobody can reach. The rest stays open.
     void closeNow();
 
@@ -40,8 +40,7 @@ private:
     struct Closing {
         std::string bundleID;
         std::unique_ptr<Recording> recording;
-        std::shared_ptr<const TapParameters>
-            parameters;  // Shared with the renderers, which may outlive the app.
+        std::shared_ptr<TapParameters> parameters;  // Shared with the renderers, which may outlive the app.
         Subscription timer;
     };
     using Place = std::list<Closing>::iterator;

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
-// Where a renderer finds the file that it records into, and how the main thread learns that it has let go of it.
+// Where a renderer finds the recording that its cycles go to, and how the main thread learns that it has let go of it.
 //
-// A file that is taken away may still be in use by a cycle that found it before, and nothing says that another cycle
-// follows. So a cycle announces itself before it looks for the file and signs off after the write. Once the file has
-// been taken away and nobody is announced, no cycle can reach it any more: a later one finds none.
+// A recording that is taken away may still be in use by a cycle that found it before, and nothing says that another
+// cycle follows. So a cycle announces itself before it looks for the recording and signs off after the write. Once the
+// recording has been taken away and nobody is announced, no cycle can reach it any more: a later one finds none.
 #pragma once
 
 #include "base/RealTime.h"
-#include "platform/AudioFiles.h"
+#include "engine/RecordingLanes.h"
 
 #include <atomic>
-#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
 
 namespace fadeloom {
 
@@ -20,35 +22,34 @@ public:
     RecorderSlot(const RecorderSlot&) = delete;
     RecorderSlot& operator=(const RecorderSlot&) = delete;
 
-    /// From now on cycles write to this file, or to none. The file is not owned. Thread: main.
-    void set(AudioFile* file) noexcept
+    /// From now on cycles go to this recording, or to none. Thread: main.
+    void set(std::shared_ptr<RecordingLanes> lanes);
+    /// Whether there is a recording. Thread: any.
+    [[nodiscard]] bool isRecording() const noexcept FADELOOM_NONBLOCKING
     {
-        forgetWriter();
-        file_.store(file, std::memory_order_seq_cst);
+        return lanes_.load(std::memory_order_relaxed) != nullptr;
     }
-    /// The next renderer that writes is the only one from then on: an app on two devices has two, and their cycles do
-    /// not belong behind one another. To be called before a renderer takes over from another. Thread: main.
-    void forgetWriter() noexcept { writer_.store(nullptr, std::memory_order_relaxed); }
-    [[nodiscard]] AudioFile* file() const noexcept { return file_.load(std::memory_order_relaxed); }
-    /// Whether a cycle may be writing now; if not, a file that was taken away before the question may be closed.
-    /// Thread: main.
-    [[nodiscard]] bool isInUse() const noexcept { return writers_.load(std::memory_order_seq_cst) != 0; }
+    /// Lets go of every recording that was taken away; false, and nothing is let go of, while a cycle may be writing.
+    /// Once it is true no cycle reaches them any more. Thread: main.
+    [[nodiscard]] bool letGo();
 
-    /// Whether there is a file to write to, as a hint that may be out of date. Thread: IO.
-    [[nodiscard]] bool hasFile() const noexcept FADELOOM_NONBLOCKING
-    {
-        return file_.load(std::memory_order_relaxed) != nullptr;
-    }
-    /// Writes to the file if there is still one and no other renderer writes to it. `writer`: which renderer. Thread: IO.
-    void write(
-        const void* writer, std::uint32_t frameCount, const float* samples) noexcept FADELOOM_NONBLOCKING;
+    /// Hands a cycle over, if there is still a recording: see `RecordingLanes`. Thread: IO.
+    void write(const void* writer, double sampleRate, const CycleTime& time,
+        std::span<const float> samples) noexcept FADELOOM_NONBLOCKING;
+    /// The renderer is at its end. Thread: any, after its last `write`.
+    void release(const void* writer) noexcept;
 
 private:
-    // Sequentially consistent: either the cycle finds the file gone, or whoever took it away finds the cycle announced.
-    std::atomic<AudioFile*> file_ = nullptr;
-    std::atomic<int> writers_ = 0;
-    std::atomic<const void*> writer_ = nullptr;  // Relaxed: a name to compare, with nothing behind it.
-    static_assert(std::atomic<AudioFile*>::is_always_lock_free && std::atomic<int>::is_always_lock_free);
+    template <typename Use>
+    void use(const Use& use) noexcept FADELOOM_NONBLOCKING;
+
+    // Sequentially consistent: either the cycle finds the recording gone, or whoever took it away finds the cycle
+    // announced.
+    std::atomic<RecordingLanes*> lanes_ = nullptr;
+    std::atomic<int> users_ = 0;
+    static_assert(std::atomic<RecordingLanes*>::is_always_lock_free && std::atomic<int>::is_always_lock_free);
+
+    std::vector<std::shared_ptr<RecordingLanes>> kept_;  // The present one, and those that were taken away.
 };
 
 }  // namespace fadeloom

@@ -3,11 +3,28 @@
 
 #include "platform/WaveFormats.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace fadeloom {
-std::expected<std::unique_ptr<Recording>, TapError> Recording::create(
-    AudioFiles& files, std::filesystem::path location, double sampleRate, Moment startedAt)
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// A cycle begins up to 190 ms before its samples are there: 8192 frames at 44.1 kHz.
+constexpr HostTime longestCycle = 300ms;
+
+// A disk that stalls for longer loses what comes then.
+constexpr std::size_t longestBacklog = 60;  // Seconds.
+
+// Small against what a file takes at once, so that a backlog gets in piece by piece.
+constexpr std::size_t piece = 8192 * RecordingLanes::channels;
+
+}  // namespace
+
+std::expected<std::unique_ptr<Recording>, TapError> Recording::create(AudioFiles& files, CycleClocks& clocks,
+    std::filesystem::path location, double sampleRate, const Start& start)
 {
     const auto file = files.create(location, waveFileFormat(sampleRate));
     if (!file)
@@ -17,32 +34,80 @@ std::expected<std::unique_ptr<Recording>, TapError> Recording::create(
         files.dispose(**file);
         return std::unexpected(TapError{"Set recording format", status});
     }
-    (*file)->write(0, nullptr);  // So that the first write of the IO thread has nothing left to prepare.
-    return std::unique_ptr<Recording>(new Recording(files, **file, std::move(location), startedAt));
+    (*file)->write(0, nullptr);  // Prepares what the first write needs.
+    return std::unique_ptr<Recording>(
+        new Recording(files, **file, clocks, std::move(location), sampleRate, start));
 }
 
-Recording::Recording(AudioFiles& files, AudioFile& file, std::filesystem::path location, Moment startedAt)
+Recording::Recording(AudioFiles& files, AudioFile& file, CycleClocks& clocks, std::filesystem::path location,
+    double sampleRate, const Start& start)
     : files_(files)
     , file_(file)
     , location_(std::move(location))
-    , startedAt_(startedAt)
+    , sampleRate_(sampleRate)
+    , start_(start)
+    , lanes_(std::make_shared<RecordingLanes>(sampleRate))
+    , timeline_(clocks, sampleRate, start.host)
+    , end_(start.host)
 {
 }
 
-AudioFileHealth Recording::health() const
+void Recording::writeUntil(HostTime now)
 {
-    return isFinished_ ? lastHealth_ : file_.health();
+    collect();
+    write(timeline_.takeUntil(now - longestCycle));
 }
 
 void Recording::finish()
 {
     if (isFinished_)
         return;
-    lastHealth_ = file_.health();
+    collect();
+    write(timeline_.takeRest(end_));
+    unwrittenFrames_ += backlog_.size() / RecordingLanes::channels;
+    backlog_.clear();
+    lastStatus_ = file_.status();
     isFinished_ = true;
     const auto status = files_.dispose(file_);
-    if (lastHealth_.status == kAudioHardwareNoError)
-        lastHealth_.status = status;
+    if (lastStatus_ == kAudioHardwareNoError)
+        lastStatus_ = status;
+}
+
+AudioStatus Recording::status() const
+{
+    return isFinished_ ? lastStatus_ : file_.status();
+}
+
+std::chrono::milliseconds Recording::lostTime() const
+{
+    const auto frames = static_cast<double>(lanes_->lostFrames() + unwrittenFrames_);
+    return std::chrono::ceil<std::chrono::milliseconds>(std::chrono::duration<double>(frames / sampleRate_));
+}
+
+void Recording::collect()
+{
+    lanes_->drain(
+        [this](const CycleTime& time, std::span<const float> samples) { timeline_.add(time, samples); });
+}
+
+void Recording::write(const std::vector<float>& samples)
+{
+    backlog_.insert(backlog_.end(), samples.begin(), samples.end());
+    std::size_t written = 0;
+    while (written < backlog_.size()) {
+        const auto size = std::min(piece, backlog_.size() - written);
+        const auto status = file_.write(
+            static_cast<std::uint32_t>(size / RecordingLanes::channels), backlog_.data() + written);
+        if (status == kExtAudioFileError_AsyncWriteBufferOverflow)
+            break;
+        written += size;  // After a failure, too: the file takes nothing any more.
+    }
+    backlog_.erase(backlog_.begin(), backlog_.begin() + static_cast<std::ptrdiff_t>(written));
+    const auto most = longestBacklog * RecordingLanes::channels * static_cast<std::size_t>(sampleRate_);
+    if (backlog_.size() > most) {
+        unwrittenFrames_ += (backlog_.size() - most) / RecordingLanes::channels;
+        backlog_.resize(most);
+    }
 }
 
 }  // namespace fadeloom

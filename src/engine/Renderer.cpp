@@ -68,13 +68,19 @@ Renderer::Renderer(
     state_.limiter = {.reduction = 1, .release = onePoleCoefficient(layout.sampleRate, limiterRelease)};
 }
 
-void Renderer::render(AudioBuffers input, AudioBuffers output) noexcept FADELOOM_NONBLOCKING
+Renderer::~Renderer()
+{
+    parameters_->recorder.release(this);
+}
+
+void Renderer::render(
+    const CycleTime& time, AudioBuffers input, AudioBuffers output) noexcept FADELOOM_NONBLOCKING
 {
     [[maybe_unused]] RealTimeSection section;
     takeSnapshot();
     const std::size_t frames = readTap(input, cycleLength(output));
     noticeFirstAudio(frames);
-    record(frames);
+    record(time, frames);
     handBackPeak(process(frames));
     writeOutput(output, frames);
 }
@@ -146,15 +152,15 @@ void Renderer::noticeFirstAudio(std::size_t frames) noexcept FADELOOM_NONBLOCKIN
 }
 
 // What the app played, before anything is done to it.
-void Renderer::record(std::size_t frames) noexcept FADELOOM_NONBLOCKING
+void Renderer::record(const CycleTime& time, std::size_t frames) noexcept FADELOOM_NONBLOCKING
 {
-    if (frames == 0 || !parameters_->recorder.hasFile())
+    if (frames == 0 || !parameters_->recorder.isRecording())
         return;
     for (std::size_t frame = 0; frame < frames; ++frame) {
         interleaved_[2 * frame] = left_[frame];
         interleaved_[2 * frame + 1] = right_[frame];
     }
-    parameters_->recorder.write(this, static_cast<std::uint32_t>(frames), interleaved_.data());
+    parameters_->recorder.write(this, layout_.sampleRate, time, std::span(interleaved_).first(2 * frames));
 }
 
 float Renderer::process(std::size_t frames) noexcept FADELOOM_NONBLOCKING

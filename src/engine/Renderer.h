@@ -29,10 +29,12 @@ public:
     /// `kernels`: those of the fast render path; null for the plain one.
     Renderer(std::shared_ptr<TapParameters> parameters, const TapFormat& layout,
         const RenderKernels* kernels = chosenKernels());
+    ~Renderer() override;
     Renderer(const Renderer&) = delete;
     Renderer& operator=(const Renderer&) = delete;
 
-    void render(AudioBuffers input, AudioBuffers output) noexcept FADELOOM_NONBLOCKING override;
+    void render(const CycleTime& time, AudioBuffers input,
+        AudioBuffers output) noexcept FADELOOM_NONBLOCKING override;
 
 private:
     using Scratch = std::array<float, maximumFrames>;
@@ -47,7 +49,7 @@ private:
     [[nodiscard]] std::size_t readPlanar(
         const AudioBuffer& left, const AudioBuffer& right, std::size_t atMost) noexcept FADELOOM_NONBLOCKING;
     void noticeFirstAudio(std::size_t frames) noexcept FADELOOM_NONBLOCKING;
-    void record(std::size_t frames) noexcept FADELOOM_NONBLOCKING;
+    void record(const CycleTime& time, std::size_t frames) noexcept FADELOOM_NONBLOCKING;
     /// Equalizer, gain and limiter, on the scratch buffers; returns the highest magnitude.
     [[nodiscard]] float process(std::size_t frames) noexcept FADELOOM_NONBLOCKING;
     void handBackPeak(float blockPeak) noexcept FADELOOM_NONBLOCKING;

@@ -5,7 +5,6 @@
 // handed over, and a writer of its own behind each file, so that handing over never waits for a disk.
 #pragma once
 
-#include "base/RealTime.h"
 #include "platform/AudioStream.h"
 
 #include <cstdint>
@@ -21,16 +20,8 @@ inline constexpr AudioStatus kAudioFileUnsupportedDataFormatError = statusCode("
 inline constexpr AudioStatus kExtAudioFileError_InvalidDataFormat = -66566;
 /// The client format has not been set.
 inline constexpr AudioStatus kExtAudioFileError_InvalidOperationOrder = -66565;
-/// The samples were dropped: what waits to be written leaves no room for them.
+/// The samples were not taken: what waits to be written leaves no room for them yet.
 inline constexpr AudioStatus kExtAudioFileError_AsyncWriteBufferOverflow = -66570;
-
-/// How the writing went so far.
-struct AudioFileHealth {
-    AudioStatus status = kAudioHardwareNoError;  // The first failure; the file takes nothing after it.
-    std::uint64_t droppedWrites = 0;  // Writes that were lost whole, for the writer was too far behind.
-
-    friend bool operator==(const AudioFileHealth&, const AudioFileHealth&) = default;
-};
 
 /// An open file. Made and closed by `AudioFiles`.
 class AudioFile {
@@ -40,12 +31,11 @@ public:
 
     /// Hands over `frameCount` frames of interleaved samples in the client format, which are copied before this
     /// returns and written later. Zero frames, with no samples, prime the writer: what a first write needs is
-    /// prepared. Thread: the IO thread, or main before that has the file; one at a time.
-    virtual AudioStatus write(
-        std::uint32_t frameCount, const float* samples) noexcept FADELOOM_NONBLOCKING = 0;
+    /// prepared. Never waits for a disk. Thread: main.
+    virtual AudioStatus write(std::uint32_t frameCount, const float* samples) noexcept = 0;
 
-    /// Thread: main.
-    [[nodiscard]] virtual AudioFileHealth health() const = 0;
+    /// The first failure so far, after which the file takes nothing. Thread: main.
+    [[nodiscard]] virtual AudioStatus status() const = 0;
 
 protected:
     ~AudioFile() = default;

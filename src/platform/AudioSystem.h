@@ -7,6 +7,7 @@
 
 #include "base/Subscription.h"
 #include "platform/AudioProcess.h"
+#include "platform/CycleTime.h"
 #include "platform/OutputDevice.h"
 #include "platform/ProcessTap.h"
 #include "platform/TapError.h"
@@ -50,6 +51,9 @@ public:
     /// The applications whose sound is not to be heard before their tap has it, by bundle identifier, instead of those
     /// named before. Where it can, the system has their new streams wait for the tap, for a second at most.
     virtual void holdStreamsOf(const std::set<std::string>& /*bundleIDs*/) { }
+
+    /// The present moment on the clock of the cycles.
+    [[nodiscard]] virtual HostTime hostTime() const = 0;
 
     /// Starts to capture; after an error nothing of it is left, and the processes are heard as before. Ends before this
     /// system does.

@@ -9,6 +9,7 @@
 #include "base/RealTime.h"
 #include "platform/AudioBuffers.h"
 #include "platform/AudioProcess.h"
+#include "platform/CycleTime.h"
 #include "platform/OutputDevice.h"
 
 #include <cstddef>
@@ -26,7 +27,8 @@ public:
 
     /// Reads `input` and fills `output`; both live for this call only. Thread: the device's IO thread.
     /// Real time: no allocation or release, no waiting, no system call.
-    virtual void render(AudioBuffers input, AudioBuffers output) noexcept FADELOOM_NONBLOCKING = 0;
+    virtual void render(
+        const CycleTime& time, AudioBuffers input, AudioBuffers output) noexcept FADELOOM_NONBLOCKING = 0;
 };
 
 /// How the buffers of a tap's cycles are laid out.

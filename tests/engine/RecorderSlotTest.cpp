@@ -3,104 +3,94 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <atomic>
-#include <functional>
 #include <memory>
 #include <thread>
 
 namespace fadeloom {
 namespace {
 
-class CountingFile final : public AudioFile {
-public:
-    AudioStatus setClientFormat(const AudioStreamBasicDescription& /*format*/) override { return 0; }
-    AudioStatus write(std::uint32_t frameCount, const float* /*samples*/) noexcept override
-    {
-        frames += frameCount;
-        meanwhile();
-        return 0;
-    }
-    AudioFileHealth health() const override { return {}; }
+constexpr double slotRate = 8000;
+constexpr std::array<float, 2> oneFrame{0.5F, -0.5F};
 
-    std::uint64_t frames = 0;
-    std::function<void()> meanwhile = [] { };
-};
-
-TEST(RecorderSlot, writesToTheFileThatIsInIt)
+std::size_t framesIn(RecordingLanes& lanes)
 {
-    CountingFile file;
-    RecorderSlot slot;
+    std::size_t frames = 0;
+    lanes.drain([&](const CycleTime&, std::span<const float> samples) { frames += samples.size() / 2; });
+    return frames;
+}
 
-    slot.write(&slot, 1, nullptr);
-    slot.set(&file);
-    slot.write(&slot, 2, nullptr);
+TEST(RecorderSlot, writesToTheRecordingThatIsInIt)
+{
+    const auto lanes = std::make_shared<RecordingLanes>(slotRate);
+    RecorderSlot slot;
+    EXPECT_FALSE(slot.isRecording());
+
+    slot.write(&slot, slotRate, {}, oneFrame);
+    slot.set(lanes);
+    EXPECT_TRUE(slot.isRecording());
+    slot.write(&slot, slotRate, {}, oneFrame);
     slot.set(nullptr);
-    slot.write(&slot, 4, nullptr);
+    slot.write(&slot, slotRate, {}, oneFrame);
 
-    EXPECT_EQ(file.frames, 2U);
+    EXPECT_EQ(framesIn(*lanes), 1U);
 }
 
-TEST(RecorderSlot, isInUseWhileACycleWrites)
+TEST(RecorderSlot, keepsARecordingUntilItIsTakenAwayAndLetGoOf)
 {
-    CountingFile file;
+    auto lanes = std::make_shared<RecordingLanes>(slotRate);
+    const std::weak_ptr<RecordingLanes> weakly = lanes;
     RecorderSlot slot;
-    slot.set(&file);
-    bool wasInUse = false;
-    file.meanwhile = [&] {
-        slot.set(nullptr);
-        wasInUse = slot.isInUse();
-    };
+    slot.set(std::move(lanes));
 
-    slot.write(&slot, 1, nullptr);
+    EXPECT_TRUE(slot.letGo());
+    EXPECT_FALSE(weakly.expired()) << "it still goes on";
+    slot.set(nullptr);
+    EXPECT_FALSE(weakly.expired());
+    EXPECT_TRUE(slot.letGo());
 
-    EXPECT_TRUE(wasInUse);
-    EXPECT_FALSE(slot.isInUse());
+    EXPECT_TRUE(weakly.expired());
 }
 
-TEST(RecorderSlot, takesTheCyclesOfOneRendererAlone)
+TEST(RecorderSlot, aRendererAtItsEndMakesRoomForAnother)
 {
-    CountingFile file;
+    const auto lanes = std::make_shared<RecordingLanes>(slotRate);
     RecorderSlot slot;
-    const int speakers = 0;
-    const int headphones = 0;
-    slot.set(&file);
+    slot.set(lanes);
+    const std::array<char, 10> renderers{};
 
-    for (int cycle = 0; cycle < 10; ++cycle) {
-        slot.write(&speakers, 480, nullptr);
-        slot.write(&headphones, 480, nullptr);
+    for (const auto& renderer : renderers) {
+        slot.write(&renderer, slotRate, {}, oneFrame);
+        slot.release(&renderer);
     }
-    EXPECT_EQ(file.frames, 4800U);
 
-    slot.forgetWriter();
-    slot.write(&headphones, 480, nullptr);
-    slot.write(&speakers, 480, nullptr);
-    EXPECT_EQ(file.frames, 5280U) << "whoever comes first after that";
+    EXPECT_EQ(framesIn(*lanes), renderers.size());
+    EXPECT_EQ(lanes->lostFrames(), 0U);
 }
 
-// An IO thread writes all the time; every file is destroyed as soon as the slot says that it can be. The address and
+// An IO thread writes all the time; every recording is destroyed as soon as the slot has let go of it. The address and
 // thread sanitizers see a write that comes later.
-TEST(RecorderSlot, aFileThatIsNotInUseIsNeverReachedAgain)
+TEST(RecorderSlot, whatWasLetGoOfIsNeverReachedAgain)
 {
     RecorderSlot slot;
     std::atomic<bool> isOver = false;
     const auto cycles = [&] {
         while (!isOver.load())
-            slot.write(&slot, 1, nullptr);
+            slot.write(&slot, 100, {}, oneFrame);
     };
-    {
-        const std::jthread thread(cycles);
-        for (int i = 0; i < 2000; ++i) {
-            auto file = std::make_unique<CountingFile>();
-            slot.set(file.get());
+    const std::jthread thread(cycles);
+    for (int i = 0; i < 300; ++i) {
+        auto lanes = std::make_shared<RecordingLanes>(100);
+        const std::weak_ptr<RecordingLanes> weakly = lanes;
+        slot.set(std::move(lanes));
+        std::this_thread::yield();
+        slot.set(nullptr);
+        while (!slot.letGo())
             std::this_thread::yield();
-            slot.set(nullptr);
-            while (slot.isInUse())
-                std::this_thread::yield();
-            file->meanwhile = [] { ADD_FAILURE() << "reached after it was let go"; };
-            file.reset();
-        }
-        isOver = true;
+        EXPECT_TRUE(weakly.expired());
     }
+    isOver = true;
 }
 
 }  // namespace

@@ -6,12 +6,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <array>
 #include <chrono>
+#include <vector>
 
 namespace fadeloom {
 namespace {
 
+using namespace std::chrono_literals;
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -19,14 +21,23 @@ class RecordingTest : public testing::Test {
 protected:
     std::unique_ptr<Recording> record(double sampleRate = 44100)
     {
-        auto recording = Recording::create(files, location, sampleRate, start);
+        auto recording = Recording::create(files, clocks, location, sampleRate, start);
         EXPECT_TRUE(recording);
         return std::move(*recording);
     }
 
-    static constexpr Recording::Moment start{std::chrono::seconds{5}};
+    /// A cycle of 10 ms at 48 kHz whose samples all have this value.
+    static void play(Recording& recording, HostTime host, float value)
+    {
+        const std::vector<float> samples(2 * 480, value);
+        recording.lanes()->push(
+            &recording, 48000, {.clock = 1, .frame = host / 1ms * 48, .host = host}, samples);
+    }
+
+    static constexpr Recording::Start start{.date = Recording::Moment{5s}, .host = 100s};
     const std::filesystem::path location = "/music/Player.wav";
     SimulatedAudioFiles files;
+    CycleClocks clocks;
 };
 
 TEST_F(RecordingTest, isWrittenIn24BitStereoAtItsRate)
@@ -34,7 +45,7 @@ TEST_F(RecordingTest, isWrittenIn24BitStereoAtItsRate)
     const auto recording = record(44100);
 
     EXPECT_EQ(recording->location(), location);
-    EXPECT_EQ(recording->startedAt(), start);
+    EXPECT_EQ(recording->startedAt(), start.date);
     EXPECT_FALSE(recording->isFinished());
     const auto& format = files.at(location)->format;
     EXPECT_EQ(format.sampleRate, 44100);
@@ -47,7 +58,7 @@ TEST_F(RecordingTest, isWrittenIn24BitStereoAtItsRate)
     EXPECT_EQ(format.framesPerPacket, 1);
 }
 
-TEST_F(RecordingTest, isPrimedBeforeAnyRendererHasIt)
+TEST_F(RecordingTest, isPrimed)
 {
     const auto recording = record();
 
@@ -65,7 +76,7 @@ TEST_F(RecordingTest, takesFloatsInTheFormOfTheTap)
             return kAudioHardwareNoError;
         }
         AudioStatus write(std::uint32_t, const float*) noexcept override { return kAudioHardwareNoError; }
-        AudioFileHealth health() const override { return {}; }
+        AudioStatus status() const override { return kAudioHardwareNoError; }
         AudioStreamBasicDescription format;
     };
     class Files final : public AudioFiles {
@@ -81,7 +92,7 @@ TEST_F(RecordingTest, takesFloatsInTheFormOfTheTap)
         File file;
     } own;
 
-    ASSERT_TRUE(Recording::create(own, location, 96000, start));
+    ASSERT_TRUE(Recording::create(own, clocks, location, 96000, start));
 
     EXPECT_EQ(own.file.format.sampleRate, 96000);
     EXPECT_EQ(own.file.format.formatID, kAudioFormatLinearPCM);
@@ -96,7 +107,7 @@ TEST_F(RecordingTest, aFileThatCannotBeCreatedIsReported)
 {
     files.refuseToCreate(-43);
 
-    const auto recording = Recording::create(files, location, 48000, start);
+    const auto recording = Recording::create(files, clocks, location, 48000, start);
 
     ASSERT_FALSE(recording);
     EXPECT_EQ(recording.error().description(), "Create recording file failed (OSStatus -43)");
@@ -107,7 +118,7 @@ TEST_F(RecordingTest, aRefusedFormatLeavesNoOpenFile)
 {
     files.refuseClientFormat(-50);
 
-    const auto recording = Recording::create(files, location, 48000, start);
+    const auto recording = Recording::create(files, clocks, location, 48000, start);
 
     ASSERT_FALSE(recording);
     EXPECT_EQ(recording.error(), (TapError{"Set recording format", -50}));
@@ -117,15 +128,71 @@ TEST_F(RecordingTest, aRefusedFormatLeavesNoOpenFile)
 
 TEST_F(RecordingTest, replacesAFileOfTheSameName)
 {
-    constexpr std::array<float, 2> frame{0.5F, 0.5F};
-    const auto old = record();
-    old->file().write(1, frame.data());
+    const auto old = record(48000);
+    play(*old, 100s, 0.5F);
     old->finish();
+    ASSERT_EQ(files.at(location)->frameCount(), 480U);
 
-    const auto recording = record();
+    const auto recording = record(48000);
     recording->finish();
 
     EXPECT_THAT(files.at(location)->samples, IsEmpty());
+}
+
+TEST_F(RecordingTest, writesWhileItGoesOnAllButTheLastMoments)
+{
+    const auto recording = record(48000);
+    for (int i = 0; i < 100; ++i)
+        play(*recording, 100s + i * 10ms, 0.5F);
+
+    recording->writeUntil(101s);
+    EXPECT_EQ(files.at(location)->frameCount(), 48U * 700);
+    recording->stop(101s);
+    recording->finish();
+
+    EXPECT_EQ(files.at(location)->frameCount(), 48'000U);
+    EXPECT_THAT(files.at(location)->samples, Each(0.5F));
+}
+
+TEST_F(RecordingTest, isSilentWhileNothingPlays)
+{
+    const auto recording = record(48000);
+    recording->writeUntil(103s);
+
+    EXPECT_EQ(files.at(location)->frameCount(), 48U * 2700);
+    EXPECT_THAT(files.at(location)->samples, Each(0));
+}
+
+TEST_F(RecordingTest, waitsForADiskThatStalls)
+{
+    const auto recording = record(48000);
+    play(*recording, 100s, 0.5F);
+    files.setStalled(true);
+    for (int second = 1; second <= 50; ++second)
+        recording->writeUntil(100s + second * 1s);
+    EXPECT_THAT(files.at(location)->samples, IsEmpty());
+
+    files.setStalled(false);
+    recording->stop(150s);
+    recording->finish();
+
+    EXPECT_EQ(files.at(location)->frameCount(), 48'000U * 50);
+    EXPECT_EQ(files.at(location)->samples.front(), 0.5F);
+    EXPECT_EQ(recording->lostTime(), 0s);
+}
+
+TEST_F(RecordingTest, knowsWhatItLostToADiskThatStallsForTooLong)
+{
+    const auto recording = record(48000);
+    files.setStalled(true);
+    for (int second = 1; second <= 70; ++second)
+        recording->writeUntil(100s + second * 1s + 300ms);
+    EXPECT_EQ(recording->lostTime(), 10s);
+
+    recording->stop(171s);
+    recording->finish();
+
+    EXPECT_EQ(recording->lostTime(), 71s) << "all of it, since the disk stalls to the end";
 }
 
 TEST_F(RecordingTest, closesItsFileOnce)
@@ -150,15 +217,13 @@ TEST_F(RecordingTest, itsEndClosesNothing)
 
 TEST_F(RecordingTest, knowsHowTheWritingWentAlsoAfterwards)
 {
-    constexpr std::array<float, 2> frame{0.5F, 0.5F};
     const auto recording = record();
-    files.setStalled(true);
-    recording->file().write(1, frame.data());
+    EXPECT_EQ(recording->status(), kAudioHardwareNoError);
     files.failWriting(28);
 
-    EXPECT_EQ(recording->health(), (AudioFileHealth{.status = 28, .droppedWrites = 1}));
+    EXPECT_EQ(recording->status(), 28);
     recording->finish();
-    EXPECT_EQ(recording->health(), (AudioFileHealth{.status = 28, .droppedWrites = 1}));
+    EXPECT_EQ(recording->status(), 28);
 }
 
 }  // namespace

@@ -24,7 +24,10 @@ constexpr float stale = 9;  // What an output buffer holds before it is written.
 
 class RendererLayoutTest : public testing::Test {
 protected:
-    void render(const TapFormat& layout) { Renderer(parameters, layout).render(input.view(), output.view()); }
+    void render(const TapFormat& layout)
+    {
+        Renderer(parameters, layout).render({}, input.view(), output.view());
+    }
 
     std::shared_ptr<TapParameters> parameters = std::make_shared<TapParameters>();
     CycleBuffers input;

@@ -48,8 +48,8 @@ TEST(RendererRealTime, renderingNeitherAllocatesNorWaitsNorCallsTheSystem)
     output.add(4, 8192);
     const int before = realTimeViolations();
 
-    renderer.render(input.view(), output.view());
-    renderer.render({}, output.view());
+    renderer.render({}, input.view(), output.view());
+    renderer.render({}, {}, output.view());
 
     EXPECT_EQ(realTimeViolations() - before, 0);
 }
@@ -70,7 +70,7 @@ TEST(RendererRealTime, seesWholeSetsOfSettingsWhileTheyAreWritten)
         input.add(2, 16, 0.25F);
         output.add(2, 16);
         while (!isOver) {
-            renderer.render(input.view(), output.view());
+            renderer.render({}, input.view(), output.view());
             for (const float sample : output.samples(0))
                 oddSamples += sample == 0.25F ? 0 : 1;
             ++cycles;

@@ -2,8 +2,7 @@
 // What a renderer writes to a recording: the sound as it was captured, every frame of it.
 #include "engine/Renderer.h"
 
-#include "engine/Recording.h"
-#include "platform/simulated/SimulatedAudioFiles.h"
+#include "engine/RecordingLanes.h"
 #include "tests/engine/CycleBuffers.h"
 
 #include <gmock/gmock.h>
@@ -21,25 +20,34 @@ using testing::IsEmpty;
 
 class RendererRecordingTest : public testing::Test {
 protected:
-    void startRecording() { parameters->recorder.set(&recording->file()); }
-    const std::vector<float>& recorded() { return files.at(location)->samples; }
+    void startRecording() { parameters->recorder.set(lanes); }
+    /// Everything since the beginning.
+    const std::vector<float>& recorded()
+    {
+        lanes->drain([this](const CycleTime& cycle, std::span<const float> samples) {
+            times.push_back(cycle);
+            taken.insert(taken.end(), samples.begin(), samples.end());
+        });
+        return taken;
+    }
     void render(Renderer& renderer, CycleBuffers& input, std::size_t outputFrames = 3)
     {
         CycleBuffers output;
         output.add(2, outputFrames);
-        renderer.render(input.view(), output.view());
+        renderer.render(time, input.view(), output.view());
     }
 
-    const std::filesystem::path location = "/music/Player.wav";
-    SimulatedAudioFiles files;
-    std::unique_ptr<Recording> recording = *Recording::create(files, location, 48000, {});
+    const std::shared_ptr<RecordingLanes> lanes = std::make_shared<RecordingLanes>(48000);
+    const CycleTime time{.clock = 7, .frame = 512, .host = HostTime(99)};
+    std::vector<CycleTime> times;
+    std::vector<float> taken;
     std::shared_ptr<TapParameters> parameters = std::make_shared<TapParameters>();
     CycleBuffers stereo = std::move(CycleBuffers().add(2, {0.1F, 0.2F, 0.3F, 0.4F, 2.5F, -0.6F}));
 };
 
 TEST_F(RendererRecordingTest, aNewBlockHasNoRecorder)
 {
-    EXPECT_EQ(parameters->recorder.file(), nullptr);
+    EXPECT_FALSE(parameters->recorder.isRecording());
 
     Renderer renderer(parameters, {});
     render(renderer, stereo);
@@ -106,6 +114,30 @@ TEST_F(RendererRecordingTest, goesOnFromCycleToCycle)
         render(renderer, stereo);
 
     EXPECT_EQ(recorded().size(), 4 * 6);
+    EXPECT_THAT(times, ElementsAre(time, time, time, time));
+}
+
+TEST_F(RendererRecordingTest, atAnotherRateThanTheRecordingsWritesNothing)
+{
+    startRecording();
+    Renderer renderer(parameters, {.sampleRate = 44100});
+
+    render(renderer, stereo);
+
+    EXPECT_THAT(recorded(), IsEmpty());
+}
+
+TEST_F(RendererRecordingTest, givesItsPlaceBackAtItsEnd)
+{
+    startRecording();
+
+    for (int i = 0; i < 10; ++i) {
+        Renderer renderer(parameters, {});
+        render(renderer, stereo);
+    }
+
+    EXPECT_EQ(recorded().size(), 10U * 6);
+    EXPECT_EQ(lanes->lostFrames(), 0U);
 }
 
 TEST_F(RendererRecordingTest, aCycleWithoutFramesWritesNothing)
@@ -118,8 +150,7 @@ TEST_F(RendererRecordingTest, aCycleWithoutFramesWritesNothing)
     render(renderer, stereo, 0);
 
     EXPECT_THAT(recorded(), IsEmpty());
-    // A write without samples would prime the file once more.
-    EXPECT_THAT(files.journal(), ElementsAre("create Player.wav", "format Player.wav", "prime Player.wav"));
+    EXPECT_THAT(times, IsEmpty());
 }
 
 TEST_F(RendererRecordingTest, theLongestCycleIsWrittenWhole)
@@ -147,15 +178,14 @@ TEST_F(RendererRecordingTest, aBusyLockKeepsNoSoundFromIt)
     EXPECT_EQ(recorded().size(), 6U);
 }
 
-TEST_F(RendererRecordingTest, aFileThatWasTakenAwayIsNotReachedHoweverLateTheNextCycleComes)
+TEST_F(RendererRecordingTest, aRecordingThatWasTakenAwayIsNotReachedHoweverLateTheNextCycleComes)
 {
     startRecording();
     Renderer renderer(parameters, {});
     render(renderer, stereo);
 
     parameters->recorder.set(nullptr);
-    ASSERT_FALSE(parameters->recorder.isInUse());
-    recording->finish();  // No cycle has run since.
+    ASSERT_TRUE(parameters->recorder.letGo());  // No cycle has run since.
     parameters->lock.lock();
     render(renderer, stereo);
     parameters->lock.unlock();

@@ -36,7 +36,7 @@ protected:
         CycleBuffers output;
         input.add(2, frames, value);
         output.add(2, frames);
-        renderer.render(input.view(), output.view());
+        renderer.render({}, input.view(), output.view());
         return output.channel(0, 0);
     }
 
@@ -51,7 +51,7 @@ TEST_F(RendererTest, atFullVolumeSoundPassesUntouched)
     input.add(2, {1, -1, 0.3F, 0.7F, -0.123456F, 1});
     output.add(2, 3);
 
-    renderer.render(input.view(), output.view());
+    renderer.render({}, input.view(), output.view());
 
     EXPECT_EQ(output.samples(0), input.samples(0));
     EXPECT_EQ(parameters->takePeak(), 1.0F);
@@ -78,7 +78,7 @@ TEST_F(RendererTest, boostedPeaksStopAtTheCeiling)
     CycleBuffers output;
     input.add(2, samples);
     output.add(2, samples.size() / 2);
-    renderer.render(input.view(), output.view());
+    renderer.render({}, input.view(), output.view());
     for (const float sample : output.samples(0))
         highest = std::max(highest, std::abs(sample));
 
@@ -212,7 +212,7 @@ TEST_F(RendererTest, soundIsNoticedOnEitherSideAndWhileMuted)
     input.add(2, {0, 0, 0, 0, 0, 0.5F});
     output.add(2, 3);
 
-    renderer.render(input.view(), output.view());
+    renderer.render({}, input.view(), output.view());
 
     EXPECT_TRUE(parameters->audioSeen);
 }

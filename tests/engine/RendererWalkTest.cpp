@@ -88,7 +88,7 @@ public:
                 channels == 0 ? buffers->addNull(2, room) : buffers->add(channels, room, 7.0F);
         }
 
-        renderer_->render(input.view(), output.view());
+        renderer_->render({}, input.view(), output.view());
         reference_->cycle(seen_, seenSections_, input, expected);
 
         const bool isPeakEqual = bits(parameters_->takePeak()) == bits(reference_->blockPeak);

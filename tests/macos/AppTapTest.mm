@@ -111,6 +111,26 @@ TEST_F(MacOSAppTap, playsTheAppAtTheRateOfTheAggregate)
     EXPECT_NEAR(parameters->takePeak(), 0.5F, 0.01F);
 }
 
+TEST_F(MacOSAppTap, recordsEachCycleAtItsTime)
+{
+    const auto tap = create();
+    ASSERT_TRUE(tap);
+    const auto lanes = std::make_shared<RecordingLanes>(48000);
+    parameters->recorder.set(lanes);
+    world.runCycle();
+    world.pause(std::chrono::seconds(2));
+    world.runCycle();
+
+    std::vector<CycleTime> times;
+    lanes->drain([&](const CycleTime& time, std::span<const float>) { times.push_back(time); });
+
+    ASSERT_EQ(times.size(), 2U);
+    EXPECT_EQ(times[0].clock, world.aggregates.begin()->first);
+    EXPECT_EQ(times[1].frame - times[0].frame, 512);
+    const std::chrono::duration<double> passed = times[1].host - times[0].host;
+    EXPECT_NEAR(passed.count(), 2 + 512 / 48000.0, 1e-6);
+}
+
 TEST_F(MacOSAppTap, readsATapWithABufferForEachChannel)
 {
     world.tapFormat.mFormatFlags |= kAudioFormatFlagIsNonInterleaved;

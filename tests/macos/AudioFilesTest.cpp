@@ -40,7 +40,7 @@ std::unique_ptr<ContractFilesWorld> makeMacOSFilesWorld()
 
 class MacOSRecording : public ::testing::Test {
 protected:
-    auto record(double rate = 44100) { return Recording::create(files, file, rate, {}); }
+    auto record(double rate = 44100) { return Recording::create(files, clocks, file, rate, {}); }
 
     static constexpr auto created = "ExtAudioFileCreateWithURL type 1463899717 flags 1";  // 'WAVE', erase.
     static constexpr auto formatted = "ExtAudioFileSetProperty 40";
@@ -50,6 +50,7 @@ protected:
     TemporaryFolder folder;
     std::filesystem::path file = folder.path() / "recording.wav";
     ExtendedAudioFiles files;
+    CycleClocks clocks;
 };
 
 }  // namespace
@@ -61,7 +62,7 @@ TEST_F(MacOSRecording, isCreatedFormattedAndPrimedInThisOrderAndClosedOnce)
     const auto recording = record();
     ASSERT_TRUE(recording);
     const std::array samples{0.5F, -0.5F};
-    (*recording)->file().write(1, samples.data());
+    (*recording)->lanes()->push(this, 44100, {}, samples);
 
     (*recording)->finish();
     (*recording)->finish();
@@ -105,16 +106,17 @@ TEST_F(MacOSRecording, whoseFormatIsRefusedIsClosed)
     EXPECT_THAT(journal(), ElementsAre(created, formatted, disposed));
 }
 
-TEST_F(MacOSRecording, tellsLostWritesAndTheFirstFailureApart)
+TEST_F(MacOSRecording, triesAgainWithoutRoomAndKeepsTheFirstFailure)
 {
     const auto recording = record();
     ASSERT_TRUE(recording);
     const std::array samples{0.5F, -0.5F};
+    (*recording)->lanes()->push(this, 44100, {}, samples);
     failNextFileCall("ExtAudioFileWriteAsync", {-66570, -66570, -34, -36});
-    for (int i = 0; i < 4; ++i)
-        (*recording)->file().write(1, samples.data());
+    for (int i = 1; i <= 4; ++i)
+        (*recording)->writeUntil(HostTime(std::chrono::seconds(i)));
 
-    EXPECT_EQ((*recording)->health(), (AudioFileHealth{.status = -34, .droppedWrites = 2}));
+    EXPECT_EQ((*recording)->status(), -34);
     (*recording)->finish();
 }
 

@@ -64,12 +64,14 @@ TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChangeAndItIsR
         TapScope::everyStream, parameters, "Player");
     ASSERT_TRUE(tap.has_value());
     ASSERT_TRUE(waitUntil([&] { return parameters->audioSeen.load(); }));
-    const auto recording = Recording::create(files, location, tap.value()->sampleRate(), {});
+    CycleClocks clocks;
+    const auto recording = Recording::create(
+        files, clocks, location, tap.value()->sampleRate(), {.date = {}, .host = audio.hostTime()});
     ASSERT_TRUE(recording.has_value());
     const int before = realTimeViolations();
 
     for (int i = 0; i < 100; ++i) {
-        parameters->recorder.set(i % 10 != 9 ? &(*recording)->file() : nullptr);
+        parameters->recorder.set(i % 10 != 9 ? (*recording)->lanes() : nullptr);
         const std::vector<float> gains(10, static_cast<float>(i % 12));
         parameters->setEQ(eqCoefficients(gains, 48000));
         {
@@ -84,8 +86,10 @@ TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChangeAndItIsR
     EXPECT_GT(parameters->takePeak(), 0);
     EXPECT_EQ(realTimeViolations() - before, 0) << lastRealTimeViolation();
     tap.value().reset();
+    (*recording)->stop(audio.hostTime());
     (*recording)->finish();
-    EXPECT_EQ((*recording)->health(), AudioFileHealth{});
+    EXPECT_EQ((*recording)->status(), kAudioHardwareNoError);
+    EXPECT_EQ((*recording)->lostTime(), 0ms);
     EXPECT_GT(std::filesystem::file_size(location), 6 * 48000);
 }
 

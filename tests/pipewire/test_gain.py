@@ -115,3 +115,20 @@ def test_aChangeOfVolumeGlidesWithoutAClick(stage):
     steepest = 2 * numpy.pi * 200 / signals.RATE * 0.5  # Of the sine itself, at full volume.
     assert numpy.abs(numpy.diff(sounding)).max() < steepest * 1.05
     assert numpy.abs(sounding[-4800:]).max() == pytest.approx(0.05, rel=0.01)
+
+
+def test_aToneOfMinus20DecibelsStandsAtTwoThirds(stage):
+    file = stage.folder / "tone.wav"
+    signals.write(file, signals.sine(1000, 0.1, 20))
+    with stage.fadeloom(settings({"pw-cat": app()})) as fadeloom:
+        stage.play("pw-play", file)
+        fadeloom.waitFor("audio flowing through tap: pw-cat", seconds=12)
+        assert "level" not in fadeloom.command("list")
+
+        assert fadeloom.command("levels on") == "ok levels on"
+        time.sleep(0.5)
+        levels = [float(fadeloom.command("list").split("level ")[1].split(";")[0]) for _ in range(10)]
+        assert fadeloom.command("levels off") == "ok levels off"
+        assert "level" not in fadeloom.command("list")
+
+    assert levels == pytest.approx([0.6667] * 10, abs=0.01)

@@ -51,13 +51,26 @@ def framesIn(tool, file):
     return int(next(line for line in said.splitlines() if line.startswith("Frames")).split(":")[1])
 
 
+def betweenMissedCycles(recorded):
+    """The stretches of sound: noise is nowhere silent but in a cycle that the machine missed."""
+    sounding = recorded.any(axis=1)
+    edges = numpy.flatnonzero(numpy.diff(numpy.concatenate(([True], sounding, [True])).astype(int)))
+    silences = [(first, end) for first, end in zip(edges[::2], edges[1::2]) if end - first >= 32]
+    ends = [first for first, _ in silences] + [len(recorded)]
+    begins = [0] + [end for _, end in silences]
+    return [recorded[begin:end] for begin, end in zip(begins, ends) if end > begin]
+
+
 def assertIsPartOf(recorded, written):
-    """Every sample of a recording is one of the source's, in order and without a gap."""
-    middle = recorded[len(recorded) // 2:len(recorded) // 2 + 4096, 0] / 2.0**23
-    offset = signals.delay(middle, written[:, 0]) - len(recorded) // 2
+    """Every sample of a recording is one of the source's, in order; none is missing but in a cycle that was missed."""
     source = numpy.round(written * 2.0**23).astype(numpy.int32)  # A player's 16-bit samples, exactly.
-    assert 0 <= offset and offset + len(recorded) <= len(source)
-    numpy.testing.assert_array_equal(recorded, source[offset:offset + len(recorded)])
+    stretches = betweenMissedCycles(recorded)
+    assert sum(map(len, stretches)) > 0.95 * len(recorded)
+    place = 0
+    for stretch in stretches:
+        place += max(0, signals.delay(stretch[:4096, 0] / 2.0**23, written[place:, 0]))
+        numpy.testing.assert_array_equal(stretch, source[place:place + len(stretch)])
+        place += len(stretch)
 
 
 @pytest.mark.parametrize("rate", [44100, 48000, 96000])
@@ -222,20 +235,3 @@ def test_aFolderThatCannotBeMadeIsSaid(stage):
 
     assert answer.startswith("error Could not start recording: ")
     assert answer.endswith("Not a directory")
-
-
-def test_aToneOfMinus20DecibelsStandsAtTwoThirds(stage):
-    file = stage.folder / "tone.wav"
-    signals.write(file, signals.sine(1000, 0.1, 20))
-    with stage.fadeloom(settings({"pw-cat": app()})) as fadeloom:
-        stage.play("pw-play", file)
-        fadeloom.waitFor("audio flowing through tap: pw-cat", seconds=12)
-        assert "level" not in fadeloom.command("list")
-
-        assert fadeloom.command("levels on") == "ok levels on"
-        time.sleep(0.5)
-        levels = [float(fadeloom.command("list").split("level ")[1].split(";")[0]) for _ in range(10)]
-        assert fadeloom.command("levels off") == "ok levels off"
-        assert "level" not in fadeloom.command("list")
-
-    assert levels == pytest.approx([0.6667] * 10, abs=0.01)

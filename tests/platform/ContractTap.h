@@ -16,7 +16,7 @@ namespace fadeloom {
 /// Measures what the tap delivers and leaves the device silent. Readable from any thread.
 class ListeningProc final : public AudioIOProc {
 public:
-    void render(AudioBuffers input, AudioBuffers output) noexcept override
+    void render(const CycleTime& /*time*/, AudioBuffers input, AudioBuffers output) noexcept override
     {
         inputBuffers = static_cast<std::uint32_t>(input.size());
         if (!input.empty()) {

@@ -28,24 +28,14 @@ AudioStatus AudioFileHandle::setClientFormat(const AudioStreamBasicDescription& 
     return ExtAudioFileSetProperty(file_, kExtAudioFileProperty_ClientDataFormat, sizeof format, &format);
 }
 
-AudioStatus AudioFileHandle::write(
-    std::uint32_t frameCount, const float* samples) noexcept FADELOOM_NONBLOCKING
+AudioStatus AudioFileHandle::write(std::uint32_t frameCount, const float* samples) noexcept
 {
     ::AudioBufferList list{1, {{2, frameCount * 2 * UInt32{sizeof(float)}, const_cast<float*>(samples)}}};
     const AudioStatus status =
         ExtAudioFileWriteAsync(file_, frameCount, samples == nullptr ? nullptr : &list);
-    if (status == kExtAudioFileError_AsyncWriteBufferOverflow) {
-        droppedWrites_.fetch_add(1, std::memory_order_relaxed);
-    } else if (status != kAudioHardwareNoError) {
-        AudioStatus none = kAudioHardwareNoError;
-        status_.compare_exchange_strong(none, status, std::memory_order_relaxed);
-    }
+    if (status != kExtAudioFileError_AsyncWriteBufferOverflow && status_ == kAudioHardwareNoError)
+        status_ = status;
     return status;
-}
-
-AudioFileHealth AudioFileHandle::health() const
-{
-    return {status_.load(std::memory_order_relaxed), droppedWrites_.load(std::memory_order_relaxed)};
 }
 
 AudioStatus AudioFileHandle::close()

@@ -4,7 +4,6 @@
 
 #include "platform/AudioFiles.h"
 
-#include <atomic>
 #include <cstdint>
 
 struct OpaqueExtAudioFile;
@@ -22,8 +21,8 @@ public:
     AudioFileHandle& operator=(const AudioFileHandle&) = delete;
 
     AudioStatus setClientFormat(const AudioStreamBasicDescription& format) override;
-    AudioStatus write(std::uint32_t frameCount, const float* samples) noexcept FADELOOM_NONBLOCKING override;
-    AudioFileHealth health() const override;
+    AudioStatus write(std::uint32_t frameCount, const float* samples) noexcept override;
+    AudioStatus status() const override { return status_; }
 
     /// Writes what was handed over and completes the file. Thread: main.
     AudioStatus close();
@@ -31,9 +30,7 @@ public:
 private:
     OpaqueExtAudioFile* file_;
     const double sampleRate_;
-    // One word each, which nothing else hangs on: relaxed.
-    std::atomic<AudioStatus> status_ = kAudioHardwareNoError;
-    std::atomic<std::uint64_t> droppedWrites_ = 0;
+    AudioStatus status_ = kAudioHardwareNoError;
 };
 
 }  // namespace fadeloom

@@ -115,6 +115,11 @@ bool CoreAudioSystem::setDefaultOutput(const OutputDevice& device)
         == kAudioHardwareNoError;
 }
 
+HostTime CoreAudioSystem::hostTime() const
+{
+    return HostTime(AudioConvertHostTimeToNanos(AudioGetCurrentHostTime()));
+}
+
 std::expected<std::unique_ptr<ProcessTap>, TapError> CoreAudioSystem::createTap(
     const TapRequest& request, const AudioIOProcFactory& makeIOProc)
 {

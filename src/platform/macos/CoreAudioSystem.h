@@ -27,6 +27,7 @@ public:
     [[nodiscard]] std::optional<std::string> defaultOutput() const override;
     [[nodiscard]] Subscription whenDefaultOutputChanges(Listener listener) override;
     bool setDefaultOutput(const OutputDevice& device) override;
+    [[nodiscard]] HostTime hostTime() const override;
     [[nodiscard]] std::expected<std::unique_ptr<ProcessTap>, TapError> createTap(
         const TapRequest& request, const AudioIOProcFactory& makeIOProc) override;
 

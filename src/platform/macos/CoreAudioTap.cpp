@@ -46,6 +46,16 @@ std::unexpected<TapError> failed(std::string step, OSStatus status)
     return std::unexpected(TapError{.step = std::move(step), .status = status});
 }
 
+// The time of the input, which is the captured sound; without a valid one, that of the cycle itself.
+CycleTime cycleTime(AudioObjectID clock, const AudioTimeStamp& input, const AudioTimeStamp& now) noexcept
+{
+    constexpr UInt32 needed = kAudioTimeStampSampleHostTimeValid;
+    const AudioTimeStamp& time = (input.mFlags & needed) == needed ? input : now;
+    return {.clock = clock,
+        .frame = static_cast<std::int64_t>(time.mSampleTime),
+        .host = HostTime(AudioConvertHostTimeToNanos(time.mHostTime))};
+}
+
 }  // namespace
 
 std::expected<std::unique_ptr<CoreAudioTap>, TapError> CoreAudioTap::create(
@@ -145,13 +155,14 @@ OSStatus CoreAudioTap::createIOProc(std::shared_ptr<AudioIOProc> proc, std::size
     // Without a queue the block runs on the device's IO thread itself. It is copied, and the procedure with it, until
     // the audio system has destroyed it.
     AudioDeviceIOProcID created = nullptr;
+    const auto clock = aggregate_;
     const auto silence = silence_;
     const OSStatus status = AudioDeviceCreateIOProcIDWithBlock(&created, aggregate_, nullptr,
-        ^(const AudioTimeStamp*, const AudioBufferList* input, const AudioTimeStamp*, AudioBufferList* output,
-            const AudioTimeStamp*) {
+        ^(const AudioTimeStamp* now, const AudioBufferList* input, const AudioTimeStamp* inputTime,
+            AudioBufferList* output, const AudioTimeStamp*) {
             const AudioBuffers captured = buffersOf(input);
             silence->note(captured.last(std::min(tapBufferCount, captured.size())));
-            proc->render(captured, buffersOf(output));
+            proc->render(cycleTime(clock, *inputTime, *now), captured, buffersOf(output));
         });
     if (status == kAudioHardwareNoError)
         proc_ = created;

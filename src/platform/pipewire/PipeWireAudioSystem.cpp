@@ -166,6 +166,12 @@ double PipeWireAudioSystem::sampleRate(OutputDeviceID device) const
     return known ? session_->rateOf(*known) : 0;
 }
 
+HostTime PipeWireAudioSystem::hostTime() const
+{
+    // The server reads the same clock, which is that of std::chrono::steady_clock as well.
+    return std::chrono::steady_clock::now().time_since_epoch();
+}
+
 std::optional<std::string> PipeWireAudioSystem::defaultOutput() const
 {
     const auto world = session_->world();

@@ -20,6 +20,12 @@ const char* channelName(int index)
     return index == 0 ? "FL" : "FR";
 }
 
+CycleTime timeOf(const spa_io_clock& clock) noexcept
+{
+    return {
+        .clock = clock.id, .frame = static_cast<std::int64_t>(clock.position), .host = HostTime(clock.nsec)};
+}
+
 }  // namespace
 
 TapFilter::TapFilter(pw_core* core, const std::string& name, const DeviceLayout& layout,
@@ -121,7 +127,7 @@ void TapFilter::process(const spa_io_position& position) noexcept FADELOOM_NONBL
     isInCycle_.store(true);
     auto* proc = proc_.load();
     if (proc)
-        renderThrough(*proc, inputs, outputs, frames);
+        renderThrough(*proc, timeOf(position.clock), inputs, outputs, frames);
     isInCycle_.store(false);
 
     const bool isPassingThrough = !proc && isPassingThrough_.load(std::memory_order_relaxed);
@@ -135,8 +141,8 @@ void TapFilter::process(const spa_io_position& position) noexcept FADELOOM_NONBL
     }
 }
 
-void TapFilter::renderThrough(AudioIOProc& proc, const Sides& inputs, const Sides& outputs,
-    std::uint32_t frames) noexcept FADELOOM_NONBLOCKING
+void TapFilter::renderThrough(AudioIOProc& proc, const CycleTime& time, const Sides& inputs,
+    const Sides& outputs, std::uint32_t frames) noexcept FADELOOM_NONBLOCKING
 {
     const auto bytes = static_cast<std::uint32_t>(frames * sizeof(float));
     const std::array<AudioBuffer, 2> inputBuffers{
@@ -153,7 +159,7 @@ void TapFilter::renderThrough(AudioIOProc& proc, const Sides& inputs, const Side
             data = outputs[1];
         outputBuffers_[channel] = {1, bytes, data};
     }
-    proc.render(inputBuffers, {outputBuffers_.data(), channels});
+    proc.render(time, inputBuffers, {outputBuffers_.data(), channels});
 }
 
 void TapFilter::playThrough(

@@ -57,7 +57,7 @@ private:
 
     static void onProcess(void* self, spa_io_position* position);
     void process(const spa_io_position& position) noexcept FADELOOM_NONBLOCKING;
-    void renderThrough(AudioIOProc& proc, const Sides& inputs, const Sides& outputs,
+    void renderThrough(AudioIOProc& proc, const CycleTime& time, const Sides& inputs, const Sides& outputs,
         std::uint32_t frames) noexcept FADELOOM_NONBLOCKING;
     void playThrough(
         const Sides& inputs, const Sides& outputs, std::uint32_t frames) const noexcept FADELOOM_NONBLOCKING;

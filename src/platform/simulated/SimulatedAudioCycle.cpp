@@ -80,7 +80,8 @@ void runTap(const SimulatedAudioState& state, const SimulatedTap& tap, const Sim
     CycleBuffers output;
     for (const std::uint32_t channels : device.outputStreams)
         output.add(channels, heard.frames);
-    tap.proc->render(input.buffers(), output.buffers());
+    tap.proc->render({.clock = tap.device, .frame = device.framesRun, .host = state.hostTime},
+        input.buffers(), output.buffers());
     addToHeard(heard, output.buffers());
 }
 
@@ -127,7 +128,7 @@ bool HeardAudio::isSilent() const
 HeardByDevice runSimulatedCycle(SimulatedAudioState& state, std::uint32_t frames)
 {
     HeardByDevice heardByDevice;
-    for (const auto& [id, device] : state.devices) {
+    for (auto& [id, device] : state.devices) {
         const auto channels =
             std::accumulate(device.outputStreams.begin(), device.outputStreams.end(), std::uint32_t{0});
         if (channels == 0)
@@ -137,6 +138,7 @@ HeardByDevice runSimulatedCycle(SimulatedAudioState& state, std::uint32_t frames
         for (const auto& [tapID, tap] : state.taps)
             if (tap.device == id)
                 runTap(state, tap, device, heard);
+        device.framesRun += frames;
         heardByDevice.emplace(device.uid, std::move(heard));
     }
     for (auto& [id, process] : state.processes)

@@ -30,15 +30,15 @@ public:
     {
         if (samples == nullptr)
             files_.journal_.push_back("prime " + name_);
-        else if (health_.status == kAudioHardwareNoError && files_.isStalled_)
-            health_.droppedWrites += 1;
-        else if (health_.status == kAudioHardwareNoError)
+        else if (status_ == kAudioHardwareNoError && files_.isStalled_)
+            return kExtAudioFileError_AsyncWriteBufferOverflow;
+        else if (status_ == kAudioHardwareNoError)
             content_->samples.insert(content_->samples.end(), samples, samples + 2 * std::size_t{frameCount});
-        return health_.status;
+        return status_;
     }
-    AudioFileHealth health() const override { return health_; }
+    AudioStatus status() const override { return status_; }
 
-    void fail(AudioStatus status) { health_.status = status; }
+    void fail(AudioStatus status) { status_ = status; }
     void complete()
     {
         files_.journal_.push_back("dispose " + name_);
@@ -49,7 +49,7 @@ private:
     SimulatedAudioFiles& files_;
     const std::string name_;
     const std::shared_ptr<SimulatedAudioContent> content_;
-    AudioFileHealth health_;
+    AudioStatus status_ = kAudioHardwareNoError;
 };
 
 SimulatedAudioFiles::SimulatedAudioFiles() = default;

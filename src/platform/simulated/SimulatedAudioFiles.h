@@ -44,7 +44,7 @@ public:
     void refuseClientFormat(AudioStatus status) { clientFormatStatus_ = status; }
     /// Every open file fails: it takes nothing any more.
     void failWriting(AudioStatus status);
-    /// Every open file's writer stands still: what is handed over from now on is dropped.
+    /// Every open file's writer is held up: from now on there is no room for samples.
     void setStalled(bool isStalled) { isStalled_ = isStalled; }
 
     /// Upper and lower case of ASCII letters are the same in names, as on many disks.

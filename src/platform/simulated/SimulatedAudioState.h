@@ -21,6 +21,7 @@ struct SimulatedDeviceTraits {
     int inputStreams = 0;  // Which a tap on the device has to switch off.
     double sampleRate = 48000;
     StereoChannels stereoPair{};
+    std::int64_t framesRun = 0;
 };
 
 struct SimulatedAudioProcess {
@@ -53,6 +54,7 @@ struct SimulatedAudioState {
 
     std::uint32_t lastID = 0;
     OutputDeviceID defaultOutput = 0;
+    HostTime hostTime{};  // At the beginning of the present cycle.
     std::map<OutputDeviceID, SimulatedDeviceTraits> devices;
     std::map<AudioProcessID, SimulatedAudioProcess> processes;
     std::map<std::uint32_t, SimulatedTap> taps;

@@ -36,6 +36,7 @@ public:
     std::optional<std::string> defaultOutput() const override;
     Subscription whenDefaultOutputChanges(Listener listener) override;
     bool setDefaultOutput(const OutputDevice& device) override;
+    HostTime hostTime() const override { return world_.hostTime(); }
     std::expected<std::unique_ptr<ProcessTap>, TapError> createTap(
         const TapRequest& request, const AudioIOProcFactory& makeIOProc) override;
 

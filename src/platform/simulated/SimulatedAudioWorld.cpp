@@ -143,6 +143,7 @@ AudioProcessID SimulatedAudioWorld::audioProcessOf(ProcessID pid) const
 void SimulatedAudioWorld::runCycle(std::uint32_t frames)
 {
     const SimulatedMainLoop::OtherThread ioThread;
+    state_.hostTime = clock_.now();
     heard_ = runSimulatedCycle(state_, frames);
 }
 

@@ -77,6 +77,7 @@ public:
     /// What a device got in the last cycle; nothing for a device that had none.
     [[nodiscard]] HeardAudio heard(const std::string& uid) const;
 
+    [[nodiscard]] HostTime hostTime() const { return clock_.now(); }
     [[nodiscard]] const SimulatedAudioState& state() const { return state_; }
     [[nodiscard]] SimulatedAudioState& state() { return state_; }
     void setDefaultOutput(OutputDeviceID device);

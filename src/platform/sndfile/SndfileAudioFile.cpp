@@ -61,23 +61,16 @@ AudioStatus SndfileAudioFile::setClientFormat(const AudioStreamBasicDescription&
     return kAudioHardwareNoError;
 }
 
-AudioStatus SndfileAudioFile::write(
-    std::uint32_t frameCount, const float* samples) noexcept FADELOOM_NONBLOCKING
+AudioStatus SndfileAudioFile::write(std::uint32_t frameCount, const float* samples) noexcept
 {
     if (!hasClientFormat_)
         return kExtAudioFileError_InvalidOperationOrder;
     const AudioStatus status = status_.load(std::memory_order_relaxed);
     if (status != kAudioHardwareNoError || frameCount == 0)  // There is nothing left to prime.
         return status;
-    if (ring_.push({samples, std::size_t{frameCount} * WaveFile::channels}))
-        return kAudioHardwareNoError;
-    droppedWrites_.fetch_add(1, std::memory_order_relaxed);
-    return kExtAudioFileError_AsyncWriteBufferOverflow;
-}
-
-AudioFileHealth SndfileAudioFile::health() const
-{
-    return {status_.load(std::memory_order_relaxed), droppedWrites_.load(std::memory_order_relaxed)};
+    return ring_.push({samples, std::size_t{frameCount} * WaveFile::channels})
+        ? kAudioHardwareNoError
+        : kExtAudioFileError_AsyncWriteBufferOverflow;
 }
 
 AudioStatus SndfileAudioFile::close()

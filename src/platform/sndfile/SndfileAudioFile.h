@@ -2,8 +2,8 @@
 // One open file: samples go into a ring, and a thread of the file's own writes them to the disk.
 #pragma once
 
+#include "base/SpscRing.h"
 #include "platform/AudioFiles.h"
-#include "platform/sndfile/SampleRing.h"
 #include "platform/sndfile/WaveFile.h"
 
 #include <array>
@@ -31,8 +31,8 @@ public:
 
     /// Takes one format only: interleaved stereo floats at the file's rate.
     AudioStatus setClientFormat(const AudioStreamBasicDescription& format) override;
-    AudioStatus write(std::uint32_t frameCount, const float* samples) noexcept FADELOOM_NONBLOCKING override;
-    AudioFileHealth health() const override;
+    AudioStatus write(std::uint32_t frameCount, const float* samples) noexcept override;
+    AudioStatus status() const override { return status_.load(std::memory_order_relaxed); }
 
     /// Waits until all that was handed over is written and the file is closed. Returns the first failure. Thread: main.
     AudioStatus close();
@@ -47,11 +47,9 @@ private:
     void note(AudioStatus status);
 
     const int sampleRate_;
-    bool hasClientFormat_ = false;  // The IO thread gets the file after it was set.
-    SampleRing ring_;
-    // One word each, which nothing else hangs on: relaxed.
-    std::atomic<AudioStatus> status_ = kAudioHardwareNoError;
-    std::atomic<std::uint64_t> droppedWrites_ = 0;
+    bool hasClientFormat_ = false;
+    SpscRing<float> ring_;
+    std::atomic<AudioStatus> status_ = kAudioHardwareNoError;  // Relaxed: a word with nothing behind it.
 
     // The writer's.
     const std::unique_ptr<WaveFile> file_;

@@ -12,6 +12,7 @@
 #import <CoreAudio/CoreAudio.h>
 
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -65,6 +66,7 @@ struct Aggregate {
     std::string master;
     std::string tapUID;
     std::map<AudioDeviceIOProcID, Proc> procs{};
+    std::uint64_t framesRun = 0;
 };
 
 /// A value, or the status of asking for it.
@@ -111,8 +113,10 @@ public:
     void failNext(const std::string& call, OSStatus status) { failures[call] = status; }
     /// What was set takes effect now; listeners are called when their queues run.
     void settleProperties();
-    /// One IO cycle of each procedure that runs.
+    /// One IO cycle of each procedure that runs, and the time that it takes.
     void runCycle();
+    /// Time passes without a cycle.
+    void pause(std::chrono::nanoseconds time) { hostTime += time; }
 
     // What the functions need.
     [[nodiscard]] std::expected<Property, OSStatus> property(
@@ -143,6 +147,7 @@ public:
     std::map<std::string, OSStatus> failures;
     AudioStreamBasicDescription tapFormat{};
     AudioObjectID lastID = 100;
+    std::chrono::nanoseconds hostTime = std::chrono::hours(1);
     PropertyAnswers* answers = nullptr;
 
 private:

@@ -162,6 +162,9 @@ void AudioWorld::runCycle()
         for (auto& [procID, proc] : aggregate.procs)
             if (proc.isRunning)
                 run(aggregate, proc);
+    for (auto& [id, aggregate] : aggregates)
+        aggregate.framesRun += framesInCycle;
+    hostTime += std::chrono::nanoseconds(1'000'000'000LL * framesInCycle / 48000);
 }
 
 namespace {
@@ -223,7 +226,10 @@ void AudioWorld::run(Aggregate& aggregate, Proc& proc)
     Buffers output;
     for (const std::uint32_t channels : device->second.outputs)
         output.add(channels, true);
-    const AudioTimeStamp now{};
+    AudioTimeStamp now{};
+    now.mSampleTime = static_cast<double>(aggregate.framesRun);
+    now.mHostTime = static_cast<UInt64>(hostTime.count()) * 3 / 125;
+    now.mFlags = kAudioTimeStampSampleHostTimeValid;
     proc.block(&now, input.list(), &now, output.list(), &now);
 }
 

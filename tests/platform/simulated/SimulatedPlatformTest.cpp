@@ -14,7 +14,7 @@ using ::testing::ElementsAre;
 /// Copies the last input buffer, which is the tap's, to the first output buffer at half its level.
 class HalvingProc final : public AudioIOProc {
 public:
-    void render(AudioBuffers input, AudioBuffers output) noexcept override
+    void render(const CycleTime& /*time*/, AudioBuffers input, AudioBuffers output) noexcept override
     {
         ++cycles;
         const auto* from = static_cast<const float*>(input.back().data);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <CoreAudio/CoreAudioTypes.h>
+#include <CoreAudio/HostTime.h>
 #include <dispatch/dispatch.h>
 
 typedef UInt32 AudioObjectID;

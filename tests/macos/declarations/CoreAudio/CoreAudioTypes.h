@@ -65,3 +65,9 @@ struct AudioTimeStamp {
     UInt32 mReserved;
 };
 typedef struct AudioTimeStamp AudioTimeStamp;
+
+enum {
+    kAudioTimeStampSampleTimeValid = 1U << 0,
+    kAudioTimeStampHostTimeValid = 1U << 1,
+    kAudioTimeStampSampleHostTimeValid = kAudioTimeStampSampleTimeValid | kAudioTimeStampHostTimeValid,
+};

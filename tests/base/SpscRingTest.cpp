@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/sndfile/SampleRing.h"
+#include "base/SpscRing.h"
 
 #include "tests/support/RealTimeGuard.h"
 
@@ -24,9 +24,9 @@ std::vector<float> countingFrom(float first, std::size_t count)
     return samples;
 }
 
-TEST(SampleRing, givesWhatItGotInItsOrder)
+TEST(SpscRing, givesWhatItGotInItsOrder)
 {
-    SampleRing ring{8};
+    SpscRing<float> ring{8};
     EXPECT_THAT(ring.oldest(), IsEmpty());
 
     EXPECT_TRUE(ring.push(countingFrom(1, 3)));
@@ -39,18 +39,18 @@ TEST(SampleRing, givesWhatItGotInItsOrder)
     EXPECT_THAT(ring.oldest(), IsEmpty());
 }
 
-TEST(SampleRing, holdsAsMuchAsWasAskedForOrMore)
+TEST(SpscRing, holdsAsMuchAsWasAskedForOrMore)
 {
-    EXPECT_EQ(SampleRing{8}.capacity(), 8U);
-    EXPECT_EQ(SampleRing{9}.capacity(), 16U);
-    SampleRing ring{384'000};
+    EXPECT_EQ(SpscRing<float>{8}.capacity(), 8U);
+    EXPECT_EQ(SpscRing<float>{9}.capacity(), 16U);
+    SpscRing<float> ring{384'000};
 
     EXPECT_TRUE(ring.push(std::vector<float>(384'000)));
 }
 
-TEST(SampleRing, takesAllOrNothing)
+TEST(SpscRing, takesAllOrNothing)
 {
-    SampleRing ring{8};
+    SpscRing<float> ring{8};
     EXPECT_TRUE(ring.push(countingFrom(1, 6)));
 
     EXPECT_FALSE(ring.push(countingFrom(7, 3)));
@@ -62,17 +62,17 @@ TEST(SampleRing, takesAllOrNothing)
     EXPECT_THAT(ring.oldest(), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8));
 }
 
-TEST(SampleRing, refusesMoreThanItEverHolds)
+TEST(SpscRing, refusesMoreThanItEverHolds)
 {
-    SampleRing ring{8};
+    SpscRing<float> ring{8};
 
     EXPECT_FALSE(ring.push(countingFrom(1, 9)));
     EXPECT_THAT(ring.oldest(), IsEmpty());
 }
 
-TEST(SampleRing, samplesGoOnAtItsBeginning)
+TEST(SpscRing, samplesGoOnAtItsBeginning)
 {
-    SampleRing ring{8};
+    SpscRing<float> ring{8};
     EXPECT_TRUE(ring.push(countingFrom(1, 6)));
     ring.release(5);
 
@@ -83,6 +83,23 @@ TEST(SampleRing, samplesGoOnAtItsBeginning)
     EXPECT_THAT(ring.oldest(), ElementsAre(9, 10, 11, 12, 13));
 }
 
+TEST(SpscRing, popsWhatThereIsAcrossItsEnd)
+{
+    SpscRing<float> ring{8};
+    EXPECT_TRUE(ring.push(countingFrom(1, 6)));
+    ring.release(5);
+    EXPECT_TRUE(ring.push(countingFrom(7, 4)));
+    EXPECT_EQ(ring.room(), 3U);
+    std::vector<float> popped(4);
+
+    EXPECT_EQ(ring.pop(popped), 4U);
+    EXPECT_THAT(popped, ElementsAre(6, 7, 8, 9));
+    EXPECT_EQ(ring.pop(popped), 1U);
+    EXPECT_EQ(popped.front(), 10);
+    EXPECT_EQ(ring.pop(popped), 0U);
+    EXPECT_EQ(ring.room(), 8U);
+}
+
 long pageFaultsOfThisThread()
 {
     rusage usage{};
@@ -90,10 +107,10 @@ long pageFaultsOfThisThread()
     return usage.ru_minflt;
 }
 
-TEST(SampleRing, itsMemoryIsThereBeforeTheFirstSample)
+TEST(SpscRing, itsMemoryIsThereBeforeTheFirstSample)
 {
     constexpr std::size_t size = std::size_t{1} << 20;  // 1024 pages of 4096 bytes.
-    SampleRing ring{size};
+    SpscRing<float> ring{size};
     const std::vector<float> samples(size / 8);
     const long before = pageFaultsOfThisThread();
 
@@ -105,9 +122,9 @@ TEST(SampleRing, itsMemoryIsThereBeforeTheFirstSample)
     EXPECT_LT(pageFaultsOfThisThread() - before, ofOthers);
 }
 
-TEST(SampleRing, twoThreadsPassEverySampleOnce)
+TEST(SpscRing, twoThreadsPassEverySampleOnce)
 {
-    SampleRing ring{1024};
+    SpscRing<float> ring{1024};
     constexpr int last = 4'000'000;  // Every whole number up to 2^24 is a float.
     int wrong = 0;
 
