@@ -4,6 +4,7 @@
 #include "control/AudioController.h"
 
 #include "platform/AudioSystem.h"
+#include "platform/Workspace.h"
 
 #include <iterator>
 #include <utility>
@@ -62,9 +63,18 @@ void AudioController::updateApps(const AppGroups& groups)
 
 AppEntry AudioController::makeEntry(const std::string& bundleID, const AppGroup& group)
 {
-    auto icon = icons_.find(bundleID);
-    if (icon == icons_.end())
-        icon = icons_.emplace(bundleID, group.owner.icon.value_or(AppIcon{})).first;
+    const auto [icon, isNew] = icons_.try_emplace(bundleID);
+    if (isNew) {
+        platform_.workspace.findIcon(group.owner, life_.whileAlive([this, bundleID](const AppIcon& found) {
+            if (const auto known = icons_.find(bundleID); known != icons_.end())
+                known->second = found;
+            auto entries = *state_.apps;
+            for (auto& entry : entries)
+                if (entry.bundleID == bundleID)
+                    entry.icon = found;
+            state_.apps.assignIfDifferent(std::move(entries));
+        }));
+    }
     return {
         .bundleID = bundleID,
         .name = group.owner.localizedName.value_or(bundleID),

@@ -127,6 +127,13 @@ TEST_F(MacOSController, takesAnAppWhoseHelperPlays)
             HasSubstr("tap ready: com.example.Music")));
 }
 
+TEST_F(MacOSController, showsAPictureWhenItIsDrawn)
+{
+    EXPECT_TRUE(controller->state().apps->front().icon.file.empty());
+    pass(0ms);
+    EXPECT_EQ(controller->state().apps->front().icon.file, folder.path() / "icons/1.png");
+}
+
 TEST_F(MacOSController, retargetsTheTapWhenAnotherHelperPlays)
 {
     const auto tap = world.taps.begin()->first;
