@@ -22,7 +22,8 @@ FILLED = {"MACOSX_BUNDLE_EXECUTABLE_NAME": "Fadeloom", "MACOSX_BUNDLE_SHORT_VERS
 WANTED = {"CFBundleIdentifier": "com.fadeloom.app", "CFBundleExecutable": "Fadeloom", "CFBundlePackageType": "APPL",
           "CFBundleShortVersionString": "1.2.3", "CFBundleVersion": "7", "CFBundleIconFile": "AppIcon",
           "CFBundleDevelopmentRegion": "en", "LSMinimumSystemVersion": "14.2", "LSUIElement": True}
-USAGE = "NSAudioCaptureUsageDescription"
+# Without them the system refuses without asking, or ends the program.
+USAGES = {"NSAudioCaptureUsageDescription", "NSMicrophoneUsageDescription"}
 
 
 def information():
@@ -62,13 +63,14 @@ def complaints():
             yield f"Info.plist: {key} is {declared.get(key)}, not {value}"
     if set(declared["CFBundleLocalizations"]) != LANGUAGES:
         yield "Info.plist: the languages are others than those of the tables"
-    if declared.get(USAGE) != table("en").get(USAGE):
-        yield f"the English {USAGE} is not that of Info.plist"
+    for usage in sorted(USAGES):
+        if declared.get(usage) != table("en").get(usage):
+            yield f"the English {usage} is not that of Info.plist"
+        if table("en").get(usage) == table("pl").get(usage):
+            yield f"the Polish {usage} is English"
     for language in LANGUAGES:
-        if set(table(language)) != {USAGE}:
+        if set(table(language)) != USAGES:
             yield f"{language}.lproj has the texts {set(table(language))}"
-    if table("en").get(USAGE) == table("pl").get(USAGE):
-        yield "the Polish text is English"
     plistlib.loads((FOLDER / "Fadeloom.entitlements").read_bytes())
     yield from iconComplaints()
 

@@ -17,6 +17,8 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
 SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
 SPECIAL = ("pipewire", "week", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks")
+OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdesktop", "src/platform/sndfile",
+            "src/app/linux")
 LONG_FORMS = ("engine", "platform/sndfile")  # Folders with test suites that are named LongForm.
 
 
@@ -178,27 +180,36 @@ def runSanitizers(tally, isLong):
 
 
 def runMacOS(tally):
-    """The adapters for macOS on doubles of the platform, and their compilation for the processors of a Mac."""
+    """The program for macOS on doubles of the platform, its scripts, and its compilation for the processors of a Mac."""
     if platform.machine() != "x86_64":
-        print(f"macos: not run, the doubles send messages on x86_64 and not on {platform.machine()}")
+        print(f"macos: the doubles send messages on x86_64 and not on {platform.machine()}")
+        tally.add(f"macos: cannot be run on {platform.machine()}", False)
         return
-    build("macos", "macosTests")
-    file = results("macosTests")
-    status = run(ROOT / "build/macos/tests/macos/macosTests", f"--gtest_output=xml:{file}", quiet=True,
-                 env={**os.environ, "ASAN_OPTIONS": "detect_leaks=1", "UBSAN_OPTIONS": "halt_on_error=1"})
-    tally.addJUnit("macos", file, status)
+    build("macos", "macosTests", "macosHomeTests")
+    for name in ("macosTests", "macosHomeTests"):
+        file = results(name)
+        status = run(ROOT / "build/macos/tests/macos" / name, f"--gtest_output=xml:{file}", quiet=True,
+                     env={**os.environ, "ASAN_OPTIONS": "detect_leaks=1", "UBSAN_OPTIONS": "halt_on_error=1",
+                          "LSAN_OPTIONS": f"suppressions={ROOT / 'tests/macos/leaksOfQt.txt'}"})
+        tally.addJUnit(name, file, status)
 
     tally.add("macos: bundle", run("/usr/bin/python3", "tools/checkBundle.py", quiet=True) == 0)
+    runPyTest(tally, "macos", "macosScripts")
 
     # What does not compile leaves no object behind.
-    isCompiled = run("cmake", "--build", "--preset", "macos", "--target", "macosObjects", "--", "-k", "0",
-                     quiet=True) == 0
-    tally.add("macos: all that it needs compiles for a Mac", isCompiled)
+    started = time.monotonic()
+    run("cmake", "--build", "--preset", "macos", "--target", "macosObjects", "--", "-k", "0", quiet=True)
+    print(f"Compiled for a Mac in {time.monotonic() - started:.0f} s", flush=True)
     objects = ROOT / "build/macos/tests/macos/objects"
-    for source in [*sources(".cpp", ".mm", below=["src/platform/macos"]), "src/app/macos/SystemPlatform.cpp"]:
-        for processor in ("arm64", "x86_64"):
-            tally.add(f"macos: {source} compiles for {processor}",
-                      (objects / f"{processor}-apple-macos14.2" / f"{source}.o").is_file())
+    missing = set(sources(".cpp", ".mm", below=["src"])) - {
+        source for source in sources(".cpp", ".mm", below=OF_LINUX)}
+    for line in (objects / "batches").read_text(encoding="utf-8").splitlines():
+        triple, batch, *batched = line.split()
+        missing -= set(batched)
+        tally.add(f"macos: {batch} compiles for {triple}: {' '.join(batched)}",
+                  (objects / triple / f"{batch}.o").is_file())
+    for source in sorted(missing):
+        tally.add(f"macos: {source} is compiled for a Mac", False)
 
 
 def runFuzz(tally, isLong):

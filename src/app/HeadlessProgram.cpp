@@ -7,6 +7,7 @@
 #include "app/Home.h"
 #include "app/PrintedLog.h"
 #include "app/SimulatedHome.h"
+#include "app/StartConditions.h"
 #include "app/TerminalSize.h"
 #include "app/Version.h"
 #include "base/TextWriter.h"
@@ -69,7 +70,10 @@ int runOnThisMachine(QtMainLoop& mainLoop, Console& console, HomeGuardian& guard
     HomeLog systemLog;
     PrintedLog log(systemLog, console, mainLoop);
     HomePlatform home(mainLoop, log, guardian);
-    runOn(home.platform(), mainLoop, console, quit);
+    const auto platform = home.platform();
+    if (const auto end = reasonNotToStart(platform))
+        return endEarly(*end);
+    runOn(platform, mainLoop, console, quit);
     return 0;
 }
 
@@ -80,6 +84,7 @@ int runHeadless(int argumentCount, char** arguments, bool isSimulated)
     std::optional<HomeGuardian> guardian;
     if (!isSimulated)
         guardian.emplace();  // Before the first thread.
+    prepareMainLoop();
     const QCoreApplication application(argumentCount, arguments);
     QtMainLoop mainLoop;
     TextWriter output(writeToDescriptor(STDOUT_FILENO), [](std::uint64_t dropped) {

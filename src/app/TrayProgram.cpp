@@ -7,6 +7,7 @@
 #include "app/InterfaceLanguage.h"
 #include "app/ProductPages.h"
 #include "app/SimulatedHome.h"
+#include "app/StartConditions.h"
 #include "app/Version.h"
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
@@ -98,12 +99,18 @@ TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Host host)
 {
     panel_.setSystemIsDark(desktop_.isDark());
     desktop_.whenLookChanges([this](bool isDark) { panel_.setSystemIsDark(isDark); });
+    // The loop may not turn once more: all has to be in order when this returns.
+    desktop_.whenSessionEnds([this] {
+        controller_.shutdown();
+        quit();
+    });
     if (updates_)
         updates_->start();
 }
 
 TrayRun::~TrayRun()
 {
+    desktop_.whenSessionEnds([] { });
     desktop_.whenLookChanges([](bool) { });
     if (host_.instance != nullptr)
         host_.instance->serve({});
@@ -175,6 +182,8 @@ int runOnThisMachine(QtMainLoop& mainLoop, HomeGuardian& guardian)
     HomeLog systemLog;
     HomePlatform home(mainLoop, systemLog, guardian);
     const auto platform = home.platform();
+    if (const auto end = reasonNotToStart(platform))
+        return endEarly(*end);
     return TrayRun(platform, mainLoop, {platform.workspace, &instance}).run();
 }
 

@@ -50,6 +50,20 @@ std::string ambiguityText(const std::string& typed, const std::vector<std::strin
 
 }  // namespace
 
+std::optional<std::vector<std::string>> appsOfGroup(const ControllerState& state, const std::string& word)
+{
+    std::vector<std::string> ids;
+    for (const auto& entry : *state.apps) {
+        const bool isMeant = word == "@all" || (word == "@playing" && entry.isPlaying)
+            || (word == "@call" && *state.callApp == entry.bundleID);
+        if (isMeant)
+            ids.push_back(entry.bundleID);
+    }
+    if (word != "@all" && word != "@playing" && word != "@call")
+        return std::nullopt;
+    return ids;
+}
+
 std::expected<std::string, std::string> findApp(
     const ControllerState& state, const Text& text, const std::string& typed)
 {

@@ -6,7 +6,9 @@
 #include "platform/Text.h"
 
 #include <expected>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace fadeloom {
 
@@ -15,5 +17,9 @@ namespace fadeloom {
 /// in English.
 [[nodiscard]] std::expected<std::string, std::string> findApp(
     const ControllerState& state, const Text& text, const std::string& typed);
+
+/// The apps of `@playing`, `@all` or `@call`, perhaps none; absent for any other word.
+[[nodiscard]] std::optional<std::vector<std::string>> appsOfGroup(
+    const ControllerState& state, const std::string& word);
 
 }  // namespace fadeloom

@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
-// What can be asked of a running program in words: one line in, one line out.
+// What can be asked of a running program in words: one line in, one line out. `help` lists the commands.
 //
-//     volume APP 0.5          preset APP NAME             calls on|off
-//     mute APP on|off         save-preset APP NAME        call-level 0.2
-//     output APP UID|default  delete-preset NAME          call-app APP on|off
-//     eq APP on|off           record APP start|stop       recordings PATH|default
-//     band APP 1 DB           reveal                      login on|off
-//     preamp APP DB           levels on|off               theme system|light|dark
-//     default UID             list                        meters on|off
-//     limit 1|1.25|1.5|2      help                        headroom on|off
-//                             quit
-//
-// APP is a bundle identifier or a name that no other app has; blanks need double quotes around them.
+// APP is a bundle identifier, a name that no other app has, `pid:N`, or `@playing`, `@all` and `@call` for several at
+// once; blanks need double quotes around them.
 #pragma once
 
+#include <expected>
+#include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace fadeloom {
 
@@ -24,29 +20,53 @@ class AudioController;
 class Text;
 
 /// Thread: main.
+/// How a command went.
+enum class ReplyKind {
+    ok,
+    usage,  // It was not understood.
+    unknownName,  // No such app, output or preset.
+    refused,  // It was understood, and cannot be done.
+    denied,  // Not for this caller.
+};
+
+/// Who asks: what a sandbox keeps its programs from must not be had through us.
+enum class Caller { trusted, sandboxed };
+
+/// What the panel does when it is asked for; nothing where there is none.
+struct PanelActions {
+    std::function<void()> open = nullptr;
+    std::function<void()> toggle = nullptr;
+};
+
 class CommandInterpreter {
 public:
     struct Reply {
         std::string text;  // One line that begins with "ok" or "error"; empty for a line without any word.
+        ReplyKind kind = ReplyKind::ok;
         bool asksToQuit = false;
 
         friend bool operator==(const Reply&, const Reply&) = default;
     };
 
-    CommandInterpreter(AudioController& controller, const Text& text)
+    CommandInterpreter(AudioController& controller, const Text& text, PanelActions panel = {})
         : controller_(controller)
         , text_(text)
+        , panel_(std::move(panel))
     {
     }
 
     /// Does what the line says. After an error nothing has changed.
-    Reply interpret(std::string_view line);
+    Reply interpret(std::string_view line, Caller caller = Caller::trusted);
 
 private:
     using Arguments = std::span<const std::string>;
     struct Command;
 
     static std::span<const Command> commands();
+
+    /// Those that the word means, one at least. The error names what is unknown.
+    [[nodiscard]] std::expected<std::vector<std::string>, std::string> appsNamed(
+        const std::string& word) const;
 
     // Of one app; its name is the first argument.
     Reply setVolume(Arguments arguments);
@@ -75,19 +95,26 @@ private:
     Reply reveal(Arguments arguments);
 
     Reply list(Arguments arguments);
+    Reply status(Arguments arguments);
+    Reply openPanel(Arguments arguments);
+    Reply togglePanel(Arguments arguments);
     Reply help(Arguments arguments);
     Reply quit(Arguments arguments);
 
-    /// Changes the settings of the app that the first argument names. `change` returns what went wrong, or nothing.
-    template <typename Change>
-    Reply changeApp(std::string_view command, Arguments arguments, Change change);
+    /// Changes the settings of the apps that the first argument names, all or none. `change` returns what went wrong, or
+    /// nothing. The reply has `value` of each app's settings afterwards; without further arguments it is only read.
+    template <typename Change, typename Value>
+    Reply changeApps(std::string_view command, Arguments arguments, Change change, Value value);
     /// The same with all settings.
     template <typename Change>
     Reply changeSettings(std::string_view command, Arguments arguments, Change change);
+    /// The device next to the app's present one, in the list's order; absent without devices.
+    [[nodiscard]] std::optional<std::string> neighbourOf(const std::string& bundleID, bool isNext) const;
     [[nodiscard]] std::string appText(const std::string& bundleID) const;
 
     AudioController& controller_;
     const Text& text_;
+    const PanelActions panel_;
 };
 
 }  // namespace fadeloom

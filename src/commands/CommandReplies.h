@@ -10,20 +10,40 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace fadeloom {
 
-/// What stands in the way of a command, for the user.
-using Problem = std::optional<std::string>;
+/// What is in the way of a command, for the user.
+struct Obstacle {
+    // Implicit: most are no more than a text.
+    Obstacle(std::string what, ReplyKind how = ReplyKind::refused)
+        : text(std::move(what))
+        , kind(how)
+    {
+    }
+    Obstacle(const char* what)
+        : Obstacle(std::string(what))
+    {
+    }
+
+    std::string text;
+    ReplyKind kind;
+};
+using Problem = std::optional<Obstacle>;
 
 inline CommandInterpreter::Reply ok(const std::string& text)
 {
     return {"ok " + text};
 }
 
-inline CommandInterpreter::Reply error(const std::string& text)
+inline CommandInterpreter::Reply error(const Obstacle& obstacle)
 {
-    return {"error " + text};
+    return {.text = "error " + obstacle.text, .kind = obstacle.kind};
+}
+inline CommandInterpreter::Reply unknown(const std::string& text)
+{
+    return error(Obstacle(text, ReplyKind::unknownName));
 }
 
 /// "volume com.example.player 0.5": the command as it was understood.
@@ -37,9 +57,12 @@ inline CommandInterpreter::Reply done(std::string_view command, std::span<const 
 
 inline Problem setSwitch(bool& value, const std::string& word)
 {
-    if (word != "on" && word != "off")
-        return "say on or off, not " + asWord(word);
-    value = word == "on";
+    if (word == "toggle")
+        value = !value;
+    else if (word == "on" || word == "off")
+        value = word == "on";
+    else
+        return "say on, off or toggle, not " + asWord(word);
     return std::nullopt;
 }
 

@@ -32,7 +32,7 @@ Reply CommandInterpreter::deletePreset(Arguments arguments)
     const auto& presets = controller_.state().settings->userPresets;
     const auto found = std::ranges::find(presets, arguments[0], &EQPreset::name);
     if (found == presets.end())
-        return error("no preset of yours is called " + asWord(arguments[0]));
+        return unknown("no preset of yours is called " + asWord(arguments[0]));
     controller_.deleteUserPreset(EQPreset(*found));
     return done("delete-preset", arguments);
 }
@@ -41,7 +41,7 @@ Reply CommandInterpreter::setDefault(Arguments arguments)
 {
     const auto* const found = findDevice(*controller_.state().devices, arguments[0]);
     if (!found)
-        return error("unknown device " + asWord(arguments[0]));
+        return unknown("unknown device " + asWord(arguments[0]));
     const OutputDevice device = *found;  // The list may change while the system takes it.
     if (!controller_.setSystemOutput(device))
         return error("the system did not accept " + asWord(device.uid) + " as its default output");

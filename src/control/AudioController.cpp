@@ -107,7 +107,7 @@ void AudioController::shutdown()
     recordings_.stopAll();
     taps_.clear();
     recordings_.closeNow();
-    saver_.flush();
+    saver_.finish();
 }
 
 }  // namespace fadeloom

@@ -76,6 +76,8 @@ public:
     [[nodiscard]] std::optional<std::string> outputUID(const std::string& bundleID) const;
     /// Whether the app has a chosen output that is not connected.
     [[nodiscard]] bool isOutputMissing(const std::string& bundleID) const;
+    /// The app in the mixer that a process belongs to.
+    [[nodiscard]] std::optional<std::string> appOfProcess(ProcessID process) const;
     /// Makes the device the system's default output.
     Outcome setSystemOutput(const OutputDevice& device);
 

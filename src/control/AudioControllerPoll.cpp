@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The controller's regular look at the world: from audio processes to the mixer's rows.
+#include "control/AppResolver.h"
 #include "control/AudioController.h"
 
 #include "platform/AudioSystem.h"
+#include "platform/Workspace.h"
 
 #include <iterator>
 #include <utility>
@@ -61,13 +63,19 @@ void AudioController::updateApps(const AppGroups& groups)
 
 AppEntry AudioController::makeEntry(const std::string& bundleID, const AppGroup& group)
 {
-    auto traits = traits_.find(bundleID);
-    if (traits == traits_.end())
-        traits = traits_
-                     .emplace(bundleID,
-                         AppTraits{.icon = group.owner.icon.value_or(AppIcon{}),
-                             .callIDs = platform_.callApps.identifiersOf(bundleID)})
-                     .first;
+    const auto [traits, isNew] = traits_.try_emplace(bundleID);
+    if (isNew) {
+        traits->second.callIDs = platform_.callApps.identifiersOf(bundleID);
+        platform_.workspace.findIcon(group.owner, life_.whileAlive([this, bundleID](const AppIcon& found) {
+            if (const auto known = traits_.find(bundleID); known != traits_.end())
+                known->second.icon = found;
+            auto entries = *state_.apps;
+            for (auto& entry : entries)
+                if (entry.bundleID == bundleID)
+                    entry.icon = found;
+            state_.apps.assignIfDifferent(std::move(entries));
+        }));
+    }
     return {
         .bundleID = bundleID,
         .name = group.owner.localizedName.value_or(bundleID),
@@ -118,6 +126,15 @@ void AudioController::confirmAudio()
             engineLog_.notice("audio flowing through tap: " + id);
         }
     }
+}
+
+std::optional<std::string> AudioController::appOfProcess(ProcessID process) const
+{
+    const auto& workspace = platform_.workspace;
+    const auto owner = AppResolver(workspace).owningApp(process, "", workspace.runningApplications());
+    const bool isInMixer = owner && owner->bundleID
+        && std::ranges::find(*state_.apps, *owner->bundleID, &AppEntry::bundleID) != state_.apps->end();
+    return isInMixer ? owner->bundleID : std::nullopt;
 }
 
 }  // namespace fadeloom

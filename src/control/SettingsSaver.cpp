@@ -20,6 +20,11 @@ void SettingsSaver::schedule(const SettingsData& settings)
 {
     if (saveWork_)
         saveWork_->cancel();
+    snapshot_ = std::make_shared<Snapshot>(settings);
+    if (isFinished_) {
+        finish();
+        return;
+    }
 
     auto report = life_.whileAlive([this](const SettingsFileError& error) {
         mainLoop_.requireCurrent();
@@ -27,17 +32,25 @@ void SettingsSaver::schedule(const SettingsData& settings)
     });
     // The work knows nothing of this object, which may be gone when it runs.
     saveWork_ = queue_.submit(
-        delay, [snapshot = settings, file = file_, &mainLoop = mainLoop_, report = std::move(report)] {
-            const auto saved = SettingsFile::save(snapshot, file);
+        delay, [snapshot = snapshot_, file = file_, &mainLoop = mainLoop_, report = std::move(report)] {
+            const auto saved = SettingsFile::save(snapshot->settings, file);
+            snapshot->isSaved = saved.has_value();
             if (!saved)
                 mainLoop.post([report, error = saved.error()] { report(error); });
         });
 }
 
-void SettingsSaver::flush()
+void SettingsSaver::finish()
 {
-    if (saveWork_)
-        saveWork_->runNow();
+    isFinished_ = true;
+    if (auto work = std::exchange(saveWork_, nullptr))
+        work->runNow();
+    if (!snapshot_ || snapshot_->isSaved)
+        return;
+    const auto saved = SettingsFile::save(snapshot_->settings, file_);
+    snapshot_->isSaved = saved.has_value();
+    if (!saved)
+        failed_(saved.error());
 }
 
 }  // namespace fadeloom

@@ -10,6 +10,7 @@
 #include "settings/SettingsData.h"
 #include "settings/SettingsError.h"
 
+#include <atomic>
 #include <chrono>
 #include <filesystem>
 #include <functional>
@@ -30,15 +31,22 @@ public:
 
     /// Writes `settings` as they are now after the delay, in place of a write that has not begun.
     void schedule(const SettingsData& settings);
-    /// Sees to it that the last scheduled write is done when this returns.
-    void flush();
+    /// Does the last scheduled write now if it has not been done, again if it failed. Later ones are done at once.
+    void finish();
 
 private:
+    struct Snapshot {
+        SettingsData settings;
+        std::atomic<bool> isSaved = false;  // Told by the queue's thread.
+    };
+
     BackgroundQueue& queue_;
     MainLoop& mainLoop_;
     std::filesystem::path file_;
     Failed failed_;
+    std::shared_ptr<Snapshot> snapshot_;  // The last one; shared with the work.
     std::shared_ptr<BackgroundQueue::Work> saveWork_;  // Shared with the queue.
+    bool isFinished_ = false;
     LifeToken life_;
 };
 

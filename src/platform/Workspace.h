@@ -31,7 +31,7 @@ struct RunningApplication {
     std::optional<std::filesystem::path> bundleLocation;
     ActivationPolicy activationPolicy = ActivationPolicy::regular;
     std::optional<std::string> localizedName;
-    std::optional<AppIcon> icon;
+    std::optional<AppIcon> icon;  // Where it is known at once; else `Workspace::findIcon` has it.
     std::uint64_t launchMark = 0;  // Tells applications apart that had the same pid, one after the other.
 
     friend bool operator==(const RunningApplication&, const RunningApplication&) = default;
@@ -50,6 +50,13 @@ public:
     [[nodiscard]] virtual std::vector<RunningApplication> runningApplications() const = 0;
     /// The application that this very process is; absent for a helper of another one, and for no process.
     [[nodiscard]] virtual std::optional<RunningApplication> runningApplication(ProcessID pid) const = 0;
+    /// The picture of an application, where finding it takes long. `found` is called once at most, on the main thread,
+    /// later or before this returns; never for one without a picture.
+    virtual void findIcon(const RunningApplication& application, std::function<void(const AppIcon&)> found)
+    {
+        if (application.icon)
+            found(*application.icon);
+    }
     /// Whether this application has ended since it was asked for.
     [[nodiscard]] virtual bool isTerminated(const RunningApplication& application) const = 0;
     /// The process that answers for this one (who launched a helper); absent when the system cannot tell.

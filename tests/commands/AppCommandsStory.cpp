@@ -86,6 +86,7 @@ TEST_F(AppCommandsStory, recordWritesAFileAndSaysWhere)
     world.advance(1s);
 
     EXPECT_EQ(answer("record player stop"), "ok record com.example.player stop");
+    world.advance(1s);  // Until it is closed.
 
     const auto file = folder.path() / "Music" / "Fadeloom Recordings" / "Player 2030-01-02 12.00.01.wav";
     EXPECT_EQ(*controller.state().lastRecording, file);

@@ -25,11 +25,15 @@ TEST_F(CommandInterpreterStory, listSaysEverythingInOneLine)
 TEST_F(CommandInterpreterStory, helpNamesEveryCommandInOneLine)
 {
     EXPECT_EQ(answer("help"),
-        "ok help; volume APP 0.5; mute APP on|off; output APP UID|default; eq APP on|off; band APP 1 DB; "
-        "preamp APP DB; preset APP NAME; save-preset APP NAME; delete-preset NAME; record APP start|stop; "
-        "reveal; recordings PATH|default; default UID; limit 1|1.25|1.5|2; headroom on|off; calls on|off; "
-        "call-level 0.2; call-app APP on|off; login on|off; theme system|light|dark; meters on|off; "
-        "levels on|off; list; help; quit");
+        "ok help; volume APP [0.5|50%|+5%|-3dB|=-6dB]; mute APP [on|off|toggle]; "
+        "output APP [UID|NAME|default|next|previous]; eq APP [on|off|toggle]; band APP 1 DB; preamp APP "
+        "[DB]; "
+        "preset APP [NAME]; save-preset APP NAME; delete-preset NAME; record APP start|stop; reveal; "
+        "recordings PATH|default; default UID; limit 1|1.25|1.5|2; headroom on|off|toggle; "
+        "calls on|off|toggle; call-level 0.2; call-app APP on|off|toggle; login on|off|toggle; "
+        "theme system|light|dark; meters on|off|toggle; levels on|off|toggle; list; status [APP]; open; "
+        "toggle; "
+        "help; quit");
 }
 
 TEST_F(CommandInterpreterStory, quitAsksForTheEnd)
@@ -50,7 +54,10 @@ TEST_P(CommandMistakes, areAnsweredWithAnErrorAndChangeNothing)
 {
     const auto [line, error] = GetParam();
 
-    EXPECT_EQ(commands.interpret(line), (CommandInterpreter::Reply{.text = error, .asksToQuit = false}));
+    const auto reply = commands.interpret(line);
+    EXPECT_EQ(reply.text, error);
+    EXPECT_NE(reply.kind, ReplyKind::ok);
+    EXPECT_FALSE(reply.asksToQuit);
 
     EXPECT_TRUE(isUnchanged());
     EXPECT_NEAR(heardAt("speakers"), source, tolerance);
@@ -61,14 +68,17 @@ INSTANTIATE_TEST_SUITE_P(Lines, CommandMistakes,
         std::pair("VOLUME com.example.player 0.5", "error unknown command VOLUME, help lists them"),
         std::pair("volume com.example.absent 0.5", "error unknown app com.example.absent"),
         std::pair("volume \"\" 0.5", "error unknown app \"\""),
-        std::pair("volume com.example.player", "error usage: volume APP 0.5"),
-        std::pair("volume com.example.player 0.5 0.5", "error usage: volume APP 0.5"),
-        std::pair("volume com.example.player half", "error the volume is a number from 0 to 1, not half"),
-        std::pair("volume com.example.player nan", "error the volume is a number from 0 to 1, not nan"),
-        std::pair("volume com.example.player -0.1", "error the volume is a number from 0 to 1, not -0.1"),
+        std::pair("volume", "error usage: volume APP [0.5|50%|+5%|-3dB|=-6dB]"),
+        std::pair("volume com.example.player 0.5 0.5", "error usage: volume APP [0.5|50%|+5%|-3dB|=-6dB]"),
+        std::pair("volume com.example.player half",
+            "error say a volume like 0.5, 50%, =-6dB, +5% or -3dB, not half"),
+        std::pair(
+            "volume com.example.player nan", "error say a volume like 0.5, 50%, =-6dB, +5% or -3dB, not nan"),
+        std::pair("volume com.example.player =-0.1",
+            "error say a volume like 0.5, 50%, =-6dB, +5% or -3dB, not =-0.1"),
         std::pair("volume com.example.player 1.1", "error the volume is a number from 0 to 1, not 1.1"),
-        std::pair("mute com.example.player yes", "error say on or off, not yes"),
-        std::pair("eq com.example.player 1", "error say on or off, not 1"),
+        std::pair("mute com.example.player yes", "error say on, off or toggle, not yes"),
+        std::pair("eq com.example.player 1", "error say on, off or toggle, not 1"),
         std::pair("output com.example.player tv", "error unknown device tv"),
         std::pair("default tv", "error unknown device tv"),
         std::pair("band player 0 3", "error the bands are 1 to 10, not 0"),
@@ -86,14 +96,14 @@ INSTANTIATE_TEST_SUITE_P(Lines, CommandMistakes,
         std::pair("reveal", "error nothing was recorded yet"),
         std::pair("recordings tapes", "error say a path from the root, not tapes"),
         std::pair("limit 3", "error the limit is 1, 1.25, 1.5 or 2, not 3"),
-        std::pair("headroom yes", "error say on or off, not yes"),
-        std::pair("calls 1", "error say on or off, not 1"),
+        std::pair("headroom yes", "error say on, off or toggle, not yes"),
+        std::pair("calls 1", "error say on, off or toggle, not 1"),
         std::pair("call-level 2", "error the level is a number from 0 to 1, not 2"),
-        std::pair("call-app player maybe", "error say on or off, not maybe"),
+        std::pair("call-app player maybe", "error say on, off or toggle, not maybe"),
         std::pair("call-app \"\" on", "error unknown app \"\""),
         std::pair("theme blue", "error say system, light or dark, not blue"),
-        std::pair("login maybe", "error say on or off, not maybe"),
-        std::pair("levels all", "error say on or off, not all"),
+        std::pair("login maybe", "error say on, off or toggle, not maybe"),
+        std::pair("levels all", "error say on, off or toggle, not all"),
         std::pair("mute \"player on", "error a double quote is not closed"),
         std::pair("quit now", "error usage: quit"),
         std::pair("lou\x1b[2Jder", "error unknown command lou\uFFFD[2Jder, help lists them")));

@@ -74,7 +74,7 @@ TEST_F(SettingsSaverTest, writesAtOnceWhenItIsAsked)
 {
     saveLimit(2);
 
-    saver->flush();
+    saver->finish();
 
     EXPECT_EQ(savedLimit(), 2);
 }

@@ -129,6 +129,13 @@ TEST_F(MacOSController, takesAnAppWhoseHelperPlays)
             HasSubstr("tap ready: com.example.Music")));
 }
 
+TEST_F(MacOSController, showsAPictureWhenItIsDrawn)
+{
+    EXPECT_TRUE(controller->state().apps->front().icon.file.empty());
+    pass(0ms);
+    EXPECT_EQ(controller->state().apps->front().icon.file, folder.path() / "icons/1.png");
+}
+
 TEST_F(MacOSController, retargetsTheTapWhenAnotherHelperPlays)
 {
     const auto tap = world.taps.begin()->first;
@@ -198,9 +205,8 @@ TEST_F(MacOSController, tellsWhatTheAudioSystemRefused)
     world.failNext("create aggregate on system", -50);
     tcc.preflightAnswer = 0;
     pass(AudioController::pollInterval);
-
-    EXPECT_EQ(controller->state().tapErrors->at("com.example.Music"),
-        (TapError{.step = "Create aggregate device", .status = -50}));
+    const auto& errors = *controller->state().tapErrors;
+    EXPECT_EQ(errors.at("com.example.Music").step, TapStep("Create aggregate device"));
 }
 
 TEST_F(MacOSController, recordsIntoAWholeFile)

@@ -40,6 +40,8 @@ const std::vector<Code> codes = {
     {THEIRS(kAudioHardwarePropertyDevices), "dev#", 0x64657623},
     {THEIRS(kAudioHardwarePropertyDefaultOutputDevice), "dOut", 0x644f7574},
     {THEIRS(kAudioHardwarePropertyProcessObjectList), "prs#", 0x70727323},
+    {THEIRS(kAudioHardwarePropertyServiceRestarted), "srst", 0x73727374},
+    {THEIRS(kAudioDevicePropertyDeviceIsAlive), "livn", 0x6c69766e},
     {THEIRS(kAudioDevicePropertyDeviceUID), "uid ", 0x75696420},
     {THEIRS(kAudioDevicePropertyNominalSampleRate), "nsrt", 0x6e737274},
     {THEIRS(kAudioDevicePropertyStreams), "stm#", 0x73746d23},

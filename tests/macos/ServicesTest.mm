@@ -6,6 +6,7 @@
 #include "platform/macos/FoundationFolders.h"
 #include "platform/macos/MacOSCallApps.h"
 #include "platform/macos/MainAppLoginItem.h"
+#include "platform/macos/PowerOffWatch.h"
 #include "platform/macos/StandardUserDefaults.h"
 #include "platform/macos/UnifiedLog.h"
 #include "tests/macos/DesktopStage.h"
@@ -113,6 +114,8 @@ TEST_F(MacOSServices, foldersAreTheUsers)
     EXPECT_EQ(folders.applicationSupport(), "/Users/someone/Library/Application Support");
     EXPECT_EQ(folders.music(), "/Users/someone/Music");
     EXPECT_EQ(folders.caches(), "/Users/someone/Library/Caches");
+    desktop.folders.clear();
+    EXPECT_TRUE(folders.applicationSupport().empty());
 }
 
 TEST_F(MacOSServices, localTimeIsThatOfTheZoneAtThatMoment)
@@ -184,6 +187,27 @@ private:
 std::unique_ptr<ContractDefaultsWorld> makeMacOSDefaultsWorld()
 {
     return std::make_unique<MacOSDefaultsWorld>();
+}
+
+TEST_F(MacOSServices, aQueueWorksWhenNothingElseHasTo)
+{
+    const DispatchQueue queue("com.fadeloom.test");
+
+    EXPECT_EQ(doubles::lastQuality(), QOS_CLASS_UTILITY);
+}
+
+TEST_F(MacOSServices, theEndOfTheSessionIsToldBeforeItComes)
+{
+    int ends = 0;
+    {
+        const PowerOffWatch watch([&] { ++ends; });
+        doubles::post("default", NSWorkspaceWillPowerOffNotification);
+        EXPECT_EQ(ends, 0) << "it is the workspace that tells";
+        doubles::post("workspace", NSWorkspaceWillPowerOffNotification);
+        EXPECT_EQ(ends, 1);
+    }
+
+    EXPECT_TRUE(desktop.observers.empty());
 }
 
 TEST_F(MacOSServices, aQueueThatEndsDoesWhatIsDueAndDropsTheRest)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Applications as AppKit tells of them, and who owns a process.
 #include "control/AppResolver.h"
+#include "control/AudioPermission.h"
 #include "platform/macos/AppKitWorkspace.h"
 #include "tests/macos/DesktopStage.h"
 #include "tests/macos/doubles/Services.h"
@@ -69,27 +70,48 @@ TEST_F(MacOSWorkspace, describesAnApplicationOfWhichLittleIsKnown)
     EXPECT_EQ(workspace.runningApplication(501), expected);
 }
 
-TEST_F(MacOSWorkspace, writesAnApplicationsPictureOnce)
+TEST_F(MacOSWorkspace, drawsThePicturesOfThoseWhoAreAskedForOnceAndElsewhere)
 {
     launch("Music", 501, "/Applications/Music.app");
     launch("Films", 502, "/Applications/Films.app");
+    const auto running = workspace.runningApplications();
+    std::vector<std::string> found;
+    const auto note = [&](const AppIcon& icon) { found.push_back(contentOf(icon.file)); };
 
-    const auto first = workspace.runningApplications();
-    const auto second = workspace.runningApplications();
+    workspace.findIcon(running[0], note);
+    workspace.findIcon(running[0], note);
+    EXPECT_THAT(found, IsEmpty()) << "nobody waits for a picture";
+    doubles::runQueues();
+    EXPECT_THAT(std::exchange(found, {}), ElementsAre("PNG of Music", "PNG of Music"));
+    workspace.findIcon(running[0], note);
 
-    ASSERT_TRUE(first[0].icon && first[1].icon);
-    EXPECT_EQ(contentOf(first[0].icon->file), "PNG of Music");
-    EXPECT_EQ(contentOf(first[1].icon->file), "PNG of Films");
-    EXPECT_EQ(first, second);
-    EXPECT_THAT(done(), ElementsAre("draw Music at 128", "draw Films at 128"));
+    EXPECT_THAT(found, ElementsAre("PNG of Music"));
+    EXPECT_THAT(done(), ElementsAre("draw Music at 128"));
 }
 
 TEST_F(MacOSWorkspace, hasNoPictureWhereNoneCanBeWritten)
 {
     std::ofstream(iconFolder) << "no folder";
     launch("Music", 501, "/Applications/Music.app");
+    const auto music = *workspace.runningApplication(501);
 
-    EXPECT_EQ(workspace.runningApplications()[0].icon, std::nullopt);
+    for (int i = 0; i < 2; ++i) {
+        workspace.findIcon(music, [](const AppIcon&) { ADD_FAILURE(); });
+        doubles::runQueues();
+    }
+    desktop.applications = [NSMutableArray array];
+    workspace.findIcon(music, [](const AppIcon&) { ADD_FAILURE(); });
+}
+
+TEST_F(MacOSWorkspace, findsNoPictureAfterItsEnd)
+{
+    launch("Music", 501, "/Applications/Music.app");
+    {
+        AppKitWorkspace other(folder.path() / "others");
+        other.findIcon(*other.runningApplication(501), [](const AppIcon&) { ADD_FAILURE(); });
+    }
+
+    doubles::runQueues();
 }
 
 TEST_F(MacOSWorkspace, seesAnEnd)
@@ -168,18 +190,30 @@ TEST_F(MacOSWorkspace, showsFilesAndOpensAddresses)
             "reveal file:///Users/someone/Music/Säge 1.wav", "open https://fadeloom.example/download.php"));
 }
 
+TEST_F(MacOSWorkspace, opensTheSettingsInWhichAPermissionIsChanged)
+{
+    workspace.open(std::string(AudioPermission::settingsURL));
+
+    EXPECT_THAT(done(),
+        ElementsAre("open x-apple.systempreferences:com.apple.preference.security?Privacy_AudioCapture"));
+}
+
 TEST_F(MacOSWorkspace, startsAnotherInstanceAndReportsOnTheMainQueue)
 {
     for (const bool isRefused : {false, true}) {
         desktop.isNewInstanceRefused = isRefused;
         int reports = 0;
 
-        workspace.openNewInstance([&] { ++reports; });
+        workspace.openNewInstance([&] {
+            ++reports;
+            EXPECT_TRUE(doubles::isOnMainQueue());
+        });
         EXPECT_EQ(reports, 0);
         doubles::runQueues();
 
         EXPECT_EQ(reports, 1);
-        EXPECT_THAT(done(), ElementsAre("launch /Applications/Fadeloom.app once more"));
+        EXPECT_THAT(
+            done(), ElementsAre("launch /Applications/Fadeloom.app once more with {FADELOOM_SUCCEEDS: 1}"));
     }
 }
 

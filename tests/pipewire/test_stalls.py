@@ -19,7 +19,7 @@ from test_takeover import QUARTER, heard, rampFile
 
 STOPS = 3  # The median counts: the machine may be busy with others.
 HANDOVER = 0.050  # Seconds without sound after a stop.
-NOTICED = 1.300  # Seconds without sound after the data thread hung.
+NOTICED = 0.500  # Seconds without sound after the data thread hung.
 RETAKE = 0.300  # Seconds from going on until the sound runs through us again.
 
 

@@ -28,6 +28,8 @@ public:
     [[nodiscard]] bool isDark() const { return look_.isDark(); }
     /// Called from now on whenever windows are to be drawn dark or light.
     void whenLookChanges(std::function<void(bool isDark)> changed) { lookChanged_ = std::move(changed); }
+    /// Never called: a session on Linux ends its programs by a signal, which they are asked by anyway.
+    void whenSessionEnds(const std::function<void()>& /*ends*/) { }
     /// Called once it turns out that nobody shows the icon.
     void whenWithoutTray(std::function<void()> withoutTray) { withoutTray_ = std::move(withoutTray); }
 

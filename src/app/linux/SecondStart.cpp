@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/linux/SecondStart.h"
 
+#include "app/RunningAlready.h"
+
 #include <QFile>
 #include <QStandardPaths>
 
 namespace fadeloom {
-
-namespace {
-
-constexpr int isRunningStatus = 3;
-
-}  // namespace
 
 std::filesystem::path instanceFolder()
 {
@@ -23,12 +19,10 @@ std::optional<EarlyEnd> secondStart(SingleInstance::Start start, InstanceRequest
     case SingleInstance::Start::first:
         return std::nullopt;
     case SingleInstance::Start::answered:
-        if (request == InstanceRequest::open)
-            return EarlyEnd{"it is running already; its panel is open now", 0};
-        return EarlyEnd{
-            "it is running already; two would take each other's applications away", isRunningStatus};
+        return request == InstanceRequest::open ? runningAlready::panelIsOpen()
+                                                : runningAlready::wouldCompete();
     case SingleInstance::Start::withoutPanel:
-        return EarlyEnd{"it is running already, without a panel (--headless)", isRunningStatus};
+        return runningAlready::withoutPanel();
     case SingleInstance::Start::unanswered:
         break;
     }

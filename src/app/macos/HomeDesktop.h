@@ -6,6 +6,7 @@
 #include "platform/macos/AppKitDialogs.h"
 #include "platform/macos/AppearanceWatch.h"
 #include "platform/macos/MenuBarItem.h"
+#include "platform/macos/PowerOffWatch.h"
 
 #include <functional>
 #include <utility>
@@ -28,13 +29,17 @@ public:
     [[nodiscard]] bool isDark() const { return look_.isDark(); }
     /// Called from now on whenever windows are to be drawn dark or light.
     void whenLookChanges(std::function<void(bool isDark)> changed) { lookChanged_ = std::move(changed); }
+    /// Called when the user logs out or shuts down, while there still is time to put things in order.
+    void whenSessionEnds(std::function<void()> ends) { sessionEnds_ = std::move(ends); }
 
 private:
     std::function<void(bool)> lookChanged_ = [](bool) { };
+    std::function<void()> sessionEnds_ = [] { };
     AppKitApplication application_;
     AppKitDialogs dialogs_;
     AppearanceWatch look_{[this](bool isDark) { lookChanged_(isDark); }};
     MenuBarItem icon_;
+    PowerOffWatch powerOff_{[this] { sessionEnds_(); }};
 };
 
 }  // namespace fadeloom

@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: MIT
-// Instances on macOS are the system's business.
+// One instance for a user on macOS: a second start opens the first one's panel.
 #pragma once
 
-#include "app/EarlyEnd.h"
+#include "app/RunningAlready.h"
+#include "platform/macos/FoundationFolders.h"
+#include "platform/macos/OneInstance.h"
 
+#include <filesystem>
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace fadeloom {
 
-/// The system itself opens a bundle only once; who starts the executable inside of it gets one more.
+/// This instance among those of the user.
 class HomeInstance {
 public:
     struct Actions {
@@ -18,9 +22,32 @@ public:
         std::function<void()> quit = nullptr;
     };
 
-    [[nodiscard]] std::optional<EarlyEnd> claim(bool /*wantsPanel*/) { return std::nullopt; }
-    void serve(const Actions& /*actions*/) { }
-    void beginEnding() { }
+    /// Becomes the one instance; else asks the other one, to show its panel if `wantsPanel`, and tells how that went.
+    [[nodiscard]] std::optional<EarlyEnd> claim(bool wantsPanel)
+    {
+        const auto start = instance_.claim(wantsPanel);
+        if (start == OneInstance::Start::first)
+            return std::nullopt;
+        if (!wantsPanel)
+            return runningAlready::wouldCompete();
+        if (start == OneInstance::Start::besideHeadless)
+            return runningAlready::withoutPanel();
+        instance_.askToOpen();
+        return runningAlready::panelIsOpen();
+    }
+    /// What is done from now on when others ask.
+    void serve(Actions actions) { instance_.serve(std::move(actions.open)); }
+    /// From now on others wait for the end.
+    void beginEnding() { instance_.beginEnding(); }
+
+private:
+    static std::filesystem::path folder()
+    {
+        const auto support = FoundationFolders().applicationSupport();
+        return support.empty() ? support : support / "Fadeloom";
+    }
+
+    OneInstance instance_{folder()};
 };
 
 }  // namespace fadeloom

@@ -3,10 +3,11 @@
 #pragma once
 
 #include "platform/Workspace.h"
+#include "platform/macos/DispatchQueue.h"
 
 #include <filesystem>
-#include <map>
-#include <optional>
+#include <functional>
+#include <memory>
 
 @class NSRunningApplication;
 
@@ -15,15 +16,24 @@ namespace fadeloom {
 /// For Objective-C++ only. Thread: main.
 class AppIconFiles {
 public:
+    using Found = std::function<void(const AppIcon&)>;
+
     /// `folder` is made when it is needed.
     explicit AppIconFiles(std::filesystem::path folder);
+    AppIconFiles(const AppIconFiles&) = delete;
+    AppIconFiles& operator=(const AppIconFiles&) = delete;
+    ~AppIconFiles();
 
-    /// An application's picture, written once for each bundle; absent when it has none, or it cannot be written.
-    std::optional<AppIcon> iconOf(NSRunningApplication* application);
+    /// An application's picture, drawn and written off the main thread, once for each bundle. `found` is not called when
+    /// it has none, or it cannot be written.
+    void find(NSRunningApplication* application, Found found);
 
 private:
+    struct Bundles;
+
     const std::filesystem::path folder_;
-    std::map<std::filesystem::path, std::optional<AppIcon>> written_;  // By bundle location.
+    const std::shared_ptr<Bundles> bundles_;  // Which a picture that is being drawn looks for at its end.
+    DispatchQueue queue_{"com.fadeloom.icons"};
 };
 
 }  // namespace fadeloom

@@ -5,8 +5,13 @@
 
 #import <AppKit/AppKit.h>
 
+#include <chrono>
+#include <map>
+#include <optional>
+#include <string>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 namespace fadeloom {
 namespace {
@@ -24,27 +29,71 @@ NSData* pngOf(NSImage* image)
                                                                           properties:@{}];
 }
 
+std::optional<AppIcon> written(NSRunningApplication* application, const std::filesystem::path& file)
+{
+    @autoreleasepool {
+        std::error_code ignored;  // Writing fails then, too.
+        std::filesystem::create_directories(file.parent_path(), ignored);
+        if (![pngOf(application.icon) writeToURL:nsURL(file) atomically:YES])
+            return std::nullopt;
+        return AppIcon{.themeName = {}, .file = file};
+    }
+}
+
 }  // namespace
+
+/// What is known of bundles, by their location.
+struct AppIconFiles::Bundles {
+    struct Bundle {
+        bool isDrawn = false;
+        std::optional<AppIcon> icon{};
+        std::vector<Found> waiting{};
+    };
+
+    void drawn(const std::filesystem::path& location, const std::optional<AppIcon>& icon)
+    {
+        Bundle& bundle = byLocation[location];
+        bundle.isDrawn = true;
+        bundle.icon = icon;
+        for (const Found& found : std::exchange(bundle.waiting, {}))
+            if (icon)
+                found(*icon);
+    }
+
+    std::map<std::filesystem::path, Bundle> byLocation{};
+};
 
 AppIconFiles::AppIconFiles(std::filesystem::path folder)
     : folder_(std::move(folder))
+    , bundles_(std::make_shared<Bundles>())
 {
 }
 
-std::optional<AppIcon> AppIconFiles::iconOf(NSRunningApplication* application)
+AppIconFiles::~AppIconFiles() = default;
+
+void AppIconFiles::find(NSRunningApplication* application, Found found)
 {
-    const auto bundle = pathOf(application.bundleURL);
-    if (!bundle)
-        return std::nullopt;
-    const auto [entry, isNew] = written_.try_emplace(*bundle);
-    if (isNew) {
-        std::error_code ignored;  // Writing fails then, too.
-        std::filesystem::create_directories(folder_, ignored);
-        const auto file = folder_ / (std::to_string(written_.size()) + ".png");
-        if ([pngOf(application.icon) writeToURL:nsURL(file) atomically:YES])
-            entry->second = AppIcon{.themeName = {}, .file = file};
+    const auto location = pathOf(application.bundleURL);
+    if (!location)
+        return;
+    const auto [entry, isNew] = bundles_->byLocation.try_emplace(*location);
+    if (entry->second.isDrawn) {
+        if (entry->second.icon)
+            found(*entry->second.icon);
+        return;
     }
-    return entry->second;
+    entry->second.waiting.push_back(std::move(found));
+    if (!isNew)
+        return;
+    const auto file = folder_ / (std::to_string(bundles_->byLocation.size()) + ".png");
+    queue_.submit(std::chrono::milliseconds(0),
+        [application, file, location = *location, weakly = std::weak_ptr(bundles_)] {
+            const auto icon = written(application, file);
+            dispatch_async(dispatch_get_main_queue(), ^{
+                if (const auto bundles = weakly.lock())
+                    bundles->drawn(location, icon);
+            });
+        });
 }
 
 }  // namespace fadeloom

@@ -22,7 +22,7 @@ NSAppearance* appearanceOf(Application::Appearance appearance)
     return nil;
 }
 
-NSAttributedString* textOf(const AboutCredits& credits)
+NSAttributedString* creditsText(const AboutCredits& credits)
 {
     NSFont* font = [NSFont systemFontOfSize:11];
     NSMutableAttributedString* text = [[NSMutableAttributedString alloc]
@@ -58,7 +58,7 @@ void AppKitApplication::showAboutPanel(const AboutCredits& credits)
 {
     @autoreleasepool {
         activate();
-        [NSApp orderFrontStandardAboutPanelWithOptions:@{NSAboutPanelOptionCredits : textOf(credits)}];
+        [NSApp orderFrontStandardAboutPanelWithOptions:@{NSAboutPanelOptionCredits : creditsText(credits)}];
     }
 }
 

@@ -23,6 +23,7 @@ public:
     std::string ownBundleID() const override;
     std::vector<RunningApplication> runningApplications() const override;
     std::optional<RunningApplication> runningApplication(ProcessID pid) const override;
+    void findIcon(const RunningApplication& application, std::function<void(const AppIcon&)> found) override;
     bool isTerminated(const RunningApplication& application) const override;
     std::optional<ProcessID> responsiblePid(ProcessID pid) const override;
     bool isApplicationBundle(const std::filesystem::path& location) const override;

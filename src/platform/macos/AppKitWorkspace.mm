@@ -3,6 +3,7 @@
 
 #include "platform/macos/AppIconFiles.h"
 #include "platform/macos/NSText.h"
+#include "platform/macos/OneInstance.h"
 
 #import <AppKit/AppKit.h>
 
@@ -34,7 +35,7 @@ std::uint64_t launchMarkOf(NSRunningApplication* application)
     return launched == nil ? 0 : std::bit_cast<std::uint64_t>(launched.timeIntervalSinceReferenceDate);
 }
 
-RunningApplication describe(NSRunningApplication* application, AppIconFiles& icons)
+RunningApplication describe(NSRunningApplication* application)
 {
     return {
         .pid = application.processIdentifier,
@@ -42,7 +43,7 @@ RunningApplication describe(NSRunningApplication* application, AppIconFiles& ico
         .bundleLocation = pathOf(application.bundleURL),
         .activationPolicy = policyOf(application),
         .localizedName = textOf(application.localizedName),
-        .icon = icons.iconOf(application),
+        .icon = std::nullopt,  // Drawn for those who are shown.
         .launchMark = launchMarkOf(application),
     };
 }
@@ -73,7 +74,7 @@ std::vector<RunningApplication> AppKitWorkspace::runningApplications() const
     @autoreleasepool {
         std::vector<RunningApplication> running;
         for (NSRunningApplication* each in NSWorkspace.sharedWorkspace.runningApplications)
-            running.push_back(describe(each, *icons_));
+            running.push_back(describe(each));
         return running;
     }
 }
@@ -82,7 +83,17 @@ std::optional<RunningApplication> AppKitWorkspace::runningApplication(ProcessID 
 {
     @autoreleasepool {
         NSRunningApplication* found = [NSRunningApplication runningApplicationWithProcessIdentifier:pid];
-        return found == nil ? std::nullopt : std::optional(describe(found, *icons_));
+        return found == nil ? std::nullopt : std::optional(describe(found));
+    }
+}
+
+void AppKitWorkspace::findIcon(
+    const RunningApplication& application, std::function<void(const AppIcon&)> found)
+{
+    @autoreleasepool {
+        if (NSRunningApplication* running =
+                [NSRunningApplication runningApplicationWithProcessIdentifier:application.pid])
+            icons_->find(running, std::move(found));
     }
 }
 
@@ -137,6 +148,7 @@ void AppKitWorkspace::openNewInstance(std::function<void()> reported)
     @autoreleasepool {
         NSWorkspaceOpenConfiguration* configuration = [NSWorkspaceOpenConfiguration configuration];
         configuration.createsNewApplicationInstance = YES;
+        configuration.environment = @{nsText(OneInstance::successorVariable) : @"1"};
         // The answer comes on whichever thread the system likes.
         [NSWorkspace.sharedWorkspace openApplicationAtURL:NSBundle.mainBundle.bundleURL
                                             configuration:configuration

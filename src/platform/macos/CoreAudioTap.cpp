@@ -219,7 +219,7 @@ void CoreAudioTap::lookForSilence()
     const std::uint64_t silent = silence_->silentFrames();
     if (silent < silentWhilePaused_)
         silentWhilePaused_ = 0;
-    if (silent == 0)
+    if (silence_->hasHeard())
         taps.noteSound(key);
     if (!taps.isAnyPlaying(description_.processes))
         silentWhilePaused_ = silent;

@@ -18,12 +18,20 @@ public:
     void note(AudioBuffers tap) noexcept FADELOOM_NONBLOCKING
     {
         // Only this thread writes. Relaxed: a number on its own, read by whoever looks now and then.
-        const std::uint64_t former = silentFrames_.load(std::memory_order_relaxed);
-        silentFrames_.store(isSilent(tap) ? former + framesOf(tap) : 0, std::memory_order_relaxed);
+        if (isSilent(tap)) {
+            const std::uint64_t former = silentFrames_.load(std::memory_order_relaxed);
+            silentFrames_.store(former + framesOf(tap), std::memory_order_relaxed);
+        } else {
+            silentFrames_.store(0, std::memory_order_relaxed);
+            hasHeard_.store(true, std::memory_order_relaxed);
+        }
     }
 
     /// Since the last sample that was not zero. Thread: any.
     [[nodiscard]] std::uint64_t silentFrames() const { return silentFrames_.load(std::memory_order_relaxed); }
+
+    /// Whether there ever was such a sample. Thread: any.
+    [[nodiscard]] bool hasHeard() const { return hasHeard_.load(std::memory_order_relaxed); }
 
 private:
     static bool isSilent(AudioBuffers tap) noexcept FADELOOM_NONBLOCKING
@@ -46,6 +54,7 @@ private:
     }
 
     std::atomic<std::uint64_t> silentFrames_ = 0;
+    std::atomic<bool> hasHeard_ = false;
 };
 
 }  // namespace fadeloom

@@ -5,9 +5,28 @@
 #include <pipewire/loop.h>
 
 #include <ctime>
+#include <fstream>
+#include <string>
 #include <utility>
 
+#include <pthread.h>
+#include <unistd.h>
+
 namespace fadeloom {
+
+namespace {
+
+/// Whether a thread of ours runs or waits for nothing but a processor.
+bool isReadyToRun(pid_t thread)
+{
+    std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
+    std::string line;
+    std::getline(file, line);
+    const auto name = line.rfind(')');  // The name before it may hold anything.
+    return name != std::string::npos && line.compare(name, 3, ") R") == 0;
+}
+
+}  // namespace
 
 Heartbeat::Heartbeat(pw_loop* loop, pw_data_loop* dataLoop, Callbacks callbacks)
     : loop_(loop)
@@ -46,14 +65,21 @@ void Heartbeat::onTimer(void* self, std::uint64_t /*expirations*/)
 int Heartbeat::onBeat(spa_loop* /*loop*/, bool /*async*/, std::uint32_t beat, const void* /*data*/,
     std::size_t /*size*/, void* self)
 {
-    static_cast<Heartbeat*>(self)->answered_.store(beat, std::memory_order_relaxed);
+    auto& heartbeat = *static_cast<Heartbeat*>(self);
+    heartbeat.thread_.store(gettid(), std::memory_order_relaxed);
+    clockid_t clock = 0;
+    if (pthread_getcpuclockid(pthread_self(), &clock) == 0)
+        heartbeat.workClock_.store(clock, std::memory_order_relaxed);
+    heartbeat.answered_.store(beat, std::memory_order_relaxed);
     return 0;
 }
 
 void Heartbeat::check()
 {
     if (answered_.load(std::memory_order_relaxed) != asked_) {
-        if (++misses_ == missesAllowed && !isStalled_) {
+        ++misses_;
+        if (misses_ >= missesAllowed && !isStalled_
+            && (misses_ >= missesAllowedWhenStarved || !isStarved())) {
             isStalled_ = true;
             callbacks_.stalled();
         }
@@ -65,7 +91,23 @@ void Heartbeat::check()
         callbacks_.recovered();
     }
     ++asked_;
+    workedAtQuestion_ = timeWorked();
     pw_data_loop_invoke(dataLoop_, &onBeat, asked_, nullptr, 0, false, this);
+}
+
+// Ready to run since the question, and hardly ever running. A thread that hangs waits for something or works all the
+// time.
+bool Heartbeat::isStarved() const
+{
+    return isReadyToRun(thread_.load(std::memory_order_relaxed))
+        && timeWorked() - workedAtQuestion_ < interval / 2;
+}
+
+std::chrono::nanoseconds Heartbeat::timeWorked() const
+{
+    timespec worked{};
+    clock_gettime(workClock_.load(std::memory_order_relaxed), &worked);
+    return std::chrono::seconds(worked.tv_sec) + std::chrono::nanoseconds(worked.tv_nsec);
 }
 
 }  // namespace fadeloom

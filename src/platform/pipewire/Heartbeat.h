@@ -5,7 +5,10 @@
 #include <atomic>
 #include <chrono>
 #include <cstdint>
+#include <ctime>
 #include <functional>
+
+#include <sys/types.h>
 
 struct pw_data_loop;
 struct pw_loop;
@@ -18,9 +21,11 @@ namespace fadeloom {
 class Heartbeat {
 public:
     static constexpr std::chrono::milliseconds interval{80};
-    /// So many intervals without an answer are a stall: about a second. On a loaded machine a thread that works may be
-    /// held up for a quarter of one, and to let go of the applications then would end their recordings.
-    static constexpr int missesAllowed = 12;
+    /// So many intervals without an answer are a stall.
+    static constexpr int missesAllowed = 4;
+    /// The same for a thread that wants to work and is given no processor: on a loaded machine that passes, and to let
+    /// go of the applications would end their recordings.
+    static constexpr int missesAllowedWhenStarved = 12;
 
     struct Callbacks {
         std::function<void()> stalled;
@@ -42,6 +47,8 @@ private:
     static int onBeat(
         spa_loop* loop, bool async, std::uint32_t beat, const void* data, std::size_t size, void* self);
     void check();
+    [[nodiscard]] std::chrono::nanoseconds timeWorked() const;
+    [[nodiscard]] bool isStarved() const;
     void setTimer(bool isRunning);
 
     pw_loop* const loop_;
@@ -52,7 +59,12 @@ private:
     bool isStalled_ = false;
     int misses_ = 0;
     std::uint32_t asked_ = 0;
-    std::atomic<std::uint32_t> answered_ = 0;  // Relaxed: it promises nothing about other memory.
+    std::chrono::nanoseconds workedAtQuestion_{};
+    std::atomic<std::uint32_t> answered_ =
+        0;  // Relaxed, as the next: they promise nothing about other memory.
+    // The data loop's thread and its processor time's clock; 0 before its first answer.
+    std::atomic<pid_t> thread_ = 0;
+    std::atomic<clockid_t> workClock_ = 0;
 };
 
 }  // namespace fadeloom

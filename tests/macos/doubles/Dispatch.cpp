@@ -9,7 +9,9 @@
 
 #include <algorithm>
 #include <list>
+#include <map>
 #include <mutex>
+#include <utility>
 
 extern "C" const doubles::ClassData immortalClass __asm__("OBJC_CLASS_$_ImmortalObject");
 
@@ -17,6 +19,7 @@ extern "C" const doubles::ClassData immortalClass __asm__("OBJC_CLASS_$_Immortal
 struct dispatch_queue_s {
     const void* type = &immortalClass;
     int references = 1;
+    unsigned int quality = 0;  // Of an attribute, too.
 };
 
 namespace doubles {
@@ -30,6 +33,7 @@ struct Waiting {
 
 struct Queues {
     std::recursive_mutex mutex;
+    unsigned int lastQuality = 0;
     std::uint64_t now = 1;
     std::list<Waiting> waiting;  // By due time, then in the order given.
 };
@@ -39,6 +43,23 @@ Queues& queues()
     static auto& made = *new Queues;
     return made;
 }
+
+thread_local dispatch_queue_t current = nullptr;
+
+/// While a block of a queue runs.
+class Turn {
+public:
+    explicit Turn(dispatch_queue_t queue)
+        : former_(std::exchange(current, queue))
+    {
+    }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+    ~Turn() { current = former_; }
+
+private:
+    const dispatch_queue_t former_;
+};
 
 void add(std::uint64_t due, dispatch_queue_t queue, dispatch_block_t block)
 {
@@ -69,8 +90,11 @@ bool runOne(std::uint64_t until, dispatch_queue_t only)
         queues().now = std::max(queues().now, found->due);
         taken.splice(taken.begin(), waiting, found);
     }
-    const AutoreleasePool pool;
-    taken.front().block();
+    {
+        const AutoreleasePool pool;
+        const Turn turn(taken.front().queue);
+        taken.front().block();
+    }
     drop(taken.front());
     return true;
 }
@@ -99,6 +123,16 @@ void clearQueues()
     std::ranges::for_each(dropped, drop);
 }
 
+bool isOnMainQueue()
+{
+    return current == nullptr || current == &_dispatch_main_q;
+}
+
+unsigned int lastQuality()
+{
+    return queues().lastQuality;
+}
+
 }  // namespace doubles
 
 using namespace doubles;
@@ -108,16 +142,21 @@ extern "C" {
 dispatch_queue_s _dispatch_main_q;
 
 dispatch_queue_attr_t dispatch_queue_attr_make_with_qos_class(
-    dispatch_queue_attr_t attributes, dispatch_qos_class_t, int)
+    dispatch_queue_attr_t attributes, dispatch_qos_class_t quality, int)
 {
-    return attributes;
+    if (attributes != DISPATCH_QUEUE_SERIAL)
+        crash("a queue that would run pieces of work at the same time");
+    static std::map<dispatch_qos_class_t, dispatch_queue_s> made;
+    made[quality].quality = quality;
+    return &made[quality];
 }
 
 dispatch_queue_t dispatch_queue_create(const char*, dispatch_queue_attr_t attributes)
 {
-    if (attributes != DISPATCH_QUEUE_SERIAL)
-        crash("a queue that would run pieces of work at the same time");
-    return new dispatch_queue_s;
+    auto* const queue = new dispatch_queue_s;
+    queue->quality = attributes == DISPATCH_QUEUE_SERIAL ? 0 : attributes->quality;
+    queues().lastQuality = queue->quality;
+    return queue;
 }
 
 void dispatch_release(dispatch_queue_t queue)
@@ -141,6 +180,7 @@ void dispatch_sync(dispatch_queue_t queue, dispatch_block_t block)
     if (queue == &_dispatch_main_q)
         crash("waited for the main queue");
     while (runOne(queues().now, queue)) { }  // What was given before comes first.
+    const Turn turn(queue);
     block();
 }
 

@@ -10,6 +10,10 @@ namespace doubles {
 void runQueues();
 /// Lets time pass and runs what becomes due, in its order.
 void advanceQueues(std::chrono::nanoseconds duration);
+/// Whether what runs now was given to the main queue, or to none.
+bool isOnMainQueue();
+/// The quality of service of the queue that was made last.
+unsigned int lastQuality();
 /// Drops what waits.
 void clearQueues();
 

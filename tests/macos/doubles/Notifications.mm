@@ -28,7 +28,7 @@ NSNotificationName const NSWorkspaceWillPowerOffNotification = @"will power off"
 }
 + (NSNotificationCenter*)centerNamed:(const char*)name
 {
-    NSNotificationCenter* made = [[NSNotificationCenter alloc] init];
+    NSNotificationCenter* made = [[self alloc] init];
     made->name_ = name;
     return made;
 }
@@ -48,6 +48,24 @@ NSNotificationName const NSWorkspaceWillPowerOffNotification = @"will power off"
         std::erase_if(desktop().observers, [&](const auto& each) { return each.token == observer; });
     if (count == 0)
         crash("an observer that is none was removed");
+}
+
+@end
+
+@implementation NSDistributedNotificationCenter
+
++ (NSDistributedNotificationCenter*)defaultCenter
+{
+    return static_cast<NSDistributedNotificationCenter*>([self centerNamed:"distributed"]);
+}
+- (void)postNotificationName:(NSNotificationName)name
+                      object:(NSString*)object
+                    userInfo:(NSDictionary*)userInfo
+          deliverImmediately:(BOOL)isAtOnce
+{
+    (void)object, (void)userInfo;
+    note(std::string("post ") + name.UTF8String + (isAtOnce ? " at once" : ""));
+    post("distributed", name);
 }
 
 @end

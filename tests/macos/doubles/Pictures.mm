@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Pictures, which are no more than their names.
 #include "tests/macos/doubles/Desktop.h"
+#include "tests/macos/doubles/Dispatch.h"
 #include "tests/macos/doubles/Journal.h"
 
 #include <fstream>
@@ -53,7 +54,8 @@ struct CGImage {
 - (CGImageRef)CGImageForProposedRect:(NSRect*)rectangle context:(id)context hints:(NSDictionary*)hints
 {
     (void)context, (void)hints;
-    note("draw " + image_.drawn + " at " + std::to_string(static_cast<int>(rectangle->size.width)));
+    note("draw " + image_.drawn + " at " + std::to_string(static_cast<int>(rectangle->size.width))
+        + (isOnMainQueue() ? " on the main queue" : ""));
     return image_.drawn.empty() ? nullptr : &image_;
 }
 

@@ -11,11 +11,24 @@
 #include <chrono>
 #include <memory>
 #include <thread>
+#include <vector>
+
+#include <sched.h>
+#include <unistd.h>
 
 namespace fadeloom {
 namespace {
 
 using namespace std::chrono_literals;
+
+/// The calling thread runs on the first processor alone.
+void useOneProcessor()
+{
+    cpu_set_t first;
+    CPU_ZERO(&first);
+    CPU_SET(0, &first);
+    sched_setaffinity(0, sizeof first, &first);
+}
 
 class HeartbeatTest : public testing::Test {
 protected:
@@ -43,14 +56,13 @@ protected:
     /// Until then, what the data loop is asked to do is done at once by whoever asks.
     void waitForItsThread() const
     {
-        std::atomic<bool> isElsewhere = false;
-        const auto note = [](spa_loop*, bool isAsynchronous, std::uint32_t, const void*, std::size_t,
-                              void* flag) {
-            static_cast<std::atomic<bool>*>(flag)->store(isAsynchronous);
+        std::atomic<pid_t> thread = gettid();
+        const auto note = [](spa_loop*, bool, std::uint32_t, const void*, std::size_t, void* into) {
+            static_cast<std::atomic<pid_t>*>(into)->store(gettid());
             return 0;
         };
-        while (!isElsewhere) {
-            pw_data_loop_invoke(dataLoop, note, 0, nullptr, 0, true, &isElsewhere);
+        while (thread == gettid()) {
+            pw_data_loop_invoke(dataLoop, note, 0, nullptr, 0, true, &thread);
             std::this_thread::sleep_for(1ms);
         }
     }
@@ -112,6 +124,49 @@ TEST_F(HeartbeatTest, tellsOfAThreadThatStandsStillAndOfItsRecovery)
     EXPECT_EQ(stalls, 1);
     EXPECT_EQ(recoveries, 1);
     EXPECT_FALSE(heartbeat->isStalled());
+}
+
+TEST_F(HeartbeatTest, tellsOfAThreadThatWorksWithoutEnd)
+{
+    heartbeat->setActive(true);
+    runFor(200ms);
+    const auto spin = [](spa_loop*, bool, std::uint32_t, const void*, std::size_t, void* isSpinning) {
+        while (*static_cast<std::atomic<bool>*>(isSpinning)) { }
+        return 0;
+    };
+    isFrozen = true;
+    pw_data_loop_invoke(dataLoop, spin, 0, nullptr, 0, false, &isFrozen);
+    runFor((Heartbeat::missesAllowedWhenStarved - 3) * Heartbeat::interval);
+
+    EXPECT_EQ(stalls, 1);
+}
+
+TEST_F(HeartbeatTest, waitsLongerForAThreadThatIsGivenNoProcessor)
+{
+    heartbeat->setActive(true);
+    runFor(200ms);
+    const auto begin = std::chrono::steady_clock::now();
+    std::atomic<bool> isOver = false;
+    std::vector<std::jthread> hogs;
+    const auto becomeIdle = [](spa_loop*, bool, std::uint32_t, const void*, std::size_t, void*) {
+        useOneProcessor();
+        const sched_param parameters{};
+        return sched_setscheduler(0, SCHED_IDLE, &parameters);
+    };
+    pw_data_loop_invoke(dataLoop, becomeIdle, 0, nullptr, 0, true, this);
+    for (int i = 0; i < 4; ++i) {
+        hogs.emplace_back([&] {
+            useOneProcessor();
+            while (!isOver) { }
+        });
+    }
+    while (stalls == 0 && std::chrono::steady_clock::now() - begin < 3s)
+        pw_loop_iterate(loop, 10);
+    isOver = true;
+
+    EXPECT_TRUE(stalls == 0
+        || std::chrono::steady_clock::now() - begin
+            > (Heartbeat::missesAllowedWhenStarved - 1) * Heartbeat::interval);
 }
 
 TEST_F(HeartbeatTest, asksNothingWhileItIsNotNeeded)

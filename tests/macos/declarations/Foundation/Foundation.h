@@ -144,6 +144,14 @@ typedef NSString* NSNotificationName;
 - (void)removeObserver:(id)observer;
 @end
 
+@interface NSDistributedNotificationCenter : NSNotificationCenter
+@property (class, readonly, strong) NSDistributedNotificationCenter* defaultCenter;
+- (void)postNotificationName:(NSNotificationName)name
+                      object:(nullable NSString*)object
+                    userInfo:(nullable NSDictionary*)userInfo
+          deliverImmediately:(BOOL)isAtOnce;
+@end
+
 @interface NSBundle : NSObject
 @property (class, readonly, strong) NSBundle* mainBundle;
 + (nullable instancetype)bundleWithURL:(NSURL*)location;
