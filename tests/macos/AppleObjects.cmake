@@ -4,7 +4,8 @@
 # in the platform's dialect and ABI, and that it asks for nothing that the oldest supported system lacks.
 #
 # target macosObjects. What belongs together is compiled in batches; a batch that compiles leaves
-# objects/TRIPLE/BATCH.o behind, and objects/batches lists what is to be there: the triple, the batch, its sources.
+# objects/TRIPLE/BATCH.o behind (an empty one where no code is made), and objects/batches lists what is to be there: the
+# triple, the batch, its sources.
 set(library /usr/lib/llvm-19)
 set(own ${CMAKE_CURRENT_BINARY_DIR}/objects)
 file(MAKE_DIRECTORY ${own}/libraries ${own}/types/bits)
@@ -136,10 +137,16 @@ foreach(processor IN ITEMS arm64 x86_64)
                 endif()
             endif()
         endif()
+        # Code is made of what depends on the processor, or is the platform's.
+        set(depth -fsyntax-only)
+        if(batch MATCHES "base|engine|RenderKernels|platform_macos|coreaudio")
+            set(depth -c)
+        endif()
         file(CONFIGURE OUTPUT ${file} CONTENT "${unit}" @ONLY)
         add_custom_command(OUTPUT ${object}
             COMMAND ${CMAKE_COMMAND} -E rm -f ${object}
-            COMMAND ${compile} ${language} -MD -MF ${object}.d -c ${file} -o ${object}
+            COMMAND ${compile} ${language} -MD -MF ${object}.d -MT ${object} ${depth} ${file} -o ${object}
+            COMMAND ${CMAKE_COMMAND} -E touch ${object}
             DEPENDS ${file} ${paths} ${needed}
             DEPFILE ${object}.d
             COMMENT "Compiling ${batch} for ${triple}" VERBATIM)

@@ -13,7 +13,8 @@
 #include <cstddef>
 #include <ctime>
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+// On a Mac a program's functions do not come in between its libraries and those of the system.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || defined(__APPLE__)
 #define FADELOOM_GUARDS 0
 #elif defined(__has_feature)
 #if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
