@@ -29,8 +29,9 @@
 namespace fadeloom {
 namespace {
 
-void runOn(
-    const Platform& platform, QtMainLoop& mainLoop, Console& console, const std::function<void()>& quit)
+/// `instance`: null for one of many, which other programs do not reach.
+void runOn(const Platform& platform, QtMainLoop& mainLoop, Console& console, HomeInstance* instance,
+    const std::function<void()>& quit)
 {
     // First, so that a signal during the start ends in good order, too.
     const QuitSignals quitSignals(quit);
@@ -53,7 +54,14 @@ void runOn(
         },
         [] {});  // The end of the input is not the end of the program.
 
+    if (instance != nullptr) {
+        instance->serve({.quit = quit, .run = [&run](const std::string& line, bool isSandboxed) {
+                             return run.answer(line, isSandboxed ? Caller::sandboxed : Caller::trusted);
+                         }});
+    }
     mainLoop.run();
+    if (instance != nullptr)
+        instance->serve({});
     run.shutdown();
 }
 
@@ -73,7 +81,7 @@ int runOnThisMachine(QtMainLoop& mainLoop, Console& console, HomeGuardian& guard
     const auto platform = home.platform();
     if (const auto end = reasonNotToStart(platform))
         return endEarly(*end);
-    runOn(platform, mainLoop, console, quit);
+    runOn(platform, mainLoop, console, &instance, quit);
     return 0;
 }
 
@@ -95,7 +103,8 @@ int runHeadless(int argumentCount, char** arguments, bool isSimulated)
         return runOnThisMachine(mainLoop, console, *guardian);
     return runSimulated(mainLoop, [&](SimulatedHome& home) {
         PrintedLog log(home.world().systemLog(), console, mainLoop);
-        runOn(home.world().platform({.systemLog = &log}), mainLoop, console, [&] { mainLoop.quit(); });
+        runOn(
+            home.world().platform({.systemLog = &log}), mainLoop, console, nullptr, [&] { mainLoop.quit(); });
         return 0;
     });
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/HeadlessRun.h"
 
+#include "app/CommandAnswer.h"
 #include "app/Console.h"
 #include "control/AppSettings.h"
 #include "control/OutputChoice.h"
@@ -38,6 +39,11 @@ void HeadlessRun::takeLine(std::string_view line)
         console_.print(reply.text);
     if (reply.asksToQuit)
         options_.quit();
+}
+
+std::string HeadlessRun::answer(const std::string& line, Caller caller)
+{
+    return answerCommand(commands_, line, caller, options_.quit);
 }
 
 void HeadlessRun::shutdown()

@@ -38,6 +38,8 @@ public:
 
     /// Does what one line of input says, and prints one line in answer; none for a line without any word.
     void takeLine(std::string_view line);
+    /// Does what another program's command says; returns the answer in one line.
+    [[nodiscard]] std::string answer(const std::string& line, Caller caller);
     /// Ends in good order: no tap is left, and a save that waits is done when this returns.
     void shutdown();
 

@@ -2,6 +2,7 @@
 #include "app/TrayProgram.h"
 
 #include "app/AppDelegate.h"
+#include "app/CommandAnswer.h"
 #include "app/EarlyEnd.h"
 #include "app/Home.h"
 #include "app/InterfaceLanguage.h"
@@ -70,6 +71,7 @@ private:
     [[nodiscard]] Platform withWindows(Platform platform);
     [[nodiscard]] PanelParts panelParts();
     [[nodiscard]] AppDelegate::Actions actions();
+    [[nodiscard]] std::string answer(const std::string& line, bool isSandboxed);
     void quit();
 
     QtMainLoop& mainLoop_;
@@ -80,6 +82,8 @@ private:
     const InterfaceLanguage language_;
     EngineLog engineLog_;
     AudioController controller_;
+    CommandInterpreter commands_{controller_, platform_.text,
+        {.open = [this] { delegate_->showPopover(); }, .toggle = [this] { delegate_->togglePopover(); }}};
     std::optional<UpdateChecker> updates_;
     PanelModel panel_;
     std::optional<PanelEngine> engine_;  // Once the panel has been opened.
@@ -123,7 +127,8 @@ int TrayRun::run()
     if (host_.instance != nullptr)
         host_.instance->serve({.open = [this] { delegate_->showPopover(); },
             .toggle = [this] { delegate_->togglePopover(); },
-            .quit = [this] { quit(); }});
+            .quit = [this] { quit(); },
+            .run = [this](const std::string& line, bool isSandboxed) { return answer(line, isSandboxed); }});
     mainLoop_.run();
     controller_.shutdown();
     return 0;
@@ -165,6 +170,12 @@ AppDelegate::Actions TrayRun::actions()
     if (updates_)
         actions.checkForUpdates = [this] { updates_->checkInteractively(); };
     return actions;
+}
+
+std::string TrayRun::answer(const std::string& line, bool isSandboxed)
+{
+    const auto caller = isSandboxed ? Caller::sandboxed : Caller::trusted;
+    return answerCommand(commands_, line, caller, [this] { quit(); });
 }
 
 void TrayRun::quit()

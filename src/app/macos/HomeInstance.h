@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
 #include <utility>
 
 namespace fadeloom {
@@ -20,6 +21,8 @@ public:
         std::function<void()> open = nullptr;
         std::function<void()> toggle = nullptr;
         std::function<void()> quit = nullptr;
+        // Not served: there is no socket for commands on macOS yet.
+        std::function<std::string(const std::string& line, bool isSandboxed)> run = nullptr;
     };
 
     /// Becomes the one instance; else asks the other one, to show its panel if `wantsPanel`, and tells how that went.

@@ -5,7 +5,10 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
+
+#include <sys/types.h>
 
 namespace fadeloom {
 
@@ -50,5 +53,9 @@ inline constexpr std::array<InstanceAnswerName, 3> instanceAnswerNames = {{
 
 /// Does what is asked, as far as that can be done. Thread: main.
 using AnswerInstanceRequest = std::function<InstanceAnswer(InstanceRequest)>;
+
+/// Does what a command of the process `caller` says, 0 for an unknown one; returns its answer in one line, which begins
+/// with the kind of answer. Thread: main.
+using RunInstanceCommand = std::function<std::string(const std::string& line, pid_t caller)>;
 
 }  // namespace fadeloom

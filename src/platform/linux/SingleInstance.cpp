@@ -26,7 +26,11 @@ SingleInstance::SingleInstance(const std::filesystem::path& runtimeFolder)
     : lock_(runtimeFolder / "fadeloom.lock")
     , bus_(std::make_unique<InstanceBus>([this](InstanceRequest request) { return answer(request); }))
     , socket_(std::make_unique<InstanceSocket>(
-          runtimeFolder / "fadeloom.socket", [this](InstanceRequest request) { return answer(request); }))
+          runtimeFolder / "fadeloom.socket", [this](InstanceRequest request) { return answer(request); },
+          [this](const std::string& line, pid_t caller) {
+              const auto run = actions_.run;  // A command may end what serves it.
+              return run && !isEnding_ ? run(line, caller) : std::string("refused error it is ending");
+          }))
 {
 }
 

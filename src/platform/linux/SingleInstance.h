@@ -36,6 +36,7 @@ public:
         std::function<void()> open = nullptr;
         std::function<void()> toggle = nullptr;
         std::function<void()> quit = nullptr;
+        RunInstanceCommand run = nullptr;
     };
 
     static constexpr std::chrono::milliseconds patience{2'000};  // With an instance that should answer.
