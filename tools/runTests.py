@@ -235,7 +235,8 @@ def runChecks(tally, isLong):
     """What tools can say of the sources without running them."""
     tally.add("checks: formatting",
               run("clang-format-19", "--dry-run", "-Werror", *sources(".cpp", ".h", ".mm"), quiet=True) == 0)
-    for name, tool in (("layers", "checkLayers"), ("sizes", "checkSizes"), ("views", "checkQml")):
+    for name, tool in (("layers", "checkLayers"), ("sizes", "checkSizes"), ("views", "checkQml"),
+                       ("manual pages", "checkManPages")):
         tally.add(f"checks: {name}", run("/usr/bin/python3", f"tools/{tool}.py", quiet=True) == 0)
     if not isLong:
         return
