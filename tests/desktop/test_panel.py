@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 """What the panel does to the sound of a real player, with the mouse."""
 
+import time
+
 import numpy
 import pytest
 
@@ -125,6 +127,7 @@ def test_aRecordingHoldsWhatWasPlayed(openDesk):
 
     files = waitUntil(lambda: list((session.folder / "home").rglob("*.wav")), "the recording")
     person.find("Show in Files")
+    time.sleep(0.7)  # Until the file is closed.
     rate, samples = signals.readWave24(files[0])
     assert rate == 48000
     assert len(samples) > 2 * rate
