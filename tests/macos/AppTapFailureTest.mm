@@ -79,7 +79,7 @@ TEST_F(MacOSTapFormat, doesNotMatterOnADeviceThatIsGone)
     const auto tap = create();
 
     ASSERT_FALSE(tap);
-    EXPECT_EQ(tap.error().step, "Start device");
+    EXPECT_EQ(tap.error().step, TapStep("Start device"));
 }
 
 TEST_F(MacOSTapFormat, countsWhenTheAggregateHasNoRate)
