@@ -103,6 +103,12 @@ TapPath* GraphSession::startPath(std::set<AudioProcessID> processes, const Audio
                 : nullptr;
 }
 
+std::size_t GraphSession::pathCount() const
+{
+    const GraphLock lock{connection_};
+    return router_.pathCount();
+}
+
 void GraphSession::setProcesses(TapPath& path, std::set<AudioProcessID> processes)
 {
     const GraphLock lock{connection_};

@@ -56,6 +56,7 @@ public:
     /// Gives the streams of stopped paths back, unless a path added since has taken them over.
     void releaseStopped();
     /// No path is left, and no stream is still being given back.
+    [[nodiscard]] std::size_t pathCount() const { return paths_.size(); }
     [[nodiscard]] bool isIdle() const { return paths_.empty() && streams_.empty(); }
 
     /// Takes the next steps; `world` is the picture of the graph as it is.
