@@ -33,6 +33,7 @@ AppRowModel::Tone AppRowModel::statusTone() const
 {
     switch (shown_.status.kind) {
     case StatusLine::Kind::failed:
+    case StatusLine::Kind::outOfReach:
     case StatusLine::Kind::disconnected:
         return Tone::Warning;
     case StatusLine::Kind::recording:

@@ -131,7 +131,8 @@ void GraphSession::graphChanged()
 {
     auto world = builder_.build(connection_.graph(),
         {.chosenTarget = [this](const GraphNode& stream) { return router_.chosenTarget(stream); },
-            .isHeld = [this](const GraphNode& stream) { return router_.isHolding(stream); }});
+            .isHeld = [this](const GraphNode& stream) { return router_.isHolding(stream); },
+            .isLeftAlone = [this](const GraphNode& stream) { return router_.isLeftAlone(stream); }});
     router_.update(world);
     std::erase_if(applications_, [&](const auto& entry) {
         return std::ranges::none_of(connection_.graph().clients,

@@ -114,6 +114,7 @@ std::vector<AudioProcess> PipeWireAudioSystem::processes(ReadMic readMic)
             .isPlaying = process.isPlaying,
             .isUsingMic = readMic == ReadMic::yes && process.isUsingMicrophone,
             .ownOutputs = {process.ownOutputs.begin(), process.ownOutputs.end()},
+            .outOfReach = process.outOfReach,
         });
     }
     if (identities_.size() > world->processes.size())

@@ -69,6 +69,11 @@ public:
     void hold(const GraphNode& stream);
     /// Whether a stream waits for its tap.
     [[nodiscard]] bool isHolding(const GraphNode& stream) const { return held_.has(stream); }
+    /// Whether a stream is left to another program, which keeps moving it.
+    [[nodiscard]] bool isLeftAlone(const GraphNode& stream) const
+    {
+        return leftAlone_.contains(stream.serial);
+    }
     /// More is known of a stream: what follows from it at once, before the burst of events is over.
     void streamChanged(const GraphNode& stream);
 
