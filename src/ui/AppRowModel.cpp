@@ -81,7 +81,7 @@ void AppRowModel::resetVolume()
 
 void AppRowModel::retry()
 {
-    controller_.poll();
+    controller_.retryTap(bundleID_);
 }
 
 void AppRowModel::chooseOutput(const QString& key)
