@@ -55,11 +55,13 @@ void runOn(const Platform& platform, QtMainLoop& mainLoop, Console& console, Hom
         [] {});  // The end of the input is not the end of the program.
 
     if (instance != nullptr) {
-        instance->serve({.quit = quit, .run = [&run](const std::string& line, bool isSandboxed) {
-                             return run.answer(line, isSandboxed ? Caller::sandboxed : Caller::trusted);
-                         }});
+        instance->serve({.quit = quit,
+            .run = [&run](const std::string& line, AnswerForm form,
+                       Caller caller) { return run.answer(line, form, caller); },
+            .watchers = &run.watchers()});
     }
     mainLoop.run();
+    run.watchers().end();
     if (instance != nullptr)
         instance->serve({});
     run.shutdown();

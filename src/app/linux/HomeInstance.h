@@ -2,7 +2,9 @@
 // One instance a session on Linux: a second start opens the first one's panel.
 #pragma once
 
+#include "app/CommandAnswer.h"
 #include "app/linux/SecondStart.h"
+#include "commands/Watchers.h"
 #include "platform/linux/CallerSandbox.h"
 
 #include <functional>
@@ -20,7 +22,9 @@ public:
         std::function<void()> toggle = nullptr;
         std::function<void()> quit = nullptr;
         /// Does what another program's command says; returns the answer in one line.
-        std::function<std::string(const std::string& line, bool isSandboxed)> run = nullptr;
+        std::function<std::string(const std::string& line, AnswerForm form, Caller caller)> run = nullptr;
+        /// Those that are told what happens.
+        Watchers* watchers = nullptr;
     };
 
     /// Becomes the one instance; else asks the other one, to show its panel if `wantsPanel`, and tells how that went.
@@ -32,20 +36,31 @@ public:
     /// What is done from now on when others ask.
     void serve(Actions actions)
     {
-        RunInstanceCommand run;
-        if (actions.run) {
-            run = [answer = std::move(actions.run)](
-                      const std::string& line, pid_t caller) { return answer(line, isSandboxed(caller)); };
-        }
-        instance_.serve({.open = std::move(actions.open),
+        SingleInstance::Actions served{.open = std::move(actions.open),
             .toggle = std::move(actions.toggle),
-            .quit = std::move(actions.quit),
-            .run = std::move(run)});
+            .quit = std::move(actions.quit)};
+        if (actions.run) {
+            served.run = [answer = std::move(actions.run)](const InstanceCommand& command) {
+                const auto form = command.wantsJson ? AnswerForm::json : AnswerForm::text;
+                return answer(command.line, form, callerOf(command.caller));
+            };
+        }
+        if (actions.watchers != nullptr) {
+            served.watch = [watchers = actions.watchers](const auto& command, const auto& send) {
+                return watchers->add(command.line, isSandboxed(command.caller), send);
+            };
+        }
+        instance_.serve(std::move(served));
     }
     /// From now on others are told to wait for the end.
     void beginEnding() { instance_.beginEnding(); }
 
 private:
+    static Caller callerOf(pid_t process)
+    {
+        return isSandboxed(process) ? Caller::sandboxed : Caller::trusted;
+    }
+
     SingleInstance instance_{instanceFolder()};
 };
 

@@ -2,7 +2,9 @@
 // One instance for a user on macOS: a second start opens the first one's panel.
 #pragma once
 
+#include "app/CommandAnswer.h"
 #include "app/RunningAlready.h"
+#include "commands/Watchers.h"
 #include "platform/macos/FoundationFolders.h"
 #include "platform/macos/OneInstance.h"
 
@@ -22,7 +24,8 @@ public:
         std::function<void()> toggle = nullptr;
         std::function<void()> quit = nullptr;
         // Not served: there is no socket for commands on macOS yet.
-        std::function<std::string(const std::string& line, bool isSandboxed)> run = nullptr;
+        std::function<std::string(const std::string& line, AnswerForm form, Caller caller)> run = nullptr;
+        Watchers* watchers = nullptr;
     };
 
     /// Becomes the one instance; else asks the other one, to show its panel if `wantsPanel`, and tells how that went.

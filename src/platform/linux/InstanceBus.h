@@ -27,6 +27,7 @@ public:
     InstanceBus& operator=(const InstanceBus&) = delete;
 
     [[nodiscard]] bool isConnected() const { return bus_.isConnected(); }
+    [[nodiscard]] QDBusConnection connection() const { return bus_; }
     /// Puts the object there, then takes the name. False when somebody has it.
     [[nodiscard]] bool claim();
     /// Whether an instance of the program has the name, and no other program: it answers as one, or does not answer in
