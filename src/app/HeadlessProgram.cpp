@@ -54,14 +54,10 @@ void runOn(const Platform& platform, QtMainLoop& mainLoop, Console& console, Hom
         },
         [] {});  // The end of the input is not the end of the program.
 
-    if (instance != nullptr) {
-        instance->serve({.quit = quit,
-            .run = [&run](const std::string& line, AnswerForm form,
-                       Caller caller) { return run.answer(line, form, caller); },
-            .watchers = &run.watchers()});
-    }
+    if (instance != nullptr)
+        instance->serve({.quit = quit, .control = run.served(mainLoop)});
     mainLoop.run();
-    run.watchers().end();
+    run.endWatches();
     if (instance != nullptr)
         instance->serve({});
     run.shutdown();

@@ -20,6 +20,7 @@ constexpr std::chrono::seconds tableInterval{1};
 
 HeadlessRun::HeadlessRun(const Platform& platform, Console& console, Options options)
     : console_(console)
+    , text_(platform.text)
     , options_(std::move(options))
     , engineLog_(platform)
     , controller_(platform, engineLog_, options_.version)
@@ -42,9 +43,9 @@ void HeadlessRun::takeLine(std::string_view line)
         options_.quit();
 }
 
-std::string HeadlessRun::answer(const std::string& line, AnswerForm form, Caller caller)
+ServedControl HeadlessRun::served(MainLoop& mainLoop)
 {
-    return answerCommand(commands_, line, form, caller, options_.quit);
+    return {controller_, commands_, watchers_, mainLoop, text_, options_.version, options_.quit};
 }
 
 void HeadlessRun::shutdown()

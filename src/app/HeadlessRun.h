@@ -2,7 +2,7 @@
 // The program without a window: a controller, what it does told on a console, and commands taken from it.
 #pragma once
 
-#include "app/CommandAnswer.h"
+#include "app/ServedControl.h"
 #include "app/StatusTable.h"
 #include "app/TerminalSize.h"
 #include "commands/CommandInterpreter.h"
@@ -40,10 +40,10 @@ public:
 
     /// Does what one line of input says, and prints one line in answer; none for a line without any word.
     void takeLine(std::string_view line);
-    /// Does what another program's command says; returns the answer in one line.
-    [[nodiscard]] std::string answer(const std::string& line, AnswerForm form, Caller caller);
-    /// Those that are told what happens.
-    [[nodiscard]] Watchers& watchers() { return watchers_; }
+    /// What other programs reach.
+    [[nodiscard]] ServedControl served(MainLoop& mainLoop);
+    /// Tells those that are told what happens that it is over.
+    void endWatches() { watchers_.end(); }
     /// Ends in good order: no tap is left, and a save that waits is done when this returns.
     void shutdown();
 
@@ -54,6 +54,7 @@ private:
     void print(const Event& event);
 
     Console& console_;
+    const Text& text_;
     Options options_;
     EngineLog engineLog_;
     AudioController controller_;

@@ -2,15 +2,16 @@
 #include "app/TrayProgram.h"
 
 #include "app/AppDelegate.h"
-#include "app/CommandAnswer.h"
 #include "app/CommandLine.h"
 #include "app/EarlyEnd.h"
 #include "app/Home.h"
 #include "app/InterfaceLanguage.h"
 #include "app/ProductPages.h"
+#include "app/ServedControl.h"
 #include "app/SimulatedHome.h"
 #include "app/StartConditions.h"
 #include "app/Version.h"
+#include "commands/CommandInterpreter.h"
 #include "commands/Watchers.h"
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
@@ -130,11 +131,8 @@ int TrayRun::run()
         host_.instance->serve({.open = [this] { delegate_->showPopover(); },
             .toggle = [this] { delegate_->togglePopover(); },
             .quit = [this] { quit(); },
-            .run =
-                [this](const std::string& line, AnswerForm form, Caller caller) {
-                    return answerCommand(commands_, line, form, caller, [this] { quit(); });
-                },
-            .watchers = &watchers_});
+            .control = ServedControl{controller_, commands_, watchers_, mainLoop_, platform_.text,
+                std::string(programVersion()), [this] { quit(); }}});
     mainLoop_.run();
     watchers_.end();
     controller_.shutdown();

@@ -68,16 +68,21 @@ def test_aLineThatIsTooLongIsRefused(stage):
         assert fadeloom.command("volume pw-cat 0.5").startswith("ok")
 
 
-def test_aSandboxedProgramMayNotDoEverything(stage):
+def sandboxOf(stage):
+    """What starts a program in a sandbox as Flatpak makes them."""
     information = stage.folder / "flatpak-info"
     information.write_text("[Application]\nname=org.example.Widget\n")
     root = stage.folder / "root"  # One of its own: a file at the real one would put every program into the sandbox.
-    root.mkdir()
+    root.mkdir(exist_ok=True)
     sandbox = ["bwrap", "--bind", str(root), "/"]
     for folder in sorted(pathlib.Path("/").iterdir()):
         if folder.is_dir() and folder.name not in ("proc", "dev"):
             sandbox += ["--dev-bind", str(folder), str(folder)]
-    sandbox += ["--proc", "/proc", "--dev", "/dev", "--ro-bind", str(information), "/.flatpak-info"]
+    return [*sandbox, "--proc", "/proc", "--dev", "/dev", "--ro-bind", str(information), "/.flatpak-info"]
+
+
+def test_aSandboxedProgramMayNotDoEverything(stage):
+    sandbox = sandboxOf(stage)
     with stage.fadeloom(settings({"pw-cat": app()})) as fadeloom:
         fadeloom.waitFor("default speakers")
 

@@ -2,17 +2,16 @@
 // One instance a session on Linux: a second start opens the first one's panel.
 #pragma once
 
-#include "app/CommandAnswer.h"
+#include "app/ServedControl.h"
 #include "app/linux/SecondStart.h"
-#include "commands/Watchers.h"
-#include "platform/linux/CallerSandbox.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
-#include <string>
-#include <utility>
 
 namespace fadeloom {
+
+class MixerBus;
 
 /// This instance among those of the user's session.
 class HomeInstance {
@@ -21,11 +20,14 @@ public:
         std::function<void()> open = nullptr;
         std::function<void()> toggle = nullptr;
         std::function<void()> quit = nullptr;
-        /// Does what another program's command says; returns the answer in one line.
-        std::function<std::string(const std::string& line, AnswerForm form, Caller caller)> run = nullptr;
-        /// Those that are told what happens.
-        Watchers* watchers = nullptr;
+        /// What other programs reach besides; absent while nothing.
+        std::optional<ServedControl> control = std::nullopt;
     };
+
+    HomeInstance();
+    ~HomeInstance();
+    HomeInstance(const HomeInstance&) = delete;
+    HomeInstance& operator=(const HomeInstance&) = delete;
 
     /// Becomes the one instance; else asks the other one, to show its panel if `wantsPanel`, and tells how that went.
     [[nodiscard]] std::optional<EarlyEnd> claim(bool wantsPanel)
@@ -34,34 +36,13 @@ public:
         return secondStart(instance_.claim(request), request);
     }
     /// What is done from now on when others ask.
-    void serve(Actions actions)
-    {
-        SingleInstance::Actions served{.open = std::move(actions.open),
-            .toggle = std::move(actions.toggle),
-            .quit = std::move(actions.quit)};
-        if (actions.run) {
-            served.run = [answer = std::move(actions.run)](const InstanceCommand& command) {
-                const auto form = command.wantsJson ? AnswerForm::json : AnswerForm::text;
-                return answer(command.line, form, callerOf(command.caller));
-            };
-        }
-        if (actions.watchers != nullptr) {
-            served.watch = [watchers = actions.watchers](const auto& command, const auto& send) {
-                return watchers->add(command.line, isSandboxed(command.caller), send);
-            };
-        }
-        instance_.serve(std::move(served));
-    }
+    void serve(Actions actions);
     /// From now on others are told to wait for the end.
     void beginEnding() { instance_.beginEnding(); }
 
 private:
-    static Caller callerOf(pid_t process)
-    {
-        return isSandboxed(process) ? Caller::sandboxed : Caller::trusted;
-    }
-
     SingleInstance instance_{instanceFolder()};
+    std::unique_ptr<MixerBus> mixer_;
 };
 
 }  // namespace fadeloom

@@ -2,9 +2,8 @@
 // One instance for a user on macOS: a second start opens the first one's panel.
 #pragma once
 
-#include "app/CommandAnswer.h"
 #include "app/RunningAlready.h"
-#include "commands/Watchers.h"
+#include "app/ServedControl.h"
 #include "platform/macos/FoundationFolders.h"
 #include "platform/macos/OneInstance.h"
 
@@ -24,8 +23,7 @@ public:
         std::function<void()> toggle = nullptr;
         std::function<void()> quit = nullptr;
         // Not served: there is no socket for commands on macOS yet.
-        std::function<std::string(const std::string& line, AnswerForm form, Caller caller)> run = nullptr;
-        Watchers* watchers = nullptr;
+        std::optional<ServedControl> control = std::nullopt;
     };
 
     /// Becomes the one instance; else asks the other one, to show its panel if `wantsPanel`, and tells how that went.

@@ -45,6 +45,7 @@ SingleInstance::~SingleInstance() = default;
 void SingleInstance::serve(Actions actions)
 {
     actions_ = std::move(actions);
+    bus_->serve(actions_.tree);
     if (!actions_.watch)
         socket_->endWatches();
 }

@@ -23,6 +23,7 @@ namespace fadeloom {
 
 class InstanceBus;
 class InstanceSocket;
+class InstanceTree;
 
 /// Needs Qt's application object. Thread: the one that makes it.
 class SingleInstance {
@@ -41,6 +42,7 @@ public:
         std::function<void()> quit = nullptr;
         RunInstanceCommand run = nullptr;
         WatchInstance watch = nullptr;
+        InstanceTree* tree = nullptr;  // On the session bus.
     };
 
     static constexpr std::chrono::milliseconds patience{2'000};  // With an instance that should answer.
