@@ -9,7 +9,7 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PAGES = ROOT / "packaging" / "linux" / "man"
-TABLE = ROOT / "src" / "commands" / "CommandInterpreter.cpp"
+TABLE = ROOT / "src" / "commands" / "CommandTable.cpp"
 COMMAND = re.compile(r'Command\{"([a-z-]+)"')
 
 
