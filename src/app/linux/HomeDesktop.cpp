@@ -7,6 +7,14 @@
 #include <QtGlobal>
 
 namespace fadeloom {
+namespace {
+
+QString currentDesktop()
+{
+    return qEnvironmentVariable("XDG_CURRENT_DESKTOP");
+}
+
+}  // namespace
 
 bool HomeDesktop::prepare()
 {
@@ -20,8 +28,14 @@ bool HomeDesktop::prepare()
 }
 
 HomeDesktop::HomeDesktop()
-    : icon_(trayPicture(look_.isDark()), [this] { withoutTray_(); })
+    : icon_(trayPicture(look_.isDark(), currentDesktop()), [this] { withoutTray_(); })
 {
+}
+
+void HomeDesktop::changeLook(bool isDark)
+{
+    icon_.setPicture(trayPicture(isDark, currentDesktop()));
+    lookChanged_(isDark);
 }
 
 }  // namespace fadeloom

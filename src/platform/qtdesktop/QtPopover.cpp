@@ -3,29 +3,18 @@
 
 #include "platform/qt/EscapableView.h"
 #include "platform/qtdesktop/Compositing.h"
-#include "platform/qtdesktop/PanelPlace.h"
+#include "platform/qtdesktop/PopoverPlacement.h"
+#include "platform/qtdesktop/Screens.h"
 
-#include <QCursor>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQuickItem>
-#include <QScreen>
 
 #include <utility>
 
 namespace fadeloom {
 
-namespace {
-
-const QScreen& screenAt(const QRect& anchor)
-{
-    const auto* const screen = anchor.isNull() ? nullptr : QGuiApplication::screenAt(anchor.center());
-    return screen == nullptr ? *QGuiApplication::primaryScreen() : *screen;
-}
-
-}  // namespace
-
-QtPopover::QtPopover(std::function<QRect()> place)
+QtPopover::QtPopover(std::function<IconPlace()> place)
     : place_(std::move(place))
     , view_(std::make_unique<EscapableView>([this] { close(); }))
 {
@@ -79,7 +68,7 @@ void QtPopover::show()
     if (!std::exchange(isOpen_, true))
         willShow_();
     wasActive_ = false;
-    fitContent();
+    fitContent(availableHeight());
     putInPlace();
     view_->setWindowStates(view_->windowStates() & ~Qt::WindowMinimized);
     view_->show();
@@ -97,22 +86,28 @@ bool QtPopover::isShown() const
     return isOpen_ || (sinceFocusLoss_.isValid() && !sinceFocusLoss_.hasExpired(clickTime));
 }
 
-void QtPopover::fitContent()
+void QtPopover::fitContent(int availableHeight)
 {
     auto* const content = view_->rootObject();
     // Without a compositor what is transparent would be black.
     const bool isMixed = !isOrdinary_ && isComposited();
     content->setProperty("hasRoundCorners", isMixed);
     content->setProperty("isTranslucent", isMixed);
-    content->setProperty("availableHeight", screenAt(place_()).availableGeometry().height() - 2 * panelGap);
+    content->setProperty("availableHeight", availableHeight);
+}
+
+int QtPopover::availableHeight() const
+{
+    const auto screens = currentScreens();
+    return screens[placePopover(place_().rect, view_->size(), screens).screen].free.height() - 2 * panelGap;
 }
 
 void QtPopover::putInPlace()
 {
     if (isOrdinary_)
         return;
-    const QRect anchor = place_();
-    view_->setPosition(panelPlace(anchor, view_->size(), screenAt(anchor).availableGeometry()));
+    const auto screens = currentScreens();
+    view_->setPosition(placePopover(place_().rect, view_->size(), screens).position);
 }
 
 void QtPopover::activeChanged()

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "platform/Popover.h"
+#include "platform/qtdesktop/IconPlace.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QQuickView>
-#include <QRect>
 
 #include <functional>
 #include <memory>
@@ -20,8 +20,8 @@ public:
     /// A second click on the icon takes the focus away first, and so closes the panel that it is to close.
     static constexpr int clickTime = 250;  // Milliseconds.
 
-    /// `place`: where the icon is, null when nobody knows.
-    explicit QtPopover(std::function<QRect()> place);
+    /// `place`: what is known of the icon's place, asked for at each opening.
+    explicit QtPopover(std::function<IconPlace()> place);
     QtPopover(const QtPopover&) = delete;
     QtPopover& operator=(const QtPopover&) = delete;
     ~QtPopover() override;
@@ -46,13 +46,14 @@ public:
 
 private:
     [[nodiscard]] bool hasContent();
-    void fitContent();
+    void fitContent(int availableHeight);
+    [[nodiscard]] int availableHeight() const;
     void putInPlace();
     void activeChanged();
     [[nodiscard]] bool isSeen() const;
     void seenChanged();
 
-    std::function<QRect()> place_;
+    std::function<IconPlace()> place_;
     MakeContent makeContent_;  // Until the first opening.
     std::function<void()> willShow_ = [] { };
     std::function<void()> didClose_ = [] { };
