@@ -2,6 +2,7 @@
 #include "app/linux/HomeDesktop.h"
 
 #include "app/linux/TrayPicture.h"
+#include "platform/qtdesktop/LayerShell.h"
 #include "ui/PanelEngine.h"
 
 #include <QtGlobal>
@@ -14,14 +15,21 @@ QString currentDesktop()
     return qEnvironmentVariable("XDG_CURRENT_DESKTOP");
 }
 
+/// Of Qt. On Wayland an ordinary window can choose neither its place nor to stay in front, which the panel has to.
+const char* preferredPlatforms()
+{
+    if (LayerShell::isOffered())
+        return "wayland;xcb";
+    return qEnvironmentVariableIsEmpty("DISPLAY") ? "wayland" : "xcb;wayland";
+}
+
 }  // namespace
 
 bool HomeDesktop::prepare()
 {
     const bool isChosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-    // On Wayland a window can choose neither its place nor to stay in front, which the panel has to: X11 first.
     if (!isChosen)
-        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+        qputenv("QT_QPA_PLATFORM", preferredPlatforms());
     drawBySoftware();
     return isChosen || !qEnvironmentVariableIsEmpty("DISPLAY")
         || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");

@@ -35,6 +35,10 @@ QtPopover::QtPopover(std::function<IconPlace()> place)
     };
     QObject::connect(view_.get(), &QWindow::heightChanged, view_.get(), sizeChanged);
     QObject::connect(view_.get(), &QWindow::widthChanged, view_.get(), sizeChanged);
+    if (auto shell = LayerShell::create()) {
+        LayerPopover::prepare(*view_);
+        layer_ = std::make_unique<LayerPopover>(std::move(shell), *view_, [this] { close(); });
+    }
 }
 
 QtPopover::~QtPopover()
@@ -49,6 +53,8 @@ QQuickView& QtPopover::view()
 
 void QtPopover::becomeOrdinaryWindow()
 {
+    close();
+    layer_.reset();
     isOrdinary_ = true;
     view_->setFlags(Qt::Window);
     view_->setColor(QGuiApplication::palette().color(QPalette::Window));  // It has corners.
@@ -68,17 +74,28 @@ void QtPopover::show()
     if (!std::exchange(isOpen_, true))
         willShow_();
     wasActive_ = false;
+    if (layer_)
+        layer_->open(place_(), [this](int availableHeight) { fitContent(availableHeight); });
+    else
+        showAsWindow();
+    view_->requestActivate();
+}
+
+void QtPopover::showAsWindow()
+{
     fitContent(availableHeight());
     putInPlace();
     view_->setWindowStates(view_->windowStates() & ~Qt::WindowMinimized);
     view_->show();
     view_->raise();
-    view_->requestActivate();
 }
 
 void QtPopover::close()
 {
-    view_->hide();
+    if (layer_)
+        layer_->close();
+    else
+        view_->hide();
 }
 
 bool QtPopover::isShown() const
@@ -104,7 +121,7 @@ int QtPopover::availableHeight() const
 
 void QtPopover::putInPlace()
 {
-    if (isOrdinary_)
+    if (isOrdinary_ || layer_)
         return;
     const auto screens = currentScreens();
     view_->setPosition(placePopover(place_().rect, view_->size(), screens).position);
@@ -118,6 +135,8 @@ void QtPopover::activeChanged()
     }
     // A window of ours, as a dialog, does not count as another one.
     if (isOrdinary_ || !wasActive_ || QGuiApplication::focusWindow() != nullptr)
+        return;
+    if (layer_ && layer_->isBehindDialog())
         return;
     sinceFocusLoss_.start();
     close();

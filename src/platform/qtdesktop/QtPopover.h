@@ -4,6 +4,7 @@
 
 #include "platform/Popover.h"
 #include "platform/qtdesktop/IconPlace.h"
+#include "platform/qtdesktop/LayerPopover.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -48,6 +49,7 @@ private:
     [[nodiscard]] bool hasContent();
     void fitContent(int availableHeight);
     [[nodiscard]] int availableHeight() const;
+    void showAsWindow();
     void putInPlace();
     void activeChanged();
     [[nodiscard]] bool isSeen() const;
@@ -63,6 +65,7 @@ private:
     bool isOpen_ = false;
     QElapsedTimer sinceFocusLoss_;
     std::unique_ptr<QQuickView> view_;
+    std::unique_ptr<LayerPopover> layer_;  // Where the desktop has such.
 };
 
 }  // namespace fadeloom
