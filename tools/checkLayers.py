@@ -3,7 +3,7 @@
 """Holds every include of src/ against the order of the folders, and keeps foreign headers where they belong.
 
 The build already refuses an include of a folder that is not named in addFolder. This check refuses what it cannot see:
-an arrow drawn the wrong way, "../", an adapter named outside app, and Qt, PipeWire, libsndfile or Apple headers
+an arrow drawn the wrong way, "../", an adapter named outside app, and Qt, PipeWire, Wayland, libsndfile or Apple headers
 elsewhere than in their adapters.
 """
 
@@ -19,6 +19,7 @@ QT = re.compile(r"^(Q[A-Z]\w+|Qt\w+/.*|q[a-z]+\.h)$")
 FOREIGN = {
     "Qt": (QT, ("platform/qt", "platform/qtdesktop", "platform/linux", "ui", "app")),
     "PipeWire": (re.compile(r"^(pipewire|spa)/"), ("platform/pipewire",)),
+    "Wayland": (re.compile(r"^(wayland-client|viewporter-|wlr-layer-shell-)"), ("platform/qtdesktop",)),
     "libsndfile": (re.compile(r"^sndfile\.hh?$"), ("platform/sndfile",)),
     "Apple": (re.compile(r"^((CoreAudio|AudioToolbox|CoreFoundation|Foundation|AppKit|Cocoa|ServiceManagement|"
                          r"UniformTypeIdentifiers|dispatch)/|os/(?!lock\.h$)|Block\.h$)"), ("platform/macos",)),

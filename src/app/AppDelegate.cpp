@@ -59,7 +59,7 @@ StatusMenu AppDelegate::menu()
     StatusMenu entries = {
         {.title = translate("AppDelegate", "About Fadeloom"), .action = afterClosing(actions_.showAbout)},
         {},
-        {.title = translate("AppDelegate", "Open Mixer"), .action = [this] { openMixer(); }},
+        {.title = translate("AppDelegate", "Open Mixer"), .action = [this] { openMixer(); }, .isClick = true},
         {.title = translate("AppDelegate", "Settings…"), .action = [this] { openSettings(); }, .key = ","},
         {.title = translate("AppDelegate", "Launch at Login"),
             .action = [this] { controller_.setLaunchAtLogin(!*controller_.state().launchAtLogin); },

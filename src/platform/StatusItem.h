@@ -14,6 +14,7 @@ struct StatusMenuEntry {
     std::function<void()> action{};
     std::string key{};  // With Control or Command: "q".
     bool isChecked = false;
+    bool isClick = false;  // Does what a click on the icon does.
 
     [[nodiscard]] bool isSeparator() const { return title.empty(); }
 };

@@ -119,6 +119,12 @@ TEST_F(AppDelegateStory, theMenuHasItsEntriesInOrder)
     EXPECT_EQ(entry("Quit Fadeloom")->key, "q");
 }
 
+TEST_F(AppDelegateStory, theMenuTellsWhichEntryDoesWhatAClickDoes)
+{
+    for (const auto& each : icon.openMenu())
+        EXPECT_EQ(each.isClick, each.title == "Open Mixer") << each.title;
+}
+
 TEST_F(AppDelegateStory, theMenuClosesThePopover)
 {
     icon.click();

@@ -12,7 +12,7 @@ from desktopSession import SIZE
 from fadeloomProcess import app, settings
 from person import Atspi
 
-MENU = ["About Fadeloom", "Open Mixer", "Settings…", "Launch at Login", "Check for Updates…", "Quit Fadeloom"]
+MENU = ["Open Mixer", "Settings…", "Launch at Login", "Check for Updates…", "About Fadeloom", "Quit Fadeloom"]
 
 
 def isBelow(panel, icon):

@@ -2,26 +2,48 @@
 #include "app/linux/HomeDesktop.h"
 
 #include "app/linux/TrayPicture.h"
+#include "platform/qtdesktop/LayerShell.h"
 #include "ui/PanelEngine.h"
 
 #include <QtGlobal>
 
 namespace fadeloom {
+namespace {
+
+QString currentDesktop()
+{
+    return qEnvironmentVariable("XDG_CURRENT_DESKTOP");
+}
+
+/// Of Qt. On Wayland an ordinary window can choose neither its place nor to stay in front, which the panel has to.
+const char* preferredPlatforms()
+{
+    if (LayerShell::isOffered())
+        return "wayland;xcb";
+    return qEnvironmentVariableIsEmpty("DISPLAY") ? "wayland" : "xcb;wayland";
+}
+
+}  // namespace
 
 bool HomeDesktop::prepare()
 {
     const bool isChosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-    // On Wayland a window can choose neither its place nor to stay in front, which the panel has to: X11 first.
     if (!isChosen)
-        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+        qputenv("QT_QPA_PLATFORM", preferredPlatforms());
     drawBySoftware();
     return isChosen || !qEnvironmentVariableIsEmpty("DISPLAY")
         || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
 HomeDesktop::HomeDesktop()
-    : icon_(trayPicture(look_.isDark()), [this] { withoutTray_(); })
+    : icon_(trayPicture(look_.isDark(), currentDesktop()), [this] { withoutTray_(); })
 {
+}
+
+void HomeDesktop::changeLook(bool isDark)
+{
+    icon_.setPicture(trayPicture(isDark, currentDesktop()));
+    lookChanged_(isDark);
 }
 
 }  // namespace fadeloom

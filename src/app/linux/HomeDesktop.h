@@ -34,11 +34,13 @@ public:
     void whenWithoutTray(std::function<void()> withoutTray) { withoutTray_ = std::move(withoutTray); }
 
 private:
+    void changeLook(bool isDark);
+
     std::function<void(bool)> lookChanged_ = [](bool) { };
     std::function<void()> withoutTray_ = [] { };
     QtApplication application_{[](auto) { }};  // The panel reads the choice from the settings.
     QtDialogs dialogs_;
-    SystemLook look_{[this](bool isDark) { lookChanged_(isDark); }};
+    SystemLook look_{[this](bool isDark) { changeLook(isDark); }};
     QtTrayIcon icon_;
 };
 

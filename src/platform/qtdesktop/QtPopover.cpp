@@ -3,29 +3,18 @@
 
 #include "platform/qt/EscapableView.h"
 #include "platform/qtdesktop/Compositing.h"
-#include "platform/qtdesktop/PanelPlace.h"
+#include "platform/qtdesktop/PopoverPlacement.h"
+#include "platform/qtdesktop/Screens.h"
 
-#include <QCursor>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQuickItem>
-#include <QScreen>
 
 #include <utility>
 
 namespace fadeloom {
 
-namespace {
-
-const QScreen& screenAt(const QRect& anchor)
-{
-    const auto* const screen = anchor.isNull() ? nullptr : QGuiApplication::screenAt(anchor.center());
-    return screen == nullptr ? *QGuiApplication::primaryScreen() : *screen;
-}
-
-}  // namespace
-
-QtPopover::QtPopover(std::function<QRect()> place)
+QtPopover::QtPopover(std::function<IconPlace()> place)
     : place_(std::move(place))
     , view_(std::make_unique<EscapableView>([this] { close(); }))
 {
@@ -46,6 +35,10 @@ QtPopover::QtPopover(std::function<QRect()> place)
     };
     QObject::connect(view_.get(), &QWindow::heightChanged, view_.get(), sizeChanged);
     QObject::connect(view_.get(), &QWindow::widthChanged, view_.get(), sizeChanged);
+    if (auto shell = LayerShell::create()) {
+        LayerPopover::prepare(*view_);
+        layer_ = std::make_unique<LayerPopover>(std::move(shell), *view_, [this] { close(); });
+    }
 }
 
 QtPopover::~QtPopover()
@@ -60,6 +53,8 @@ QQuickView& QtPopover::view()
 
 void QtPopover::becomeOrdinaryWindow()
 {
+    close();
+    layer_.reset();
     isOrdinary_ = true;
     view_->setFlags(Qt::Window);
     view_->setColor(QGuiApplication::palette().color(QPalette::Window));  // It has corners.
@@ -79,17 +74,28 @@ void QtPopover::show()
     if (!std::exchange(isOpen_, true))
         willShow_();
     wasActive_ = false;
-    fitContent();
+    if (layer_)
+        layer_->open(place_(), [this](int availableHeight) { fitContent(availableHeight); });
+    else
+        showAsWindow();
+    view_->requestActivate();
+}
+
+void QtPopover::showAsWindow()
+{
+    fitContent(availableHeight());
     putInPlace();
     view_->setWindowStates(view_->windowStates() & ~Qt::WindowMinimized);
     view_->show();
     view_->raise();
-    view_->requestActivate();
 }
 
 void QtPopover::close()
 {
-    view_->hide();
+    if (layer_)
+        layer_->close();
+    else
+        view_->hide();
 }
 
 bool QtPopover::isShown() const
@@ -97,22 +103,28 @@ bool QtPopover::isShown() const
     return isOpen_ || (sinceFocusLoss_.isValid() && !sinceFocusLoss_.hasExpired(clickTime));
 }
 
-void QtPopover::fitContent()
+void QtPopover::fitContent(int availableHeight)
 {
     auto* const content = view_->rootObject();
     // Without a compositor what is transparent would be black.
     const bool isMixed = !isOrdinary_ && isComposited();
     content->setProperty("hasRoundCorners", isMixed);
     content->setProperty("isTranslucent", isMixed);
-    content->setProperty("availableHeight", screenAt(place_()).availableGeometry().height() - 2 * panelGap);
+    content->setProperty("availableHeight", availableHeight);
+}
+
+int QtPopover::availableHeight() const
+{
+    const auto screens = currentScreens();
+    return screens[placePopover(place_().rect, view_->size(), screens).screen].free.height() - 2 * panelGap;
 }
 
 void QtPopover::putInPlace()
 {
-    if (isOrdinary_)
+    if (isOrdinary_ || layer_)
         return;
-    const QRect anchor = place_();
-    view_->setPosition(panelPlace(anchor, view_->size(), screenAt(anchor).availableGeometry()));
+    const auto screens = currentScreens();
+    view_->setPosition(placePopover(place_().rect, view_->size(), screens).position);
 }
 
 void QtPopover::activeChanged()
@@ -123,6 +135,8 @@ void QtPopover::activeChanged()
     }
     // A window of ours, as a dialog, does not count as another one.
     if (isOrdinary_ || !wasActive_ || QGuiApplication::focusWindow() != nullptr)
+        return;
+    if (layer_ && layer_->isBehindDialog())
         return;
     sinceFocusLoss_.start();
     close();

@@ -3,11 +3,12 @@
 #pragma once
 
 #include "platform/Popover.h"
+#include "platform/qtdesktop/IconPlace.h"
+#include "platform/qtdesktop/LayerPopover.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QQuickView>
-#include <QRect>
 
 #include <functional>
 #include <memory>
@@ -20,8 +21,8 @@ public:
     /// A second click on the icon takes the focus away first, and so closes the panel that it is to close.
     static constexpr int clickTime = 250;  // Milliseconds.
 
-    /// `place`: where the icon is, null when nobody knows.
-    explicit QtPopover(std::function<QRect()> place);
+    /// `place`: what is known of the icon's place, asked for at each opening.
+    explicit QtPopover(std::function<IconPlace()> place);
     QtPopover(const QtPopover&) = delete;
     QtPopover& operator=(const QtPopover&) = delete;
     ~QtPopover() override;
@@ -46,13 +47,15 @@ public:
 
 private:
     [[nodiscard]] bool hasContent();
-    void fitContent();
+    void fitContent(int availableHeight);
+    [[nodiscard]] int availableHeight() const;
+    void showAsWindow();
     void putInPlace();
     void activeChanged();
     [[nodiscard]] bool isSeen() const;
     void seenChanged();
 
-    std::function<QRect()> place_;
+    std::function<IconPlace()> place_;
     MakeContent makeContent_;  // Until the first opening.
     std::function<void()> willShow_ = [] { };
     std::function<void()> didClose_ = [] { };
@@ -62,6 +65,7 @@ private:
     bool isOpen_ = false;
     QElapsedTimer sinceFocusLoss_;
     std::unique_ptr<QQuickView> view_;
+    std::unique_ptr<LayerPopover> layer_;  // Where the desktop has such.
 };
 
 }  // namespace fadeloom

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qtdesktop/QtTrayIcon.h"
 
+#include "platform/qtdesktop/MenuOrder.h"
+#include "platform/qtdesktop/Screens.h"
+
 #include <QAction>
 #include <QCursor>
 #include <QGuiApplication>
@@ -10,9 +13,17 @@
 #include <utility>
 
 namespace fadeloom {
+namespace {
 
-QtTrayIcon::QtTrayIcon(const QIcon& icon, std::function<void()> withoutHost)
-    : icon_(icon)
+std::optional<QRect> pointerPlace()
+{
+    return isOnXDesktop() ? std::optional(QRect(QCursor::pos(), QSize(1, 1))) : std::nullopt;
+}
+
+}  // namespace
+
+QtTrayIcon::QtTrayIcon(StatusNotifierItem::Picture picture, std::function<void()> withoutHost)
+    : picture_(std::move(picture))
     , withoutHost_(std::move(withoutHost))
 {
     QObject::connect(&menu_, &QMenu::aboutToShow, &menu_, [this] {
@@ -25,48 +36,93 @@ void QtTrayIcon::show(const std::string& name)
 {
     name_ = QString::fromStdString(name);
     if (!host_)
-        host_.emplace([this](TrayHost::Kind kind) { hostFound(kind); });
+        host_ = std::make_unique<TrayHost>([this](TrayHost::Kind kind) { hostFound(kind); });
+}
+
+void QtTrayIcon::setPicture(StatusNotifierItem::Picture picture)
+{
+    picture_ = std::move(picture);
+    if (item_)
+        item_->setPicture(picture_);
+    if (embedded_)
+        embedded_->setIcon(picture_.icon);
 }
 
 void QtTrayIcon::hostFound(TrayHost::Kind kind)
 {
-    if (kind == TrayHost::Kind::none)
+    switch (kind) {
+    case TrayHost::Kind::statusNotifier:
+        return joinBus();
+    case TrayHost::Kind::embedding:
+        return embed();
+    case TrayHost::Kind::none:
         return withoutHost_();
-    tray_ = std::make_unique<QSystemTrayIcon>(icon_);
-    tray_->setToolTip(name_);
-    // A host over the bus shows the menu by itself and asks for its entries beforehand.
-    fillMenu();
-    tray_->setContextMenu(&menu_);
-    QObject::connect(tray_.get(), &QSystemTrayIcon::activated, tray_.get(),
-        [this](QSystemTrayIcon::ActivationReason reason) { activated(reason); });
-    tray_->show();
+    }
 }
 
-void QtTrayIcon::activated(QSystemTrayIcon::ActivationReason reason)
+void QtTrayIcon::joinBus()
 {
-    if (reason != QSystemTrayIcon::Trigger && reason != QSystemTrayIcon::MiddleClick)
-        return;
-    // On X11 the pointer is still where the click was; elsewhere nobody tells.
-    lastClick_ = QGuiApplication::platformName() == QLatin1String("xcb") ? QRect(QCursor::pos(), QSize(1, 1))
-                                                                         : QRect();
+    embedded_.reset();  // The bar that came may know both ways.
+    item_ = std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus(), name_, picture_);
+    item_->menu().setBuilder([this] { return clickFirst(build_()); });
+    item_->menu().whenOpens([this] { menuOpens_(); });
+    item_->whenClicked([this](const StatusNotifierItem::Click& click) {
+        if (!click.activationToken.isEmpty())
+            qputenv("XDG_ACTIVATION_TOKEN", click.activationToken.toUtf8());  // Where Qt looks for it.
+        const auto told = iconPlace(click.place, currentScreens());
+        clickedAt(told ? told : pointerPlace());
+    });
+    item_->whenMenuWanted([this](const StatusNotifierItem::Click& click) {
+        // On Wayland only a window can have a menu: the panel has to do.
+        if (QGuiApplication::platformName() == QLatin1String("xcb"))
+            popUpMenu(pointerPlace().value_or(QRect(click.place, QSize(1, 1))).topLeft());
+        else
+            clickedAt(iconPlace(click.place, currentScreens()));
+    });
+}
+
+void QtTrayIcon::embed()
+{
+    embedded_ = std::make_unique<QSystemTrayIcon>(picture_.icon);
+    embedded_->setToolTip(name_);
+    fillMenu();  // One without entries would not open.
+    embedded_->setContextMenu(&menu_);
+    QObject::connect(embedded_.get(), &QSystemTrayIcon::activated, embedded_.get(),
+        [this](QSystemTrayIcon::ActivationReason reason) {
+            if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::MiddleClick)
+                clickedAt(pointerPlace());
+        });
+    embedded_->show();
+}
+
+void QtTrayIcon::clickedAt(std::optional<QRect> place)
+{
     if (QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ControlModifier)) {
         // In a turn of its own: the panel closes before the menu opens, which would take a menu along.
-        QTimer::singleShot(0, &menu_, [this] { menu_.popup(QCursor::pos()); });
+        QTimer::singleShot(0, &menu_, [this] { popUpMenu(QCursor::pos()); });
         return;
     }
+    lastClick_ = {place, true};
     clicked_();
+    lastClick_.isUnderPointer = false;
 }
 
-QRect QtTrayIcon::place() const
+void QtTrayIcon::popUpMenu(QPoint place)
 {
-    const QRect geometry = tray_ ? tray_->geometry() : QRect();
-    return geometry.isValid() ? geometry : lastClick_;
+    fillMenu();
+    menu_.popup(place);
+}
+
+IconPlace QtTrayIcon::place() const
+{
+    const QRect geometry = embedded_ ? embedded_->geometry() : QRect();
+    return geometry.isValid() ? IconPlace{geometry, lastClick_.isUnderPointer} : lastClick_;
 }
 
 void QtTrayIcon::fillMenu()
 {
     menu_.clear();
-    for (const auto& entry : build_()) {
+    for (const auto& entry : clickFirst(build_())) {
         if (entry.isSeparator()) {
             menu_.addSeparator();
             continue;

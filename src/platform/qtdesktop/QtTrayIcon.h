@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The status icon of a Linux desktop, or of any other that Qt knows.
+// The status icon of a Linux desktop.
 #pragma once
 
 #include "platform/StatusItem.h"
+#include "platform/qtdesktop/IconPlace.h"
+#include "platform/qtdesktop/StatusNotifierItem.h"
 #include "platform/qtdesktop/TrayHost.h"
 
-#include <QIcon>
 #include <QMenu>
-#include <QRect>
 #include <QSystemTrayIcon>
 
 #include <functional>
@@ -16,11 +16,12 @@
 
 namespace fadeloom {
 
-/// Appears when the desktop can show it. Needs a QApplication. Thread: main.
+/// Appears when the desktop can show it: over the message bus, or as a window in the bar where that is the only way.
+/// Needs a QApplication. Thread: main.
 class QtTrayIcon final : public StatusItem {
 public:
     /// `withoutHost` is called when there is nobody who would show an icon; one that comes later shows it all the same.
-    QtTrayIcon(const QIcon& icon, std::function<void()> withoutHost);
+    QtTrayIcon(StatusNotifierItem::Picture picture, std::function<void()> withoutHost);
     QtTrayIcon(const QtTrayIcon&) = delete;
     QtTrayIcon& operator=(const QtTrayIcon&) = delete;
 
@@ -28,25 +29,30 @@ public:
     void whenClicked(std::function<void()> clicked) override { clicked_ = std::move(clicked); }
     void whenMenuOpens(std::function<void()> willOpen) override { menuOpens_ = std::move(willOpen); }
     void setMenu(std::function<StatusMenu()> build) override { build_ = std::move(build); }
+    void setPicture(StatusNotifierItem::Picture picture);
 
-    /// Where the icon is on the screen, or was clicked last; null when nobody knows.
-    [[nodiscard]] QRect place() const;
+    /// What is known of the icon's place on the screen.
+    [[nodiscard]] IconPlace place() const;
 
 private:
     void hostFound(TrayHost::Kind kind);
-    void activated(QSystemTrayIcon::ActivationReason reason);
+    void joinBus();
+    void embed();
+    void clickedAt(std::optional<QRect> place);
+    void popUpMenu(QPoint place);
     void fillMenu();
 
-    const QIcon icon_;
+    StatusNotifierItem::Picture picture_;
     std::function<void()> withoutHost_;
     std::function<void()> clicked_ = [] { };
     std::function<void()> menuOpens_ = [] { };
     std::function<StatusMenu()> build_ = [] { return StatusMenu{}; };
     QString name_;
-    QRect lastClick_;
+    IconPlace lastClick_;
     QMenu menu_;
-    std::optional<TrayHost> host_;
-    std::unique_ptr<QSystemTrayIcon> tray_;
+    std::unique_ptr<TrayHost> host_;
+    std::unique_ptr<StatusNotifierItem> item_;
+    std::unique_ptr<QSystemTrayIcon> embedded_;
 };
 
 }  // namespace fadeloom

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qtdesktop/TrayHost.h"
 
-#include <QDBusConnection>
+#include "platform/qtdesktop/StatusNotifierNames.h"
+
 #include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QGuiApplication>
 #include <QSystemTrayIcon>
 
@@ -10,8 +14,6 @@
 
 namespace fadeloom {
 namespace {
-
-const QString watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
 
 bool canEmbed()
 {
@@ -21,46 +23,51 @@ bool canEmbed()
 
 }  // namespace
 
-TrayHost::TrayHost(std::function<void(Kind)> found, int waitMilliseconds)
+TrayHost::TrayHost(std::function<void(Kind)> found, int waitMilliseconds, const QDBusConnection& bus)
     : found_(std::move(found))
+    , bus_(bus)
 {
-    auto bus = QDBusConnection::sessionBus();
-    if (bus.isConnected()) {
-        watcher_.setConnection(bus);
-        watcher_.setWatchMode(QDBusServiceWatcher::WatchForRegistration);
-        watcher_.addWatchedService(watcherName);
-        QObject::connect(
-            &watcher_, &QDBusServiceWatcher::serviceRegistered, &watcher_, [this] { hostCame(); });
-        if (bus.interface()->isServiceRegistered(watcherName).value()) {
-            // Later, so that whoever made this is done with it.
-            QTimer::singleShot(0, &watcher_, [this] { hostCame(); });
-            return;
-        }
-    }
     timer_.setSingleShot(true);
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { timeIsOver(); });
-    timer_.start(bus.isConnected() ? waitMilliseconds : 0);
+    connect(&timer_, &QTimer::timeout, this, [this] { timeIsOver(); });
+    timer_.start(bus_.isConnected() ? waitMilliseconds : 0);
+    if (!bus_.isConnected())
+        return;
+    watcher_.setConnection(bus_);
+    watcher_.setWatchMode(QDBusServiceWatcher::WatchForRegistration);
+    watcher_.addWatchedService(watcherName);
+    connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, [this] { watcherCame(); });
+    bus_.connect(watcherName, watcherPath, watcherName, QStringLiteral("StatusNotifierHostRegistered"), this,
+        SLOT(StatusNotifierHostRegistered()));
+    if (bus_.interface()->isServiceRegistered(watcherName).value())
+        watcherCame();
+}
+
+// A watcher keeps the list of icons; whether anybody shows them is another question.
+void TrayHost::watcherCame()
+{
+    auto question = QDBusMessage::createMethodCall(
+        watcherName, watcherPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    question << watcherName << QStringLiteral("IsStatusNotifierHostRegistered");
+    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        const QDBusPendingReply<QDBusVariant> reply = *answer;
+        answer->deleteLater();
+        // One that does not know the question has no other host than itself.
+        if (reply.isError() || reply.value().variant().toBool())
+            hostCame();
+    });
 }
 
 void TrayHost::hostCame()
 {
     timer_.stop();
-    watcher_.setWatchedServices({});
-    if (!std::exchange(isAnswered_, true))
+    if (!std::exchange(hasHost_, true))
         found_(Kind::statusNotifier);
 }
 
 void TrayHost::timeIsOver()
 {
-    if (isAnswered_)
-        return;
-    if (canEmbed()) {
-        isAnswered_ = true;
-        watcher_.setWatchedServices({});
-        found_(Kind::embedding);
-    } else {
-        found_(Kind::none);  // A host that comes later is still told of.
-    }
+    found_(canEmbed() ? Kind::embedding : Kind::none);
 }
 
 }  // namespace fadeloom

@@ -2,6 +2,7 @@
 // Waits for somebody who shows status icons.
 #pragma once
 
+#include <QDBusConnection>
 #include <QDBusServiceWatcher>
 #include <QObject>
 #include <QTimer>
@@ -10,10 +11,11 @@
 
 namespace fadeloom {
 
-/// Qt chooses the way in which icons are shown with the first icon, for good: one that is made before the desktop's
-/// panel has started, as at every login, would never be seen by a panel that knows only the newer way. So the first icon
-/// waits for the panel. Thread: main.
-class TrayHost {
+/// Tells how icons are shown. The older way is a promise for good, to a bar that may know the newer one as well and only
+/// starts later, as at every login: it is told of only when no host of the newer way has come in time. Thread: main.
+class TrayHost final : public QObject {
+    Q_OBJECT
+
 public:
     enum class Kind {
         statusNotifier,  // The newer way, over the session bus.
@@ -22,18 +24,22 @@ public:
     };
     static constexpr int patience = 5000;  // Milliseconds.
 
-    /// Calls `found` once it is known how icons can be shown: at once where a host is there already, when one comes
-    /// within the time, or at its end with what there is then. After `none` it is called again should a host come.
-    TrayHost(std::function<void(Kind)> found, int waitMilliseconds = patience);
-    TrayHost(const TrayHost&) = delete;
-    TrayHost& operator=(const TrayHost&) = delete;
+    /// Calls `found` once it is known how icons can be shown: when a host over the bus is there or comes, and at the end
+    /// of the time with what there is then. After `embedding` and `none` it is called again should such a host come.
+    explicit TrayHost(std::function<void(Kind)> found, int waitMilliseconds = patience,
+        const QDBusConnection& bus = QDBusConnection::sessionBus());
+
+private Q_SLOTS:
+    void StatusNotifierHostRegistered() { hostCame(); }
 
 private:
+    void watcherCame();
     void hostCame();
     void timeIsOver();
 
     std::function<void(Kind)> found_;
-    bool isAnswered_ = false;
+    QDBusConnection bus_;
+    bool hasHost_ = false;
     QDBusServiceWatcher watcher_;
     QTimer timer_;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qtdesktop/QtPopover.h"
 
-#include "platform/qtdesktop/PanelPlace.h"
+#include "platform/qtdesktop/PopoverPlacement.h"
 #include "tests/platform/qtdesktop/OffscreenApplication.h"
 
 #include <gtest/gtest.h>
@@ -32,7 +32,7 @@ protected:
 
     OffscreenApplication application;
     QRect icon{600, 0, 24, 24};
-    QtPopover popover{[this] { return icon; }};
+    QtPopover popover{[this] { return IconPlace{icon}; }};
     int shown = 0;
     int closed = 0;
 };

@@ -1,35 +1,102 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qtdesktop/TrayHost.h"
 
+#include "tests/platform/qtdesktop/BarOnBus.h"
 #include "tests/platform/qtdesktop/OffscreenApplication.h"
+#include "tests/platform/qtdesktop/PrivateBus.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <QElapsedTimer>
 
 #include <vector>
 
 namespace fadeloom {
 namespace {
 
-// Without a session bus, and without X11: there is nobody. The session with a bus is tested with a real one.
-TEST(TrayHost, saysWhenThereIsNobody)
-{
-    const auto bus = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+using testing::ElementsAre;
+using Kind = TrayHost::Kind;
+
+constexpr int shortWait = 50;
+
+class TrayHostTest : public testing::Test {
+protected:
+    TrayHost::Kind waitForAnswer(std::size_t count = 1)
     {
-        const OffscreenApplication application;
-        std::vector<TrayHost::Kind> found;
-        const TrayHost host([&](TrayHost::Kind kind) { found.push_back(kind); }, 50);
-        QElapsedTimer time;
-        time.start();
-
-        while (found.empty() && !time.hasExpired(5000))
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-
-        EXPECT_EQ(found, std::vector{TrayHost::Kind::none});
+        EXPECT_TRUE(happensSoon([&] { return found.size() >= count; }));
+        return found.empty() ? Kind::embedding : found.back();
     }
-    qputenv("DBUS_SESSION_BUS_ADDRESS", bus);
+    auto listener()
+    {
+        return [this](Kind kind) { found.push_back(kind); };
+    }
+
+    OffscreenApplication application;
+    PrivateBus bus;
+    QDBusConnection ours = bus.connect();
+    QDBusConnection theirs = bus.connect();
+    std::vector<Kind> found;
+};
+
+TEST_F(TrayHostTest, isThereAlready)
+{
+    const BarOnBus bar(theirs);
+
+    const TrayHost host(listener(), TrayHost::patience, ours);
+
+    EXPECT_EQ(waitForAnswer(), Kind::statusNotifier);
+}
+
+TEST_F(TrayHostTest, comesWithinTheTime)
+{
+    const TrayHost host(listener(), TrayHost::patience, ours);
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(found.empty());
+
+    const BarOnBus bar(theirs);
+
+    EXPECT_EQ(waitForAnswer(), Kind::statusNotifier);
+}
+
+TEST_F(TrayHostTest, comesAfterTheTime)
+{
+    const TrayHost host(listener(), shortWait, ours);
+    ASSERT_EQ(waitForAnswer(), Kind::none);
+
+    const BarOnBus bar(theirs);
+
+    EXPECT_EQ(waitForAnswer(2), Kind::statusNotifier);
+}
+
+TEST_F(TrayHostTest, isNotTheWatcherAlone)
+{
+    BarOnBus bar(theirs, BarOnBus::Host::absent);
+    const TrayHost host(listener(), shortWait, ours);
+    ASSERT_EQ(waitForAnswer(), Kind::none);
+
+    bar.bringHost();
+
+    EXPECT_EQ(waitForAnswer(2), Kind::statusNotifier);
+}
+
+TEST_F(TrayHostTest, isToldOfOnce)
+{
+    const TrayHost host(listener(), shortWait, ours);
+    {
+        const BarOnBus bar(theirs);
+        waitForAnswer();
+    }
+
+    const BarOnBus again(theirs);
+    happensSoon([&] { return found.size() > 1; }, 300);
+
+    EXPECT_THAT(found, ElementsAre(Kind::statusNotifier));
+}
+
+TEST_F(TrayHostTest, saysWhenThereIsNotEvenABus)
+{
+    const TrayHost host(listener(), TrayHost::patience, QDBusConnection(QStringLiteral("nobody")));
+
+    EXPECT_EQ(waitForAnswer(), Kind::none);
 }
 
 }  // namespace

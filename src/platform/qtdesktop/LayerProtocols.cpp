@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qtdesktop/LayerProtocols.h"
+
+extern "C" {
+#include <viewporter-code.h>
+#include <wlr-layer-shell-code.h>
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qtdesktop/Screens.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace fadeloom {
+
+std::vector<ScreenArea> currentScreens()
+{
+    // What a Wayland host says of places is in the desktop's own scale, as windows are.
+    const bool isInPixels = QGuiApplication::platformName() == QLatin1String("xcb");
+    std::vector<ScreenArea> result;
+    for (const auto* const screen : QGuiApplication::screens())
+        result.push_back(
+            {screen->geometry(), screen->availableGeometry(), isInPixels ? screen->devicePixelRatio() : 1});
+    return result;
+}
+
+bool isOnXDesktop()
+{
+    return QGuiApplication::platformName() == QLatin1String("xcb")
+        && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+}  // namespace fadeloom

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+// The status icon over the message bus, which most desktops' bars show.
+#pragma once
+
+#include "platform/qtdesktop/BusIconTypes.h"
+#include "platform/qtdesktop/BusMenu.h"
+
+#include <QDBusConnection>
+#include <QDBusObjectPath>
+#include <QDBusServiceWatcher>
+#include <QObject>
+#include <QPoint>
+
+#include <functional>
+
+namespace fadeloom {
+
+/// Implements org.kde.StatusNotifierItem, and announces itself to every bar that comes, also to one that comes again.
+/// Thread: main.
+class StatusNotifierItem final : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
+    Q_PROPERTY(QString Category READ category)
+    Q_PROPERTY(QString Id READ id)
+    Q_PROPERTY(QString Title READ title)
+    Q_PROPERTY(QString Status READ status)
+    Q_PROPERTY(int WindowId READ windowId)
+    Q_PROPERTY(QString IconThemePath READ iconThemePath)
+    Q_PROPERTY(QString IconName READ iconName)
+    Q_PROPERTY(QList<fadeloom::BusPixmap> IconPixmap READ iconPixmap)
+    Q_PROPERTY(QString OverlayIconName READ none)
+    Q_PROPERTY(QString AttentionIconName READ none)
+    Q_PROPERTY(fadeloom::BusToolTip ToolTip READ toolTip)
+    Q_PROPERTY(bool ItemIsMenu READ itemIsMenu)
+    Q_PROPERTY(QDBusObjectPath Menu READ menuPath)
+
+public:
+    /// The picture: by its name in the desktop's icon theme where the bar knows one, else the pixels of `icon`.
+    struct Picture {
+        QString name;
+        QIcon icon;
+    };
+
+    /// What a bar tells of a click: its place as the bar sees it, which some leave at nonsense, and the leave to come to
+    /// the front, which may be empty.
+    struct Click {
+        QPoint place;
+        QString activationToken;
+    };
+
+    /// `bus` is the session's; `title` is read to those who hover over the icon or cannot see it.
+    StatusNotifierItem(const QDBusConnection& bus, const QString& title, Picture picture);
+    StatusNotifierItem(const StatusNotifierItem&) = delete;
+    StatusNotifierItem& operator=(const StatusNotifierItem&) = delete;
+    ~StatusNotifierItem() override;
+
+    /// The entries of a right click.
+    [[nodiscard]] BusMenu& menu() { return menu_; }
+    /// Called for a left or a middle click.
+    void whenClicked(std::function<void(const Click&)> clicked) { clicked_ = std::move(clicked); }
+    /// Called for a right click in a bar that shows no menus itself.
+    void whenMenuWanted(std::function<void(const Click&)> wanted) { menuWanted_ = std::move(wanted); }
+    void setPicture(Picture picture);
+
+    [[nodiscard]] QString category() const { return QStringLiteral("ApplicationStatus"); }
+    [[nodiscard]] QString id() const { return QStringLiteral("fadeloom"); }
+    [[nodiscard]] QString title() const { return title_; }
+    [[nodiscard]] QString status() const { return QStringLiteral("Active"); }
+    [[nodiscard]] int windowId() const { return 0; }
+    [[nodiscard]] QString iconThemePath() const { return {}; }
+    [[nodiscard]] QString iconName() const { return picture_.name; }
+    [[nodiscard]] QList<BusPixmap> iconPixmap() const { return pixmaps_; }
+    [[nodiscard]] QString none() const { return {}; }
+    [[nodiscard]] BusToolTip toolTip() const { return {{}, {}, title_, {}}; }
+    [[nodiscard]] bool itemIsMenu() const { return false; }
+    [[nodiscard]] QDBusObjectPath menuPath() const;
+
+public Q_SLOTS:
+    void Activate(int x, int y);
+    void SecondaryActivate(int x, int y);
+    void ContextMenu(int x, int y);
+    void Scroll(int /*delta*/, const QString& /*orientation*/) { }
+    /// Comes before the click that it belongs to.
+    void ProvideXdgActivationToken(const QString& token) { token_ = token; }
+
+Q_SIGNALS:
+    void NewIcon();
+    void NewTitle();
+    void NewToolTip();
+    void NewStatus(const QString& status);
+
+private:
+    void announce();
+    [[nodiscard]] Click clickAt(int x, int y);
+
+    QDBusConnection bus_;
+    QString service_;
+    const QString title_;
+    Picture picture_;
+    QList<BusPixmap> pixmaps_;
+    BusMenu menu_;
+    std::function<void(const Click&)> clicked_ = [](const Click&) { };
+    std::function<void(const Click&)> menuWanted_ = [](const Click&) { };
+    QString token_;
+    QDBusServiceWatcher watcher_;
+};
+
+}  // namespace fadeloom
