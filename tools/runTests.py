@@ -17,7 +17,8 @@ import renderInstructions
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
 SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
-SPECIAL = ("pipewire", "week", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks")
+SPECIAL = ("pipewire", "week", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks",
+           "trixie")
 OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdesktop", "src/platform/sndfile",
             "src/app/linux")
 # What the suites with real players start.
@@ -262,6 +263,11 @@ def runChecks(tally, isLong):
                   "-p", "build/dev", quiet=True, input="\n".join(looked)) == 0)
 
 
+def runTrixie(tally):
+    """The suites with real players on Debian 13, whose session manager is another one."""
+    tally.add("trixie: pipewire", run("tools/onTrixie", "platform/pipewire", "pipewire") == 0)
+
+
 def runWithoutPlayers(tally, isLong):
     """The suites that hear nothing and can wait."""
     build("test")
@@ -295,7 +301,7 @@ def runEverything(tally, isLong):
 
 def runSome(tally, suites, folders, isLong):
     """The suites that were named; `folders` are those among them that are folders of src/."""
-    if suites != ["macos"]:  # It has a build of its own.
+    if not set(suites) <= {"macos", "trixie"}:  # They have builds of their own.
         build("test")
     if folders:
         runUnits(tally, folders)
@@ -316,6 +322,8 @@ def runSome(tally, suites, folders, isLong):
         runMacOS(tally)
     if "fuzz" in suites:
         runFuzz(tally, isLong)
+    if "trixie" in suites:
+        runTrixie(tally)
 
 
 def main():
