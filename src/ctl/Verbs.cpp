@@ -45,6 +45,10 @@ void printText(Words words, std::string_view said)
 {
     if (isReading(words)) {
         std::cout << valueIn(said) << '\n';
+    } else if (!words.empty() && words.front() == "status") {
+        takeWord(said);
+        const auto name = takeWord(said);
+        std::cout << name << (name.empty() ? "" : " ") << said << '\n';
     } else if (isList(words)) {
         for (const auto part : partsOf(said))
             std::cout << part << '\n';

@@ -37,7 +37,7 @@ def test_aCommandIsHeardAndRead(stage):
         waitForSound(stage, "speakers", 0.125)
         assert ctl(stage, "--quiet", "mute", "@playing", "toggle") == (0, "", "")
         waitForSound(stage, "speakers", 0.0)
-        assert ctl(stage, "status") == (0, "status pw-cat muted\n", "")
+        assert ctl(stage, "status") == (0, "pw-cat muted\n", "")
         assert ctl(stage, "-", text="mute pw-cat off\nvolume pw-cat 1\n")[0] == 0
         waitForSound(stage, "speakers", 0.5)
 
