@@ -36,14 +36,14 @@ bool HomeDesktop::prepare()
 }
 
 HomeDesktop::HomeDesktop()
-    : icon_(trayPicture(look_.isDark(), currentDesktop()), [this] { withoutTray_(); })
+    : icon_(trayPicture(look_.look().isDark, currentDesktop()), [this] { withoutTray_(); })
 {
 }
 
-void HomeDesktop::changeLook(bool isDark)
+void HomeDesktop::changeLook(const DesktopLook& look)
 {
-    icon_.setPicture(trayPicture(isDark, currentDesktop()));
-    lookChanged_(isDark);
+    icon_.setPicture(trayPicture(look.isDark, currentDesktop()));
+    lookChanged_(look);
 }
 
 }  // namespace fadeloom
