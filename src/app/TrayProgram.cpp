@@ -104,8 +104,8 @@ TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Host host)
     , updates_(makeUpdateChecker(platform_, host_.workspace))
     , panel_(controller_, panelParts())
 {
-    panel_.setSystemIsDark(desktop_.isDark());
-    desktop_.whenLookChanges([this](bool isDark) { panel_.setSystemIsDark(isDark); });
+    panel_.setDesktopLook(desktop_.look());
+    desktop_.whenLookChanges([this](const DesktopLook& look) { panel_.setDesktopLook(look); });
     // The loop may not turn once more: all has to be in order when this returns.
     desktop_.whenSessionEnds([this] {
         controller_.shutdown();
@@ -118,7 +118,7 @@ TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Host host)
 TrayRun::~TrayRun()
 {
     desktop_.whenSessionEnds([] { });
-    desktop_.whenLookChanges([](bool) { });
+    desktop_.whenLookChanges([](const DesktopLook&) { });
     if (host_.instance != nullptr)
         host_.instance->serve({});
 }

@@ -4,6 +4,7 @@
 #include "control/AudioController.h"
 #include "platform/Workspace.h"
 #include "shell/UpdateChecker.h"
+#include "ui/LegibleColor.h"
 #include "ui/MessageText.h"
 #include "ui/OutputEntries.h"
 #include "ui/VolumeText.h"
@@ -132,7 +133,7 @@ QString PanelModel::availableVersion() const
 
 bool PanelModel::isDark() const
 {
-    return look_.theme == Theme::system ? systemIsDark_ : look_.theme == Theme::dark;
+    return look_.theme == Theme::system ? desktop_.isDark : look_.theme == Theme::dark;
 }
 
 bool PanelModel::glass() const
@@ -142,7 +143,7 @@ bool PanelModel::glass() const
 
 bool PanelModel::animations() const
 {
-    return look_.animations;
+    return look_.animations && !desktop_.reducesMotion;
 }
 
 bool PanelModel::levelMeters() const
@@ -150,9 +151,23 @@ bool PanelModel::levelMeters() const
     return look_.levelMeters;
 }
 
-void PanelModel::setSystemIsDark(bool isDark)
+QColor PanelModel::accentInk() const
 {
-    systemIsDark_ = isDark;
+    // The panel's ground in Theme, where it is nearer to the text.
+    const QColor ground = isDark() ? QColor(0x23, 0x21, 0x2B) : QColor(0xEF, 0xED, 0xF4);
+    return desktop_.accent ? legibleBeside(QColor::fromRgb(*desktop_.accent), ground)
+                           : QColor(Qt::transparent);
+}
+
+QColor PanelModel::accentFill() const
+{
+    return desktop_.accent ? legibleBeside(QColor::fromRgb(*desktop_.accent), Qt::white)
+                           : QColor(Qt::transparent);
+}
+
+void PanelModel::setDesktopLook(const DesktopLook& look)
+{
+    desktop_ = look;
     Q_EMIT lookChanged();
 }
 

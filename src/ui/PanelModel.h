@@ -6,12 +6,14 @@
 #pragma once
 
 #include "base/Subscription.h"
+#include "platform/DesktopLook.h"
 #include "settings/AppearanceSettings.h"
 #include "ui/AppRowList.h"
 #include "ui/MenuEntry.h"
 #include "ui/PanelParts.h"
 #include "ui/SettingsModel.h"
 
+#include <QColor>
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -40,6 +42,10 @@ class PanelModel : public QObject {
     Q_PROPERTY(bool isDark READ isDark NOTIFY lookChanged)
     Q_PROPERTY(bool glass READ glass NOTIFY lookChanged)
     Q_PROPERTY(bool animations READ animations NOTIFY lookChanged)
+    Q_PROPERTY(bool hasHighContrast READ hasHighContrast NOTIFY lookChanged)
+    Q_PROPERTY(double textScale READ textScale NOTIFY lookChanged)
+    Q_PROPERTY(QColor accentInk READ accentInk NOTIFY lookChanged)
+    Q_PROPERTY(QColor accentFill READ accentFill NOTIFY lookChanged)
     Q_PROPERTY(bool levelMeters READ levelMeters NOTIFY lookChanged)
     Q_PROPERTY(fadeloom::AppRowList* rows READ rows CONSTANT)
     Q_PROPERTY(fadeloom::SettingsModel* settings READ settings CONSTANT)
@@ -68,12 +74,17 @@ public:
     [[nodiscard]] bool isDark() const;
     [[nodiscard]] bool glass() const;
     [[nodiscard]] bool animations() const;
+    [[nodiscard]] bool hasHighContrast() const { return desktop_.hasHighContrast; }
+    [[nodiscard]] double textScale() const { return desktop_.textScale; }
+    /// The desktop's favourite colour for text and below white text; transparent where it has none.
+    [[nodiscard]] QColor accentInk() const;
+    [[nodiscard]] QColor accentFill() const;
     [[nodiscard]] bool levelMeters() const;
     [[nodiscard]] AppRowList* rows() { return &rows_; }
     [[nodiscard]] SettingsModel* settings() { return &settings_; }
 
-    /// The system's look, which counts while the user's theme is "System".
-    void setSystemIsDark(bool isDark);
+    /// Whether it is dark counts while the user's theme is "System"; less motion and more contrast always.
+    void setDesktopLook(const DesktopLook& look);
 
     /// `key`: of an entry of `outputEntries`.
     Q_INVOKABLE void chooseOutput(const QString& key);
@@ -109,7 +120,7 @@ private:
     AudioController& controller_;
     const PanelParts parts_;
     bool showsSettings_ = false;
-    bool systemIsDark_ = true;
+    DesktopLook desktop_{.isDark = true};
     AppRowList rows_;
     SettingsModel settings_;
     ShownBanner banner_;

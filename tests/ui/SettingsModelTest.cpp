@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/ui/PanelStory.h"
+#include "ui/LegibleColor.h"
 
 namespace fadeloom {
 namespace {
@@ -175,7 +176,7 @@ TEST_F(SettingsModelTest, theAboutPanelLinksToTheWebPage)
 TEST_F(SettingsModelTest, theThemeAppliesAtOnceWhateverTheSystemHas)
 {
     for (const bool isSystemDark : {false, true}) {
-        panel->setSystemIsDark(isSystemDark);
+        panel->setDesktopLook({.isDark = isSystemDark});
         model().setTheme(1);
         EXPECT_FALSE(panel->isDark());
         model().setTheme(2);
@@ -183,6 +184,21 @@ TEST_F(SettingsModelTest, theThemeAppliesAtOnceWhateverTheSystemHas)
         model().setTheme(0);
         EXPECT_EQ(panel->isDark(), isSystemDark);
     }
+}
+
+TEST_F(SettingsModelTest, whatTheDesktopAsksForHoldsBesidesTheSettings)
+{
+    EXPECT_TRUE(panel->animations());
+    EXPECT_EQ(panel->accentFill().alpha(), 0);
+
+    panel->setDesktopLook(
+        {.reducesMotion = true, .hasHighContrast = true, .textScale = 1.5, .accent = 0xE5A50A});
+
+    EXPECT_FALSE(panel->animations());
+    EXPECT_TRUE(panel->hasHighContrast());
+    EXPECT_EQ(panel->textScale(), 1.5);
+    EXPECT_GE(contrast(panel->accentFill(), Qt::white), 4.5);
+    EXPECT_GE(contrast(panel->accentInk(), QColor(0xEF, 0xED, 0xF4)), 4.5);
 }
 
 TEST_F(SettingsModelTest, eachSwitchChangesWhatItSays)

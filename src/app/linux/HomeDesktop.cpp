@@ -5,6 +5,7 @@
 #include "platform/qtdesktop/LayerShell.h"
 #include "ui/PanelEngine.h"
 
+#include <QLoggingCategory>
 #include <QtGlobal>
 
 namespace fadeloom {
@@ -15,11 +16,24 @@ QString currentDesktop()
     return qEnvironmentVariable("XDG_CURRENT_DESKTOP");
 }
 
+/// Everything is drawn by the processor; what Qt would load for it all the same takes 50 MB.
+void avoidGraphicsStack()
+{
+    constexpr auto variable = "QT_WAYLAND_CLIENT_BUFFER_INTEGRATION";
+    if (!qEnvironmentVariableIsEmpty(variable))
+        return;
+    qputenv(variable, "none");
+    // Qt regrets that there is none of this name.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.wayland.warning=false"));
+}
+
 /// Of Qt. On Wayland an ordinary window can choose neither its place nor to stay in front, which the panel has to.
 const char* preferredPlatforms()
 {
-    if (LayerShell::isOffered())
+    if (LayerShell::isOffered()) {
+        avoidGraphicsStack();
         return "wayland;xcb";
+    }
     return qEnvironmentVariableIsEmpty("DISPLAY") ? "wayland" : "xcb;wayland";
 }
 
@@ -36,14 +50,14 @@ bool HomeDesktop::prepare()
 }
 
 HomeDesktop::HomeDesktop()
-    : icon_(trayPicture(look_.isDark(), currentDesktop()), [this] { withoutTray_(); })
+    : icon_(trayPicture(look_.look().isDark, currentDesktop()), [this] { withoutTray_(); })
 {
 }
 
-void HomeDesktop::changeLook(bool isDark)
+void HomeDesktop::changeLook(const DesktopLook& look)
 {
-    icon_.setPicture(trayPicture(isDark, currentDesktop()));
-    lookChanged_(isDark);
+    icon_.setPicture(trayPicture(look.isDark, currentDesktop()));
+    lookChanged_(look);
 }
 
 }  // namespace fadeloom

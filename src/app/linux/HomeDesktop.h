@@ -25,22 +25,25 @@ public:
     [[nodiscard]] Application& application() { return application_; }
     [[nodiscard]] Dialogs& dialogs() { return dialogs_; }
     [[nodiscard]] QtTrayIcon& icon() { return icon_; }
-    [[nodiscard]] bool isDark() const { return look_.isDark(); }
-    /// Called from now on whenever windows are to be drawn dark or light.
-    void whenLookChanges(std::function<void(bool isDark)> changed) { lookChanged_ = std::move(changed); }
+    [[nodiscard]] const DesktopLook& look() const { return look_.look(); }
+    /// Called from now on whenever windows are to look otherwise.
+    void whenLookChanges(std::function<void(const DesktopLook&)> changed)
+    {
+        lookChanged_ = std::move(changed);
+    }
     /// Never called: a session on Linux ends its programs by a signal, which they are asked by anyway.
     void whenSessionEnds(const std::function<void()>& /*ends*/) { }
     /// Called once it turns out that nobody shows the icon.
     void whenWithoutTray(std::function<void()> withoutTray) { withoutTray_ = std::move(withoutTray); }
 
 private:
-    void changeLook(bool isDark);
+    void changeLook(const DesktopLook& look);
 
-    std::function<void(bool)> lookChanged_ = [](bool) { };
+    std::function<void(const DesktopLook&)> lookChanged_ = [](const DesktopLook&) { };
     std::function<void()> withoutTray_ = [] { };
     QtApplication application_{[](auto) { }};  // The panel reads the choice from the settings.
     QtDialogs dialogs_;
-    SystemLook look_{[this](bool isDark) { changeLook(isDark); }};
+    SystemLook look_{[this](const DesktopLook& look) { changeLook(look); }};
     QtTrayIcon icon_;
 };
 

@@ -2,14 +2,40 @@
 #include "app/linux/HomePanel.h"
 
 #include "app/linux/HomeDesktop.h"
+#include "app/linux/HomePlatform.h"
+
+#include <QString>
 
 #include <iostream>
 
 namespace fadeloom {
+namespace {
+
+const std::string leftKey = "PanelPosition";
+
+std::optional<QPoint> leftPlace()
+{
+    const auto values = homeUserDefaults().stringList(leftKey);
+    if (!values || values->size() != 2)
+        return std::nullopt;
+    bool isX = false;
+    bool isY = false;
+    const QPoint place(QString::fromStdString(values->front()).toInt(&isX),
+        QString::fromStdString(values->back()).toInt(&isY));
+    return isX && isY ? std::optional(place) : std::nullopt;
+}
+
+void keepLeftPlace(QPoint place)
+{
+    homeUserDefaults().setStringList(leftKey, {std::to_string(place.x()), std::to_string(place.y())});
+}
+
+}  // namespace
 
 HomePanel::HomePanel(HomeDesktop& desktop)
     : desktop_(desktop)
-    , popover_([&desktop] { return desktop.icon().place(); })
+    , popover_(
+          [&desktop] { return desktop.icon().place(); }, [&desktop] { return desktop.look().reducesMotion; })
 {
     desktop_.whenWithoutTray([this] { beOrdinary(); });
 }
@@ -22,7 +48,7 @@ HomePanel::~HomePanel()
 void HomePanel::beOrdinary()
 {
     std::cerr << "fadeloom: this desktop shows no status icons; the panel is an ordinary window\n";
-    popover_.becomeOrdinaryWindow();
+    popover_.becomeOrdinaryWindow(leftPlace(), [](QPoint place) { keepLeftPlace(place); });
     popover_.show();
 }
 

@@ -2,6 +2,7 @@
 // The program on macOS: its item in the menu bar, dialogs, the look.
 #pragma once
 
+#include "platform/DesktopLook.h"
 #include "platform/macos/AppKitApplication.h"
 #include "platform/macos/AppKitDialogs.h"
 #include "platform/macos/AppearanceWatch.h"
@@ -26,18 +27,18 @@ public:
     [[nodiscard]] Application& application() { return application_; }
     [[nodiscard]] Dialogs& dialogs() { return dialogs_; }
     [[nodiscard]] MenuBarItem& icon() { return icon_; }
-    [[nodiscard]] bool isDark() const { return look_.isDark(); }
-    /// Called from now on whenever windows are to be drawn dark or light.
-    void whenLookChanges(std::function<void(bool isDark)> changed) { lookChanged_ = std::move(changed); }
+    [[nodiscard]] DesktopLook look() const { return {.isDark = look_.isDark()}; }
+    /// Called from now on whenever windows are to look otherwise.
+    void whenLookChanges(std::function<void(const DesktopLook&)> changed) { lookChanged_ = std::move(changed); }
     /// Called when the user logs out or shuts down, while there still is time to put things in order.
     void whenSessionEnds(std::function<void()> ends) { sessionEnds_ = std::move(ends); }
 
 private:
-    std::function<void(bool)> lookChanged_ = [](bool) { };
+    std::function<void(const DesktopLook&)> lookChanged_ = [](const DesktopLook&) { };
     std::function<void()> sessionEnds_ = [] { };
     AppKitApplication application_;
     AppKitDialogs dialogs_;
-    AppearanceWatch look_{[this](bool isDark) { lookChanged_(isDark); }};
+    AppearanceWatch look_{[this](bool isDark) { lookChanged_({.isDark = isDark}); }};
     MenuBarItem icon_;
     PowerOffWatch powerOff_{[this] { sessionEnds_(); }};
 };

@@ -115,6 +115,9 @@ struct LayerShell::Listeners {
 
 bool LayerShell::isOffered()
 {
+    // Without this folder there is no compositor, and its library would complain to the user.
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+        return false;
     auto* const display = wl_display_connect(nullptr);
     if (display == nullptr)
         return false;

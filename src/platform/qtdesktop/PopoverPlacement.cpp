@@ -142,4 +142,17 @@ PopoverPlacement placePopover(
     return {number, edge, inside(beside(*icon, edge, panel, screen.free), panel, screen.free)};
 }
 
+QPoint placeWindow(const std::optional<QPoint>& left, QSize window, const std::vector<ScreenArea>& screens)
+{
+    constexpr int grip = 60;  // What has to be seen of a window to take hold of it.
+    const auto isSeen = [&](const ScreenArea& screen) {
+        return screen.free.contains(QRect(*left, QSize(std::min(grip, window.width()), grip)));
+    };
+    if (left && std::ranges::any_of(screens, isSeen))
+        return *left;
+    auto middle = QRect(QPoint(0, 0), window);
+    middle.moveCenter(screens.front().free.center());
+    return middle.topLeft();
+}
+
 }  // namespace fadeloom

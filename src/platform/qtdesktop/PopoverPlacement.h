@@ -49,4 +49,9 @@ struct PopoverPlacement {
 [[nodiscard]] PopoverPlacement placePopover(
     const std::optional<QRect>& icon, QSize panel, const std::vector<ScreenArea>& screens);
 
+/// An ordinary window of this size: where it was left, as long as a screen still has that place, else in the middle of
+/// the first screen.
+[[nodiscard]] QPoint placeWindow(
+    const std::optional<QPoint>& left, QSize window, const std::vector<ScreenArea>& screens);
+
 }  // namespace fadeloom

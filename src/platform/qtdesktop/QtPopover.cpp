@@ -5,6 +5,7 @@
 #include "platform/qtdesktop/Compositing.h"
 #include "platform/qtdesktop/PopoverPlacement.h"
 #include "platform/qtdesktop/Screens.h"
+#include "platform/qtdesktop/WindowLists.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -14,8 +15,17 @@
 
 namespace fadeloom {
 
-QtPopover::QtPopover(std::function<IconPlace()> place)
+namespace {
+
+constexpr int frameTime = 16;  // Milliseconds.
+
+constexpr qreal firstOpacity = 0.3;
+
+}  // namespace
+
+QtPopover::QtPopover(std::function<IconPlace()> place, std::function<bool()> reducesMotion)
     : place_(std::move(place))
+    , reducesMotion_(std::move(reducesMotion))
     , view_(std::make_unique<EscapableView>([this] { close(); }))
 {
     view_->setFlags(
@@ -35,6 +45,12 @@ QtPopover::QtPopover(std::function<IconPlace()> place)
     };
     QObject::connect(view_.get(), &QWindow::heightChanged, view_.get(), sizeChanged);
     QObject::connect(view_.get(), &QWindow::widthChanged, view_.get(), sizeChanged);
+    QObject::connect(view_.get(), &QWindow::xChanged, view_.get(), [this] { windowMoved(); });
+    QObject::connect(view_.get(), &QWindow::yChanged, view_.get(), [this] { windowMoved(); });
+    fade_.setUpdateInterval(frameTime);
+    fade_.setEasingCurve(QEasingCurve::OutCubic);
+    QObject::connect(&fade_, &QTimeLine::valueChanged, view_.get(),
+        [this](qreal part) { view_->rootObject()->setOpacity(firstOpacity + (1 - firstOpacity) * part); });
     if (auto shell = LayerShell::create()) {
         LayerPopover::prepare(*view_);
         layer_ = std::make_unique<LayerPopover>(std::move(shell), *view_, [this] { close(); });
@@ -43,6 +59,8 @@ QtPopover::QtPopover(std::function<IconPlace()> place)
 
 QtPopover::~QtPopover()
 {
+    if (isOpen_ && left_)
+        leaves_(*left_);
     view_->disconnect();  // The window's end announces itself to somebody half gone.
 }
 
@@ -51,8 +69,10 @@ QQuickView& QtPopover::view()
     return *view_;
 }
 
-void QtPopover::becomeOrdinaryWindow()
+void QtPopover::becomeOrdinaryWindow(std::optional<QPoint> left, std::function<void(QPoint)> leaves)
 {
+    left_ = left;
+    leaves_ = std::move(leaves);
     close();
     layer_.reset();
     isOrdinary_ = true;
@@ -71,8 +91,10 @@ void QtPopover::show()
 {
     if (!hasContent())
         return;
-    if (!std::exchange(isOpen_, true))
+    if (!std::exchange(isOpen_, true)) {
         willShow_();
+        fadeIn();
+    }
     wasActive_ = false;
     if (layer_)
         layer_->open(place_(), [this](int availableHeight) { fitContent(availableHeight); });
@@ -86,8 +108,28 @@ void QtPopover::showAsWindow()
     fitContent(availableHeight());
     putInPlace();
     view_->setWindowStates(view_->windowStates() & ~Qt::WindowMinimized);
+    if (!isOrdinary_)
+        leaveOutOfWindowLists(*view_);
     view_->show();
     view_->raise();
+}
+
+void QtPopover::fadeIn()
+{
+    fade_.stop();
+    auto* const content = view_->rootObject();
+    // What is half transparent would be half black without a compositor.
+    if (!isAnimated_ || isOrdinary_ || reducesMotion_() || !isComposited())
+        return content->setOpacity(1);
+    content->setOpacity(firstOpacity);
+    fade_.start();
+}
+
+// Nobody on Wayland is told where a window is.
+void QtPopover::windowMoved()
+{
+    if (isOrdinary_ && isOpen_ && QGuiApplication::platformName() != QLatin1String("wayland"))
+        left_ = view_->framePosition();
 }
 
 void QtPopover::close()
@@ -121,9 +163,15 @@ int QtPopover::availableHeight() const
 
 void QtPopover::putInPlace()
 {
-    if (isOrdinary_ || layer_)
+    if (layer_)
         return;
     const auto screens = currentScreens();
+    if (isOrdinary_) {
+        // Once it is open it is the user's.
+        if (!view_->isVisible())
+            view_->setFramePosition(placeWindow(left_, view_->size(), screens));
+        return;
+    }
     view_->setPosition(placePopover(place_().rect, view_->size(), screens).position);
 }
 
@@ -134,7 +182,7 @@ void QtPopover::activeChanged()
         return;
     }
     // A window of ours, as a dialog, does not count as another one.
-    if (isOrdinary_ || !wasActive_ || QGuiApplication::focusWindow() != nullptr)
+    if (isOrdinary_ || !isOpen_ || !wasActive_ || QGuiApplication::focusWindow() != nullptr)
         return;
     if (layer_ && layer_->isBehindDialog())
         return;
@@ -154,9 +202,10 @@ void QtPopover::seenChanged()
     if (std::exchange(isOpen_, isSeenNow) == isSeenNow)
         return;
     if (isSeenNow)
-        willShow_();
-    else
-        didClose_();
+        return willShow_();
+    didClose_();
+    if (left_)
+        leaves_(*left_);
 }
 
 }  // namespace fadeloom

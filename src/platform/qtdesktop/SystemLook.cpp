@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qtdesktop/SystemLook.h"
 
-#include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QGuiApplication>
@@ -17,74 +17,82 @@ namespace {
 const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString portalInterface = QStringLiteral("org.freedesktop.portal.Settings");
-const QString appearance = QStringLiteral("org.freedesktop.appearance");
-const QString colorScheme = QStringLiteral("color-scheme");
-
-// The portal's numbers: 0 is no preference, 1 dark, 2 light.
-constexpr unsigned darkScheme = 1;
-constexpr unsigned lightScheme = 2;
 
 bool isPaletteDark()
 {
     return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 }
 
-}  // namespace
-
-SystemLook::SystemLook(std::function<void(bool isDark)> changed)
-    : changed_(std::move(changed))
-    , isDark_(isPaletteDark())
+/// What Qt makes of the desktop; what the portal says where Qt knows nothing.
+bool isDark(const DesktopLook& told)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
-    auto* const hints = QGuiApplication::styleHints();
-    const auto read = [this, hints] {
-        if (hints->colorScheme() != Qt::ColorScheme::Unknown)
-            set(hints->colorScheme() == Qt::ColorScheme::Dark);
-    };
-    connect(hints, &QStyleHints::colorSchemeChanged, this, read);
-    read();
-    if (hints->colorScheme() != Qt::ColorScheme::Unknown)
-        return;
+    const auto scheme = QGuiApplication::styleHints()->colorScheme();
+    if (scheme != Qt::ColorScheme::Unknown)
+        return scheme == Qt::ColorScheme::Dark;
+#endif
+    return told.isDark;
+}
+
+DesktopLook lookNow(const PortalSettings& settings)
+{
+    auto look = lookOf(settings, isPaletteDark());
+    look.isDark = isDark(look);
+    // There it is in the display's resolution already, by which Qt enlarges everything.
+    if (QGuiApplication::platformName() == QLatin1String("xcb"))
+        look.textScale = 1;
+    return look;
+}
+
+}  // namespace
+
+SystemLook::SystemLook(std::function<void(const DesktopLook&)> changed, const QDBusConnection& bus)
+    : changed_(std::move(changed))
+    , bus_(bus)
+    , look_(lookNow({}))
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    connect(QGuiApplication::styleHints(), &QStyleHints::colorSchemeChanged, this, [this] { refresh(); });
 #endif
     askPortal();
 }
 
 void SystemLook::askPortal()
 {
-    auto bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
+    if (!bus_.isConnected())
         return;
-    qRegisterMetaType<QDBusVariant>();  // Without it the signal below is never delivered.
-    bus.connect(portalService, portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
+    // Without them neither the signal nor the answer is ever delivered.
+    qRegisterMetaType<QDBusVariant>();
+    qDBusRegisterMetaType<PortalSettings>();
+    bus_.connect(portalService, portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
         SLOT(settingChanged(QString, QString, QDBusVariant)));
     auto question =
-        QDBusMessage::createMethodCall(portalService, portalPath, portalInterface, QStringLiteral("Read"));
-    question << appearance << colorScheme;
-    auto* const answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
+        QDBusMessage::createMethodCall(portalService, portalPath, portalInterface, QStringLiteral("ReadAll"));
+    question << portalNameSpaces();
+    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(question), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        const QDBusPendingReply<QDBusVariant> reply = *answer;
+        const QDBusPendingReply<PortalSettings> reply = *answer;
         answer->deleteLater();
         if (reply.isError())
             return;
-        // A variant within a variant.
-        const auto inner = reply.value().variant();
-        settingChanged(appearance, colorScheme,
-            inner.canConvert<QDBusVariant>() ? inner.value<QDBusVariant>() : QDBusVariant(inner));
+        settings_ = reply.value();
+        refresh();
     });
 }
 
 void SystemLook::settingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value)
 {
-    if (nameSpace != appearance || key != colorScheme)
+    if (!portalNameSpaces().contains(nameSpace))
         return;
-    const auto scheme = value.variant().toUInt();
-    set(scheme == darkScheme || (scheme != lightScheme && isPaletteDark()));
+    settings_[nameSpace][key] = value.variant();
+    refresh();
 }
 
-void SystemLook::set(bool isDark)
+void SystemLook::refresh()
 {
-    if (std::exchange(isDark_, isDark) != isDark)
-        changed_(isDark);
+    const auto now = lookNow(settings_);
+    if (std::exchange(look_, now) != now)
+        changed_(now);
 }
 
 }  // namespace fadeloom

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Whether the desktop is dark or light.
+// The look that the desktop asks for.
 #pragma once
 
+#include "platform/qtdesktop/PortalSettings.h"
+
+#include <QDBusConnection>
 #include <QDBusVariant>
 #include <QObject>
 #include <QString>
@@ -10,26 +13,29 @@
 
 namespace fadeloom {
 
-/// Asks Qt where it knows (6.5 and later), else the desktop's settings portal, whose answer comes later; until then, and
-/// without either, the colours of the desktop's palette tell. Needs a QGuiApplication. Thread: main.
+/// Asks the desktop's settings portal, whose answer comes later. Whether it is dark Qt may know (6.5 and later); until the
+/// answer, and without either, the colours of the desktop's palette tell. Needs a QGuiApplication. Thread: main.
 class SystemLook final : public QObject {
     Q_OBJECT
 
 public:
     /// `changed` is called whenever the answer is another one.
-    explicit SystemLook(std::function<void(bool isDark)> changed);
+    explicit SystemLook(std::function<void(const DesktopLook&)> changed,
+        const QDBusConnection& bus = QDBusConnection::sessionBus());
 
-    [[nodiscard]] bool isDark() const { return isDark_; }
+    [[nodiscard]] const DesktopLook& look() const { return look_; }
 
 private Q_SLOTS:
     void settingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value);
 
 private:
     void askPortal();
-    void set(bool isDark);
+    void refresh();
 
-    std::function<void(bool isDark)> changed_;
-    bool isDark_ = false;
+    std::function<void(const DesktopLook&)> changed_;
+    QDBusConnection bus_;
+    PortalSettings settings_;
+    DesktopLook look_;
 };
 
 }  // namespace fadeloom

@@ -29,6 +29,8 @@ Item {
             parent: hint
             x: Math.round((hint.width - width) / 2)
             y: hint.height + 6
+            scale: Theme.zoom
+            transformOrigin: T.Popup.TopLeft
             margins: 6
             padding: 6
             leftPadding: 8

@@ -18,7 +18,9 @@ T.Popup {
     // The right edge and the top in the window, and the height that there is.
     property real right: 364
     property real top: 0
-    readonly property real space: parent ? parent.height : 0
+    readonly property real space: parent ? parent.height / Theme.zoom : 0
+    // Where it begins, as everything here in the panel's own size.
+    readonly property real upper: Math.max(6, Math.min(top, space - 6 - least))
     // It rather shrinks below what opened it than covers that; in a low panel it moves up, and shrinks at last.
     readonly property real wanted: content.wantedHeight + 2 * padding
     readonly property real least: Math.min(wanted, 220)
@@ -36,10 +38,12 @@ T.Popup {
     signal chosen(string key, bool isSubmenu)
 
     parent: T.Overlay.overlay
-    width: Math.min(natural + 2 * padding, (parent ? parent.width : Theme.panelWidth) - 12)
-    height: Math.min(wanted, space - 6 - y)
-    x: Math.max(6, right - width)
-    y: Math.max(6, Math.min(top, space - 6 - least))
+    width: Math.min(natural + 2 * padding, Theme.panelWidth - 12)
+    height: Math.min(wanted, space - 6 - upper)
+    x: Math.max(6, right - width) * Theme.zoom
+    y: upper * Theme.zoom
+    scale: Theme.zoom
+    transformOrigin: T.Popup.TopLeft
     padding: 5
     modal: false
     focus: true
@@ -67,8 +71,8 @@ T.Popup {
 
     function openAt(anchor, below) {
         const place = anchor.mapToItem(T.Overlay.overlay, anchor.width, anchor.height + below);
-        right = Math.min(364, place.x + 6);
-        top = place.y;
+        right = Math.min(364, place.x / Theme.zoom + 6);
+        top = place.y / Theme.zoom;
         openMeasured();
     }
     function openMeasured() {

@@ -1,46 +1,27 @@
 // SPDX-License-Identifier: MIT
-// The panel's content: a header, and below it the settings, the question for permission, or the mixer.
-// Not bound: the Loader of Qt 6.4 refuses components that are.
-// qmllint disable unqualified
+// The panel's content, and its look. Where the desktop's text is larger the whole panel is: no word has less room.
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Fadeloom
 
-Rectangle {
+Item {
     id: root
 
     required property PanelModel panel
-    // Lives as long as the view: a panel that is built again starts with all rows closed.
-    property string expandedApp
+    property alias expandedApp: sheet.expandedApp
     // The height that the screen leaves to the panel.
     property real availableHeight: 100000
     // Whether the window can be transparent outside of rounded corners, and a little everywhere.
-    property bool hasRoundCorners: true
+    property alias hasRoundCorners: sheet.hasRoundCorners
     property bool isTranslucent: false
     // Off when the settings are to be seen at a stretch.
-    property bool limitsSettings: true
-    // The first page does not arrive.
-    property bool isReady: false
-    readonly property real bodyLimit: availableHeight - body.y
-    readonly property real opacityOfGround: Theme.isTranslucent ? 0.94 : 1
+    property alias limitsSettings: sheet.limitsSettings
 
-    width: Theme.panelWidth
+    width: implicitWidth
     height: implicitHeight
-    implicitWidth: Theme.panelWidth
-    implicitHeight: Math.min(availableHeight, body.y + body.height)
-    radius: hasRoundCorners ? 12 : 0
-    gradient: Gradient {
-        GradientStop {
-            position: 0
-            color: Theme.at(Theme.panelTop, root.opacityOfGround)
-        }
-        GradientStop {
-            position: 1
-            color: Theme.at(Theme.panelBottom, root.opacityOfGround)
-        }
-    }
-    Accessible.role: Accessible.Pane
-    Accessible.name: "Fadeloom"
-    Component.onCompleted: isReady = true
+    implicitWidth: Math.round(sheet.width * Theme.zoom)
+    implicitHeight: Math.round(sheet.height * Theme.zoom)
 
     Binding {
         target: Theme
@@ -55,76 +36,39 @@ Rectangle {
     Binding {
         target: Theme
         property: "isTranslucent"
-        value: root.isTranslucent && root.panel.glass
+        value: root.isTranslucent && root.panel.glass && !root.panel.hasHighContrast
     }
     Binding {
         target: Theme
         property: "animations"
         value: root.panel.animations
     }
+    Binding {
+        target: Theme
+        property: "hasHighContrast"
+        value: root.panel.hasHighContrast
+    }
+    Binding {
+        target: Theme
+        property: "accentInk"
+        value: root.panel.accentInk
+    }
+    Binding {
+        target: Theme
+        property: "accentFill"
+        value: root.panel.accentFill
+    }
+    Binding {
+        target: Theme
+        property: "zoom"
+        value: root.panel.textScale
+    }
 
-    PanelHeader {
-        id: header
-        width: parent.width
+    PanelSheet {
+        id: sheet
         panel: root.panel
-    }
-    Divider {
-        id: line
-        y: header.height
-        width: parent.width
-    }
-    Loader {
-        id: body
-        y: line.y + line.height
-        width: parent.width
-        focus: true
-        onLoaded: arrival.restart()
-        transform: Translate {
-            id: slide
-        }
-        sourceComponent: switch (root.panel.page) {
-        case PanelModel.Page.Settings:
-            return settingsPage;
-        case PanelModel.Page.Permission:
-            return permissionPage;
-        default:
-            return mixerPage;
-        }
-    }
-    PageArrival {
-        id: arrival
-        page: body
-        slide: slide
-        isAnimated: Theme.animations && root.isReady
-        offset: root.panel.showsSettings ? 8 : -8
-    }
-    Component {
-        id: settingsPage
-        SettingsView {
-            panel: root.panel
-            limit: root.limitsSettings ? Math.min(560, root.bodyLimit) : 100000
-        }
-    }
-    Component {
-        id: permissionPage
-        PermissionView {
-            panel: root.panel
-        }
-    }
-    Component {
-        id: mixerPage
-        MixerView {
-            panel: root.panel
-            limit: root.bodyLimit
-            expandedApp: root.expandedApp
-            onExpandedAppChanged: root.expandedApp = expandedApp
-        }
-    }
-    Rectangle {
-        anchors.fill: parent
-        radius: root.radius
-        color: "transparent"
-        border.width: 1
-        border.color: Theme.panelOutline
+        availableHeight: root.availableHeight / Theme.zoom
+        scale: Theme.zoom
+        transformOrigin: Item.TopLeft
     }
 }

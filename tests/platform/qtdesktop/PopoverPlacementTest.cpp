@@ -100,6 +100,19 @@ TEST(IconPlace, isToldInPixelsOfTheDisplay)
     EXPECT_EQ(iconPlace({1280 + 1500, 1050}, {barAtTop, second}), QRect(1280 + 1000, 700, 1, 1));
 }
 
+TEST(WindowPlace, isTheMiddleUntilItIsMoved)
+{
+    EXPECT_EQ(placeWindow({}, panel, {barAtTop, second}), QPoint(450, 179));
+    EXPECT_EQ(placeWindow(QPoint(700, 300), panel, {barAtTop, second}), QPoint(700, 300));
+    EXPECT_EQ(placeWindow(QPoint(1500, 100), panel, {barAtTop, second}), QPoint(1500, 100));
+}
+
+TEST(WindowPlace, isTheMiddleAgainWhenItsScreenHasGone)
+{
+    EXPECT_EQ(placeWindow(QPoint(1500, 100), panel, {barAtTop}), QPoint(450, 179));
+    EXPECT_EQ(placeWindow(QPoint(1270, 790), panel, {barAtTop}), QPoint(450, 179));
+}
+
 TEST(FreePart, isBesideTheBar)
 {
     EXPECT_EQ(freePart(whole, {1280, 776}, top), barAtTop.free);

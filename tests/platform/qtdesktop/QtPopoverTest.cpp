@@ -3,6 +3,7 @@
 
 #include "platform/qtdesktop/PopoverPlacement.h"
 #include "tests/platform/qtdesktop/OffscreenApplication.h"
+#include "tests/platform/qtdesktop/PrivateBus.h"
 
 #include <gtest/gtest.h>
 
@@ -32,7 +33,8 @@ protected:
 
     OffscreenApplication application;
     QRect icon{600, 0, 24, 24};
-    QtPopover popover{[this] { return IconPlace{icon}; }};
+    bool reducesMotion = false;
+    QtPopover popover{[this] { return IconPlace{icon}; }, [this] { return reducesMotion; }};
     int shown = 0;
     int closed = 0;
 };
@@ -150,6 +152,29 @@ TEST_F(QtPopoverTest, aMinimisedWindowThatComesBackIsShown)
     EXPECT_TRUE(popover.isShown());
     EXPECT_EQ(shown, 2);
     EXPECT_EQ(closed, 1);
+}
+
+TEST_F(QtPopoverTest, fadesInWhenItIsAnimated)
+{
+    popover.setAnimated(true);
+    popover.show();
+    const auto& content = *popover.view().rootObject();
+    EXPECT_LT(content.opacity(), 1);
+
+    EXPECT_TRUE(happensSoon([&] { return content.opacity() == 1; }));
+}
+
+TEST_F(QtPopoverTest, isThereAtOnceWhenNothingIsToMove)
+{
+    popover.setAnimated(false);
+    popover.show();
+    EXPECT_EQ(popover.view().rootObject()->opacity(), 1);
+    popover.close();
+
+    popover.setAnimated(true);
+    reducesMotion = true;
+    popover.show();
+    EXPECT_EQ(popover.view().rootObject()->opacity(), 1);
 }
 
 TEST_F(QtPopoverTest, anOrdinaryWindowHasAFrame)
