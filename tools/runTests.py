@@ -229,17 +229,20 @@ def runMacOS(tally):
 
 
 def runFuzz(tally, isLong):
-    """Looks for inputs that the settings reader does not survive: for half a minute, or ten."""
-    seconds = 600 if isLong else 30
+    """Looks for inputs that what reads them does not survive: for half a minute altogether, or ten."""
+    corpora = {"settings": "settings", "words": "words", "command": "commands", "socket": "lines"}
+    seconds = (600 if isLong else 30) // len(corpora)
     folder = ROOT / "build" / "fuzz"
     isBuilt = run("cmake", "-G", "Ninja", "-B", folder, "-DCMAKE_CXX_COMPILER=clang++-19", "-DFADELOOM_FUZZ=ON",
                   "-DFADELOOM_SANITIZE=fuzzer-no-link,address,undefined", "-DCMAKE_BUILD_TYPE=RelWithDebInfo",
-                  quiet=True) == 0 and run("cmake", "--build", folder, "--target", "settingsFuzz", quiet=True) == 0
-    found = folder / "found"
-    found.mkdir(parents=True, exist_ok=True)
-    isPassed = isBuilt and run(folder / "tests/fuzz/settingsFuzz", "-max_len=4096", f"-max_total_time={seconds}",
-                               f"-artifact_prefix={folder}/", found, "tests/fuzz/corpus/settings", quiet=True) == 0
-    tally.add("fuzz: settings", isPassed)
+                  quiet=True) == 0
+    for name, corpus in corpora.items():
+        found = folder / "found" / name
+        found.mkdir(parents=True, exist_ok=True)
+        isPassed = isBuilt and run("cmake", "--build", folder, "--target", f"{name}Fuzz", quiet=True) == 0 and run(
+            folder / f"tests/fuzz/{name}Fuzz", "-max_len=4096", f"-max_total_time={seconds}",
+            f"-artifact_prefix={folder}/", found, f"tests/fuzz/corpus/{corpus}", quiet=True) == 0
+        tally.add(f"fuzz: {name}", isPassed)
 
 
 def sources(*suffixes, below=("src", "tests", "benchmarks")):

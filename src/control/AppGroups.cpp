@@ -63,6 +63,12 @@ AppGroups AppGrouper::group(std::span<const AudioProcess> processes)
     return groups;
 }
 
+const std::optional<RunningApplication>* AppGrouper::knownOwner(ProcessID process) const
+{
+    const auto known = owners_.find(process);
+    return known == owners_.end() ? nullptr : &known->second;
+}
+
 const AppGrouper::Owner& AppGrouper::ownerOf(const AudioProcess& process, RunningApps& runningApps)
 {
     const auto known = owners_.find(process.pid);

@@ -46,6 +46,9 @@ public:
     /// applications only when a process is new, and then once.
     [[nodiscard]] AppGroups group(std::span<const AudioProcess> processes);
 
+    /// Who was found to own a process when it was grouped last; null for one that was not there.
+    [[nodiscard]] const std::optional<RunningApplication>* knownOwner(ProcessID process) const;
+
 private:
     using Owner = std::optional<RunningApplication>;
     using RunningApps = std::optional<std::vector<RunningApplication>>;

@@ -153,8 +153,10 @@ void AudioController::confirmAudio()
 
 std::optional<std::string> AudioController::appOfProcess(ProcessID process) const
 {
-    const auto& workspace = platform_.workspace;
-    const auto owner = AppResolver(workspace).owningApp(process, "", workspace.runningApplications());
+    // A key that is held down asks for the same one again and again.
+    const auto* const known = grouper_.knownOwner(process);
+    const auto owner =
+        known != nullptr ? *known : AppResolver(platform_.workspace).owningApp(process, "", {});
     const bool isInMixer = owner && owner->bundleID
         && std::ranges::find(*state_.apps, *owner->bundleID, &AppEntry::bundleID) != state_.apps->end();
     return isInMixer ? owner->bundleID : std::nullopt;

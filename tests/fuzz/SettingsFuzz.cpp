@@ -2,24 +2,15 @@
 // Any bytes as a settings file: they are refused with words, or give a record whose values are all in their ranges and
 // that is the same once it has been written and read again.
 #include "settings/SettingsJson.h"
+#include "tests/fuzz/Require.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string_view>
 
 namespace {
-
-void require(bool isTrue, const char* what)
-{
-    if (isTrue)
-        return;
-    std::fprintf(stderr, "Not so: %s\n", what);
-    std::abort();
-}
 
 bool isWithin(float value, float low, float high)
 {

@@ -4,7 +4,6 @@
 #include "app/CommandAnswer.h"
 #include "app/linux/MixerBus.h"
 #include "commands/Watchers.h"
-#include "platform/linux/CallerSandbox.h"
 
 #include <utility>
 
@@ -23,11 +22,11 @@ void HomeInstance::serve(Actions actions)
         const auto control = std::make_shared<ServedControl>(*std::move(actions.control));
         served.run = [control](const InstanceCommand& command) {
             const auto form = command.wantsJson ? AnswerForm::json : AnswerForm::text;
-            const auto caller = isSandboxed(command.caller) ? Caller::sandboxed : Caller::trusted;
+            const auto caller = command.isSandboxed ? Caller::sandboxed : Caller::trusted;
             return answerCommand(control->commands, command.line, form, caller, control->quit);
         };
         served.watch = [control](const InstanceCommand& command, const SendInstanceLine& send) {
-            return control->watchers.add(command.line, isSandboxed(command.caller), send);
+            return control->watchers.add(command.line, command.isSandboxed, send);
         };
         mixer = std::make_unique<MixerBus>(instance_.bus(), *control);
     }

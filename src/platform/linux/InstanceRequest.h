@@ -59,6 +59,7 @@ using AnswerInstanceRequest = std::function<InstanceAnswer(InstanceRequest)>;
 struct InstanceCommand {
     std::string line;
     pid_t caller = 0;  // Its process; 0 for an unknown one.
+    bool isSandboxed = true;  // As its process was when it connected.
     bool wantsJson = false;
 };
 /// Does what it says; returns its answer in one line, which begins with the kind of answer. Thread: main.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/InstanceSocket.h"
 
+#include "platform/linux/CallerSandbox.h"
+
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QLocalSocket>
@@ -16,6 +18,7 @@ namespace fadeloom {
 
 namespace {
 
+constexpr const char* sandboxProperty = "isSandboxed";
 constexpr std::string_view runPrefix = "Run ";
 constexpr std::string_view jsonPrefix = "Json ";
 constexpr std::string_view watchPrefix = "Watch ";
@@ -76,6 +79,7 @@ void InstanceSocket::accept()
     }
     ++connections_;
     connection->setReadBufferSize(2 * longestLine);
+    connection->setProperty(sandboxProperty, isSandboxed(processOf(*connection)));
     QObject::connect(connection, &QObject::destroyed, &server_, [this, connection] {
         if (watches_.erase(connection) == 0)
             --connections_;
@@ -103,7 +107,9 @@ void InstanceSocket::read(QLocalSocket& connection)
             return refuse(connection, "usage error the line is too long");
         const auto text = std::string_view(line).substr(0, line.size() - 1);
         const auto command = [&](std::string_view prefix) {
-            return InstanceCommand{std::string(text.substr(prefix.size())), processOf(connection)};
+            return InstanceCommand{.line = std::string(text.substr(prefix.size())),
+                .caller = processOf(connection),
+                .isSandboxed = connection.property(sandboxProperty).toBool()};
         };
         if (text.starts_with(watchPrefix))
             return watch(connection, command(watchPrefix));

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// What must be so, whatever comes in.
+#pragma once
+
+#include <cstdio>
+#include <cstdlib>
+
+inline void require(bool isTrue, const char* what)
+{
+    if (isTrue)
+        return;
+    std::fprintf(stderr, "Not so: %s\n", what);
+    std::abort();
+}
