@@ -59,6 +59,10 @@ function(addFolder)
         target_include_directories(${tests} PRIVATE ${CMAKE_SOURCE_DIR})  # for "tests/support/..."
         target_link_libraries(${tests} PRIVATE ${target} GTest::gtest GTest::gmock GTest::gtest_main ${folder_LIBRARIES})
         target_compile_options(${tests} PRIVATE ${folder_OPTIONS})
+        # A test is run once for each time that it is compiled; under a sanitizer that takes long enough as it is.
+        if(NOT FADELOOM_SANITIZE)
+            target_compile_options(${tests} PRIVATE -O1)
+        endif()
         # They are most of what a test source takes to compile.
         target_precompile_headers(${tests} PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
         foreach(used IN LISTS folder_TESTS_USE)

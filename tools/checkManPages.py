@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Holds the manual pages against mandoc's warnings, and every command of the interpreter against its documents."""
+"""Holds the manual pages against mandoc's warnings, and every command and key of the settings against its documents."""
 
 import pathlib
 import re
@@ -9,7 +9,9 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PAGES = ROOT / "packaging" / "linux" / "man"
-TABLE = ROOT / "src" / "commands" / "CommandInterpreter.cpp"
+TABLE = ROOT / "src" / "commands" / "CommandTable.cpp"
+SETTINGS = ROOT / "src" / "settings" / "SettingsEncoding.cpp"
+KEY = re.compile(r'\{"([A-Za-z]+)", |object\["([A-Za-z]+)"\]')
 COMMAND = re.compile(r'Command\{"([a-z-]+)"')
 
 
@@ -24,11 +26,21 @@ def undocumented(commands):
             yield f"docs/commands.md has no {command}"
 
 
+def undocumentedKeys():
+    """Keys of the settings file that its page does not name, as sentences."""
+    keys = {key for match in KEY.findall(SETTINGS.read_text()) for key in match if key}
+    page = (PAGES / "fadeloom-settings.5").read_text()
+    assert keys, f"no keys in {SETTINGS}"
+    for key in sorted(keys):
+        if not re.search(rf"^\.(It )?Cm ([a-zA-Z]+ , )?{key}\b", page, re.M):
+            yield f"fadeloom-settings.5 has no {key}"
+
+
 def main():
     pages = sorted(map(str, PAGES.glob("*.[1-8]")))
     isWellFormed = subprocess.run(["mandoc", "-Tlint", "-W", "warning", *pages], check=False).returncode == 0
     commands = COMMAND.findall(TABLE.read_text())
-    faults = list(undocumented(commands))
+    faults = [*undocumented(commands), *undocumentedKeys()]
     for fault in faults:
         print(fault)
     return 0 if pages and commands and isWellFormed and not faults else 1

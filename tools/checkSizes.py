@@ -28,7 +28,6 @@ LARGER = {
     "tests/macos/doubles/Runtime.cpp": 283,
     "tests/platform/linux/FileManagerTest.cpp": 270,
     "tests/platform/pipewire/StreamCirclesTest.cpp": 265,
-    "tests/ui/DrawPictures.cpp": 295,
 }
 
 

@@ -3,6 +3,7 @@
 """Builds and runs the test suites that `./test` names, and ends with one line that counts them."""
 
 import argparse
+import concurrent.futures
 import os
 import pathlib
 import platform
@@ -16,9 +17,19 @@ import renderInstructions
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
 SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
-SPECIAL = ("pipewire", "week", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks")
+SPECIAL = ("pipewire", "week", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks",
+           "trixie")
 OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdesktop", "src/platform/sndfile",
             "src/app/linux")
+# What the suites with real players start.
+PLAYED = ("fadeloom", "fadeloomctl", "pipewireContractTests", "pipewireRealTimeTests")
+SHORT_SANITIZERS = {"asan": ("engine", "settings", "platform/sndfile"), "tsan": ("engine", "platform/sndfile")}
+# The suites with real players, and what pytest is given for each.
+PLAYERS = {
+    "pipewire": ("tests/pipewire", "--ignore=tests/pipewire/test_week.py"),
+    "week": ("tests/pipewire/test_week.py",),
+    "desktop": ("tests/desktop",),
+}
 LONG_FORMS = ("engine", "platform/sndfile")  # Folders with test suites that are named LongForm.
 
 
@@ -86,6 +97,11 @@ def build(preset, *targets):
     print(f"Built {preset} in {time.monotonic() - started:.0f} s", flush=True)
 
 
+def makeWay():
+    """Leaves this thread, and what it starts, only the processor time that nobody else wants."""
+    os.sched_setscheduler(0, os.SCHED_IDLE, os.sched_param(0))
+
+
 def results(name):
     RESULTS.mkdir(parents=True, exist_ok=True)
     file = RESULTS / f"{name}.xml"
@@ -123,23 +139,24 @@ def runPipeWire(tally):
 
 
 def runPlayers(tally, suite):
-    """A folder of tests with real players. One that stumbles on a busy machine is not our failure: what failed gets one
+    """A suite with real players. One that stumbles on a busy machine is not our failure: what failed gets one
     more attempt, and is named."""
     first = Tally()
-    status = runPyTest(first, suite, suite)
+    status = runPyTest(first, suite, *PLAYERS[suite])
     if first.failures and status == SOME_FAILED:
         for failure in first.failures:
             print(f"Once more: {failure}", flush=True)
         first.failures = []
-        runPyTest(first, suite, f"{suite}-again", "--last-failed")
+        runPyTest(first, suite, *PLAYERS[suite], "--last-failed", name=f"{suite}-again")
     tally.addAll(first)
 
 
-def runPyTest(tally, suite, name, *options):
+def runPyTest(tally, suite, *options, name=None):
+    name = name or suite
     file = results(name)
     started = time.monotonic()
     status = run("/usr/bin/python3", "-B", "-m", "pytest", "-q", "-W", "ignore::DeprecationWarning",
-                 "-o", f"cache_dir={RESULTS / 'pytest' / suite}", f"--junitxml={file}", *options, f"tests/{suite}",
+                 "-o", f"cache_dir={RESULTS / 'pytest' / suite}", f"--junitxml={file}", *options,
                  quiet=True, env={**os.environ, "FADELOOM": str(ROOT / "build/test/fadeloom")})
     print(f"Ran {name} in {time.monotonic() - started:.0f} s", flush=True)
     tally.addJUnit(name, file, status)
@@ -169,9 +186,8 @@ def runInstructions(tally):
 
 def runSanitizers(tally, isLong):
     """The unit tests under the sanitizers; in the short form those of the folders where memory and threads matter."""
-    short = {"asan": ["engine", "settings", "platform/sndfile"], "tsan": ["engine", "platform/sndfile"]}
-    for preset in ("asan", "tsan"):
-        folders = [] if isLong else short[preset]
+    for preset, short in SHORT_SANITIZERS.items():
+        folders = () if isLong else short
         build(preset, *(folder.replace("/", "_") + "Tests" for folder in folders))
         file = results(preset)
         pattern = "^(" + "|".join(folders) + ")$" if folders else "."
@@ -194,7 +210,7 @@ def runMacOS(tally):
         tally.addJUnit(name, file, status)
 
     tally.add("macos: bundle", run("/usr/bin/python3", "tools/checkBundle.py", quiet=True) == 0)
-    runPyTest(tally, "macos", "macosScripts")
+    runPyTest(tally, "macosScripts", "tests/macos")
 
     # What does not compile leaves no object behind.
     started = time.monotonic()
@@ -247,6 +263,69 @@ def runChecks(tally, isLong):
                   "-p", "build/dev", quiet=True, input="\n".join(looked)) == 0)
 
 
+def runTrixie(tally):
+    """The suites with real players on Debian 13, whose session manager is another one."""
+    tally.add("trixie: pipewire", run("tools/onTrixie", "platform/pipewire", "pipewire") == 0)
+
+
+def runWithoutPlayers(tally, isLong):
+    """The suites that hear nothing and can wait."""
+    build("test")
+    runSanitizers(tally, isLong)
+    runMacOS(tally)
+    runFuzz(tally, isLong)
+    runInstructions(tally)
+    runChecks(tally, isLong)
+
+
+def runEverything(tally, isLong):
+    """Every suite. Real players leave most of the processors' time to others, and do not mind when it is taken by what
+    makes way for them."""
+    build("test", *PLAYED)
+    beside, week = Tally(), Tally()
+    with concurrent.futures.ThreadPoolExecutor(1, initializer=makeWay) as idle, \
+            concurrent.futures.ThreadPoolExecutor(1) as second:
+        rest = idle.submit(runWithoutPlayers, beside, isLong)
+        runPipeWire(tally)
+        runPlayers(tally, "pipewire")
+        days = second.submit(runPlayers, week, "week")  # It waits for sound more than it works.
+        runPlayers(tally, "desktop")
+        days.result()
+        rest.result()
+    tally.addAll(week)
+    tally.addAll(beside)
+    runUnits(tally, [])
+    if isLong:
+        runLongForms(tally, [])
+
+
+def runSome(tally, suites, folders, isLong):
+    """The suites that were named; `folders` are those among them that are folders of src/."""
+    if not set(suites) <= {"macos", "trixie"}:  # They have builds of their own.
+        build("test")
+    if folders:
+        runUnits(tally, folders)
+        if isLong:
+            runLongForms(tally, folders)
+    if "pipewire" in suites:
+        runPipeWire(tally)
+    for suite in PLAYERS:
+        if suite in suites:
+            runPlayers(tally, suite)
+    if "instructions" in suites:
+        runInstructions(tally)
+    if "checks" in suites:
+        runChecks(tally, isLong)
+    if "sanitizers" in suites:
+        runSanitizers(tally, isLong)
+    if "macos" in suites:
+        runMacOS(tally)
+    if "fuzz" in suites:
+        runFuzz(tally, isLong)
+    if "trixie" in suites:
+        runTrixie(tally)
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--long", action="store_true", help="the long form of the slow suites")
@@ -258,32 +337,12 @@ def main():
         parser.error("no suite is called " + ", ".join(unknown))
 
     tally = Tally()
-    if arguments.suites != ["macos"]:  # It has a build of its own.
-        build("test")
     if arguments.long:
         os.environ["FADELOOM_LONG"] = "1"  # For what is not started with an option of its own.
-    everything = not arguments.suites
-    if everything or folders:
-        runUnits(tally, folders)
-        if arguments.long:
-            runLongForms(tally, folders)
-    if everything or "pipewire" in arguments.suites:
-        runPipeWire(tally)
-    # One after the other: real players on two graphs at once starve each other on two processors.
-    for players in [suite for suite in ("pipewire", "desktop") if everything or suite in arguments.suites]:
-        runPlayers(tally, players)
-    if "week" in arguments.suites:  # Without a name it is a part of the suite pipewire.
-        runPyTest(tally, "pipewire/test_week.py", "week")
-    if everything or "instructions" in arguments.suites:
-        runInstructions(tally)
-    if everything or "checks" in arguments.suites:
-        runChecks(tally, arguments.long)
-    if everything or "sanitizers" in arguments.suites:
-        runSanitizers(tally, arguments.long)
-    if everything or "macos" in arguments.suites:
-        runMacOS(tally)
-    if everything or "fuzz" in arguments.suites:
-        runFuzz(tally, arguments.long)
+    if not arguments.suites:
+        runEverything(tally, arguments.long)
+    else:
+        runSome(tally, arguments.suites, folders, arguments.long)
     return tally.conclude()
 
 

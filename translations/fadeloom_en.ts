@@ -748,6 +748,14 @@
         <translation>Can’t control audio</translation>
     </message>
     <message>
+        <source>This app ties its sound to its output device.</source>
+        <translation>This app ties its sound to its output device.</translation>
+    </message>
+    <message>
+        <source>Another program keeps moving this app’s sound.</source>
+        <translation>Another program keeps moving this app’s sound.</translation>
+    </message>
+    <message>
         <source>Output disconnected, muted</source>
         <translation>Output disconnected, muted</translation>
     </message>

@@ -749,6 +749,14 @@
         <translation>Nie można sterować dźwiękiem</translation>
     </message>
     <message>
+        <source>This app ties its sound to its output device.</source>
+        <translation>Ta aplikacja wiąże dźwięk ze swoim urządzeniem wyjściowym.</translation>
+    </message>
+    <message>
+        <source>Another program keeps moving this app’s sound.</source>
+        <translation>Inny program stale przenosi dźwięk tej aplikacji.</translation>
+    </message>
+    <message>
         <source>Output disconnected, muted</source>
         <translation>Wyjście odłączone, wyciszono</translation>
     </message>

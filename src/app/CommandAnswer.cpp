@@ -24,13 +24,14 @@ const char* nameOf(ReplyKind kind)
 
 }  // namespace
 
-std::string answerCommand(
-    CommandInterpreter& commands, const std::string& line, Caller caller, const std::function<void()>& quit)
+std::string answerCommand(CommandInterpreter& commands, const std::string& line, AnswerForm form,
+    Caller caller, const std::function<void()>& quit)
 {
     const auto reply = commands.interpret(line, caller);
     if (reply.asksToQuit)
         quit();
-    return std::string(nameOf(reply.kind)) + " " + reply.text;
+    const bool isJson = form == AnswerForm::json && reply.kind == ReplyKind::ok;
+    return std::string(nameOf(reply.kind)) + " " + (isJson ? commands.jsonOf(reply) : reply.text);
 }
 
 }  // namespace fadeloom

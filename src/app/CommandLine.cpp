@@ -32,11 +32,16 @@ std::optional<CommandLine> screenshotsIn(std::span<const std::string_view> argum
 
 std::expected<CommandLine, std::string> parseCommandLine(std::span<const std::string_view> arguments)
 {
+    // A verb: fadeloomctl knows which there are.
+    const char first = arguments.empty() || arguments.front().empty() ? '-' : arguments.front().front();
+    if (first >= 'a' && first <= 'z')
+        return CommandLine{.action = CommandLine::Action::giveCommand};
     if (auto screenshots = screenshotsIn(arguments))
         return std::move(*screenshots);
 
     bool isHeadless = false;
     bool isSimulated = false;
+    bool isInBackground = false;
     bool wantsHelp = false;
     bool wantsVersion = false;
     for (const auto argument : arguments) {
@@ -44,6 +49,8 @@ std::expected<CommandLine, std::string> parseCommandLine(std::span<const std::st
             isHeadless = true;
         else if (argument == "--simulate")
             isSimulated = true;
+        else if (argument == "--background")
+            isInBackground = true;
         else if (argument == "--help" || argument == "-h")
             wantsHelp = true;
         else if (argument == "--version")
@@ -57,12 +64,14 @@ std::expected<CommandLine, std::string> parseCommandLine(std::span<const std::st
     if (wantsVersion)
         return CommandLine{.action = CommandLine::Action::showVersion};
     return CommandLine{.action = isHeadless ? CommandLine::Action::runHeadless : CommandLine::Action::runTray,
-        .isSimulated = isSimulated};
+        .isSimulated = isSimulated,
+        .isInBackground = isInBackground};
 }
 
 std::string_view usageText()
 {
-    return "Usage: fadeloom [--headless] [--simulate]\n"
+    return "Usage: fadeloom [--headless|--background] [--simulate]\n"
+           "       fadeloom VERB [WORD...]\n"
            "       fadeloom --render-screenshots FOLDER [SUFFIX [light]]\n"
            "       fadeloom --help | --version\n"
            "\n"
@@ -71,6 +80,9 @@ std::string_view usageText()
            "\n"
            "  --headless   run without a window: tell on standard output what happens, take commands on\n"
            "               standard input (\"help\" lists them), end on SIGINT or SIGTERM\n"
+           "  --background run with the icon alone: when it runs already, do not open its panel\n"
+           "  VERB         give the running Fadeloom a command, as fadeloomctl does (\"fadeloom help\" lists "
+           "them)\n"
            "  --simulate   run on a small world in memory, without any audio system\n"
            "  --render-screenshots\n"
            "               draw the panel with fixed contents into picture files, dark or light, and end\n"

@@ -10,10 +10,11 @@
 namespace fadeloom {
 
 struct CommandLine {
-    enum class Action { runTray, runHeadless, renderScreenshots, showHelp, showVersion };
+    enum class Action { runTray, runHeadless, giveCommand, renderScreenshots, showHelp, showVersion };
 
     Action action = Action::runTray;
     bool isSimulated = false;  // On a world in memory instead of this machine's audio system.
+    bool isInBackground = false;  // A second start does not open the panel.
     // Of `renderScreenshots`.
     std::string outputFolder{};
     std::string languageSuffix{};

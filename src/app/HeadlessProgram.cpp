@@ -54,12 +54,10 @@ void runOn(const Platform& platform, QtMainLoop& mainLoop, Console& console, Hom
         },
         [] {});  // The end of the input is not the end of the program.
 
-    if (instance != nullptr) {
-        instance->serve({.quit = quit, .run = [&run](const std::string& line, bool isSandboxed) {
-                             return run.answer(line, isSandboxed ? Caller::sandboxed : Caller::trusted);
-                         }});
-    }
+    if (instance != nullptr)
+        instance->serve({.quit = quit, .control = run.served(mainLoop)});
     mainLoop.run();
+    run.endWatches();
     if (instance != nullptr)
         instance->serve({});
     run.shutdown();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/HeadlessRun.h"
 
-#include "app/CommandAnswer.h"
 #include "app/Console.h"
+#include "commands/EventText.h"
 #include "control/AppSettings.h"
 #include "control/OutputChoice.h"
 #include "platform/MainLoop.h"
@@ -20,11 +20,13 @@ constexpr std::chrono::seconds tableInterval{1};
 
 HeadlessRun::HeadlessRun(const Platform& platform, Console& console, Options options)
     : console_(console)
+    , text_(platform.text)
     , options_(std::move(options))
     , engineLog_(platform)
     , controller_(platform, engineLog_, options_.version)
-    , eventPrinter_(controller_, console)
+    , events_(controller_, platform.mainLoop, [this](const Event& event) { print(event); })
     , commands_(controller_, platform.text)
+    , watchers_(controller_, platform.mainLoop, platform.text)
 {
     if (options_.terminalSize()) {
         controller_.levels().setWanted(true);
@@ -41,15 +43,22 @@ void HeadlessRun::takeLine(std::string_view line)
         options_.quit();
 }
 
-std::string HeadlessRun::answer(const std::string& line, Caller caller)
+ServedControl HeadlessRun::served(MainLoop& mainLoop)
 {
-    return answerCommand(commands_, line, caller, options_.quit);
+    return {controller_, commands_, watchers_, mainLoop, text_, options_.version, options_.quit};
 }
 
 void HeadlessRun::shutdown()
 {
     tableTimer_.reset();
     controller_.shutdown();
+}
+
+// The answer to a command says what it changed.
+void HeadlessRun::print(const Event& event)
+{
+    if (!std::holds_alternative<event::AppChanged>(event))
+        console_.print(eventLine(event));
 }
 
 void HeadlessRun::showTable()

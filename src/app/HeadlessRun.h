@@ -2,10 +2,12 @@
 // The program without a window: a controller, what it does told on a console, and commands taken from it.
 #pragma once
 
-#include "app/EventPrinter.h"
+#include "app/ServedControl.h"
 #include "app/StatusTable.h"
 #include "app/TerminalSize.h"
 #include "commands/CommandInterpreter.h"
+#include "commands/EventSource.h"
+#include "commands/Watchers.h"
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
 #include "platform/Platform.h"
@@ -38,8 +40,10 @@ public:
 
     /// Does what one line of input says, and prints one line in answer; none for a line without any word.
     void takeLine(std::string_view line);
-    /// Does what another program's command says; returns the answer in one line.
-    [[nodiscard]] std::string answer(const std::string& line, Caller caller);
+    /// What other programs reach.
+    [[nodiscard]] ServedControl served(MainLoop& mainLoop);
+    /// Tells those that are told what happens that it is over.
+    void endWatches() { watchers_.end(); }
     /// Ends in good order: no tap is left, and a save that waits is done when this returns.
     void shutdown();
 
@@ -47,13 +51,16 @@ private:
     [[nodiscard]] std::vector<StatusRow> statusRows();
     [[nodiscard]] std::string outputText(const std::string& bundleID) const;
     void showTable();
+    void print(const Event& event);
 
     Console& console_;
+    const Text& text_;
     Options options_;
     EngineLog engineLog_;
     AudioController controller_;
-    EventPrinter eventPrinter_;
+    EventSource events_;
     CommandInterpreter commands_;
+    Watchers watchers_;
     Subscription tableTimer_;
 };
 

@@ -2,14 +2,17 @@
 #include "app/TrayProgram.h"
 
 #include "app/AppDelegate.h"
-#include "app/CommandAnswer.h"
+#include "app/CommandLine.h"
 #include "app/EarlyEnd.h"
 #include "app/Home.h"
 #include "app/InterfaceLanguage.h"
 #include "app/ProductPages.h"
+#include "app/ServedControl.h"
 #include "app/SimulatedHome.h"
 #include "app/StartConditions.h"
 #include "app/Version.h"
+#include "commands/CommandInterpreter.h"
+#include "commands/Watchers.h"
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
 #include "platform/qt/QtMainLoop.h"
@@ -71,7 +74,6 @@ private:
     [[nodiscard]] Platform withWindows(Platform platform);
     [[nodiscard]] PanelParts panelParts();
     [[nodiscard]] AppDelegate::Actions actions();
-    [[nodiscard]] std::string answer(const std::string& line, bool isSandboxed);
     void quit();
 
     QtMainLoop& mainLoop_;
@@ -84,6 +86,7 @@ private:
     AudioController controller_;
     CommandInterpreter commands_{controller_, platform_.text,
         {.open = [this] { delegate_->showPopover(); }, .toggle = [this] { delegate_->togglePopover(); }}};
+    Watchers watchers_{controller_, mainLoop_, platform_.text};
     std::optional<UpdateChecker> updates_;
     PanelModel panel_;
     std::optional<PanelEngine> engine_;  // Once the panel has been opened.
@@ -128,8 +131,10 @@ int TrayRun::run()
         host_.instance->serve({.open = [this] { delegate_->showPopover(); },
             .toggle = [this] { delegate_->togglePopover(); },
             .quit = [this] { quit(); },
-            .run = [this](const std::string& line, bool isSandboxed) { return answer(line, isSandboxed); }});
+            .control = ServedControl{controller_, commands_, watchers_, mainLoop_, platform_.text,
+                std::string(programVersion()), [this] { quit(); }}});
     mainLoop_.run();
+    watchers_.end();
     controller_.shutdown();
     return 0;
 }
@@ -172,12 +177,6 @@ AppDelegate::Actions TrayRun::actions()
     return actions;
 }
 
-std::string TrayRun::answer(const std::string& line, bool isSandboxed)
-{
-    const auto caller = isSandboxed ? Caller::sandboxed : Caller::trusted;
-    return answerCommand(commands_, line, caller, [this] { quit(); });
-}
-
 void TrayRun::quit()
 {
     if (host_.instance != nullptr)
@@ -185,10 +184,10 @@ void TrayRun::quit()
     mainLoop_.quit();
 }
 
-int runOnThisMachine(QtMainLoop& mainLoop, HomeGuardian& guardian)
+int runOnThisMachine(QtMainLoop& mainLoop, HomeGuardian& guardian, bool isInBackground)
 {
     HomeInstance instance;
-    if (const auto end = instance.claim(true))
+    if (const auto end = instance.claim(!isInBackground))
         return endEarly(*end);
     HomeLog systemLog;
     HomePlatform home(mainLoop, systemLog, guardian);
@@ -200,12 +199,12 @@ int runOnThisMachine(QtMainLoop& mainLoop, HomeGuardian& guardian)
 
 }  // namespace
 
-int runTray(int argumentCount, char** arguments, bool isSimulated)
+int runTray(int argumentCount, char** arguments, const CommandLine& commandLine)
 {
     if (!HomeDesktop::prepare())
         return endEarly({"there is no display to show a panel on; --headless runs without one", 1});
     std::optional<HomeGuardian> guardian;
-    if (!isSimulated)
+    if (!commandLine.isSimulated)
         guardian.emplace();  // Before the first thread.
     const QApplication application(argumentCount, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
@@ -215,7 +214,7 @@ int runTray(int argumentCount, char** arguments, bool isSimulated)
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app-icon.svg")));
     QtMainLoop mainLoop;
     if (guardian)
-        return runOnThisMachine(mainLoop, *guardian);
+        return runOnThisMachine(mainLoop, *guardian, commandLine.isInBackground);
     HomeWorkspace real;
     return runSimulated(mainLoop, [&](SimulatedHome& home) {
         return TrayRun(home.world().platform(), mainLoop, {real.workspace(), nullptr}).run();

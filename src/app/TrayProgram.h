@@ -4,7 +4,9 @@
 
 namespace fadeloom {
 
-/// Runs until it is asked to quit; returns the exit status. `isSimulated`: on a world in memory. Thread: main.
-int runTray(int argumentCount, char** arguments, bool isSimulated);
+struct CommandLine;
+
+/// Runs until it is asked to quit; returns the exit status. Thread: main.
+int runTray(int argumentCount, char** arguments, const CommandLine& commandLine);
 
 }  // namespace fadeloom

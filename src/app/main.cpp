@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/CommandLine.h"
+#include "app/ControlProgram.h"
 #include "app/HeadlessProgram.h"
 #include "app/ScreenshotProgram.h"
 #include "app/StandardStreams.h"
@@ -27,7 +28,9 @@ int main(int argc, char** argv)
         std::cout << "fadeloom " << programVersion() << std::endl;
         return 0;
     case CommandLine::Action::runTray:
-        return runTray(argc, argv, commandLine->isSimulated);
+        return runTray(argc, argv, *commandLine);
+    case CommandLine::Action::giveCommand:
+        return becomeControl(argv);
     case CommandLine::Action::renderScreenshots:
         return runScreenshots(argc, argv, *commandLine);
     case CommandLine::Action::runHeadless:

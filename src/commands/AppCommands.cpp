@@ -49,7 +49,7 @@ template <typename Change, typename Value>
 Reply CommandInterpreter::changeApps(
     std::string_view command, Arguments arguments, Change change, Value value)
 {
-    const auto ids = appsNamed(arguments[0]);
+    const auto ids = appsNamed(controller_, text_, arguments[0]);
     if (!ids)
         return unknown(ids.error());
     std::map<std::string, AppAudioSettings> changed;
@@ -64,7 +64,9 @@ Reply CommandInterpreter::changeApps(
             controller_.editApp(id, [&](AppAudioSettings& app) { app = settings; });
         text += (text.empty() ? "" : "; ") + std::string(command) + " " + asWord(id) + " " + value(settings);
     }
-    return ok(text.empty() ? std::string(command) : text);
+    auto reply = ok(text.empty() ? std::string(command) : text);
+    reply.apps = *ids;
+    return reply;
 }
 
 Reply CommandInterpreter::setVolume(Arguments arguments)
@@ -161,7 +163,7 @@ Reply CommandInterpreter::setPreamp(Arguments arguments)
 
 Reply CommandInterpreter::applyPreset(Arguments arguments)
 {
-    const auto ids = appsNamed(arguments[0]);
+    const auto ids = appsNamed(controller_, text_, arguments[0]);
     if (!ids)
         return unknown(ids.error());
     const auto value = [](const AppAudioSettings& app) { return asWord(app.eqPresetName.value_or("none")); };

@@ -2,9 +2,12 @@
 #include "commands/AppLookup.h"
 
 #include "commands/PrintableText.h"
+#include "control/AudioController.h"
 
+#include <charconv>
 #include <initializer_list>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace fadeloom {
@@ -80,6 +83,27 @@ std::expected<std::string, std::string> findApp(
             return std::unexpected(ambiguityText(typed, identifiers));
     }
     return std::unexpected("unknown app " + asWord(typed));
+}
+
+std::expected<std::vector<std::string>, std::string> appsNamed(
+    const AudioController& controller, const Text& text, const std::string& word)
+{
+    if (const auto group = appsOfGroup(controller.state(), word))
+        return *group;
+    constexpr std::string_view byProcess = "pid:";
+    if (word.starts_with(byProcess)) {
+        ProcessID process = -1;
+        const auto* const end = word.data() + word.size();
+        const bool isNumber = std::from_chars(word.data() + byProcess.size(), end, process).ptr == end;
+        if (const auto id = isNumber ? controller.appOfProcess(process) : std::nullopt)
+            return std::vector{*id};
+        return std::unexpected(
+            "no app in the mixer has the process " + asWord(word.substr(byProcess.size())));
+    }
+    auto id = findApp(controller.state(), text, word);
+    if (!id)
+        return std::unexpected(std::move(id.error()));
+    return std::vector{std::move(*id)};
 }
 
 }  // namespace fadeloom

@@ -5,7 +5,8 @@
 // once; blanks need double quotes around them.
 #pragma once
 
-#include <expected>
+#include "commands/StateJson.h"
+
 #include <functional>
 #include <optional>
 #include <span>
@@ -44,6 +45,12 @@ public:
         std::string text;  // One line that begins with "ok" or "error"; empty for a line without any word.
         ReplyKind kind = ReplyKind::ok;
         bool asksToQuit = false;
+        std::optional<std::vector<std::string>> apps =
+            std::nullopt;  // Which it is about, if it is about apps.
+        std::optional<Listing> listing = std::nullopt;
+
+        /// The text without its first word.
+        [[nodiscard]] std::string sentence() const;
 
         friend bool operator==(const Reply&, const Reply&) = default;
     };
@@ -57,16 +64,16 @@ public:
 
     /// Does what the line says. After an error nothing has changed.
     Reply interpret(std::string_view line, Caller caller = Caller::trusted);
+    /// The same of words.
+    Reply run(std::span<const std::string> words, Caller caller = Caller::trusted);
+    /// What a reply says, as JSON in one line: the apps that it is about as they are now, the list, or its text.
+    [[nodiscard]] std::string jsonOf(const Reply& reply) const;
 
 private:
     using Arguments = std::span<const std::string>;
     struct Command;
 
     static std::span<const Command> commands();
-
-    /// Those that the word means, one at least. The error names what is unknown.
-    [[nodiscard]] std::expected<std::vector<std::string>, std::string> appsNamed(
-        const std::string& word) const;
 
     // Of one app; its name is the first argument.
     Reply setVolume(Arguments arguments);
@@ -98,6 +105,9 @@ private:
     Reply status(Arguments arguments);
     Reply openPanel(Arguments arguments);
     Reply togglePanel(Arguments arguments);
+    Reply exportSettings(Arguments arguments);
+    Reply restoreSettings(Arguments arguments);
+    Reply complete(Arguments arguments);
     Reply help(Arguments arguments);
     Reply quit(Arguments arguments);
 
@@ -111,6 +121,8 @@ private:
     /// The device next to the app's present one, in the list's order; absent without devices.
     [[nodiscard]] std::optional<std::string> neighbourOf(const std::string& bundleID, bool isNext) const;
     [[nodiscard]] std::string appText(const std::string& bundleID) const;
+    [[nodiscard]] std::string appLines() const;
+    [[nodiscard]] std::string deviceLines() const;
 
     AudioController& controller_;
     const Text& text_;

@@ -21,6 +21,7 @@ struct AppEntry {
     std::vector<std::string> callIDs{};  // Under which it may stand among the call apps; its own first.
     std::vector<AudioProcessID> processIDs{};  // Ascending.
     std::vector<std::string> ownOutputs{};  // Unique ids of the devices of its own choice, ascending.
+    std::optional<OutOfReach> outOfReach{};  // Of the first process that has a reason.
 
     friend bool operator==(const AppEntry&, const AppEntry&) = default;
 };

@@ -35,6 +35,13 @@ std::vector<std::string> AppGroup::ownOutputs() const
     return {uids.begin(), uids.end()};
 }
 
+std::optional<OutOfReach> AppGroup::outOfReach() const
+{
+    const auto found = std::ranges::find_if(
+        processes, [](const AudioProcess& process) { return process.outOfReach.has_value(); });
+    return found == processes.end() ? std::nullopt : found->outOfReach;
+}
+
 AppGroups AppGrouper::group(std::span<const AudioProcess> processes)
 {
     const auto ownPid = workspace_.ownPid();

@@ -26,6 +26,8 @@ struct AppGroup {
     [[nodiscard]] std::vector<AudioProcessID> processIDs() const;
     /// Unique ids of the devices that its streams would play to without us, ascending.
     [[nodiscard]] std::vector<std::string> ownOutputs() const;
+    /// Of the first process that has a reason.
+    [[nodiscard]] std::optional<OutOfReach> outOfReach() const;
 };
 
 /// By bundle identifier.

@@ -64,6 +64,8 @@ public:
 
     /// Compares the world with what is wanted, now.
     void poll();
+    /// Polls, and tries a tap again that was refused.
+    void retryTap(const std::string& bundleID);
     /// Polls in a later turn of the main loop; any number of requests until then cost one poll.
     void schedulePoll();
     /// Asks the user for the permission to capture, then polls.

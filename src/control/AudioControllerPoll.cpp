@@ -6,10 +6,30 @@
 #include "platform/AudioSystem.h"
 #include "platform/Workspace.h"
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
 namespace fadeloom {
+
+namespace {
+
+/// Of `entries`, those that have got out of reach, or are so for another reason, since `former` were found.
+std::string describeOutOfReach(const std::vector<AppEntry>& entries, const std::vector<AppEntry>& former)
+{
+    std::string text;
+    for (const auto& entry : entries) {
+        const auto known = std::ranges::find(former, entry.bundleID, &AppEntry::bundleID);
+        if (!entry.outOfReach || (known != former.end() && known->outOfReach == entry.outOfReach))
+            continue;
+        text += (text.empty() ? "" : "; ") + entry.bundleID
+            + (*entry.outOfReach == OutOfReach::fixed ? ", its stream is tied to its device"
+                                                      : ", another program keeps moving its stream");
+    }
+    return text;
+}
+
+}  // namespace
 
 void AudioController::poll()
 {
@@ -56,6 +76,8 @@ void AudioController::updateApps(const AppGroups& groups)
         if (seen_.contains(id))
             entries.push_back(makeEntry(id, group));
     }
+    if (const auto lost = describeOutOfReach(entries, *state_.apps); !lost.empty())
+        engineLog_.notice("out of reach: " + lost);
     rememberNames(entries);
     if (state_.apps.assignIfDifferent(inDisplayOrder(std::move(entries), platform_.text)))
         engineLog_.notice("apps: " + describe(*state_.apps));
@@ -85,6 +107,7 @@ AppEntry AudioController::makeEntry(const std::string& bundleID, const AppGroup&
         .callIDs = traits->second.callIDs,
         .processIDs = group.processIDs(),
         .ownOutputs = group.ownOutputs(),
+        .outOfReach = group.outOfReach(),
     };
 }
 

@@ -24,6 +24,12 @@ void AudioController::ensureTaps()
         ensureTap(entry);
 }
 
+void AudioController::retryTap(const std::string& bundleID)
+{
+    failed_.erase(bundleID);
+    poll();
+}
+
 void AudioController::ensureTap(const AppEntry& entry)
 {
     const auto devices = outputs(entry.bundleID);

@@ -37,6 +37,16 @@ void LevelStore::setWanted(bool isWanted)
     update();
 }
 
+Subscription LevelStore::want()
+{
+    ++wants_;
+    update();
+    return Subscription([this] {
+        --wants_;
+        update();
+    });
+}
+
 void LevelStore::setEnabled(bool isEnabled)
 {
     isEnabled_ = isEnabled;
@@ -45,7 +55,7 @@ void LevelStore::setEnabled(bool isEnabled)
 
 void LevelStore::update()
 {
-    const bool shouldRun = isWanted_ && isEnabled_;
+    const bool shouldRun = (isWanted_ || wants_ > 0) && isEnabled_;
     if (shouldRun == isRunning())
         return;
     if (shouldRun) {

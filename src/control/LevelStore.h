@@ -42,8 +42,10 @@ public:
     /// The meters' positions, 0 to 1; an app that is not in it stands at 0.
     [[nodiscard]] const Published<Levels>& levels() const { return levels_; }
 
-    /// Somebody watches, or nobody any more.
+    /// The panel watches, or does not any more.
     void setWanted(bool isWanted);
+    /// Somebody more watches, until the subscription ends. This must outlive it.
+    [[nodiscard]] Subscription want();
     /// The user's choice to have meters at all.
     void setEnabled(bool isEnabled);
     /// Sets the meters by hand; they stay until the next interval, or until nobody watches any more.
@@ -58,6 +60,7 @@ private:
     Provider provider_;
     Published<Levels> levels_;
     bool isWanted_ = false;
+    int wants_ = 0;  // Of those that hold a subscription.
     bool isEnabled_ = true;
     std::optional<Subscription> timer_;
 };

@@ -1,30 +1,29 @@
 // SPDX-License-Identifier: MIT
 // fadeloomctl: gives a running Fadeloom a command. Without Qt, so that a held key costs next to nothing.
 #include "ctl/Client.h"
+#include "ctl/FocusedApp.h"
+#include "ctl/Options.h"
+#include "ctl/Status.h"
+#include "ctl/Verbs.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <chrono>
 #include <cstdlib>
 #include <iostream>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <thread>
 #include <vector>
 
 #include <unistd.h>
 
 namespace {
 
-using namespace std::chrono_literals;
-using fadeloom::ctl::Client;
+using namespace fadeloom::ctl;
 
-// Documented in docs/control.md.
-enum Status { done = 0, refused = 1, usage = 2, notRunning = 4, unknownName = 5, denied = 6, noAnswer = 7 };
-
-constexpr std::string_view usageText = R"(usage: fadeloomctl [--quiet] [--wait[=SECONDS]] VERB [WORD...]
+constexpr std::string_view usageText =
+    R"(usage: fadeloomctl [--json] [--quiet] [--wait[=SECONDS]] VERB [WORD...]
+       fadeloomctl [--json|--waybar] [--wait[=SECONDS]] watch [apps|levels] [APP]
        fadeloomctl [--quiet] [--wait[=SECONDS]] -      commands from standard input, one a line
 
 Gives a running Fadeloom a command; "fadeloomctl help" lists them. For instance:
@@ -33,23 +32,6 @@ Gives a running Fadeloom a command; "fadeloomctl help" lists them. For instance:
   fadeloomctl output firefox next
 )";
 
-struct Options {
-    bool isQuiet = false;
-    std::chrono::seconds wait{0};
-};
-
-/// A word as it is sent: between double quotes, which keep blanks together.
-std::string quoted(std::string_view word)
-{
-    std::string text = "\"";
-    for (const char byte : word) {
-        if (byte == '"' || byte == '\\')
-            text += '\\';
-        text += byte;
-    }
-    return text + '"';
-}
-
 std::string socketFile()
 {
     const char* const folder = std::getenv("XDG_RUNTIME_DIR");
@@ -57,93 +39,39 @@ std::string socketFile()
         + "/fadeloom.socket";
 }
 
-bool connect(Client& client, std::chrono::seconds wait)
+/// Puts the process of the window in front in the place of "@focused". Absent when it is not known; it has been said
+/// why.
+std::optional<std::vector<std::string>> withFocusedApp(std::span<const std::string_view> words)
 {
-    const auto end = std::chrono::steady_clock::now() + wait;
-    while (!client.connect(socketFile())) {
-        if (std::chrono::steady_clock::now() >= end)
-            return false;
-        std::this_thread::sleep_for(100ms);
+    std::vector<std::string> result(words.begin(), words.end());
+    const auto place = std::ranges::find(result, "@focused");
+    if (place == result.end() || result.front() == "complete")
+        return result;
+    const auto process = focusedProcess();
+    if (!process) {
+        std::cerr << "fadeloomctl: " << process.error() << '\n';
+        return std::nullopt;
     }
-    return true;
+    *place = "pid:" + std::to_string(*process);
+    return result;
 }
 
-/// What a command that reads one value prints: without the verb and the app, which whoever asked knows.
-std::string_view valueIn(std::string_view text)
+Status dispatch(Client& client, Words words, const Options& options)
 {
-    const auto verb = text.find(' ');
-    if (verb == std::string_view::npos || text.find("; ") != std::string_view::npos)
-        return text;
-    auto rest = text.substr(verb + 1);
-    const auto end = rest.starts_with('"') ? rest.find("\" ", 1) : rest.find(' ');
-    if (end == std::string_view::npos)
-        return text;
-    return rest.substr(end + (rest.starts_with('"') ? 2 : 1));
-}
-
-/// Whether the words ask for one value of an app.
-bool isReading(std::span<const std::string_view> words)
-{
-    constexpr std::array values = {"volume", "mute", "output", "eq", "preset", "preamp"};
-    return words.size() == 2 && std::ranges::find(values, words.front()) != values.end();
-}
-
-int run(Client& client, const std::string& line, bool isReading, bool isQuiet)
-{
-    const auto answer = client.run(line);
-    if (!answer) {
-        std::cerr << "fadeloomctl: the running Fadeloom does not answer, or is too old for this\n";
-        return noAnswer;
+    const auto& verb = words.front();
+    const bool isLevels = words.size() == 1 && verb == "levels";
+    if (verb == "-" && words.size() == 1)
+        return runLines(client, options);
+    if (verb == "watch" || isLevels) {
+        return watch(client, isLevels ? words : words.subspan(1), options);
     }
-    const std::string_view text = *answer;
-    const auto kind = text.substr(0, text.find(' '));
-    const auto sentence = text.substr(std::min(text.size(), kind.size() + 1));
-    if (kind == "ok") {
-        constexpr std::string_view prefix = "ok ";
-        const auto said = sentence.starts_with(prefix) ? sentence.substr(prefix.size()) : sentence;
-        if (!isQuiet && !said.empty())
-            std::cout << (isReading ? valueIn(said) : said) << '\n' << std::flush;
-        return done;
-    }
-    constexpr std::string_view prefix = "error ";
-    std::cerr << "fadeloomctl: " << (sentence.starts_with(prefix) ? sentence.substr(prefix.size()) : sentence)
-              << '\n';
-    return kind == "usage" ? usage : kind == "unknown" ? unknownName : kind == "denied" ? denied : refused;
-}
-
-int runLines(Client& client, bool isQuiet)
-{
-    int status = done;
-    for (std::string line; std::getline(std::cin, line);) {
-        if (const int outcome = run(client, line, false, isQuiet); outcome != done)
-            status = outcome;
-        if (status == noAnswer)
-            break;
-    }
-    return status;
-}
-
-/// Takes the options off the front; false when there is one that is not known.
-bool takeOptions(std::span<const std::string_view>& words, Options& options)
-{
-    constexpr std::string_view waitPrefix = "--wait=";
-    for (; !words.empty() && words.front().starts_with("--"); words = words.subspan(1)) {
-        const auto word = words.front();
-        int seconds = 0;
-        if (word == "--quiet") {
-            options.isQuiet = true;
-        } else if (word == "--wait") {
-            options.wait = 24h * 365;
-        } else if (word.starts_with(waitPrefix)
-            && std::from_chars(word.data() + waitPrefix.size(), word.data() + word.size(), seconds).ptr
-                == word.data() + word.size()
-            && seconds >= 0) {
-            options.wait = std::chrono::seconds(seconds);
-        } else {
-            return false;
-        }
-    }
-    return true;
+    if (verb == "complete")
+        return complete(client, words);
+    if (verb == "export" && words.size() <= 2 && options.form == Options::Form::text)
+        return exportSettings(client, words);
+    if (verb == "restore" && words.size() == 2)
+        return restoreSettings(client, words, options);
+    return printAnswer(client, words, options);
 }
 
 }  // namespace
@@ -155,26 +83,24 @@ int main(int argc, char** argv)
         std::cout << usageText;
         return done;
     }
-    std::span<const std::string_view> words = all;
-    Options options;
-    if (!takeOptions(words, options) || words.empty()) {
+    std::span<const std::string_view> typed = all;
+    const auto options = takeOptions(typed);
+    const bool isForBar = options && options->form == Options::Form::waybar;
+    if (!options || typed.empty() || (isForBar && typed.front() != "watch")) {
         std::cerr << usageText;
         return usage;
     }
-    std::string line;
-    for (const auto word : words) {
-        if (word.find('\n') != std::string_view::npos) {
-            std::cerr << "fadeloomctl: a word may not hold the end of a line\n";
-            return usage;
-        }
-        line += (line.empty() ? "" : " ") + quoted(word);
+    if (std::ranges::any_of(typed, [](auto word) { return word.find('\n') != std::string_view::npos; })) {
+        std::cerr << "fadeloomctl: a word may not hold the end of a line\n";
+        return usage;
     }
-    Client client;
-    if (!connect(client, options.wait)) {
+    const auto words = withFocusedApp(typed);
+    if (!words)
+        return unknownName;
+    Client client(socketFile(), options->wait);
+    if (!client.connect()) {
         std::cerr << "fadeloomctl: Fadeloom is not running\n";
         return notRunning;
     }
-    if (words.size() == 1 && words.front() == "-")
-        return runLines(client, options.isQuiet);
-    return run(client, line, isReading(words), options.isQuiet);
+    return dispatch(client, *words, *options);
 }

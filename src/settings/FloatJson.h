@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The JSON of this folder's sources; no header of ours that others see has it.
+// The JSON of this folder's sources and those of commands; no header of ours that others see has it.
 #pragma once
 
 #include <nlohmann/json.hpp>

@@ -33,6 +33,7 @@ AppRowModel::Tone AppRowModel::statusTone() const
 {
     switch (shown_.status.kind) {
     case StatusLine::Kind::failed:
+    case StatusLine::Kind::outOfReach:
     case StatusLine::Kind::disconnected:
         return Tone::Warning;
     case StatusLine::Kind::recording:
@@ -80,7 +81,7 @@ void AppRowModel::resetVolume()
 
 void AppRowModel::retry()
 {
-    controller_.poll();
+    controller_.retryTap(bundleID_);
 }
 
 void AppRowModel::chooseOutput(const QString& key)

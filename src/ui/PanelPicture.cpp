@@ -14,8 +14,6 @@
 namespace fadeloom {
 namespace {
 
-constexpr double scale = 2;
-
 // Without a real window behind it, this is what tells the views how many pixels a point has.
 class Pixels final : public QQuickRenderControl { };
 
@@ -28,7 +26,7 @@ void settle()
 
 }  // namespace
 
-QImage pictureOf(QQuickItem& view, const std::function<void(QQuickItem& root)>& interact)
+QImage pictureOf(QQuickItem& view, const std::function<void(QQuickItem& root)>& interact, double scale)
 {
     Pixels control;
     QQuickWindow window(&control);

@@ -10,8 +10,9 @@ class QQuickItem;
 
 namespace fadeloom {
 
-/// The view as it is after it has settled, two pixels for each point, its corners transparent. The view keeps its parent
-/// afterwards: none. `interact` gets the root of the window before the picture is taken. Needs `drawBySoftware`.
-[[nodiscard]] QImage pictureOf(QQuickItem& view, const std::function<void(QQuickItem& root)>& interact = {});
+/// The view as it is after it has settled, `scale` pixels for each point, its corners transparent. The view keeps its
+/// parent afterwards: none. `interact` gets the root of the window before the picture is taken. Needs `drawBySoftware`.
+[[nodiscard]] QImage pictureOf(
+    QQuickItem& view, const std::function<void(QQuickItem& root)>& interact = {}, double scale = 2);
 
 }  // namespace fadeloom

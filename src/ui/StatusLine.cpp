@@ -22,6 +22,12 @@ StatusLine statusLine(const ControllerState& state, const AppEntry& app)
         return {.kind = Kind::failed,
             .text = words(QT_TRANSLATE_NOOP("StatusLine", "Can’t control audio")),
             .help = messageText(error->second)};
+    if (app.outOfReach)
+        return {.kind = Kind::outOfReach,
+            .text = words(QT_TRANSLATE_NOOP("StatusLine", "Can’t control audio")),
+            .help = *app.outOfReach == OutOfReach::fixed
+                ? words(QT_TRANSLATE_NOOP("StatusLine", "This app ties its sound to its output device."))
+                : words(QT_TRANSLATE_NOOP("StatusLine", "Another program keeps moving this app’s sound."))};
     if (state.missingOutput->contains(app.bundleID))
         return {.kind = Kind::disconnected,
             .text = words(QT_TRANSLATE_NOOP("StatusLine", "Output disconnected, muted")),

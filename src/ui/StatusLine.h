@@ -10,7 +10,7 @@
 namespace fadeloom {
 
 struct StatusLine {
-    enum class Kind { failed, disconnected, recording, onCall, lowered, playing, idle };
+    enum class Kind { failed, outOfReach, disconnected, recording, onCall, lowered, playing, idle };
 
     Kind kind = Kind::idle;
     QString text{};

@@ -47,6 +47,17 @@ TEST(CommandLine, helpGoesBeforeEverythingElse)
     EXPECT_EQ(parse({"--headless", "--version", "--help"})->action, Action::showHelp);
 }
 
+TEST(CommandLine, givesACommandWhenItBeginsWithAVerb)
+{
+    EXPECT_EQ(parse({"volume", "firefox", "-5%"}), CommandLine{.action = Action::giveCommand});
+    EXPECT_EQ(parse({"help", "--loud"}), CommandLine{.action = Action::giveCommand});
+}
+
+TEST(CommandLine, staysInTheBackground)
+{
+    EXPECT_EQ(parse({"--background"}), (CommandLine{.action = Action::runTray, .isInBackground = true}));
+}
+
 TEST(CommandLine, namesAnUnknownArgument)
 {
     EXPECT_EQ(errorOf({"--headless", "--loud"}), "unknown argument: --loud");

@@ -58,7 +58,7 @@ protected:
     Program startFirst() const
     {
         auto program = start();
-        const InstanceSocket socket{folder.path() / "fadeloom.socket", nullptr, nullptr};
+        const InstanceSocket socket{folder.path() / "fadeloom.socket", nullptr, nullptr, nullptr};
         const auto end = std::chrono::steady_clock::now() + RunningProgram::patience;
         while (!socket.ask(InstanceRequest::ping, 1s) && std::chrono::steady_clock::now() < end)
             std::this_thread::sleep_for(20ms);

@@ -36,7 +36,7 @@ TEST(Program, showsHowItIsUsed)
 {
     RunningProgram program({"--help"});
 
-    EXPECT_THAT(program.restOfOutput(), StartsWith("Usage: fadeloom [--headless]"));
+    EXPECT_THAT(program.restOfOutput(), StartsWith("Usage: fadeloom [--headless|--background]"));
     EXPECT_EQ(program.exitStatus(), 0);
 }
 

@@ -31,9 +31,8 @@ TEST_F(CommandInterpreterStory, helpNamesEveryCommandInOneLine)
         "preset APP [NAME]; save-preset APP NAME; delete-preset NAME; record APP start|stop; reveal; "
         "recordings PATH|default; default UID; limit 1|1.25|1.5|2; headroom on|off|toggle; "
         "calls on|off|toggle; call-level 0.2; call-app APP on|off|toggle; login on|off|toggle; "
-        "theme system|light|dark; meters on|off|toggle; levels on|off|toggle; list; status [APP]; open; "
-        "toggle; "
-        "help; quit");
+        "theme system|light|dark; meters on|off|toggle; levels on|off|toggle; list [apps|outputs|presets]; "
+        "status [APP]; open; toggle; export; restore JSON; complete [WORD...]; help; quit");
 }
 
 TEST_F(CommandInterpreterStory, quitAsksForTheEnd)
@@ -105,6 +104,8 @@ INSTANTIATE_TEST_SUITE_P(Lines, CommandMistakes,
         std::pair("login maybe", "error say on, off or toggle, not maybe"),
         std::pair("levels all", "error say on, off or toggle, not all"),
         std::pair("mute \"player on", "error a double quote is not closed"),
+        std::pair("list nothing", "error say apps, outputs or presets, not nothing"),
+        std::pair("restore {", "error these are no settings: not JSON at line 1, column 2"),
         std::pair("quit now", "error usage: quit"),
         std::pair("lou\x1b[2Jder", "error unknown command lou\uFFFD[2Jder, help lists them")));
 

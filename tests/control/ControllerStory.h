@@ -130,6 +130,14 @@ protected:
     {
         return std::ranges::count(world.audio().operations(), operation);
     }
+    [[nodiscard]] std::vector<AudioOperation> tapsMadeAndTakenDown()
+    {
+        auto operations = world.audio().operations();
+        std::erase_if(operations, [](auto operation) {
+            return operation != AudioOperation::createTap && operation != AudioOperation::destroyTap;
+        });
+        return operations;
+    }
     /// How often a tap was asked for since the world began.
     [[nodiscard]] long tapAttempts() { return callCount(AudioOperation::createTap); }
 

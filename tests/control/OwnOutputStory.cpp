@@ -38,6 +38,22 @@ TEST_F(OwnOutputStory, anAppOnTwoDevicesPlaysOnBothWithTheSameSettings)
     EXPECT_NEAR(heardAt("speakers"), source / 2, tolerance);
 }
 
+TEST_F(OwnOutputStory, anAppWhoseSoundCannotBeReachedSaysWhyOnce)
+{
+    const auto pid = launchPlaying("Player");
+
+    world.setOutOfReach(pid, OutOfReach::contested);
+    world.runPosted();
+    world.advance(3s);
+
+    EXPECT_EQ(controller->state().apps->at(0).outOfReach, OutOfReach::contested);
+    EXPECT_EQ(logCount("out of reach: com.example.player, another program keeps moving its stream"), 1);
+
+    world.setOutOfReach(pid, std::nullopt);
+    world.runPosted();
+    EXPECT_EQ(controller->state().apps->at(0).outOfReach, std::nullopt);
+}
+
 TEST_F(OwnOutputStory, anOutputChosenHereOverridesTheAppsOwn)
 {
     const auto pid = launchPlaying("Player");

@@ -58,6 +58,22 @@ TEST_F(PermissionStory, withdrawingItRemovesEveryTapWithinAPollAndKeepsTheRows)
     EXPECT_NE(controller->parametersOf("com.example.player"), nullptr);
 }
 
+TEST_F(PermissionStory, withdrawingItEndsARecordingWhileItsTapIsStillThere)
+{
+    start();
+    launchPlaying("Player");
+    controller->startRecording("com.example.player");
+    bool wasTapped = false;
+    const auto subscription = state().recordings.whenAssigned(
+        [&] { wasTapped = state().recordings->empty() && tapOf("com.example.player") != nullptr; });
+
+    world.setPermission(SimulatedCapturePermission::denied);
+    world.advance(5s);
+
+    EXPECT_TRUE(wasTapped);
+    EXPECT_EQ(tapOf("com.example.player"), nullptr);
+}
+
 TEST_F(PermissionStory, grantingItTapsTheListedApps)
 {
     world.setPermission(SimulatedCapturePermission::undecided);

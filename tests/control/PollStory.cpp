@@ -227,5 +227,19 @@ TEST_F(PollStory, whatIsNotAnnouncedIsSeenByTheTimer)
     EXPECT_EQ(mixer(), "com.example.player▶");
 }
 
+TEST_F(PollStory, aCallCountsForTheTapsThatTheSamePollMakes)
+{
+    controller->editSettings([](auto& settings) { settings.focus.callApps = {"com.example.talk"}; });
+    const auto pid = world.launchApp("Talk");
+    world.startPlaying(pid, SimulatedSignal::constant(0));
+    world.startPlaying(world.launchApp("Player"), SimulatedSignal::constant(source));
+    world.startUsingMic(pid);
+    world.runPosted();
+
+    world.runCycle(64);
+
+    EXPECT_NEAR(world.heard("speakers").peak(1), source * 0.2F, tolerance);
+}
+
 }  // namespace
 }  // namespace fadeloom

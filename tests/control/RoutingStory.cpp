@@ -220,5 +220,16 @@ TEST_F(RoutingStory, ourOwnDevicesAreNotOffered)
     EXPECT_EQ(state().devices->size(), 3);
 }
 
+TEST_F(RoutingStory, anotherOutputIsTappedOnceTheFormerTapIsDown)
+{
+    launchPlaying("Player");
+
+    chooseOutput(player, "headphones");
+
+    EXPECT_THAT(tapsMadeAndTakenDown(),
+        testing::ElementsAre(
+            AudioOperation::createTap, AudioOperation::destroyTap, AudioOperation::createTap));
+}
+
 }  // namespace
 }  // namespace fadeloom

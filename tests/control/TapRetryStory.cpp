@@ -61,6 +61,21 @@ TEST_F(TapRetryStory, aFailureIsForgottenWhenThePermissionChanges)
     EXPECT_NE(tapOf(player), nullptr);
 }
 
+TEST_F(TapRetryStory, theUserMayTryAgain)
+{
+    world.refuse(AudioOperation::createTap, HowOften::once);
+    launchPlaying("Player");
+    launchPlaying("Chat");
+    ASSERT_EQ(tapOf("com.example.player"), nullptr);
+    controller->poll();
+    ASSERT_EQ(tapOf("com.example.player"), nullptr) << "with nothing changed";
+
+    controller->retryTap("com.example.player");
+
+    EXPECT_NE(tapOf("com.example.player"), nullptr);
+    EXPECT_TRUE(state().tapErrors->empty());
+}
+
 TEST_F(TapRetryStory, anotherOutputMakesNoTapWithoutPermission)
 {
     world.setPermission(SimulatedCapturePermission::denied);

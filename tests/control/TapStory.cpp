@@ -5,6 +5,8 @@
 namespace fadeloom {
 namespace {
 
+using testing::ElementsAre;
+
 class TapStory : public ControllerStory {
 protected:
     TapStory() { start(); }
@@ -72,8 +74,8 @@ TEST_F(TapStory, aTapThatCannotBeAdaptedIsMadeAnew)
     world.runPosted();
 
     EXPECT_EQ(tapOf(player)->processIDs().size(), 2);
-    EXPECT_EQ(tapAttempts(), 2);
-    EXPECT_EQ(callCount(AudioOperation::destroyTap), 1);
+    EXPECT_THAT(tapsMadeAndTakenDown(),
+        ElementsAre(AudioOperation::createTap, AudioOperation::destroyTap, AudioOperation::createTap));
 }
 
 TEST_F(TapStory, aNewRateOfTheOutputMakesTheTapAnew)

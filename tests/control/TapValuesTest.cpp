@@ -6,7 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
+#include <future>
+#include <mutex>
+#include <thread>
 
 namespace fadeloom {
 namespace {
@@ -75,6 +79,26 @@ TEST(TapValues, areStoredWithoutTouchingTheEqualizersVersion)
         (TapParameters::Values{
             .volume = 0.5F, .muted = true, .duck = 0.2F, .eqEnabled = true, .preamp = 2, .eqVersion = 1}));
     EXPECT_TRUE(block.lock.try_lock());
+}
+
+TEST(TapValues, areNotStoredWhileAnotherThreadReadsThem)
+{
+    TapParameters block;
+    std::promise<void> isReading;
+    TapParameters::Values seen;
+    std::thread reader([&] {
+        const std::scoped_lock guard(block.lock);
+        isReading.set_value();
+        std::this_thread::sleep_for(std::chrono::milliseconds(30));
+        seen = block.values;
+    });
+
+    isReading.get_future().wait();
+    store({.volume = 0.5F}, block);
+    reader.join();
+
+    EXPECT_EQ(seen, TapParameters::Values{});
+    EXPECT_EQ(block.values.volume, 0.5F);
 }
 
 TEST(AppSettings, areTheDefaultsWithoutAnEntry)

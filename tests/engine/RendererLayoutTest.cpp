@@ -119,6 +119,16 @@ TEST_F(RendererLayoutTest, planarTapOfOneBufferFeedsBothSides)
     EXPECT_THAT(output.samples(0), ElementsAre(0.1F, 0.1F, 0.2F, 0.2F));
 }
 
+TEST_F(RendererLayoutTest, planarTapOfThreeBuffersGivesItsFirstTwo)
+{
+    input.add(1, 2, 0.9F).add(1, {0.1F, 0.2F}).add(1, {0.3F, 0.4F}).add(1, {0.5F, 0.6F});
+    output.add(2, 2, stale);
+
+    render({.tapBufferCount = 3, .isTapInterleaved = false});
+
+    EXPECT_THAT(output.samples(0), ElementsAre(0.1F, 0.3F, 0.2F, 0.4F));
+}
+
 TEST_F(RendererLayoutTest, shorterSideOfAPlanarTapLimitsTheCycle)
 {
     input.add(1, {0.1F, 0.2F}).add(1, std::vector{0.3F});

@@ -153,6 +153,16 @@ TEST_F(RendererRecordingTest, aCycleWithoutFramesWritesNothing)
     EXPECT_THAT(times, IsEmpty());
 }
 
+TEST_F(RendererRecordingTest, aCycleOfOneFrameIsWritten)
+{
+    startRecording();
+    Renderer renderer(parameters, {});
+
+    render(renderer, stereo, 1);
+
+    EXPECT_THAT(recorded(), ElementsAre(0.1F, 0.2F));
+}
+
 TEST_F(RendererRecordingTest, theLongestCycleIsWrittenWhole)
 {
     startRecording();

@@ -12,6 +12,8 @@ struct Refusal {
     std::vector<std::string> undone;
 };
 
+class MacOSAppTapInputs : public AppTapStage { };
+
 class MacOSAppTapFailure : public AppTapStage, public ::testing::WithParamInterface<Refusal> { };
 
 TEST_P(MacOSAppTapFailure, undoesWhatWasBuilt)
@@ -91,6 +93,30 @@ TEST_F(MacOSTapFormat, countsWhenTheAggregateHasNoRate)
 
     ASSERT_TRUE(tap);
     EXPECT_EQ((*tap)->sampleRate(), 44100);
+}
+
+TEST_F(MacOSAppTapInputs, leavesTheTapOnWhenTheAggregateHasFewerInputsThanItsDevice)
+{
+    const auto desk = world.plug({.uid = "desk", .inputs = {2, 2, 8}});
+    world.inputsOfAggregates = 2;  // A device that hides some while an aggregate has it.
+
+    const auto tap = createOn("desk", desk);
+
+    ASSERT_TRUE(tap);
+    EXPECT_EQ((*tap)->disabledInputs(), 1);
+    EXPECT_THAT(onlyProc().inputIsOn, testing::ElementsAre(0, 1));
+}
+
+TEST_F(MacOSAppTapInputs, switchesNothingOffWhenTheAggregateHasTheTapAlone)
+{
+    const auto headset = world.plug({.uid = "headset", .inputs = {1}});
+    world.inputsOfAggregates = 1;
+
+    const auto tap = createOn("headset", headset);
+
+    ASSERT_TRUE(tap);
+    EXPECT_EQ((*tap)->disabledInputs(), 0);
+    EXPECT_THAT(onlyProc().inputIsOn, testing::ElementsAre(1));
 }
 
 }  // namespace

@@ -90,6 +90,7 @@ def test_whoKeepsMovingAStreamIsLeftAlone(stage):
             moveTo(stage.session, stream, headphones)
             time.sleep(1)  # A change that a tool makes is seen once the tool has gone, at the latest.
         assert moves >= 3
+        fadeloom.waitFor("out of reach: pw-cat, another program keeps moving its stream")
 
         waitUntil(lambda: stage.isLinked("pw-play:", "headphones:"), "the stream where it was moved")
         waitUntil(lambda: not stage.isLinked("pw-play:", "com.fadeloom.tap."), "the stream to leave the tap")

@@ -76,3 +76,14 @@ def test_anAppThatChoseItsDeviceIsThereAfterwards(stage):
 
     waitForSound(stage, "headphones", 0.5)
     assert levelOn(stage, "speakers") == 0.0
+
+
+def test_anAppWhoseStreamIsTiedToItsDeviceIsHeardAsItIsAndSaysSo(stage):
+    bundleID, _ = CHOOSING["pw-cat"]
+    with stage.fadeloom(settings({bundleID: app(volume=0.5)})) as fadeloom:
+        stage.session.spawn("tied", ["pw-cat", "-p", "--target", "headphones", "-P", "node.dont-move=true",
+                                     str(sineFile(stage))])
+        fadeloom.waitFor(f"out of reach: {bundleID}, its stream is tied to its device")
+
+        waitForSound(stage, "headphones", 0.5)
+        assert levelOn(stage, "speakers") == 0.0

@@ -163,6 +163,7 @@ TEST(SettingsDecoding, userPresetsWithoutTenGainsAreDroppedAndTheOthersKeepTheir
         {"name": "Z", "gains": [1,1,1,1,1,1,1,1,1,1]},
         {"name": "nine", "gains": [1,1,1,1,1,1,1,1,1]},
         {"name": "two", "gains": [1,2]},
+        {"name": "eleven", "gains": [1,1,1,1,1,1,1,1,1,1,1]},
         {"name": "A", "gains": [2,2,2,2,2,2,2,2,2,1e400]}]})");
 
     ASSERT_EQ(settings.userPresets.size(), 2U);

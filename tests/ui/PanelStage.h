@@ -21,8 +21,12 @@ protected:
     {
         contents.settings.appearance.animations = false;
         demo = std::make_unique<DemoPanel>(std::move(contents));
+        show(demo->panel, expandedApp);
+    }
+    void show(PanelModel& panel, const QString& expandedApp = {})
+    {
         engine = std::make_unique<PanelEngine>();
-        view = engine->makeRootView(demo->panel, expandedApp);
+        view = engine->makeRootView(panel, expandedApp);
         ASSERT_TRUE(view);
         window = std::make_unique<QQuickWindow>();
         window->resize(380, 600);

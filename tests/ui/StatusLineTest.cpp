@@ -38,6 +38,15 @@ TEST_F(StatusLineTest, theMostUrgentIsSaidFirst)
     EXPECT_EQ(statusLine(state, app).help, "Start device failed: the device is gone");
 }
 
+TEST_F(StatusLineTest, soundThatCannotBeReachedHasItsReason)
+{
+    app.outOfReach = OutOfReach::fixed;
+    EXPECT_EQ(kind(), Kind::outOfReach);
+    EXPECT_EQ(statusLine(state, app).help, "This app ties its sound to its output device.");
+    app.outOfReach = OutOfReach::contested;
+    EXPECT_EQ(statusLine(state, app).help, "Another program keeps moving this app’s sound.");
+}
+
 TEST_F(StatusLineTest, aCallAppIsNotLoweredForAnothersCall)
 {
     state.callApp.assign("phone");

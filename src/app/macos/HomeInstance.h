@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/RunningAlready.h"
+#include "app/ServedControl.h"
 #include "platform/macos/FoundationFolders.h"
 #include "platform/macos/OneInstance.h"
 
@@ -22,7 +23,7 @@ public:
         std::function<void()> toggle = nullptr;
         std::function<void()> quit = nullptr;
         // Not served: there is no socket for commands on macOS yet.
-        std::function<std::string(const std::string& line, bool isSandboxed)> run = nullptr;
+        std::optional<ServedControl> control = std::nullopt;
     };
 
     /// Becomes the one instance; else asks the other one, to show its panel if `wantsPanel`, and tells how that went.

@@ -20,8 +20,18 @@ namespace {
 
 const QString busName = QStringLiteral("com.fadeloom.app");
 const QString objectPath = QStringLiteral("/com/fadeloom/app");
+const QString treePath = objectPath + QStringLiteral("/Mixer1");
 const QString interfaceName = busName;
+const QString applicationInterface = QStringLiteral("org.freedesktop.Application");
 const QString errorPrefix = QStringLiteral("com.fadeloom.app.Error.");
+
+constexpr const char* applicationXml = R"(<interface name="org.freedesktop.Application">
+<method name="Activate"><arg name="platform_data" type="a{sv}" direction="in"/></method>
+<method name="Open"><arg name="uris" type="as" direction="in"/>
+<arg name="platform_data" type="a{sv}" direction="in"/></method>
+<method name="ActivateAction"><arg name="action_name" type="s" direction="in"/>
+<arg name="parameter" type="av" direction="in"/><arg name="platform_data" type="a{sv}" direction="in"/></method>
+</interface>)";
 
 QString qName(std::string_view name)
 {
@@ -48,14 +58,14 @@ public:
         auto text = QStringLiteral("<interface name=\"%1\">").arg(interfaceName);
         for (const auto& each : instanceRequestNames)
             text += QStringLiteral("<method name=\"%1\"/>").arg(qName(each.name));
-        return text + QStringLiteral("</interface>");
+        return text + QStringLiteral("</interface>") + QLatin1String(applicationXml)
+            + QStringLiteral("<node name=\"Mixer1\"/>");
     }
 
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override
     {
-        const bool isOurs = message.interface().isEmpty() || message.interface() == interfaceName;
-        const auto request = instanceRequestNamed(message.member().toStdString());
-        if (!isOurs || !request)
+        const auto request = requestIn(message);
+        if (!request)
             return false;
         const auto answer = answer_(*request);
         connection.send(answer == InstanceAnswer::done
@@ -66,18 +76,49 @@ public:
     }
 
 private:
+    static std::optional<InstanceRequest> requestIn(const QDBusMessage& message)
+    {
+        if (message.interface().isEmpty() || message.interface() == interfaceName)
+            return instanceRequestNamed(message.member().toStdString());
+        if (message.interface() != applicationInterface)
+            return std::nullopt;
+        if (message.member() == QLatin1String("Activate") || message.member() == QLatin1String("Open"))
+            return InstanceRequest::open;
+        // The names of actions begin with a small letter.
+        const auto action = message.member() == QLatin1String("ActivateAction")
+            ? message.arguments().value(0).toString()
+            : QString();
+        return instanceRequestNamed((action.left(1).toUpper() + action.mid(1)).toStdString());
+    }
+
     const AnswerInstanceRequest answer_;
+};
+
+class InstanceBus::Tree final : public QDBusVirtualObject {
+public:
+    QString introspect(const QString& path) const override
+    {
+        return served != nullptr ? served->introspect(path) : QString();
+    }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override
+    {
+        return served != nullptr && served->handle(message);
+    }
+
+    InstanceTree* served = nullptr;
 };
 
 InstanceBus::InstanceBus(AnswerInstanceRequest answer)
     : connectionName_(newConnectionName())
     , bus_(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName_))
     , object_(std::make_unique<Object>(std::move(answer)))
+    , tree_(std::make_unique<Tree>())
 {
 }
 
 InstanceBus::~InstanceBus()
 {
+    bus_.unregisterObject(treePath);
     bus_.unregisterObject(objectPath);
     QDBusConnection::disconnectFromBus(connectionName_);
 }
@@ -87,12 +128,20 @@ bool InstanceBus::claim()
     // Whoever sees the name may call at once.
     if (!bus_.registerVirtualObject(objectPath, object_.get()))
         return false;
+    bus_.registerVirtualObject(treePath, tree_.get(), QDBusConnection::SubPath);
     const auto answer = bus_.interface()->registerService(
         busName, QDBusConnectionInterface::DontQueueService, QDBusConnectionInterface::DontAllowReplacement);
     const bool isOurs = answer.isValid() && answer.value() == QDBusConnectionInterface::ServiceRegistered;
-    if (!isOurs)
+    if (!isOurs) {
+        bus_.unregisterObject(treePath);
         bus_.unregisterObject(objectPath);
+    }
     return isOurs;
+}
+
+void InstanceBus::serve(InstanceTree* tree)
+{
+    tree_->served = tree;
 }
 
 QDBusMessage InstanceBus::call(InstanceRequest request, std::chrono::milliseconds patience)

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -54,8 +55,19 @@ inline constexpr std::array<InstanceAnswerName, 3> instanceAnswerNames = {{
 /// Does what is asked, as far as that can be done. Thread: main.
 using AnswerInstanceRequest = std::function<InstanceAnswer(InstanceRequest)>;
 
-/// Does what a command of the process `caller` says, 0 for an unknown one; returns its answer in one line, which begins
-/// with the kind of answer. Thread: main.
-using RunInstanceCommand = std::function<std::string(const std::string& line, pid_t caller)>;
+/// A command of another program.
+struct InstanceCommand {
+    std::string line;
+    pid_t caller = 0;  // Its process; 0 for an unknown one.
+    bool wantsJson = false;
+};
+/// Does what it says; returns its answer in one line, which begins with the kind of answer. Thread: main.
+using RunInstanceCommand = std::function<std::string(const InstanceCommand& command)>;
+
+using SendInstanceLine = std::function<void(const std::string& line)>;
+/// Has what happens sent, as the command's line says, for as long as the result lives; null when nothing comes after
+/// what was sent at once. Thread: main.
+using WatchInstance =
+    std::function<std::shared_ptr<void>(const InstanceCommand& command, SendInstanceLine send)>;
 
 }  // namespace fadeloom

@@ -4,6 +4,7 @@
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QLocalSocket>
+#include <QPointer>
 #include <QTimer>
 
 #include <string>
@@ -16,6 +17,8 @@ namespace fadeloom {
 namespace {
 
 constexpr std::string_view runPrefix = "Run ";
+constexpr std::string_view jsonPrefix = "Json ";
+constexpr std::string_view watchPrefix = "Watch ";
 
 QByteArray lineOf(std::string_view name)
 {
@@ -38,11 +41,12 @@ pid_t processOf(const QLocalSocket& connection)
 
 }  // namespace
 
-InstanceSocket::InstanceSocket(
-    const std::filesystem::path& file, AnswerInstanceRequest answer, RunInstanceCommand run)
+InstanceSocket::InstanceSocket(const std::filesystem::path& file, AnswerInstanceRequest answer,
+    RunInstanceCommand run, WatchInstance watch)
     : file_(QFile::decodeName(file.c_str()))
     , answer_(std::move(answer))
     , run_(std::move(run))
+    , watch_(std::move(watch))
 {
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { accept(); });
@@ -54,6 +58,14 @@ void InstanceSocket::listen()
     server_.listen(file_);
 }
 
+void InstanceSocket::endWatches()
+{
+    for (const auto& [connection, watch] : watches_) {
+        connection->flush();
+        connection->disconnectFromServer();
+    }
+}
+
 void InstanceSocket::accept()
 {
     auto* const connection = server_.nextPendingConnection();
@@ -63,13 +75,19 @@ void InstanceSocket::accept()
         return;
     }
     ++connections_;
-    QObject::connect(connection, &QObject::destroyed, &server_, [this] { --connections_; });
+    connection->setReadBufferSize(2 * longestLine);
+    QObject::connect(connection, &QObject::destroyed, &server_, [this, connection] {
+        if (watches_.erase(connection) == 0)
+            --connections_;
+    });
     auto* const silence = new QTimer(connection);
     silence->setSingleShot(true);
     QObject::connect(silence, &QTimer::timeout, connection, &QLocalSocket::abort);
     const auto readOn = [this, connection, silence] {
         silence->start(longestSilence);
         read(*connection);
+        if (watches_.contains(connection))
+            silence->stop();
     };
     QObject::connect(connection, &QLocalSocket::readyRead, connection, readOn);
     readOn();
@@ -77,14 +95,26 @@ void InstanceSocket::accept()
 
 void InstanceSocket::read(QLocalSocket& connection)
 {
-    while (connection.canReadLine()) {
+    if (watches_.contains(&connection))
+        connection.readAll();
+    while (connection.state() == QLocalSocket::ConnectedState && connection.canReadLine()) {
         const auto line = connection.readLine(longestLine + 1).toStdString();
         if (!line.ends_with('\n'))
-            return connection.abort();
+            return refuse(connection, "usage error the line is too long");
         const auto text = std::string_view(line).substr(0, line.size() - 1);
+        const auto command = [&](std::string_view prefix) {
+            return InstanceCommand{std::string(text.substr(prefix.size())), processOf(connection)};
+        };
+        if (text.starts_with(watchPrefix))
+            return watch(connection, command(watchPrefix));
         if (text.starts_with(runPrefix)) {
-            const auto answer = run_(std::string(text.substr(runPrefix.size())), processOf(connection));
-            connection.write(lineOf(answer));
+            connection.write(lineOf(run_(command(runPrefix))));
+            continue;
+        }
+        if (text.starts_with(jsonPrefix)) {
+            auto asked = command(jsonPrefix);
+            asked.wantsJson = true;
+            connection.write(lineOf(run_(asked)));
             continue;
         }
         if (const auto request =
@@ -92,9 +122,36 @@ void InstanceSocket::read(QLocalSocket& connection)
             connection.write(lineOf(nameOf(answer_(*request))));
         return connection.disconnectFromServer();
     }
-    // A caller that does not read its answers, or a line without an end.
-    if (connection.bytesToWrite() > 64 * longestLine || connection.bytesAvailable() > longestLine)
+    if (connection.bytesAvailable() > longestLine)
+        return refuse(connection, "usage error the line is too long");
+    if (connection.bytesToWrite() > mostUnread)
         connection.abort();
+}
+
+void InstanceSocket::refuse(QLocalSocket& connection, std::string_view answer)
+{
+    connection.write(lineOf(answer));
+    connection.disconnectFromServer();
+}
+
+void InstanceSocket::watch(QLocalSocket& connection, const InstanceCommand& command)
+{
+    if (watches_.size() == mostWatchers)
+        return refuse(connection, "refused error too many programs watch already");
+    // Whoever falls behind is dropped in a later turn: the one who sends is not to lose its watch while it sends.
+    const QPointer<QLocalSocket> reader(&connection);
+    const auto send = [reader](const std::string& line) {
+        if (!reader || reader->state() != QLocalSocket::ConnectedState || reader->bytesToWrite() > mostUnread)
+            return;
+        reader->write(lineOf(line));
+        if (reader->bytesToWrite() > mostUnread)
+            QMetaObject::invokeMethod(reader, &QLocalSocket::abort, Qt::QueuedConnection);
+    };
+    auto watch = watch_(command, send);
+    if (!watch)
+        return connection.disconnectFromServer();
+    watches_.emplace(&connection, std::move(watch));
+    --connections_;
 }
 
 std::optional<InstanceAnswer> InstanceSocket::ask(

@@ -27,14 +27,38 @@ SingleInstance::SingleInstance(const std::filesystem::path& runtimeFolder)
     , bus_(std::make_unique<InstanceBus>([this](InstanceRequest request) { return answer(request); }))
     , socket_(std::make_unique<InstanceSocket>(
           runtimeFolder / "fadeloom.socket", [this](InstanceRequest request) { return answer(request); },
-          [this](const std::string& line, pid_t caller) {
+          [this](const InstanceCommand& command) {
               const auto run = actions_.run;  // A command may end what serves it.
-              return run && !isEnding_ ? run(line, caller) : std::string("refused error it is ending");
+              return run && !isEnding_ ? run(command) : busyAnswer();
+          },
+          [this](const InstanceCommand& command, const SendInstanceLine& send) -> std::shared_ptr<void> {
+              if (actions_.watch && !isEnding_)
+                  return actions_.watch(command, send);
+              send(busyAnswer());
+              return nullptr;
           }))
 {
 }
 
 SingleInstance::~SingleInstance() = default;
+
+void SingleInstance::serve(Actions actions)
+{
+    actions_ = std::move(actions);
+    bus_->serve(actions_.tree);
+    if (!actions_.watch)
+        socket_->endWatches();
+}
+
+std::string SingleInstance::busyAnswer() const
+{
+    return isEnding_ ? "busy error it is ending" : "busy error it is starting or ending";
+}
+
+QDBusConnection SingleInstance::bus() const
+{
+    return bus_->connection();
+}
 
 SingleInstance::Start SingleInstance::claim(InstanceRequest request)
 {

@@ -14,12 +14,16 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <utility>
+
+class QDBusConnection;
 
 namespace fadeloom {
 
 class InstanceBus;
 class InstanceSocket;
+class InstanceTree;
 
 /// Needs Qt's application object. Thread: the one that makes it.
 class SingleInstance {
@@ -37,6 +41,8 @@ public:
         std::function<void()> toggle = nullptr;
         std::function<void()> quit = nullptr;
         RunInstanceCommand run = nullptr;
+        WatchInstance watch = nullptr;
+        InstanceTree* tree = nullptr;  // On the session bus.
     };
 
     static constexpr std::chrono::milliseconds patience{2'000};  // With an instance that should answer.
@@ -54,11 +60,14 @@ public:
     /// and followed.
     [[nodiscard]] Start claim(InstanceRequest request);
     /// What is done from now on when others ask, which they can once the event loop runs.
-    void serve(Actions actions) { actions_ = std::move(actions); }
+    void serve(Actions actions);
+    /// Where others reach it on the session bus; not connected where there is none, or it is not ours.
+    [[nodiscard]] QDBusConnection bus() const;
     /// From now on others are told to wait for the end.
     void beginEnding() { isEnding_ = true; }
 
 private:
+    [[nodiscard]] std::string busyAnswer() const;
     [[nodiscard]] bool tryToBeFirst();
     [[nodiscard]] bool isAnotherOnBus();
     [[nodiscard]] std::optional<InstanceAnswer> ask(InstanceRequest request, std::chrono::milliseconds wait);

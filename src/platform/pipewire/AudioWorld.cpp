@@ -17,6 +17,14 @@ auto find(const Things& things, const Key& key, Projection projection) -> const 
     return found == things.end() ? nullptr : &*found;
 }
 
+std::optional<OutOfReach> outOfReach(
+    const GraphNode& stream, const AudioWorldBuilder::StreamKnowledge& knowledge)
+{
+    if (!isTappable(stream))
+        return OutOfReach::fixed;
+    return knowledge.isLeftAlone(stream) ? std::optional(OutOfReach::contested) : std::nullopt;
+}
+
 }  // namespace
 
 const AudioWorld::Device* AudioWorld::device(OutputDeviceID id) const
@@ -46,7 +54,8 @@ AudioChanges changesBetween(const AudioWorld& before, const AudioWorld& after)
 {
     const auto doesSame = [](const AudioWorld::Process& one, const AudioWorld::Process& other) {
         return one.id == other.id && one.isPlaying == other.isPlaying
-            && one.isUsingMicrophone == other.isUsingMicrophone && one.ownOutputs == other.ownOutputs;
+            && one.isUsingMicrophone == other.isUsingMicrophone && one.ownOutputs == other.ownOutputs
+            && one.outOfReach == other.outOfReach;
     };
     return {
         .processes = !std::ranges::equal(before.processes, after.processes, doesSame),
@@ -105,6 +114,7 @@ void AudioWorldBuilder::addProcesses(const Graph& graph, const StreamKnowledge& 
         bool isPlaying = false;
         bool isUsingMicrophone = false;
         std::set<std::string> ownOutputs;
+        std::optional<OutOfReach> outOfReach;
     };
     const Carriers carriers{graph};
     std::map<GraphID, Activity> activities;
@@ -117,6 +127,8 @@ void AudioWorldBuilder::addProcesses(const Graph& graph, const StreamKnowledge& 
         activity.hasStream = true;
         activity.isPlaying |= isAppSound(node) && (isPlaying(node) || knowledge.isHeld(node));
         activity.isUsingMicrophone |= isUsingMicrophone(graph, node);
+        if (isAppSound(node) && isPlaying(node) && !activity.outOfReach)
+            activity.outOfReach = outOfReach(node, knowledge);
         const auto* device =
             isTappable(node) ? ownDevice(graph, node, knowledge.chosenTarget(node)) : nullptr;
         if (device)
@@ -142,6 +154,8 @@ void AudioWorldBuilder::addProcesses(const Graph& graph, const StreamKnowledge& 
         process.isPlaying |= activity.isPlaying;
         process.isUsingMicrophone |= activity.isUsingMicrophone;
         process.ownOutputs.insert(activity.ownOutputs.begin(), activity.ownOutputs.end());
+        if (!process.outOfReach)
+            process.outOfReach = activity.outOfReach;
     }
 
     std::erase_if(processes_,

@@ -38,6 +38,7 @@ struct AudioWorld {
         std::set<GraphSerial> clients;
         /// The uids of the devices that its streams would play to without us; empty while it has none.
         std::set<std::string> ownOutputs;
+        std::optional<OutOfReach> outOfReach;
         bool isPlaying = false;
         bool isUsingMicrophone = false;
 
@@ -85,6 +86,8 @@ public:
         ChosenTargetOf chosenTarget;
         /// Whether a stream waits for us: it would play, and counts as playing.
         std::function<bool(const GraphNode& stream)> isHeld;
+        /// Whether a stream is left to another program, which keeps moving it.
+        std::function<bool(const GraphNode& stream)> isLeftAlone;
     };
     [[nodiscard]] AudioWorld build(const Graph& graph, const StreamKnowledge& knowledge);
     void processEnded(std::int32_t pid);

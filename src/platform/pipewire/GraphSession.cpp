@@ -103,6 +103,12 @@ TapPath* GraphSession::startPath(std::set<AudioProcessID> processes, const Audio
                 : nullptr;
 }
 
+std::size_t GraphSession::pathCount() const
+{
+    const GraphLock lock{connection_};
+    return router_.pathCount();
+}
+
 void GraphSession::setProcesses(TapPath& path, std::set<AudioProcessID> processes)
 {
     const GraphLock lock{connection_};
@@ -125,7 +131,8 @@ void GraphSession::graphChanged()
 {
     auto world = builder_.build(connection_.graph(),
         {.chosenTarget = [this](const GraphNode& stream) { return router_.chosenTarget(stream); },
-            .isHeld = [this](const GraphNode& stream) { return router_.isHolding(stream); }});
+            .isHeld = [this](const GraphNode& stream) { return router_.isHolding(stream); },
+            .isLeftAlone = [this](const GraphNode& stream) { return router_.isLeftAlone(stream); }});
     router_.update(world);
     std::erase_if(applications_, [&](const auto& entry) {
         return std::ranges::none_of(connection_.graph().clients,

@@ -48,6 +48,7 @@ public:
     /// Null when there is no server, or the device has gone.
     [[nodiscard]] TapPath* startPath(std::set<AudioProcessID> processes, const AudioWorld::Device& device,
         std::shared_ptr<AudioIOProc> proc, StreamScope scope = StreamScope::every);
+    [[nodiscard]] std::size_t pathCount() const;
     void setProcesses(TapPath& path, std::set<AudioProcessID> processes);
     /// When this returns the path's procedure is not running; the path may be gone after `releaseStopped`.
     void stopPath(TapPath& path);

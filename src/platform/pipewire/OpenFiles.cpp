@@ -10,7 +10,7 @@
 
 namespace fadeloom {
 
-std::optional<std::size_t> limitWithoutRoomForTap()
+std::optional<std::size_t> FilesOfTaps::limitWithoutRoom(std::size_t taps)
 {
     rlimit limit{};
     if (getrlimit(RLIMIT_NOFILE, &limit) != 0)
@@ -21,9 +21,13 @@ std::optional<std::size_t> limitWithoutRoomForTap()
         return limit.rlim_cur;
     if (error)
         return std::nullopt;
-    const auto count = static_cast<rlim_t>(std::distance(open, {}));
-    return count + filesOfTap + filesInReserve > limit.rlim_cur ? std::optional<std::size_t>(limit.rlim_cur)
-                                                                : std::nullopt;
+    const auto count = static_cast<std::size_t>(std::distance(open, {}));
+    if (taps == 0)
+        besidesTaps_ = count;
+    const auto expected = std::max(count, besidesTaps_ + taps * filesOfTap);
+    return expected + filesOfTap + filesInReserve > limit.rlim_cur
+        ? std::optional<std::size_t>(limit.rlim_cur)
+        : std::nullopt;
 }
 
 }  // namespace fadeloom

@@ -4,7 +4,6 @@
 #include "base/Observers.h"
 #include "platform/MainLoop.h"
 #include "platform/pipewire/GraphSession.h"
-#include "platform/pipewire/OpenFiles.h"
 
 #include <utility>
 
@@ -115,6 +114,7 @@ std::vector<AudioProcess> PipeWireAudioSystem::processes(ReadMic readMic)
             .isPlaying = process.isPlaying,
             .isUsingMic = readMic == ReadMic::yes && process.isUsingMicrophone,
             .ownOutputs = {process.ownOutputs.begin(), process.ownOutputs.end()},
+            .outOfReach = process.outOfReach,
         });
     }
     if (identities_.size() > world->processes.size())
@@ -214,7 +214,7 @@ std::expected<std::unique_ptr<ProcessTap>, TapError> PipeWireAudioSystem::create
         .isTapInterleaved = false,
     };
     // Before the server hands anything over: what finds no room is lost, and the connection with it.
-    if (const auto limit = limitWithoutRoomForTap())
+    if (const auto limit = filesOfTaps_.limitWithoutRoom(session_->pathCount()))
         return failed("of %1 files that may be open, too few are left", std::to_string(*limit));
     auto* path =
         session_->startPath({request.processes.begin(), request.processes.end()}, *device, makeIOProc(format),

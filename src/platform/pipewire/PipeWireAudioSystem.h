@@ -10,6 +10,7 @@
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
 #include "platform/pipewire/AudioWorld.h"
+#include "platform/pipewire/OpenFiles.h"
 
 #include <cstdint>
 #include <functional>
@@ -76,6 +77,7 @@ private:
     Options options_;
     std::shared_ptr<Announcements> announcements_;  // Shared with posted notifications, which hold it weakly.
     std::map<AudioProcessID, Identity> identities_;
+    FilesOfTaps filesOfTaps_;
     std::shared_ptr<GraphSession> session_;  // A tap that is stopped lets go of its streams in a later turn.
 };
 

@@ -56,6 +56,7 @@ public:
     /// Gives the streams of stopped paths back, unless a path added since has taken them over.
     void releaseStopped();
     /// No path is left, and no stream is still being given back.
+    [[nodiscard]] std::size_t pathCount() const { return paths_.size(); }
     [[nodiscard]] bool isIdle() const { return paths_.empty() && streams_.empty(); }
 
     /// Takes the next steps; `world` is the picture of the graph as it is.
@@ -68,6 +69,11 @@ public:
     void hold(const GraphNode& stream);
     /// Whether a stream waits for its tap.
     [[nodiscard]] bool isHolding(const GraphNode& stream) const { return held_.has(stream); }
+    /// Whether a stream is left to another program, which keeps moving it.
+    [[nodiscard]] bool isLeftAlone(const GraphNode& stream) const
+    {
+        return leftAlone_.contains(stream.serial);
+    }
     /// More is known of a stream: what follows from it at once, before the burst of events is over.
     void streamChanged(const GraphNode& stream);
 

@@ -31,6 +31,7 @@ struct SimulatedAudioProcess {
     bool isUsingMic = false;
     std::vector<std::string>
         chosenOutputs{};  // Where it plays by its own choice; none for the default output.
+    std::optional<OutOfReach> outOfReach{};
     SimulatedSignal signal = SimulatedSignal::silence();
     std::uint64_t position = 0;  // Frames played since it last began.
 };

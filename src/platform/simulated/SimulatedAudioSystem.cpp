@@ -60,6 +60,7 @@ std::vector<AudioProcess> SimulatedAudioSystem::processes(ReadMic readMic)
             .isPlaying = process.isPlaying,
             .isUsingMic = wasMicRead_ && process.isUsingMic,
             .ownOutputs = process.chosenOutputs,
+            .outOfReach = process.outOfReach,
         });
     return processes;
 }

@@ -126,6 +126,13 @@ void SimulatedAudioWorld::chooseOutputs(AudioProcessID process, std::vector<std:
     processesChanged.post();
 }
 
+void SimulatedAudioWorld::setOutOfReach(AudioProcessID process, std::optional<OutOfReach> reason)
+{
+    const auto found = state_.processes.find(process);
+    if (found != state_.processes.end() && std::exchange(found->second.outOfReach, reason) != reason)
+        processesChanged.post();
+}
+
 void SimulatedAudioWorld::setUsingMic(AudioProcessID process, bool isUsingMic)
 {
     const auto found = state_.processes.find(process);

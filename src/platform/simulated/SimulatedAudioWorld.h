@@ -65,6 +65,7 @@ public:
     void stopPlaying(AudioProcessID process);
     /// It plays on these devices by its own choice, the same on each; empty for the default output.
     void chooseOutputs(AudioProcessID process, std::vector<std::string> uids);
+    void setOutOfReach(AudioProcessID process, std::optional<OutOfReach> reason);
     void setUsingMic(AudioProcessID process, bool isUsingMic);
     /// The first audio process with this pid; 0 for none.
     [[nodiscard]] AudioProcessID audioProcessOf(ProcessID pid) const;

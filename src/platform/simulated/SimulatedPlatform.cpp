@@ -92,6 +92,11 @@ void SimulatedPlatform::chooseOutputs(ProcessID pid, std::vector<std::string> ui
     audioWorld_.chooseOutputs(audioOf(pid), std::move(uids));
 }
 
+void SimulatedPlatform::setOutOfReach(ProcessID pid, std::optional<OutOfReach> reason)
+{
+    audioWorld_.setOutOfReach(audioOf(pid), reason);
+}
+
 void SimulatedPlatform::startUsingMic(ProcessID pid)
 {
     audioWorld_.setUsingMic(audioOf(pid), true);

@@ -59,7 +59,6 @@ public:
     void advance(SimulatedClock::Duration duration) { mainLoop_.advance(duration); }
     /// Runs what is posted to the main loop, without moving the clock.
     void runPosted() { mainLoop_.runPosted(); }
-    /// The date and time of the world.
     [[nodiscard]] std::chrono::system_clock::time_point date() const { return wallClock_.now(); }
     void setDate(std::chrono::system_clock::time_point date) { wallClock_.set(date); }
 
@@ -80,6 +79,7 @@ public:
     void stopPlaying(ProcessID pid);
     /// Plays on these devices by its own choice, opening audio if it has none; empty for the default output.
     void chooseOutputs(ProcessID pid, std::vector<std::string> uids);
+    void setOutOfReach(ProcessID pid, std::optional<OutOfReach> reason);
     void startUsingMic(ProcessID pid);
     void stopUsingMic(ProcessID pid);
 

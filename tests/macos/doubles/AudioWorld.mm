@@ -138,6 +138,8 @@ const Tap* AudioWorld::tapOf(const std::string& uid) const
 
 std::uint32_t AudioWorld::inputStreamsOf(const Aggregate& aggregate) const
 {
+    if (inputsOfAggregates)
+        return *inputsOfAggregates;
     const auto device = devices.find(deviceOf(aggregate.master));
     const std::size_t own = device == devices.end() ? 0 : device->second.inputs.size();
     return static_cast<std::uint32_t>(own + (tapOf(aggregate.tapUID) == nullptr ? 0 : 1));

@@ -2,15 +2,19 @@
 // Commands that other programs give through the socket.
 #include "tests/platform/linux/InstanceStage.h"
 
+#include "base/Subscription.h"
 #include "platform/linux/InstanceSocket.h"
 
 #include <QLocalSocket>
 
 #include <algorithm>
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace fadeloom {
@@ -25,11 +29,19 @@ protected:
     InstanceCommandTest()
     {
         EXPECT_EQ(instance.claim(InstanceRequest::open), Start::first);
-        instance.serve({.run = [this](const std::string& line, pid_t caller) {
-            lines.push_back(line);
-            callers.push_back(caller);
-            return "ok ok " + line;
-        }});
+        instance.serve({.run =
+                            [this](const InstanceCommand& command) {
+                                lines.push_back(command.line);
+                                callers.push_back(command.caller);
+                                return (command.wantsJson ? "ok {} " : "ok ok ") + command.line;
+                            },
+            .watch = [this](const InstanceCommand& command, const auto& send) -> std::shared_ptr<void> {
+                send("ok ok " + command.line);
+                if (command.line == "badly")
+                    return nullptr;
+                watches.push_back(send);
+                return std::make_shared<Subscription>([this] { ++endedWatches; });
+            }});
     }
     std::unique_ptr<QLocalSocket> connection()
     {
@@ -50,6 +62,8 @@ protected:
     SingleInstance instance{folder.path()};
     std::vector<std::string> lines;
     std::vector<pid_t> callers;
+    std::vector<SendInstanceLine> watches;
+    int endedWatches = 0;
 };
 
 TEST_F(InstanceCommandTest, areAnsweredOneAfterTheOtherOnOneConnection)
@@ -74,7 +88,8 @@ TEST_F(InstanceCommandTest, thatAreTooLongEndTheConnection)
 {
     const auto socket = connection();
 
-    answer(*socket, "Run " + QByteArray(10'000, 'x') + "\n");
+    EXPECT_EQ(
+        answer(*socket, "Run " + QByteArray(300'000, 'x') + "\n"), "usage error the line is too long\n");
     runFor(50ms);
 
     EXPECT_EQ(socket->state(), QLocalSocket::UnconnectedState);
@@ -111,11 +126,108 @@ TEST_F(InstanceCommandTest, ofAThousandConnectionsAreAnsweredOrTurnedAway)
     EXPECT_EQ(answer(*connection(), "Run later\n"), "ok ok later\n");
 }
 
+TEST_F(InstanceCommandTest, areAnsweredInJsonIfSoAsked)
+{
+    EXPECT_EQ(answer(*connection(), "Json volume\nRun volume\n"), "ok {} volume\nok ok volume\n");
+}
+
+TEST_F(InstanceCommandTest, toWatchKeepTheConnectionUntilOneSideEndsIt)
+{
+    auto socket = connection();
+    EXPECT_EQ(answer(*socket, "Watch text\n"), "ok ok text\n");
+
+    watches.at(0)("one");
+    watches.at(0)("two");
+    runFor(20ms);
+    EXPECT_EQ(socket->readAll().toStdString(), "one\ntwo\n");
+    runFor(InstanceSocket::longestSilence + 1s);
+    EXPECT_EQ(socket->state(), QLocalSocket::ConnectedState) << "whoever watches may be silent";
+
+    socket.reset();
+    runFor(50ms);
+    EXPECT_EQ(endedWatches, 1);
+    watches.at(0)("three");
+}
+
+TEST_F(InstanceCommandTest, toWatchThatAreRefusedEndTheConnection)
+{
+    const auto socket = connection();
+
+    EXPECT_EQ(answer(*socket, "Watch badly\n"), "ok ok badly\n");
+    runFor(50ms);
+
+    EXPECT_EQ(socket->state(), QLocalSocket::UnconnectedState);
+    EXPECT_THAT(watches, IsEmpty());
+}
+
+TEST_F(InstanceCommandTest, aWatcherThatDoesNotReadIsDroppedAndNobodyWaits)
+{
+    const int silent = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);  // Qt's would read by itself.
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::ranges::copy((folder.path() / "fadeloom.socket").native(), address.sun_path);
+    ASSERT_EQ(connect(silent, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    ASSERT_EQ(write(silent, "Watch text\n", 11), 11);
+    runFor(50ms);
+    ASSERT_EQ(watches.size(), 1);
+
+    const auto begin = std::chrono::steady_clock::now();
+    for (int i = 0; i < 20'000; ++i)
+        watches.at(0)(std::string(100, 'x'));
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, 2s);
+    EXPECT_EQ(endedWatches, 0) << "not while it is being told";
+    runFor(50ms);
+
+    EXPECT_EQ(endedWatches, 1);
+    close(silent);
+}
+
+TEST_F(InstanceCommandTest, fiftyMayWatchAndLeaveRoomForCommands)
+{
+    std::vector<std::unique_ptr<QLocalSocket>> sockets;
+    for (int i = 0; i < 70; ++i) {
+        sockets.push_back(connection());
+        sockets.back()->write("Watch text\n");
+        runFor(2ms);
+    }
+    runFor(50ms);
+
+    EXPECT_EQ(watches.size(), 64);
+    EXPECT_EQ(sockets.back()->readAll().toStdString(), "refused error too many programs watch already\n");
+    EXPECT_EQ(answer(*connection(), "Run later\n"), "ok ok later\n");
+    for (const auto& send : watches)
+        send("now");
+    runFor(50ms);
+    for (std::size_t i = 0; i < 64; ++i)
+        EXPECT_EQ(sockets[i]->readAll().toStdString(), "ok ok text\nnow\n");
+}
+
+TEST_F(InstanceCommandTest, toWatchEndWithTheService)
+{
+    const auto socket = connection();
+    answer(*socket, "Watch text\n");
+
+    watches.at(0)("end");
+    instance.serve({});
+    runFor(50ms);
+
+    EXPECT_EQ(socket->readAll().toStdString(), "end\n");
+    EXPECT_EQ(socket->state(), QLocalSocket::UnconnectedState);
+}
+
 TEST_F(InstanceCommandTest, areRefusedAtTheEnd)
 {
     instance.beginEnding();
 
-    EXPECT_EQ(answer(*connection(), "Run volume player\n"), "refused error it is ending\n");
+    EXPECT_EQ(answer(*connection(), "Run volume player\n"), "busy error it is ending\n");
+}
+
+TEST_F(InstanceCommandTest, areToBeTriedAgainDuringTheStart)
+{
+    instance.serve({});
+
+    EXPECT_EQ(answer(*connection(), "Run volume player\n"), "busy error it is starting or ending\n");
+    EXPECT_EQ(answer(*connection(), "Watch text\n"), "busy error it is starting or ending\n");
 }
 
 }  // namespace

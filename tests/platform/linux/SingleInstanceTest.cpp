@@ -172,7 +172,7 @@ TEST_F(SingleInstanceTest, strangersAtTheSocketDoNoHarm)
     QLocalSocket wrong;
     for (auto* const socket : {&silent, &loud, &wrong})
         socket->connectToServer(QString::fromStdString((folder.path() / "fadeloom.socket").string()));
-    loud.write(QByteArray(100'000, 'x'));
+    loud.write(QByteArray(300'000, 'x'));
     wrong.write("Destroy\n");
     runFor(50ms);
 

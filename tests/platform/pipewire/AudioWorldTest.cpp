@@ -16,12 +16,14 @@ protected:
     {
         return builder.build(world.graph,
             {.chosenTarget = [&](const GraphNode& stream) { return chosenTargetIn(world.graph, stream.id); },
-                .isHeld = [&](const GraphNode& stream) { return held.contains(stream.id); }});
+                .isHeld = [&](const GraphNode& stream) { return held.contains(stream.id); },
+                .isLeftAlone = [&](const GraphNode& stream) { return leftAlone.contains(stream.id); }});
     }
 
     GraphOf world;
     bool canWatch = true;
     std::set<GraphID> held;
+    std::set<GraphID> leftAlone;
     AudioWorldBuilder builder{
         {.runs = [](std::int32_t, const std::string& binary) { return binary == "pacat"; },
             .watch = [this](std::int32_t) { return canWatch; }}};
@@ -183,6 +185,24 @@ TEST_F(AudioWorldBuilding, aProcessHasTheDevicesThatItsStreamsWouldPlayTo)
 
     world.graph.metadata[stream]["target.object"] = "headphones";
     EXPECT_EQ(build().processes.at(0).ownOutputs, std::set<std::string>{"headphones"});
+}
+
+TEST_F(AudioWorldBuilding, aProcessIsOutOfReachWhileItPlaysWhatCannotBeTapped)
+{
+    const auto client = world.nativeClient(100);
+    const auto stream = world.stream(client);
+    EXPECT_EQ(build().processes.at(0).outOfReach, std::nullopt);
+
+    const auto tied = world.stream(client, GraphNode::State::idle, {{"node.dont-move", "true"}});
+    EXPECT_EQ(build().processes.at(0).outOfReach, std::nullopt) << "what does not play is not missed";
+    const auto before = build();
+    world.graph.nodes.at(tied).state = GraphNode::State::running;
+    EXPECT_EQ(build().processes.at(0).outOfReach, OutOfReach::fixed);
+    EXPECT_TRUE(changesBetween(before, build()).processes);
+
+    world.graph.nodes.erase(tied);
+    leftAlone.insert(stream);
+    EXPECT_EQ(build().processes.at(0).outOfReach, OutOfReach::contested);
 }
 
 TEST_F(AudioWorldBuilding, aStreamThatWaitsForUsCountsAsPlaying)

@@ -16,8 +16,10 @@ protected:
 
     AudioWorld picture()
     {
-        return builder.build(
-            world.graph, {.chosenTarget = chosenTarget, .isHeld = [](const GraphNode&) { return false; }});
+        return builder.build(world.graph,
+            {.chosenTarget = chosenTarget,
+                .isHeld = [](const GraphNode&) { return false; },
+                .isLeftAlone = [](const GraphNode&) { return false; }});
     }
     // A process of its own with one stream.
     GraphID player(const std::string& target = {}, int pid = 0)

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// Tells what happens to a controller, as events.
+#pragma once
+
+#include "base/Subscription.h"
+#include "commands/Events.h"
+
+#include <chrono>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace fadeloom {
+
+class AudioController;
+class MainLoop;
+
+/// Thread: main.
+class EventSource {
+public:
+    using Tell = std::function<void(const Event&)>;
+
+    /// How long changes of apps' settings are collected: a slider that is dragged gives one event in that time.
+    static constexpr std::chrono::milliseconds collecting{30};
+
+    /// Tells how things stand now, without apps' settings, and from then on what changes. All must outlive this.
+    EventSource(const AudioController& controller, MainLoop& mainLoop, Tell tell);
+    EventSource(const EventSource&) = delete;
+    EventSource& operator=(const EventSource&) = delete;
+
+private:
+    void tellApps();
+    void tellDevices();
+    void tellOutputs();
+    void tellCallOffers();
+    void tellRecordings();
+    void settingsChanged();
+    void tellSettings();
+    void tellAll(const Events& events);
+
+    const AudioController& controller_;
+    MainLoop& mainLoop_;
+    const Tell tell_;
+    std::vector<AppEntry> apps_;  // As last told, all six.
+    std::vector<OutputDevice> devices_;
+    AppOutputs outputs_;
+    AppSettingsByID settings_;
+    std::set<std::string> callOffers_;
+    std::set<std::string> recordings_;
+    bool isCollecting_ = false;
+    Subscription settingsTimer_;
+    std::vector<Subscription> subscriptions_;
+};
+
+}  // namespace fadeloom
