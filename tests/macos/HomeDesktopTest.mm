@@ -93,15 +93,16 @@ TEST_F(MacOSHomeDesktop, closesItsPanelWithEscape)
 TEST_F(MacOSHomeDesktop, tellsOfTheLookAndOfTheEndOfTheSession)
 {
     std::vector<std::string> told;
-    home->whenLookChanges([&](bool isDark) { told.emplace_back(isDark ? "dark" : "light"); });
+    home->whenLookChanges(
+        [&](const DesktopLook& look) { told.emplace_back(look.isDark ? "dark" : "light"); });
     home->whenSessionEnds([&] { told.emplace_back("session ends"); });
-    EXPECT_FALSE(home->isDark());
+    EXPECT_FALSE(home->look().isDark);
 
     DesktopStage::application().systemAppearance = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
     doubles::post("workspace", NSWorkspaceWillPowerOffNotification);
 
     EXPECT_THAT(told, ElementsAre("dark", "session ends"));
-    EXPECT_TRUE(home->isDark());
+    EXPECT_TRUE(home->look().isDark);
     home.reset();
     EXPECT_TRUE(desktop.observers.empty());
 }
