@@ -29,7 +29,10 @@ public:
     [[nodiscard]] MenuBarItem& icon() { return icon_; }
     [[nodiscard]] DesktopLook look() const { return {.isDark = look_.isDark()}; }
     /// Called from now on whenever windows are to look otherwise.
-    void whenLookChanges(std::function<void(const DesktopLook&)> changed) { lookChanged_ = std::move(changed); }
+    void whenLookChanges(std::function<void(const DesktopLook&)> changed)
+    {
+        lookChanged_ = std::move(changed);
+    }
     /// Called when the user logs out or shuts down, while there still is time to put things in order.
     void whenSessionEnds(std::function<void()> ends) { sessionEnds_ = std::move(ends); }
 
