@@ -383,6 +383,17 @@
     </message>
 </context>
 <context>
+    <name>IconVolume</name>
+    <message>
+        <source>Scroll: volume of %1. Middle click: mute.</source>
+        <translation>Scroll: volume of %1. Middle click: mute.</translation>
+    </message>
+    <message>
+        <source>Scroll: volume of the loudest app. Middle click: mute.</source>
+        <translation>Scroll: volume of the loudest app. Middle click: mute.</translation>
+    </message>
+</context>
+<context>
     <name>MessageText</name>
     <message>
         <source>“%1” is a built-in preset name. Choose another name.</source>

@@ -384,6 +384,17 @@
     </message>
 </context>
 <context>
+    <name>IconVolume</name>
+    <message>
+        <source>Scroll: volume of %1. Middle click: mute.</source>
+        <translation>Kółko: głośność %1. Środkowy przycisk: wyciszenie.</translation>
+    </message>
+    <message>
+        <source>Scroll: volume of the loudest app. Middle click: mute.</source>
+        <translation>Kółko: głośność najgłośniejszej aplikacji. Środkowy przycisk: wyciszenie.</translation>
+    </message>
+</context>
+<context>
     <name>MessageText</name>
     <message>
         <source>“%1” is a built-in preset name. Choose another name.</source>

@@ -15,6 +15,7 @@ AppDelegate::AppDelegate(AudioController& controller, StatusItem& statusItem, Po
     , popover_(popover)
     , application_(application)
     , actions_(std::move(actions))
+    , iconVolume_(controller, statusItem, actions_.translate)
 {
     // Nothing is measured while nobody can see it.
     popover_.whenShown([this] { controller_.levels().setWanted(true); });

@@ -2,6 +2,7 @@
 // What the status icon, its menu and the popover do.
 #pragma once
 
+#include "app/IconVolume.h"
 #include "platform/StatusItem.h"
 #include "shell/Translate.h"
 
@@ -45,6 +46,7 @@ private:
     Popover& popover_;
     Application& application_;
     Actions actions_;
+    IconVolume iconVolume_;
 };
 
 }  // namespace fadeloom

@@ -35,6 +35,15 @@ public:
     /// The menu of a right click, and of a click with Control held. It is built when it is about to open; a desktop may
     /// ask for it sooner, too.
     virtual void setMenu(std::function<StatusMenu()> build) = 0;
+
+    // Not every bar passes these on.
+
+    /// Called for the wheel over the icon, with notches: positive away from the user.
+    virtual void whenScrolled(std::function<void(int notches)> /*scrolled*/) { }
+    /// Called for a middle click.
+    virtual void whenMiddleClicked(std::function<void()> /*clicked*/) { }
+    /// What is read below the name; may change at any time.
+    virtual void setDescription(const std::string& /*text*/) { }
 };
 
 }  // namespace fadeloom

@@ -48,6 +48,20 @@ void QtTrayIcon::setPicture(StatusNotifierItem::Picture picture)
         embedded_->setIcon(picture_.icon);
 }
 
+void QtTrayIcon::setDescription(const std::string& text)
+{
+    description_ = QString::fromStdString(text);
+    if (item_)
+        item_->setDescription(description_);
+    if (embedded_)
+        embedded_->setToolTip(hint());
+}
+
+QString QtTrayIcon::hint() const
+{
+    return description_.isEmpty() ? name_ : name_ + QLatin1Char('\n') + description_;
+}
+
 void QtTrayIcon::hostFound(TrayHost::Kind kind)
 {
     switch (kind) {
@@ -66,11 +80,15 @@ void QtTrayIcon::joinBus()
     item_ = std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus(), name_, picture_);
     item_->menu().setBuilder([this] { return clickFirst(build_()); });
     item_->menu().whenOpens([this] { menuOpens_(); });
-    item_->whenClicked([this](const StatusNotifierItem::Click& click) {
-        if (!click.activationToken.isEmpty())
-            qputenv("XDG_ACTIVATION_TOKEN", click.activationToken.toUtf8());  // Where Qt looks for it.
-        const auto told = iconPlace(click.place, currentScreens());
-        clickedAt(told ? told : pointerPlace());
+    item_->setDescription(description_);
+    item_->whenScrolled([this](int notches) { scrolled_(notches); });
+    item_->whenClicked([this](const StatusNotifierItem::Click& click) { clickedInBar(click); });
+    item_->whenMiddleClicked([this](const StatusNotifierItem::Click& click) {
+        // There a left click opens the menu, and this is the only click that can open the panel.
+        if (qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QLatin1String("GNOME")))
+            clickedInBar(click);
+        else
+            middleClicked_();
     });
     item_->whenMenuWanted([this](const StatusNotifierItem::Click& click) {
         // On Wayland only a window can have a menu: the panel has to do.
@@ -81,16 +99,26 @@ void QtTrayIcon::joinBus()
     });
 }
 
+void QtTrayIcon::clickedInBar(const StatusNotifierItem::Click& click)
+{
+    if (!click.activationToken.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", click.activationToken.toUtf8());  // Where Qt looks for it.
+    const auto told = iconPlace(click.place, currentScreens());
+    clickedAt(told ? told : pointerPlace());
+}
+
 void QtTrayIcon::embed()
 {
     embedded_ = std::make_unique<QSystemTrayIcon>(picture_.icon);
-    embedded_->setToolTip(name_);
+    embedded_->setToolTip(hint());
     fillMenu();  // One without entries would not open.
     embedded_->setContextMenu(&menu_);
     QObject::connect(embedded_.get(), &QSystemTrayIcon::activated, embedded_.get(),
         [this](QSystemTrayIcon::ActivationReason reason) {
-            if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::MiddleClick)
+            if (reason == QSystemTrayIcon::Trigger)
                 clickedAt(pointerPlace());
+            else if (reason == QSystemTrayIcon::MiddleClick)
+                middleClicked_();
         });
     embedded_->show();
 }

@@ -29,6 +29,9 @@ public:
     void whenClicked(std::function<void()> clicked) override { clicked_ = std::move(clicked); }
     void whenMenuOpens(std::function<void()> willOpen) override { menuOpens_ = std::move(willOpen); }
     void setMenu(std::function<StatusMenu()> build) override { build_ = std::move(build); }
+    void whenScrolled(std::function<void(int notches)> scrolled) override { scrolled_ = std::move(scrolled); }
+    void whenMiddleClicked(std::function<void()> clicked) override { middleClicked_ = std::move(clicked); }
+    void setDescription(const std::string& text) override;
     void setPicture(StatusNotifierItem::Picture picture);
 
     /// What is known of the icon's place on the screen.
@@ -38,6 +41,9 @@ private:
     void hostFound(TrayHost::Kind kind);
     void joinBus();
     void embed();
+    /// What is read over the icon where that is one text.
+    [[nodiscard]] QString hint() const;
+    void clickedInBar(const StatusNotifierItem::Click& click);
     void clickedAt(std::optional<QRect> place);
     void popUpMenu(QPoint place);
     void fillMenu();
@@ -45,9 +51,12 @@ private:
     StatusNotifierItem::Picture picture_;
     std::function<void()> withoutHost_;
     std::function<void()> clicked_ = [] { };
+    std::function<void()> middleClicked_ = [] { };
+    std::function<void(int)> scrolled_ = [](int) { };
     std::function<void()> menuOpens_ = [] { };
     std::function<StatusMenu()> build_ = [] { return StatusMenu{}; };
     QString name_;
+    QString description_;
     IconPlace lastClick_;
     QMenu menu_;
     std::unique_ptr<TrayHost> host_;

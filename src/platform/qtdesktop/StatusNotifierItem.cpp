@@ -7,6 +7,7 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 
+#include <cstdlib>
 #include <utility>
 
 namespace fadeloom {
@@ -71,6 +72,14 @@ void StatusNotifierItem::setPicture(Picture picture)
     Q_EMIT NewIcon();
 }
 
+void StatusNotifierItem::setDescription(const QString& text)
+{
+    if (text == description_)
+        return;
+    description_ = text;
+    Q_EMIT NewToolTip();
+}
+
 StatusNotifierItem::Click StatusNotifierItem::clickAt(int x, int y)
 {
     return {{x, y}, std::exchange(token_, {})};
@@ -83,7 +92,21 @@ void StatusNotifierItem::Activate(int x, int y)
 
 void StatusNotifierItem::SecondaryActivate(int x, int y)
 {
-    clicked_(clickAt(x, y));
+    middleClicked_(clickAt(x, y));
+}
+
+// Some bars count in eighths of a degree, as wheels do, and touchpads many times in a notch; others count notches.
+void StatusNotifierItem::Scroll(int delta, const QString& orientation)
+{
+    constexpr int notch = 120;
+    constexpr int fewNotches = 8;
+    if (orientation.compare(QLatin1String("horizontal"), Qt::CaseInsensitive) == 0)
+        return;
+    scrolledAngle_ += std::abs(delta) < fewNotches ? delta * notch : delta;
+    if (const int notches = scrolledAngle_ / notch; notches != 0) {
+        scrolledAngle_ -= notches * notch;
+        scrolled_(notches);
+    }
 }
 
 void StatusNotifierItem::ContextMenu(int x, int y)

@@ -56,11 +56,15 @@ public:
 
     /// The entries of a right click.
     [[nodiscard]] BusMenu& menu() { return menu_; }
-    /// Called for a left or a middle click.
     void whenClicked(std::function<void(const Click&)> clicked) { clicked_ = std::move(clicked); }
+    void whenMiddleClicked(std::function<void(const Click&)> clicked) { middleClicked_ = std::move(clicked); }
+    /// Called for the wheel: see `StatusItem::whenScrolled`.
+    void whenScrolled(std::function<void(int notches)> scrolled) { scrolled_ = std::move(scrolled); }
     /// Called for a right click in a bar that shows no menus itself.
     void whenMenuWanted(std::function<void(const Click&)> wanted) { menuWanted_ = std::move(wanted); }
     void setPicture(Picture picture);
+    /// Below the title in the hint over the icon.
+    void setDescription(const QString& text);
 
     [[nodiscard]] QString category() const { return QStringLiteral("ApplicationStatus"); }
     [[nodiscard]] QString id() const { return QStringLiteral("fadeloom"); }
@@ -71,7 +75,7 @@ public:
     [[nodiscard]] QString iconName() const { return picture_.name; }
     [[nodiscard]] QList<BusPixmap> iconPixmap() const { return pixmaps_; }
     [[nodiscard]] QString none() const { return {}; }
-    [[nodiscard]] BusToolTip toolTip() const { return {{}, {}, title_, {}}; }
+    [[nodiscard]] BusToolTip toolTip() const { return {{}, {}, title_, description_}; }
     [[nodiscard]] bool itemIsMenu() const { return false; }
     [[nodiscard]] QDBusObjectPath menuPath() const;
 
@@ -79,7 +83,7 @@ public Q_SLOTS:
     void Activate(int x, int y);
     void SecondaryActivate(int x, int y);
     void ContextMenu(int x, int y);
-    void Scroll(int /*delta*/, const QString& /*orientation*/) { }
+    void Scroll(int delta, const QString& orientation);
     /// Comes before the click that it belongs to.
     void ProvideXdgActivationToken(const QString& token) { token_ = token; }
 
@@ -96,10 +100,14 @@ private:
     QDBusConnection bus_;
     QString service_;
     const QString title_;
+    QString description_;
+    int scrolledAngle_ = 0;  // Since the last whole notch.
     Picture picture_;
     QList<BusPixmap> pixmaps_;
     BusMenu menu_;
     std::function<void(const Click&)> clicked_ = [](const Click&) { };
+    std::function<void(const Click&)> middleClicked_ = [](const Click&) { };
+    std::function<void(int)> scrolled_ = [](int) { };
     std::function<void(const Click&)> menuWanted_ = [](const Click&) { };
     QString token_;
     QDBusServiceWatcher watcher_;

@@ -15,7 +15,13 @@ public:
     void whenClicked(std::function<void()> clicked) override { clicked_ = std::move(clicked); }
     void whenMenuOpens(std::function<void()> willOpen) override { menuOpens_ = std::move(willOpen); }
     void setMenu(std::function<StatusMenu()> build) override { build_ = std::move(build); }
+    void whenScrolled(std::function<void(int notches)> scrolled) override { scrolled_ = std::move(scrolled); }
+    void whenMiddleClicked(std::function<void()> clicked) override { middleClicked_ = std::move(clicked); }
+    void setDescription(const std::string& text) override { description_ = text; }
 
+    [[nodiscard]] const std::string& description() const { return description_; }
+    void scroll(int notches) { scrolled_(notches); }
+    void middleClick() { middleClicked_(); }
     /// The name under which it is shown; empty before.
     [[nodiscard]] const std::string& name() const { return name_; }
     void click() { clicked_(); }
@@ -38,7 +44,10 @@ public:
 
 private:
     std::string name_;
+    std::string description_;
     std::function<void()> clicked_ = [] { };
+    std::function<void(int)> scrolled_ = [](int) { };
+    std::function<void()> middleClicked_ = [] { };
     std::function<void()> menuOpens_ = [] { };
     std::function<StatusMenu()> build_ = [] { return StatusMenu{}; };
 };

@@ -35,9 +35,11 @@ class Ear : public QObject {
 
 public:
     int newIcons = 0;
+    int newToolTips = 0;
 
 public Q_SLOTS:
     void NewIcon() { ++newIcons; }
+    void NewToolTip() { ++newToolTips; }
 };
 
 class StatusNotifierItemTest : public testing::Test {
@@ -128,13 +130,50 @@ TEST_F(StatusNotifierItemTest, handsOnThePlaceOfAClick)
 {
     makeIcon();
 
+    std::vector<StatusNotifierItem::Click> middleClicks;
+    item->whenMiddleClicked([&](const StatusNotifierItem::Click& click) { middleClicks.push_back(click); });
+
     tell(QStringLiteral("Activate"), {1062, 778});
     tell(QStringLiteral("SecondaryActivate"), {5, 6});
 
-    ASSERT_EQ(clicks.size(), 2U);
+    ASSERT_EQ(clicks.size(), 1U);
     EXPECT_EQ(clicks[0].place, QPoint(1062, 778));
     EXPECT_TRUE(clicks[0].activationToken.isEmpty());
-    EXPECT_EQ(clicks[1].place, QPoint(5, 6));
+    ASSERT_EQ(middleClicks.size(), 1U);
+    EXPECT_EQ(middleClicks[0].place, QPoint(5, 6));
+}
+
+TEST_F(StatusNotifierItemTest, countsTheNotchesOfTheWheelHoweverTheBarDoes)
+{
+    makeIcon();
+    std::vector<int> scrolled;
+    item->whenScrolled([&](int notches) { scrolled.push_back(notches); });
+
+    const auto vertical = QStringLiteral("vertical");
+    tell(QStringLiteral("Scroll"), {120, vertical});
+    tell(QStringLiteral("Scroll"), {-240, vertical});
+    tell(QStringLiteral("Scroll"), {-1, vertical});
+    for (int i = 0; i < 4; ++i)
+        tell(QStringLiteral("Scroll"), {30, vertical});
+    tell(QStringLiteral("Scroll"), {120, QStringLiteral("Horizontal")});
+
+    EXPECT_EQ(scrolled, (std::vector{1, -2, -1, 1}));
+}
+
+TEST_F(StatusNotifierItemTest, announcesAnotherDescription)
+{
+    makeIcon();
+    Ear ear;
+    theirs.connect(service(), QStringLiteral("/StatusNotifierItem"),
+        QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("NewToolTip"), &ear, SLOT(NewToolTip()));
+
+    item->setDescription(QStringLiteral("Half as loud"));
+    item->setDescription(QStringLiteral("Half as loud"));
+
+    EXPECT_TRUE(happensSoon([&] { return ear.newToolTips == 1; }));
+    EXPECT_EQ(qdbus_cast<BusToolTip>(property(QStringLiteral("ToolTip"))).description,
+        QStringLiteral("Half as loud"));
+    EXPECT_EQ(ear.newToolTips, 1);
 }
 
 TEST_F(StatusNotifierItemTest, anActivationTokenBelongsToTheNextClickAlone)
