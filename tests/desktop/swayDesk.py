@@ -32,6 +32,14 @@ class SwayDesk:
         waitUntil(lambda: findMenu(self.session), "the icon")
         waitUntil(lambda: self.icon() is not None, "the icon in the bar")
 
+    def log(self):
+        return (self.session.folder / "config" / "Fadeloom" / "engine.log").read_text()
+
+    def settingsOf(self, app):
+        """Of an app, as they are stored; empty while they are the usual ones."""
+        file = self.session.folder / "config" / "Fadeloom" / "settings.json"
+        return json.loads(file.read_text()).get("apps", {}).get(app, {})
+
     def said(self):
         return (self.session.folder / "fadeloom.log").read_text()
 

@@ -6,6 +6,7 @@ import time
 import numpy
 import pytest
 
+import signals
 from audioSession import waitUntil
 from busMenu import BusMenu
 from conftest import program
@@ -82,12 +83,26 @@ def test_aClickIntoThePanelReachesIt(desk):
     desk.waitUntilClosed()
 
 
-def test_theMiddleButtonOpensItToo(desk):
-    desk.session.click(*desk.icon(), MIDDLE)
+def test_theWheelOverTheIconChangesAVolumeAndTheMiddleButtonMutes(desk):
+    file = desk.session.folder / "tone.wav"
+    signals.write(file, signals.sine(440, 0.1, 60))
+    desk.session.spawn("player", ["pw-play", str(file)])
+    try:
+        waitUntil(lambda: "app playing pw-cat" in desk.log() or "audio flowing through tap: pw-cat" in desk.log(), "the app")
+        desk.session.pointer.move(*desk.icon())
 
-    waitUntil(desk.panel, "the panel")
-    desk.session.press("Escape")
-    desk.waitUntilClosed()
+        desk.session.pointer.scroll(15)  # Down, by one notch.
+        waitUntil(lambda: desk.settingsOf("pw-cat").get("volume", 1) == pytest.approx(0.95), "a lower volume")
+        desk.session.pointer.scroll(-15)
+        waitUntil(lambda: desk.settingsOf("pw-cat").get("volume", 1) == pytest.approx(1), "the volume as before")
+
+        desk.session.click(*desk.icon(), MIDDLE)
+        waitUntil(lambda: desk.settingsOf("pw-cat").get("muted"), "silence")
+        desk.session.click(*desk.icon(), MIDDLE)
+        waitUntil(lambda: not desk.settingsOf("pw-cat").get("muted"), "sound")
+        assert desk.panel() is None
+    finally:
+        desk.session.end("player")
 
 
 def test_itOpensTwentyTimesInTheSamePlace(desk):

@@ -95,14 +95,17 @@ void StatusNotifierItem::SecondaryActivate(int x, int y)
     middleClicked_(clickAt(x, y));
 }
 
-// Some bars count in eighths of a degree, as wheels do, and touchpads many times in a notch; others count notches.
+// Plasma counts in eighths of a degree, as wheels do, up being positive; a touchpad sends a notch in many parts. The bars
+// of wlroots send one or two for each notch, down being positive.
 void StatusNotifierItem::Scroll(int delta, const QString& orientation)
 {
     constexpr int notch = 120;
     constexpr int fewNotches = 8;
-    if (orientation.compare(QLatin1String("horizontal"), Qt::CaseInsensitive) == 0)
+    if (delta == 0 || orientation.compare(QLatin1String("horizontal"), Qt::CaseInsensitive) == 0)
         return;
-    scrolledAngle_ += std::abs(delta) < fewNotches ? delta * notch : delta;
+    if (std::abs(delta) < fewNotches)
+        return scrolled_(delta > 0 ? -1 : 1);
+    scrolledAngle_ += delta;
     if (const int notches = scrolledAngle_ / notch; notches != 0) {
         scrolledAngle_ -= notches * notch;
         scrolled_(notches);

@@ -152,12 +152,13 @@ TEST_F(StatusNotifierItemTest, countsTheNotchesOfTheWheelHoweverTheBarDoes)
     const auto vertical = QStringLiteral("vertical");
     tell(QStringLiteral("Scroll"), {120, vertical});
     tell(QStringLiteral("Scroll"), {-240, vertical});
-    tell(QStringLiteral("Scroll"), {-1, vertical});
+    tell(QStringLiteral("Scroll"), {-2, vertical});
+    tell(QStringLiteral("Scroll"), {1, vertical});
     for (int i = 0; i < 4; ++i)
         tell(QStringLiteral("Scroll"), {30, vertical});
     tell(QStringLiteral("Scroll"), {120, QStringLiteral("Horizontal")});
 
-    EXPECT_EQ(scrolled, (std::vector{1, -2, -1, 1}));
+    EXPECT_EQ(scrolled, (std::vector{1, -2, 1, -1, 1}));
 }
 
 TEST_F(StatusNotifierItemTest, announcesAnotherDescription)
