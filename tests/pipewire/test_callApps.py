@@ -6,11 +6,11 @@ import json
 import pathlib
 import time
 
-import numpy
 import pytest
 
 import signals
 from audioSession import waitUntil
+from callScene import CallScene
 from fadeloomProcess import settings
 from meeting import Meeting
 
@@ -34,17 +34,8 @@ INSTALLATIONS = {
 }
 
 
-class CallApps:
-    """A session with a microphone, music, and a program that is installed in a way of its own."""
-
-    def __init__(self, stage):
-        self.stage = stage
-        self.session = stage.session
-        self.silence = stage.folder / "silence.wav"
-        self.music = stage.folder / "music.wav"
-        signals.write(self.silence, numpy.zeros((60 * signals.RATE, 2)))
-        signals.write(self.music, signals.sine(1000, 0.5, 60))
-        self.session.plug("microphone", mediaClass="Audio/Source/Virtual")
+class CallApps(CallScene):
+    """With a program that is installed in a way of its own."""
 
     def install(self, identifier, keys):
         self.program = self.stage.makeApp("standIn")

@@ -8,23 +8,18 @@ import pytest
 
 import signals
 from audioSession import waitUntil
+from callScene import CallScene
 from fadeloomProcess import app, settings
 
 DUCK = 0.2
 TIME_CONSTANT = 0.3
 
 
-class Calls:
-    """A session with a microphone, music that plays, and apps that can call."""
+class Calls(CallScene):
+    """With music that plays, and apps that can call."""
 
     def __init__(self, stage):
-        self.stage = stage
-        self.session = stage.session
-        self.silence = stage.folder / "silence.wav"
-        self.music = stage.folder / "music.wav"
-        signals.write(self.silence, numpy.zeros((60 * signals.RATE, 2)))
-        signals.write(self.music, signals.sine(1000, 0.5, 60))
-        self.session.plug("microphone", mediaClass="Audio/Source/Virtual")
+        super().__init__(stage)
         self.programs = {}
 
     def fadeloom(self, callApps=("talk", "meet"), **focus):

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The traces by which a process is known, and which of them wins.
-#include "platform/linux/ApplicationFinder.h"
-
-#include "tests/platform/linux/LinuxTree.h"
+#include "tests/platform/linux/ApplicationFinderStage.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,20 +8,7 @@
 namespace fadeloom {
 namespace {
 
-class ApplicationFinderTest : public ::testing::Test {
-protected:
-    std::string found(ProcessID pid) const
-    {
-        DesktopEntries entries{tree.environment};
-        entries.refresh();
-        ProcessTable processes{tree.environment};
-        ApplicationFinder finder{processes, entries};
-        const auto& application = finder.find(pid);
-        return application ? application->bundleID + " " + std::to_string(application->owner) : "none";
-    }
-
-    LinuxTree tree;
-};
+class ApplicationFinderTest : public ApplicationFinderStage { };
 
 TEST_F(ApplicationFinderTest, theSandboxWins)
 {

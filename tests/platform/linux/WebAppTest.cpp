@@ -2,8 +2,7 @@
 // Web apps: which page they show, and how their processes are told from those of their browser.
 #include "platform/linux/WebPage.h"
 
-#include "platform/linux/ApplicationFinder.h"
-#include "tests/platform/linux/LinuxTree.h"
+#include "tests/platform/linux/ApplicationFinderStage.h"
 
 #include <gtest/gtest.h>
 
@@ -41,20 +40,7 @@ TEST(WebPage, optionsHaveTheirValuesInOneWordOrTwo)
     EXPECT_EQ(windowClassOf(std::vector<std::string>{"--classic=1", "--class"}), "");
 }
 
-class WebAppTest : public ::testing::Test {
-protected:
-    std::string found(ProcessID pid) const
-    {
-        DesktopEntries entries{tree.environment};
-        entries.refresh();
-        ProcessTable processes{tree.environment};
-        ApplicationFinder finder{processes, entries};
-        const auto& application = finder.find(pid);
-        return application ? application->bundleID + " " + std::to_string(application->owner) : "none";
-    }
-
-    LinuxTree tree;
-};
+class WebAppTest : public ApplicationFinderStage { };
 
 TEST_F(WebAppTest, ofChromiumHasTheHelpersOfItsBrowser)
 {
