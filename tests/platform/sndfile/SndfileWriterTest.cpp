@@ -25,14 +25,14 @@ std::set<pid_t> writers()
     return found;
 }
 
-TEST_F(SndfileWriterTest, eachFileHasAThreadOfNormalPriority)
+TEST_F(SndfileWriterTest, eachFileHasAThreadOfTheProgramsOwnPriority)
 {
     AudioFile& first = *open(folder.path() / "1.wav");
     AudioFile& second = *open(folder.path() / "2.wav");
 
     EXPECT_TRUE(waitUntil([] { return writers().size() == 2; }));
     for (const pid_t thread : writers())
-        EXPECT_EQ(sched_getscheduler(thread), SCHED_OTHER);
+        EXPECT_EQ(sched_getscheduler(thread), sched_getscheduler(0));
 
     files.dispose(first);
     EXPECT_EQ(writers().size(), 1U);
