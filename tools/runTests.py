@@ -20,7 +20,7 @@ SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
 SPECIAL = ("pipewire", "week", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks",
            "trixie")
 OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdesktop", "src/platform/sndfile",
-            "src/app/linux")
+            "src/app/linux", "src/ctl")
 # What the suites with real players start.
 PLAYED = ("fadeloom", "fadeloomctl", "pipewireContractTests", "pipewireRealTimeTests")
 SHORT_SANITIZERS = {"asan": ("engine", "settings", "platform/sndfile"), "tsan": ("engine", "platform/sndfile")}

@@ -8,6 +8,7 @@
 #include <QLocalSocket>
 #include <QPointer>
 #include <QTimer>
+#include <QVariant>
 
 #include <string>
 #include <utility>
