@@ -71,7 +71,7 @@ def test_aThousandStepsASecondForTenSeconds(stage):
         growth = processUse.memory(program)[1] - memory
         print(f"{cost:.3f} ms of processor time in the program for each command, "
               f"{growth:.2f} MB more memory, {len(writes)} writes seen")
-        assert cost < 1  # 0.1 to 0.4, by how fast the processor runs; reading every process each time took 10.
+        assert cost < 0.4  # 0.1 to 0.2 on a busy machine of two processors, more on an idle one, which runs slower.
         assert growth < 1
         assert len(writes) <= 2 * (SECONDS + 5)
         assert ctl(stage, "volume", "pw-cat") == (0, "0.5\n", "")
