@@ -5,7 +5,6 @@
 #include "engine/RenderChoice.h"
 #include "engine/Renderer.h"
 #include "engine/TapParameters.h"
-#include "platform/AudioFiles.h"
 
 #include <array>
 #include <cmath>

@@ -88,7 +88,7 @@ TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChangeAndItIsR
     tap.value().reset();
     (*recording)->stop(audio.hostTime());
     (*recording)->finish();
-    EXPECT_EQ((*recording)->status(), kAudioHardwareNoError);
+    EXPECT_EQ((*recording)->failure(), std::nullopt);
     EXPECT_EQ((*recording)->lostTime(), 0ms);
     EXPECT_GT(std::filesystem::file_size(location), 6 * 48000);
 }
