@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The callback in a real graph, on PipeWire's own data thread: it never allocates, waits, or calls the system.
 #include "engine/AppTap.h"
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 #include "engine/Recording.h"
 #include "platform/pipewire/PipeWireAudioSystem.h"
 #include "platform/qt/QtMainLoop.h"

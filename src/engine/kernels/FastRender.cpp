@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "engine/FastRender.h"
+#include "engine/kernels/FastRender.h"
 
-#include "engine/GainStage.h"
+#include "engine/kernels/FastGains.h"
 
 #include <algorithm>
 #include <cmath>

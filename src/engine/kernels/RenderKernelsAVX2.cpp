@@ -2,7 +2,7 @@
 // Compiled for processors with AVX2. On other architectures there is nothing in it.
 #ifdef __x86_64__
 
-#include "engine/VectorKernels.h"
+#include "engine/kernels/VectorKernels.h"
 
 #ifndef __AVX2__
 #error "needs the compiler's option for AVX2"

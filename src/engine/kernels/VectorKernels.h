@@ -2,9 +2,9 @@
 // The render kernels as the unit that includes this compiles them.
 #pragma once
 
-#include "engine/RenderKernels.h"
-#include "engine/VectorEqualizer.h"
-#include "engine/VectorSamples.h"
+#include "engine/kernels/RenderKernels.h"
+#include "engine/kernels/VectorEqualizer.h"
+#include "engine/kernels/VectorSamples.h"
 
 namespace fadeloom {
 namespace {

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "base/RealTime.h"
-#include "engine/Equalizer.h"
-#include "engine/RenderKernels.h"
+#include "engine/EqualizerDesign.h"
+#include "engine/kernels/RenderKernels.h"
 
 #include <bitset>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // What is delicate about the fast form, held against the plain one.
-#include "engine/FastRender.h"
+#include "engine/kernels/FastRender.h"
 
-#include "tests/engine/KernelTest.h"
-#include "tests/engine/RenderForms.h"
+#include "tests/engine/kernels/KernelTest.h"
+#include "tests/engine/kernels/RenderForms.h"
 
 #include <gtest/gtest.h>
 

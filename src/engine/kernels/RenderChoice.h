@@ -2,7 +2,7 @@
 // Which form of the render path this processor runs best.
 #pragma once
 
-#include "engine/RenderKernels.h"
+#include "engine/kernels/RenderKernels.h"
 
 #include <span>
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "base/RealTime.h"
-#include "engine/RenderKernels.h"
-#include "engine/RenderPath.h"
+#include "engine/kernels/RenderKernels.h"
+#include "engine/RenderState.h"
 
 #include <span>
 

@@ -6,8 +6,8 @@
 // depend on each other. Each does the operations of the plain form, on the same operands, in the same order.
 #pragma once
 
-#include "engine/VectorSection.h"
-#include "engine/VectorSlots.h"
+#include "engine/kernels/VectorSection.h"
+#include "engine/kernels/VectorSlots.h"
 
 #include <cstddef>
 #include <utility>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The walk tells apart what differs in nothing but the order of two additions: whoever rewrites a section sees it fail.
-#include "engine/VectorKernels.h"
+#include "engine/kernels/VectorKernels.h"
 
-#include "tests/engine/RenderWalk.h"
+#include "tests/engine/kernels/RenderWalk.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/RenderChoice.h"
+#include "engine/kernels/RenderChoice.h"
 
 #include <array>
 

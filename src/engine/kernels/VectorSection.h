@@ -2,8 +2,8 @@
 // One section of the equalizer on vectors, and where its numbers come from.
 #pragma once
 
-#include "engine/RenderKernels.h"
-#include "engine/VectorTypes.h"
+#include "engine/kernels/RenderKernels.h"
+#include "engine/kernels/VectorTypes.h"
 
 #include <cstddef>
 

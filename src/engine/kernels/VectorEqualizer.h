@@ -3,10 +3,10 @@
 #pragma once
 
 #include "base/RealTime.h"
-#include "engine/RenderKernels.h"
-#include "engine/VectorCascade.h"
-#include "engine/VectorSamples.h"
-#include "engine/VectorTypes.h"
+#include "engine/kernels/RenderKernels.h"
+#include "engine/kernels/VectorCascade.h"
+#include "engine/kernels/VectorSamples.h"
+#include "engine/kernels/VectorTypes.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/VectorKernels.h"
+#include "engine/kernels/VectorKernels.h"
 
 namespace fadeloom {
 

@@ -5,7 +5,7 @@
 // forms can be held against each other bit for bit.
 #pragma once
 
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 #include "engine/GainSmoother.h"
 #include "engine/PeakLimiter.h"
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/RealTime.h"
-#include "engine/VectorTypes.h"
+#include "engine/kernels/VectorTypes.h"
 
 #include <cstddef>
 #include <cstdint>

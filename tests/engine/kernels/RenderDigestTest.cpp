@@ -3,9 +3,9 @@
 //
 // Everything that goes in is written down here. The design of coefficients is left out, for it uses sines and powers
 // that libraries round differently.
-#include "engine/FastRender.h"
+#include "engine/kernels/FastRender.h"
 #include "engine/PlainRender.h"
-#include "tests/engine/KernelTest.h"
+#include "tests/engine/kernels/KernelTest.h"
 
 #include <gtest/gtest.h>
 

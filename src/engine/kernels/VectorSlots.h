@@ -2,7 +2,7 @@
 // A vector of the cascade: one slot for a section, or two halves with one slot each.
 #pragma once
 
-#include "engine/VectorTypes.h"
+#include "engine/kernels/VectorTypes.h"
 
 namespace fadeloom {
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Long random walks, on which the fast form has to give every bit of the plain one.
-#include "engine/FastRender.h"
+#include "engine/kernels/FastRender.h"
 
-#include "tests/engine/KernelTest.h"
-#include "tests/engine/RenderWalk.h"
+#include "tests/engine/kernels/KernelTest.h"
+#include "tests/engine/kernels/RenderWalk.h"
 
 #include <gtest/gtest.h>
 

@@ -6,10 +6,10 @@
 #pragma once
 
 #include "base/RealTime.h"
-#include "engine/Equalizer.h"
-#include "engine/RenderKernels.h"
-#include "engine/RenderPath.h"
-#include "engine/SectionPacking.h"
+#include "engine/EqualizerDesign.h"
+#include "engine/kernels/RenderKernels.h"
+#include "engine/RenderState.h"
+#include "engine/kernels/SectionPacking.h"
 
 #include <span>
 

@@ -2,8 +2,8 @@
 // Tests that run once for each set of render kernels of this architecture.
 #pragma once
 
-#include "engine/RenderChoice.h"
-#include "engine/RenderKernels.h"
+#include "engine/kernels/RenderChoice.h"
+#include "engine/kernels/RenderKernels.h"
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 // It is one walk, not many calls: what one call leaves behind is where the next one begins.
 #pragma once
 
-#include "engine/Equalizer.h"
-#include "tests/engine/RenderForms.h"
+#include "engine/EqualizerDesign.h"
+#include "tests/engine/kernels/RenderForms.h"
 
 #include <array>
 #include <cmath>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/GainStage.h"
+#include "engine/kernels/FastGains.h"
 
 #include <algorithm>
 #include <array>

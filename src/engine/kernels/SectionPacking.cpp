@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "engine/SectionPacking.h"
+#include "engine/kernels/SectionPacking.h"
 
 #include <cstddef>
 
