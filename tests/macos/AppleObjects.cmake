@@ -139,7 +139,7 @@ foreach(processor IN ITEMS arm64 x86_64)
         endif()
         # Code is made of what depends on the processor, or is the platform's.
         set(depth -fsyntax-only)
-        if(batch MATCHES "base|engine|RenderKernels|platform_macos|coreaudio")
+        if(batch MATCHES "base|engine|RenderKernels|platform_macos")
             set(depth -c)
         endif()
         file(CONFIGURE OUTPUT ${file} CONTENT "${unit}" @ONLY)
