@@ -2,10 +2,9 @@
 // A renderer in cycles of its own: buffers, settings, and a recording whose sound nobody reads.
 #pragma once
 
-#include "engine/RenderChoice.h"
+#include "engine/kernels/RenderChoice.h"
 #include "engine/Renderer.h"
 #include "engine/TapParameters.h"
-#include "platform/AudioFiles.h"
 
 #include <array>
 #include <cmath>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What does the main thread pay when someone moves an equalizer slider: design, hand-over, curve, headroom?
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 #include "engine/EqualizerHeadroom.h"
 #include "engine/TapParameters.h"
 

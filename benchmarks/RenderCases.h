@@ -2,9 +2,9 @@
 // What the render path is measured with.
 #pragma once
 
-#include "engine/FastRender.h"
+#include "engine/kernels/FastRender.h"
 #include "engine/PlainRender.h"
-#include "engine/RenderKernels.h"
+#include "engine/kernels/RenderKernels.h"
 
 #include <algorithm>
 #include <array>

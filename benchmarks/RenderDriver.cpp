@@ -3,7 +3,7 @@
 //
 //   renderDriver FORM CASE ROUNDS     FORM: plain, or the name of a set of kernels; a round has 16 blocks of 512 frames
 #include "benchmarks/RenderCases.h"
-#include "engine/RenderChoice.h"
+#include "engine/kernels/RenderChoice.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What does it cost when many apps play? One cycle of all their renderers, each with ten bands.
 #include "benchmarks/CycleStage.h"
-#include "engine/RenderChoice.h"
+#include "engine/kernels/RenderChoice.h"
 
 #include <benchmark/benchmark.h>
 

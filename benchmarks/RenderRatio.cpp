@@ -4,7 +4,7 @@
 // All forms take turns within each iteration, there and back again, so that a machine that is busy or throttled meets
 // them alike. What counts is each one's best time.
 #include "benchmarks/RenderCases.h"
-#include "engine/RenderChoice.h"
+#include "engine/kernels/RenderChoice.h"
 
 #include <benchmark/benchmark.h>
 

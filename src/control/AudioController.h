@@ -166,7 +166,7 @@ private:
     [[nodiscard]] std::filesystem::path newRecordingLocation(
         const std::string& bundleID, Recording::Moment startedAt) const;
     void stopAllRecordings();
-    void recordingBroken(const std::string& bundleID, AudioStatus status);
+    void recordingBroken(const std::string& bundleID, AudioFileError error);
 
     void applyAppearance();
 
@@ -191,7 +191,7 @@ private:
         std::map<std::string, std::unique_ptr<AppTap>>;  // By the output's unique id; never empty.
     std::map<std::string, OutputTaps> taps_;
     Recordings recordings_{platform_.mainLoop, platform_.audio, platform_.audioFiles, engineLog_,
-        [this](const std::string& bundleID, AudioStatus status) { recordingBroken(bundleID, status); }};
+        [this](const std::string& bundleID, AudioFileError error) { recordingBroken(bundleID, error); }};
     std::map<std::string, std::map<std::string, FailedTap>> failed_;  // By app and its output.
     std::set<std::string> audioConfirmed_;  // Taps through which audio was seen to flow.
     std::set<std::string> seen_;  // Apps that have played while they were there.

@@ -52,10 +52,10 @@ void AudioController::stopAllRecordings()
 }
 
 // A recording that takes nothing any more would go on as a file that nobody notices to be too short.
-void AudioController::recordingBroken(const std::string& bundleID, AudioStatus status)
+void AudioController::recordingBroken(const std::string& bundleID, AudioFileError error)
 {
     stopRecording(bundleID);
-    state_.error.assign(RecordingNotWritten{nameOf(bundleID), platform_.audioFiles.describe(status)});
+    state_.error.assign(RecordingNotWritten{nameOf(bundleID), platform_.audioFiles.describe(error)});
 }
 
 std::string AudioController::nameOf(const std::string& bundleID) const

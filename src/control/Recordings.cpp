@@ -64,14 +64,14 @@ void Recordings::stopAll()
 void Recordings::advance()
 {
     const auto now = audio_.hostTime();
-    std::map<std::string, AudioStatus> broken;
+    std::map<std::string, AudioFileError> broken;
     for (const auto& [id, active] : active_) {
         active.recording->writeUntil(now);
-        if (const auto status = active.recording->status(); status != kAudioHardwareNoError)
-            broken.emplace(id, status);
+        if (const auto failure = active.recording->failure())
+            broken.emplace(id, *failure);
     }
-    for (const auto& [id, status] : broken)
-        whenBroken_(id, status);
+    for (const auto& [id, error] : broken)
+        whenBroken_(id, error);
 }
 
 void Recordings::finish(const std::string& bundleID, Recording& recording)
@@ -79,8 +79,8 @@ void Recordings::finish(const std::string& bundleID, Recording& recording)
     recording.finish();
     if (const auto lost = recording.lostTime(); lost > std::chrono::milliseconds{0})
         log_.error("recording has gaps: " + bundleID + ", " + std::to_string(lost.count()) + " ms lost");
-    if (const auto status = recording.status(); status != kAudioHardwareNoError)
-        log_.error("recording failed: " + bundleID + ": " + files_.describe(status));
+    if (const auto failure = recording.failure())
+        log_.error("recording failed: " + bundleID + ": " + files_.describe(*failure));
 }
 
 }  // namespace fadeloom

@@ -24,7 +24,7 @@ namespace fadeloom {
 class Recordings {
 public:
     /// A file takes nothing any more; the recording still goes on.
-    using WhenBroken = std::function<void(const std::string& bundleID, AudioStatus status)>;
+    using WhenBroken = std::function<void(const std::string& bundleID, AudioFileError error)>;
 
     /// What is passed here outlives this.
     Recordings(MainLoop& mainLoop, const AudioSystem& audio, AudioFiles& files, EngineLog& log,

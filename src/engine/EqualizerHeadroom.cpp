@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/EqualizerHeadroom.h"
 
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 
 #include <cmath>
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "base/RealTime.h"
-#include "engine/RenderPath.h"
+#include "engine/RenderState.h"
 
 #include <span>
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Recording.h"
 
-#include "platform/WaveFormats.h"
-
 #include <algorithm>
+#include <span>
 #include <utility>
 
 namespace fadeloom {
@@ -26,15 +25,9 @@ constexpr std::size_t piece = 8192 * RecordingLanes::channels;
 std::expected<std::unique_ptr<Recording>, TapError> Recording::create(AudioFiles& files, CycleClocks& clocks,
     std::filesystem::path location, double sampleRate, const Start& start)
 {
-    const auto file = files.create(location, waveFileFormat(sampleRate));
+    const auto file = files.create(location, sampleRate);
     if (!file)
-        return std::unexpected(TapError{"Create recording file", file.error()});
-    const auto status = (*file)->setClientFormat(waveClientFormat(sampleRate));
-    if (status != kAudioHardwareNoError) {
-        files.dispose(**file);
-        return std::unexpected(TapError{"Set recording format", status});
-    }
-    (*file)->write(0, nullptr);  // Prepares what the first write needs.
+        return std::unexpected(file.error());
     return std::unique_ptr<Recording>(
         new Recording(files, **file, clocks, std::move(location), sampleRate, start));
 }
@@ -66,16 +59,13 @@ void Recording::finish()
     write(timeline_.takeRest(end_));
     unwrittenFrames_ += backlog_.size() / RecordingLanes::channels;
     backlog_.clear();
-    lastStatus_ = file_.status();
     isFinished_ = true;
-    const auto status = files_.dispose(file_);
-    if (lastStatus_ == kAudioHardwareNoError)
-        lastStatus_ = status;
+    lastFailure_ = files_.dispose(file_);
 }
 
-AudioStatus Recording::status() const
+std::optional<AudioFileError> Recording::failure() const
 {
-    return isFinished_ ? lastStatus_ : file_.status();
+    return isFinished_ ? lastFailure_ : file_.failure();
 }
 
 std::chrono::milliseconds Recording::lostTime() const
@@ -96,11 +86,9 @@ void Recording::write(const std::vector<float>& samples)
     std::size_t written = 0;
     while (written < backlog_.size()) {
         const auto size = std::min(piece, backlog_.size() - written);
-        const auto status = file_.write(
-            static_cast<std::uint32_t>(size / RecordingLanes::channels), backlog_.data() + written);
-        if (status == kExtAudioFileError_AsyncWriteBufferOverflow)
+        if (!file_.write(std::span(backlog_).subspan(written, size)))
             break;
-        written += size;  // After a failure, too: the file takes nothing any more.
+        written += size;
     }
     backlog_.erase(backlog_.begin(), backlog_.begin() + static_cast<std::ptrdiff_t>(written));
     const auto most = longestBacklog * RecordingLanes::channels * static_cast<std::size_t>(sampleRate_);

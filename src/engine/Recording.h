@@ -15,6 +15,7 @@
 #include <expected>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace fadeloom {
@@ -54,8 +55,8 @@ public:
     /// may be writing to it any more.
     void finish();
 
-    /// How the writing went; final once the recording is finished.
-    [[nodiscard]] AudioStatus status() const;
+    /// The first failure of its file; final once the recording is finished.
+    [[nodiscard]] std::optional<AudioFileError> failure() const;
     /// What was captured and is not in the file, since the disk was too slow, or the program.
     [[nodiscard]] std::chrono::milliseconds lostTime() const;
 
@@ -76,7 +77,7 @@ private:
     HostTime end_;
     std::vector<float> backlog_;  // What the file had no room for yet.
     std::uint64_t unwrittenFrames_ = 0;
-    AudioStatus lastStatus_ = kAudioHardwareNoError;
+    std::optional<AudioFileError> lastFailure_;
     bool isFinished_ = false;
 };
 

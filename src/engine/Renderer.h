@@ -3,9 +3,9 @@
 #pragma once
 
 #include "base/RealTime.h"
-#include "engine/FastRender.h"
-#include "engine/RenderChoice.h"
-#include "engine/RenderPath.h"
+#include "engine/kernels/FastRender.h"
+#include "engine/kernels/RenderChoice.h"
+#include "engine/RenderState.h"
 #include "engine/TapParameters.h"
 #include "platform/ProcessTap.h"
 

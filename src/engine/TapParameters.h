@@ -7,7 +7,7 @@
 #pragma once
 
 #include "base/UnfairLock.h"
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 #include "engine/RecorderSlot.h"
 
 #include <atomic>

@@ -1,41 +1,35 @@
 // SPDX-License-Identifier: MIT
-// Audio files that are written while the sound is captured.
-//
-// The calls keep the shape of extended audio files: a file format on the disk, a client format in which samples are
-// handed over, and a writer of its own behind each file, so that handing over never waits for a disk.
+// Recordings on the disk: 24-bit stereo WAVE files that are written while the sound is captured.
 #pragma once
 
-#include "platform/AudioStream.h"
+#include "platform/TapError.h"
 
 #include <cstdint>
 #include <expected>
 #include <filesystem>
+#include <optional>
+#include <span>
 #include <string>
 
 namespace fadeloom {
 
-/// No file is made in this format.
-inline constexpr AudioStatus kAudioFileUnsupportedDataFormatError = statusCode("fmt?");
-/// Samples are not taken in this format.
-inline constexpr AudioStatus kExtAudioFileError_InvalidDataFormat = -66566;
-/// The client format has not been set.
-inline constexpr AudioStatus kExtAudioFileError_InvalidOperationOrder = -66565;
-/// The samples were not taken: what waits to be written leaves no room for them yet.
-inline constexpr AudioStatus kExtAudioFileError_AsyncWriteBufferOverflow = -66570;
+/// What went wrong with an open file, as the system numbers it; `AudioFiles::describe` puts it into words.
+struct AudioFileError {
+    std::int32_t code = 0;
+
+    friend bool operator==(const AudioFileError&, const AudioFileError&) = default;
+};
 
 /// An open file. Made and closed by `AudioFiles`.
 class AudioFile {
 public:
-    /// The format in which samples are handed over from now on; before the first write. Thread: main.
-    [[nodiscard]] virtual AudioStatus setClientFormat(const AudioStreamBasicDescription& format) = 0;
+    /// Hands over whole frames of interleaved stereo samples, which are copied before this returns and written later:
+    /// it never waits for a disk. False, with nothing taken, while the samples that wait to be written leave no room.
+    /// After a failure samples are taken and dropped. Thread: main.
+    [[nodiscard]] virtual bool write(std::span<const float> samples) noexcept = 0;
 
-    /// Hands over `frameCount` frames of interleaved samples in the client format, which are copied before this
-    /// returns and written later. Zero frames, with no samples, prime the writer: what a first write needs is
-    /// prepared. Never waits for a disk. Thread: main.
-    virtual AudioStatus write(std::uint32_t frameCount, const float* samples) noexcept = 0;
-
-    /// The first failure so far, after which the file takes nothing. Thread: main.
-    [[nodiscard]] virtual AudioStatus status() const = 0;
+    /// The first failure so far. Thread: main.
+    [[nodiscard]] virtual std::optional<AudioFileError> failure() const = 0;
 
 protected:
     ~AudioFile() = default;
@@ -47,18 +41,19 @@ public:
     /// Closes what is still open.
     virtual ~AudioFiles() = default;
 
-    /// Whether something of this name is there already, by the file system's own rules: where it takes upper and lower
+    /// Whether something of this name exists already, by the file system's own rules: where it takes upper and lower
     /// case for the same, so does this.
     [[nodiscard]] virtual bool isTaken(const std::filesystem::path& location) const = 0;
-    /// Creates a WAVE file, in place of any file of that name, and opens it.
-    [[nodiscard]] virtual AudioResult<AudioFile*> create(
-        const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat) = 0;
-    /// Writes what was handed over, completes the file and closes it; `file` is gone afterwards. Nothing may be
-    /// writing to it any more.
-    virtual AudioStatus dispose(AudioFile& file) = 0;
+    /// Creates a file in place of any file of that name, and opens it. `sampleRate`: hertz, greater than 0. Whatever is
+    /// refused leaves no file open.
+    [[nodiscard]] virtual std::expected<AudioFile*, TapError> create(
+        const std::filesystem::path& location, double sampleRate) = 0;
+    /// Writes what was handed over, completes the file and closes it; `file` is gone afterwards. Returns the first
+    /// failure since it was created.
+    virtual std::optional<AudioFileError> dispose(AudioFile& file) = 0;
 
-    /// What a status says, for the user; without a full stop.
-    [[nodiscard]] virtual std::string describe(AudioStatus status) const = 0;
+    /// An error for the user, without a full stop. Thread: any.
+    [[nodiscard]] virtual std::string describe(AudioFileError error) const = 0;
 };
 
 }  // namespace fadeloom

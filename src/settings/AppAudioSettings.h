@@ -2,7 +2,7 @@
 // What is remembered for one application.
 #pragma once
 
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 
 #include <array>
 #include <optional>

@@ -2,7 +2,7 @@
 // One app's equalizer as a view shows and edits it.
 #pragma once
 
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 #include "ui/MenuEntry.h"
 
 #include <QList>

@@ -2,7 +2,7 @@
 // Gains as the panel takes and writes them, in decibels.
 #pragma once
 
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 
 #include <QString>
 

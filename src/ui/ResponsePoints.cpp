@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/ResponsePoints.h"
 
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 
 #include <algorithm>
 #include <cmath>

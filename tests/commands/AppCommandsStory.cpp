@@ -103,7 +103,7 @@ TEST_F(AppCommandsStory, recordSaysWhyItCannot)
     answer("record player start");
     EXPECT_EQ(answer("record player start"), "error com.example.player is being recorded already");
     answer("record player stop");
-    world.audioFiles().refuseToCreate(28);
+    world.audioFiles().refuseToCreate(TapError{"Create recording file", 28});
     EXPECT_EQ(answer("record player start"),
         "error Could not start recording: Create recording file failed (OSStatus 28)");
     world.quitApp(launchPlaying("Chat"));

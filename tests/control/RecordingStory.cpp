@@ -50,7 +50,7 @@ TEST_F(RecordingStory, writesWhatTheAppPlays)
     world.advance(ClosingRecordings::delay);
 
     EXPECT_FALSE(isRecorded(player));
-    EXPECT_EQ(lastFile().format.sampleRate, 48000);
+    EXPECT_EQ(lastFile().sampleRate, 48000);
     EXPECT_NEAR(static_cast<double>(lastFile().frameCount()), 96000, 2048);
     EXPECT_THAT(lastFile().samples, Each(source));
 }
@@ -327,7 +327,7 @@ TEST_F(RecordingStory, endsWhenItsTapCannotBeMadeAgain)
 TEST_F(RecordingStory, aFileThatCannotBeCreatedIsReported)
 {
     launchPlaying("Player");
-    world.audioFiles().refuseToCreate(28);
+    world.audioFiles().refuseToCreate(TapError{"Create recording file", 28});
 
     record(player);
 
@@ -339,7 +339,7 @@ TEST_F(RecordingStory, aFileThatCannotBeCreatedIsReported)
 TEST_F(RecordingStory, aFormatThatIsRefusedIsReported)
 {
     launchPlaying("Player");
-    world.audioFiles().refuseClientFormat(-50);
+    world.audioFiles().refuseToCreate(TapError{"Set recording format", -50});
 
     record(player);
 
@@ -365,7 +365,7 @@ TEST_F(RecordingStory, endsWhenTheDiskIsFullAndTheSoundGoesOn)
     record(player);
     world.advance(1s);
 
-    world.audioFiles().failWriting(28);
+    world.audioFiles().failWriting({28});
     world.advance(Recording::interval + ClosingRecordings::delay);
 
     EXPECT_FALSE(isRecorded(player));

@@ -2,7 +2,7 @@
 // What happens when the settings change.
 #include "tests/control/ControllerStory.h"
 
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 #include "tests/support/OrdinaryUser.h"
 
 namespace fadeloom {

@@ -102,7 +102,7 @@ TEST_F(ShutdownStory, saysNothingWhenAFileIsBroken)
 {
     launchPlaying("Player");
     controller->startRecording(player);
-    world.audioFiles().failWriting(28);
+    world.audioFiles().failWriting({28});
 
     controller->shutdown();
 

@@ -3,7 +3,7 @@
 // measure that it is held to, bit for bit.
 #pragma once
 
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 #include "engine/TapParameters.h"
 #include "tests/engine/CycleBuffers.h"
 

@@ -3,7 +3,7 @@
 // renderer gives the reference's bits, in each form of the render path.
 #include "engine/Renderer.h"
 
-#include "engine/RenderChoice.h"
+#include "engine/kernels/RenderChoice.h"
 #include "tests/engine/CycleBuffers.h"
 #include "tests/engine/ReferenceRenderer.h"
 

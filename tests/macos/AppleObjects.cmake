@@ -52,7 +52,7 @@ foreach(module IN ITEMS Core Gui Network OpenGL Qml QmlIntegration QmlModels Qui
 endforeach()
 
 # The folders of the program as on a Mac, and what is to be tested there.
-set(folders base platform engine settings log control shell commands ui platform/simulated platform/qt platform/macos
+set(folders base platform engine engine/kernels settings log control shell commands ui platform/simulated platform/qt platform/macos
     app app/macos)
 set(batches)
 function(addBatch name)  # The sources, below the project.

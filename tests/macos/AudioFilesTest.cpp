@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 // The audio files of macOS keep the contract of audio files, and a recording makes its calls in order.
 #include "engine/Recording.h"
-#include "platform/WaveFormats.h"
 #include "platform/macos/ExtendedAudioFiles.h"
+#include "platform/macos/WaveFormats.h"
 #include "tests/macos/doubles/AudioFileDouble.h"
 #include "tests/macos/doubles/Journal.h"
 #include "tests/platform/AudioFilesContract.h"
 #include "tests/platform/sndfile/WaveReading.h"
 #include "tests/support/TemporaryFolder.h"
+
+#include <AudioToolbox/AudioToolbox.h>
 
 #include <array>
 
@@ -116,7 +118,7 @@ TEST_F(MacOSRecording, triesAgainWithoutRoomAndKeepsTheFirstFailure)
     for (int i = 1; i <= 4; ++i)
         (*recording)->writeUntil(HostTime(std::chrono::seconds(i)));
 
-    EXPECT_EQ((*recording)->status(), -34);
+    EXPECT_EQ((*recording)->failure(), AudioFileError{-34});
     (*recording)->finish();
 }
 
@@ -124,17 +126,68 @@ TEST_F(MacOSRecording, thatNobodyFinishedIsClosedWithItsFiles)
 {
     {
         ExtendedAudioFiles others;
-        ASSERT_TRUE(others.create(file, waveFileFormat(48000)));
+        ASSERT_TRUE(others.create(file, 48000));
         EXPECT_EQ(openAudioFiles(), 1U);
     }
 
     EXPECT_EQ(openAudioFiles(), 0U);
 }
 
-TEST_F(MacOSRecording, hasAStatusInWordsWithItsCharacters)
+TEST_F(MacOSRecording, thatCannotBePrimedHasFailed)
 {
-    EXPECT_EQ(files.describe(-50), "OSStatus -50");
-    EXPECT_EQ(files.describe(statusCode("fmt?")), "OSStatus 1718449215 ('fmt?')");
+    failNextFileCall("ExtAudioFileWriteAsync", {-36});
+
+    const auto recording = record();
+
+    ASSERT_TRUE(recording);
+    EXPECT_EQ((*recording)->failure(), AudioFileError{-36});
+    (*recording)->finish();
+}
+
+TEST_F(MacOSRecording, whoseFileCannotBeCompletedHasFailed)
+{
+    failNextFileCall("ExtAudioFileDispose", {-34});
+    const auto recording = record();
+    ASSERT_TRUE(recording);
+    EXPECT_EQ((*recording)->failure(), std::nullopt);
+
+    (*recording)->finish();
+
+    EXPECT_EQ((*recording)->failure(), AudioFileError{-34});
+}
+
+TEST_F(MacOSRecording, hasErrorsInWordsWithTheirCharacters)
+{
+    EXPECT_EQ(files.describe({-50}), "OSStatus -50");
+    EXPECT_EQ(files.describe({kAudioFileUnsupportedDataFormatError}), "OSStatus 1718449215 ('fmt?')");
+}
+
+TEST(MacOSWaveFormats, onTheDiskAre24BitIntegersInStereo)
+{
+    constexpr auto format = waveFileFormat(44100);
+
+    EXPECT_EQ(format.mSampleRate, 44100);
+    EXPECT_EQ(format.mFormatID, UInt32{kAudioFormatLinearPCM});
+    EXPECT_EQ(format.mFormatFlags, 12U);  // Signed integers, packed.
+    EXPECT_EQ(format.mChannelsPerFrame, 2U);
+    EXPECT_EQ(format.mBitsPerChannel, 24U);
+    EXPECT_EQ(format.mBytesPerFrame, 6U);
+    EXPECT_EQ(format.mBytesPerPacket, 6U);
+    EXPECT_EQ(format.mFramesPerPacket, 1U);
+}
+
+TEST(MacOSWaveFormats, areHandedOverAsFloatsInStereo)
+{
+    constexpr auto format = waveClientFormat(96000);
+
+    EXPECT_EQ(format.mSampleRate, 96000);
+    EXPECT_EQ(format.mFormatID, UInt32{kAudioFormatLinearPCM});
+    EXPECT_EQ(format.mFormatFlags, 9U);  // Floats, packed.
+    EXPECT_EQ(format.mChannelsPerFrame, 2U);
+    EXPECT_EQ(format.mBitsPerChannel, 32U);
+    EXPECT_EQ(format.mBytesPerFrame, 8U);
+    EXPECT_EQ(format.mBytesPerPacket, 8U);
+    EXPECT_EQ(format.mFramesPerPacket, 1U);
 }
 
 }  // namespace fadeloom

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Codes, keys and layouts of the platform against literal values: ours and those that our declarations say.
+// Codes, keys and layouts of the platform, as our declarations have them, against literal values.
 //
 // Two columns are the same number in two notations, so that a slip of the pen in either is seen.
 #include "platform/AudioBuffers.h"
-#include "platform/AudioFiles.h"
 #include "platform/macos/TccPermission.h"
 #include "tests/macos/doubles/AudioWorld.h"
 
@@ -23,54 +22,51 @@ namespace {
 
 struct Code {
     std::string name;
-    std::uint32_t ours;
     std::uint32_t declared;
     std::string characters;
     std::uint32_t number;
 };
 
-#define BOTH(name) #name, static_cast<std::uint32_t>(fadeloom::name), static_cast<std::uint32_t>(::name)
-#define THEIRS(name) #name, static_cast<std::uint32_t>(::name), static_cast<std::uint32_t>(::name)
+#define CODE(name) #name, static_cast<std::uint32_t>(name)
 
 const std::vector<Code> codes = {
-    {THEIRS(kAudioObjectPropertyScopeGlobal), "glob", 0x676c6f62},
-    {THEIRS(kAudioObjectPropertyScopeInput), "inpt", 0x696e7074},
-    {THEIRS(kAudioObjectPropertyScopeOutput), "outp", 0x6f757470},
-    {THEIRS(kAudioObjectPropertyName), "lnam", 0x6c6e616d},
-    {THEIRS(kAudioHardwarePropertyDevices), "dev#", 0x64657623},
-    {THEIRS(kAudioHardwarePropertyDefaultOutputDevice), "dOut", 0x644f7574},
-    {THEIRS(kAudioHardwarePropertyProcessObjectList), "prs#", 0x70727323},
-    {THEIRS(kAudioHardwarePropertyServiceRestarted), "srst", 0x73727374},
-    {THEIRS(kAudioDevicePropertyDeviceIsAlive), "livn", 0x6c69766e},
-    {THEIRS(kAudioDevicePropertyDeviceUID), "uid ", 0x75696420},
-    {THEIRS(kAudioDevicePropertyNominalSampleRate), "nsrt", 0x6e737274},
-    {THEIRS(kAudioDevicePropertyStreams), "stm#", 0x73746d23},
-    {THEIRS(kAudioDevicePropertyPreferredChannelsForStereo), "dch2", 0x64636832},
-    {THEIRS(kAudioDevicePropertyIOProcStreamUsage), "suse", 0x73757365},
-    {THEIRS(kAudioProcessPropertyPID), "ppid", 0x70706964},
-    {THEIRS(kAudioProcessPropertyBundleID), "pbid", 0x70626964},
-    {THEIRS(kAudioProcessPropertyIsRunningInput), "piri", 0x70697269},
-    {THEIRS(kAudioProcessPropertyIsRunningOutput), "piro", 0x7069726f},
-    {THEIRS(kAudioTapPropertyFormat), "tfmt", 0x74666d74},
-    {THEIRS(kAudioTapPropertyDescription), "tdsc", 0x74647363},
-    {BOTH(kAudioHardwareNotRunningError), "stop", 0x73746f70},
-    {BOTH(kAudioHardwareUnspecifiedError), "what", 0x77686174},
-    {BOTH(kAudioHardwareUnknownPropertyError), "who?", 0x77686f3f},
-    {BOTH(kAudioHardwareBadPropertySizeError), "!siz", 0x2173697a},
-    {BOTH(kAudioHardwareIllegalOperationError), "nope", 0x6e6f7065},
-    {BOTH(kAudioHardwareBadObjectError), "!obj", 0x216f626a},
-    {BOTH(kAudioHardwareBadDeviceError), "!dev", 0x21646576},
-    {BOTH(kAudioHardwareUnsupportedOperationError), "unop", 0x756e6f70},
-    {BOTH(kAudioFormatLinearPCM), "lpcm", 0x6c70636d},
-    {BOTH(kAudioFileUnsupportedDataFormatError), "fmt?", 0x666d743f},
-    {THEIRS(kAudioFileWAVEType), "WAVE", 0x57415645},
-    {THEIRS(kExtAudioFileProperty_ClientDataFormat), "cfmt", 0x63666d74},
+    {CODE(kAudioObjectPropertyScopeGlobal), "glob", 0x676c6f62},
+    {CODE(kAudioObjectPropertyScopeInput), "inpt", 0x696e7074},
+    {CODE(kAudioObjectPropertyScopeOutput), "outp", 0x6f757470},
+    {CODE(kAudioObjectPropertyName), "lnam", 0x6c6e616d},
+    {CODE(kAudioHardwarePropertyDevices), "dev#", 0x64657623},
+    {CODE(kAudioHardwarePropertyDefaultOutputDevice), "dOut", 0x644f7574},
+    {CODE(kAudioHardwarePropertyProcessObjectList), "prs#", 0x70727323},
+    {CODE(kAudioHardwarePropertyServiceRestarted), "srst", 0x73727374},
+    {CODE(kAudioDevicePropertyDeviceIsAlive), "livn", 0x6c69766e},
+    {CODE(kAudioDevicePropertyDeviceUID), "uid ", 0x75696420},
+    {CODE(kAudioDevicePropertyNominalSampleRate), "nsrt", 0x6e737274},
+    {CODE(kAudioDevicePropertyStreams), "stm#", 0x73746d23},
+    {CODE(kAudioDevicePropertyPreferredChannelsForStereo), "dch2", 0x64636832},
+    {CODE(kAudioDevicePropertyIOProcStreamUsage), "suse", 0x73757365},
+    {CODE(kAudioProcessPropertyPID), "ppid", 0x70706964},
+    {CODE(kAudioProcessPropertyBundleID), "pbid", 0x70626964},
+    {CODE(kAudioProcessPropertyIsRunningInput), "piri", 0x70697269},
+    {CODE(kAudioProcessPropertyIsRunningOutput), "piro", 0x7069726f},
+    {CODE(kAudioTapPropertyFormat), "tfmt", 0x74666d74},
+    {CODE(kAudioTapPropertyDescription), "tdsc", 0x74647363},
+    {CODE(kAudioHardwareNotRunningError), "stop", 0x73746f70},
+    {CODE(kAudioHardwareUnspecifiedError), "what", 0x77686174},
+    {CODE(kAudioHardwareUnknownPropertyError), "who?", 0x77686f3f},
+    {CODE(kAudioHardwareBadPropertySizeError), "!siz", 0x2173697a},
+    {CODE(kAudioHardwareIllegalOperationError), "nope", 0x6e6f7065},
+    {CODE(kAudioHardwareBadObjectError), "!obj", 0x216f626a},
+    {CODE(kAudioHardwareBadDeviceError), "!dev", 0x21646576},
+    {CODE(kAudioHardwareUnsupportedOperationError), "unop", 0x756e6f70},
+    {CODE(kAudioFormatLinearPCM), "lpcm", 0x6c70636d},
+    {CODE(kAudioFileUnsupportedDataFormatError), "fmt?", 0x666d743f},
+    {CODE(kAudioFileWAVEType), "WAVE", 0x57415645},
+    {CODE(kExtAudioFileProperty_ClientDataFormat), "cfmt", 0x63666d74},
 };
 
 TEST(MacOSLiterals, codesAreTheirFourCharacters)
 {
     for (const Code& code : codes) {
-        EXPECT_EQ(code.ours, code.number) << code.name;
         EXPECT_EQ(code.declared, code.number) << code.name;
         EXPECT_EQ(doubles::characters(code.number), code.characters) << code.name;
     }
@@ -78,50 +74,47 @@ TEST(MacOSLiterals, codesAreTheirFourCharacters)
 
 struct Number {
     std::string name;
-    std::int64_t ours;
     std::int64_t declared;
     std::int64_t number;
 };
 
-#define BOTH_NUMBERS(name) #name, static_cast<std::int64_t>(fadeloom::name), static_cast<std::int64_t>(::name)
-#define THEIR_NUMBER(name) #name, static_cast<std::int64_t>(::name), static_cast<std::int64_t>(::name)
+#define NUMBER(name) #name, static_cast<std::int64_t>(name)
 
 const std::vector<Number> numbers = {
-    {THEIR_NUMBER(kAudioObjectUnknown), 0},
-    {THEIR_NUMBER(kAudioObjectSystemObject), 1},
-    {THEIR_NUMBER(kAudioObjectPropertyElementMain), 0},
-    {BOTH_NUMBERS(kAudioHardwareNoError), 0},
-    {BOTH_NUMBERS(kAudioFormatFlagIsFloat), 1},
-    {BOTH_NUMBERS(kAudioFormatFlagIsSignedInteger), 4},
-    {BOTH_NUMBERS(kAudioFormatFlagIsPacked), 8},
-    {BOTH_NUMBERS(kAudioFormatFlagIsNonInterleaved), 32},
-    {BOTH_NUMBERS(kExtAudioFileError_InvalidOperationOrder), -66565},
-    {BOTH_NUMBERS(kExtAudioFileError_InvalidDataFormat), -66566},
-    {BOTH_NUMBERS(kExtAudioFileError_AsyncWriteBufferOverflow), -66570},
-    {THEIR_NUMBER(CATapMutedWhenTapped), 2},
-    {THEIR_NUMBER(kAudioFileFlags_EraseFile), 1},
-    {THEIR_NUMBER(SMAppServiceStatusNotRegistered), 0},
-    {THEIR_NUMBER(SMAppServiceStatusEnabled), 1},
-    {THEIR_NUMBER(SMAppServiceStatusRequiresApproval), 2},
-    {THEIR_NUMBER(SMAppServiceStatusNotFound), 3},
-    {THEIR_NUMBER(NSApplicationActivationPolicyRegular), 0},
-    {THEIR_NUMBER(NSApplicationActivationPolicyAccessory), 1},
-    {THEIR_NUMBER(NSApplicationActivationPolicyProhibited), 2},
-    {THEIR_NUMBER(NSEventTypeRightMouseUp), 4},
-    {THEIR_NUMBER(NSEventModifierFlagControl), 0x40000},
-    {THEIR_NUMBER(NSAlertFirstButtonReturn), 1000},
-    {THEIR_NUMBER(NSModalResponseOK), 1},
-    {THEIR_NUMBER(NSRectEdgeMinY), 1},
-    {THEIR_NUMBER(NSPopoverBehaviorTransient), 1},
-    {THEIR_NUMBER(NSApplicationSupportDirectory), 14},
-    {THEIR_NUMBER(NSMusicDirectory), 18},
-    {THEIR_NUMBER(NSCachesDirectory), 13},
+    {NUMBER(kAudioObjectUnknown), 0},
+    {NUMBER(kAudioObjectSystemObject), 1},
+    {NUMBER(kAudioObjectPropertyElementMain), 0},
+    {NUMBER(kAudioHardwareNoError), 0},
+    {NUMBER(kAudioFormatFlagIsFloat), 1},
+    {NUMBER(kAudioFormatFlagIsSignedInteger), 4},
+    {NUMBER(kAudioFormatFlagIsPacked), 8},
+    {NUMBER(kAudioFormatFlagIsNonInterleaved), 32},
+    {NUMBER(kExtAudioFileError_InvalidOperationOrder), -66565},
+    {NUMBER(kExtAudioFileError_InvalidDataFormat), -66566},
+    {NUMBER(kExtAudioFileError_AsyncWriteBufferOverflow), -66570},
+    {NUMBER(CATapMutedWhenTapped), 2},
+    {NUMBER(kAudioFileFlags_EraseFile), 1},
+    {NUMBER(SMAppServiceStatusNotRegistered), 0},
+    {NUMBER(SMAppServiceStatusEnabled), 1},
+    {NUMBER(SMAppServiceStatusRequiresApproval), 2},
+    {NUMBER(SMAppServiceStatusNotFound), 3},
+    {NUMBER(NSApplicationActivationPolicyRegular), 0},
+    {NUMBER(NSApplicationActivationPolicyAccessory), 1},
+    {NUMBER(NSApplicationActivationPolicyProhibited), 2},
+    {NUMBER(NSEventTypeRightMouseUp), 4},
+    {NUMBER(NSEventModifierFlagControl), 0x40000},
+    {NUMBER(NSAlertFirstButtonReturn), 1000},
+    {NUMBER(NSModalResponseOK), 1},
+    {NUMBER(NSRectEdgeMinY), 1},
+    {NUMBER(NSPopoverBehaviorTransient), 1},
+    {NUMBER(NSApplicationSupportDirectory), 14},
+    {NUMBER(NSMusicDirectory), 18},
+    {NUMBER(NSCachesDirectory), 13},
 };
 
 TEST(MacOSLiterals, numbersAreWhatTheyAre)
 {
     for (const Number& each : numbers) {
-        EXPECT_EQ(each.ours, each.number) << each.name;
         EXPECT_EQ(each.declared, each.number) << each.name;
     }
 }
@@ -158,10 +151,9 @@ TEST(MacOSLiterals, layoutsOfRecords)
     EXPECT_EQ(offsetof(fadeloom::AudioBuffer, data), 8U);
 
     EXPECT_EQ(sizeof(::AudioStreamBasicDescription), 40U);
-    EXPECT_EQ(sizeof(fadeloom::AudioStreamBasicDescription), 40U);
-    EXPECT_EQ(offsetof(fadeloom::AudioStreamBasicDescription, formatID), 8U);
-    EXPECT_EQ(offsetof(fadeloom::AudioStreamBasicDescription, channelsPerFrame), 28U);
-    EXPECT_EQ(offsetof(fadeloom::AudioStreamBasicDescription, bitsPerChannel), 32U);
+    EXPECT_EQ(offsetof(::AudioStreamBasicDescription, mFormatID), 8U);
+    EXPECT_EQ(offsetof(::AudioStreamBasicDescription, mChannelsPerFrame), 28U);
+    EXPECT_EQ(offsetof(::AudioStreamBasicDescription, mBitsPerChannel), 32U);
 
     EXPECT_EQ(sizeof(::AudioHardwareIOProcStreamUsage), 16U);
     EXPECT_EQ(offsetof(::AudioHardwareIOProcStreamUsage, mNumberStreams), 8U);

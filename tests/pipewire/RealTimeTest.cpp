@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The callback in a real graph, on PipeWire's own data thread: it never allocates, waits, or calls the system.
 #include "engine/AppTap.h"
-#include "engine/Equalizer.h"
+#include "engine/EqualizerDesign.h"
 #include "engine/Recording.h"
 #include "platform/pipewire/PipeWireAudioSystem.h"
 #include "platform/qt/QtMainLoop.h"
@@ -88,7 +88,7 @@ TEST_F(RealTimeCallback, staysFreeOfForbiddenCallsWhileItsSettingsChangeAndItIsR
     tap.value().reset();
     (*recording)->stop(audio.hostTime());
     (*recording)->finish();
-    EXPECT_EQ((*recording)->status(), kAudioHardwareNoError);
+    EXPECT_EQ((*recording)->failure(), std::nullopt);
     EXPECT_EQ((*recording)->lostTime(), 0ms);
     EXPECT_GT(std::filesystem::file_size(location), 6 * 48000);
 }

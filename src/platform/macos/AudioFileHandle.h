@@ -5,6 +5,8 @@
 #include "platform/AudioFiles.h"
 
 #include <cstdint>
+#include <expected>
+#include <memory>
 
 struct OpaqueExtAudioFile;
 
@@ -13,24 +15,30 @@ namespace fadeloom {
 /// The platform converts the samples and writes them later, on a thread of its own.
 class AudioFileHandle final : public AudioFile {
 public:
-    /// Takes over an open file.
-    AudioFileHandle(OpaqueExtAudioFile* owned, double sampleRate);
+    /// Creates a file in place of any file of that name, sets its two formats and primes its asynchronous writer, so
+    /// that the first real write allocates nothing. Errors: the platform's, with the step that failed.
+    [[nodiscard]] static std::expected<std::unique_ptr<AudioFileHandle>, TapError> create(
+        const std::filesystem::path& location, double sampleRate);
     /// Closes it, unless `close` did.
     ~AudioFileHandle();
     AudioFileHandle(const AudioFileHandle&) = delete;
     AudioFileHandle& operator=(const AudioFileHandle&) = delete;
 
-    AudioStatus setClientFormat(const AudioStreamBasicDescription& format) override;
-    AudioStatus write(std::uint32_t frameCount, const float* samples) noexcept override;
-    AudioStatus status() const override { return status_; }
+    bool write(std::span<const float> samples) noexcept override;
+    std::optional<AudioFileError> failure() const override;
 
-    /// Writes what was handed over and completes the file. Thread: main.
-    AudioStatus close();
+    /// Writes what was handed over and completes the file. Returns the first failure since it was created. Thread: main.
+    std::optional<AudioFileError> close();
 
 private:
+    explicit AudioFileHandle(OpaqueExtAudioFile* owned)
+        : file_(owned)
+    {
+    }
+    void note(std::int32_t status);
+
     OpaqueExtAudioFile* file_;
-    const double sampleRate_;
-    AudioStatus status_ = kAudioHardwareNoError;
+    std::int32_t firstFailure_ = 0;
 };
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Audio files through AudioToolbox.
+// Recordings through AudioToolbox.
 #pragma once
 
 #include "platform/AudioFiles.h"
@@ -19,10 +19,10 @@ public:
     ExtendedAudioFiles& operator=(const ExtendedAudioFiles&) = delete;
 
     bool isTaken(const std::filesystem::path& location) const override;
-    AudioResult<AudioFile*> create(
-        const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat) override;
-    AudioStatus dispose(AudioFile& file) override;
-    std::string describe(AudioStatus status) const override;
+    std::expected<AudioFile*, TapError> create(
+        const std::filesystem::path& location, double sampleRate) override;
+    std::optional<AudioFileError> dispose(AudioFile& file) override;
+    std::string describe(AudioFileError error) const override;
 
 private:
     std::vector<std::unique_ptr<AudioFileHandle>> files_;

@@ -7,7 +7,7 @@
 namespace fadeloom {
 namespace {
 
-std::string charactersOf(AudioStatus status)
+std::string charactersOf(std::int32_t status)
 {
     std::string characters;
     for (int shift = 24; shift >= 0; shift -= 8)
@@ -17,7 +17,7 @@ std::string charactersOf(AudioStatus status)
 
 }  // namespace
 
-std::string statusText(AudioStatus status)
+std::string statusText(std::int32_t status)
 {
     const std::string number = "OSStatus " + std::to_string(status);
     const std::string characters = charactersOf(status);

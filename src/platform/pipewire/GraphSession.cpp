@@ -35,7 +35,7 @@ bool runs(std::int32_t pid, const std::string& binary)
 
 GraphSession::GraphSession(Callbacks callbacks)
     : callbacks_(std::move(callbacks))
-    , connection_(static_cast<GraphListener&>(*this))
+    , connection_(events())
     , router_(connection_,
           [this](std::string text) { callbacks_.report(SystemLog::Level::error, std::move(text)); })
     , builder_({.runs = &runs, .watch = [this](std::int32_t pid) { return watch(pid); }})
@@ -59,6 +59,24 @@ GraphSession::~GraphSession()
     while (!isIdle() && std::chrono::steady_clock::now() < deadline)
         std::this_thread::sleep_for(2ms);
     connection_.stop();
+}
+
+GraphEvents GraphSession::events()
+{
+    return {
+        .graphChanged = [this] { graphChanged(); },
+        .streamAppeared = [this](const GraphNode& stream) { streamAppeared(stream); },
+        .streamChanged = [this](const GraphNode& stream) { router_.streamChanged(stream); },
+        .clientChanged = [this](const GraphClient& client) { clientChanged(client); },
+        .sessionManagerAppeared = [this] { router_.sessionManagerAppeared(); },
+        .sessionManagerVanished = [this] { router_.sessionManagerVanished(); },
+        .metadataChanged = [this](GraphID subject, const std::string& key,
+                               const std::string& value) { router_.metadataChanged(subject, key, value); },
+        .ownClientChanged = [this](std::uint64_t client) { callbacks_.ownClient(client); },
+        .connected = [this] { connected(); },
+        .stalled = [this] { stalled(); },
+        .disconnected = [this] { disconnected(); },
+    };
 }
 
 std::shared_ptr<const AudioWorld> GraphSession::world() const
@@ -227,21 +245,6 @@ bool GraphSession::updateRates(const AudioWorld& world)
     }
     rates_ = std::move(rates);
     return isAnyNew;
-}
-
-void GraphSession::sessionManagerAppeared()
-{
-    router_.sessionManagerAppeared();
-}
-
-void GraphSession::sessionManagerVanished()
-{
-    router_.sessionManagerVanished();
-}
-
-void GraphSession::metadataChanged(GraphID subject, const std::string& key, const std::string& value)
-{
-    router_.metadataChanged(subject, key, value);
 }
 
 void GraphSession::stalled()

@@ -19,14 +19,14 @@
 namespace fadeloom {
 
 /// Thread: main, but for the private side.
-class GraphSession final : private GraphListener {
+class GraphSession {
 public:
     struct Callbacks {  // Called on the graph thread.
         std::function<void(const AudioChanges&)> changed;
         std::function<void(SystemLog::Level, std::string)> report;
         /// The application of a process that has just come, or of a sandboxed client.
         std::function<std::string(std::int32_t pid, const std::string& portalAppID)> application;
-        std::function<void(std::uint64_t)> ownClient;  // As `GraphListener::ownClientChanged`.
+        std::function<void(std::uint64_t)> ownClient;  // As `GraphEvents::ownClientChanged`.
     };
 
     explicit GraphSession(Callbacks callbacks);
@@ -55,17 +55,13 @@ public:
     void releaseStopped();
 
 private:
-    void graphChanged() override;
-    void streamAppeared(const GraphNode& stream) override;
-    void clientChanged(const GraphClient& client) override;
-    void streamChanged(const GraphNode& stream) override { router_.streamChanged(stream); }
-    void sessionManagerAppeared() override;
-    void sessionManagerVanished() override;
-    void metadataChanged(GraphID subject, const std::string& key, const std::string& value) override;
-    void connected() override;
-    void stalled() override;
-    void ownClientChanged(std::uint64_t client) override { callbacks_.ownClient(client); }
-    void disconnected() override;
+    [[nodiscard]] GraphEvents events();
+    void graphChanged();
+    void streamAppeared(const GraphNode& stream);
+    void clientChanged(const GraphClient& client);
+    void connected();
+    void stalled();
+    void disconnected();
 
     [[nodiscard]] bool isToBeHeld(const GraphClient& client);
     void publish(AudioWorld next);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/simulated/SimulatedAudioFiles.h"
 
-#include "platform/WaveFormats.h"
-
 #include <algorithm>
+#include <cassert>
 #include <cctype>
+#include <cerrno>
 #include <utility>
 
 namespace fadeloom {
@@ -18,27 +18,19 @@ public:
     {
     }
 
-    AudioStatus setClientFormat(const AudioStreamBasicDescription& format) override
-    {
-        files_.journal_.push_back("format " + name_);
-        if (!isSameFormat(format, waveClientFormat(content_->format.sampleRate)))
-            return kExtAudioFileError_InvalidDataFormat;
-        return files_.clientFormatStatus_;
-    }
     // In memory there is no disk to wait for: what is handed over is there at once.
-    AudioStatus write(std::uint32_t frameCount, const float* samples) noexcept override
+    bool write(std::span<const float> samples) noexcept override
     {
-        if (samples == nullptr)
-            files_.journal_.push_back("prime " + name_);
-        else if (status_ == kAudioHardwareNoError && files_.isStalled_)
-            return kExtAudioFileError_AsyncWriteBufferOverflow;
-        else if (status_ == kAudioHardwareNoError)
-            content_->samples.insert(content_->samples.end(), samples, samples + 2 * std::size_t{frameCount});
-        return status_;
+        if (failure_)
+            return true;
+        if (files_.isStalled_)
+            return false;
+        content_->samples.insert(content_->samples.end(), samples.begin(), samples.end());
+        return true;
     }
-    AudioStatus status() const override { return status_; }
+    std::optional<AudioFileError> failure() const override { return failure_; }
 
-    void fail(AudioStatus status) { status_ = status; }
+    void fail(AudioFileError error) { failure_ = error; }
     void complete()
     {
         files_.journal_.push_back("dispose " + name_);
@@ -49,7 +41,7 @@ private:
     SimulatedAudioFiles& files_;
     const std::string name_;
     const std::shared_ptr<SimulatedAudioContent> content_;
-    AudioStatus status_ = kAudioHardwareNoError;
+    std::optional<AudioFileError> failure_;
 };
 
 SimulatedAudioFiles::SimulatedAudioFiles() = default;
@@ -67,41 +59,41 @@ bool SimulatedAudioFiles::isTaken(const std::filesystem::path& location) const
         disk_, [&](const auto& file) { return folded(file.first) == folded(location); });
 }
 
-AudioResult<AudioFile*> SimulatedAudioFiles::create(
-    const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat)
+std::expected<AudioFile*, TapError> SimulatedAudioFiles::create(
+    const std::filesystem::path& location, double sampleRate)
 {
     const auto name = location.filename().string();
     journal_.push_back("create " + name);
-    if (!(fileFormat.sampleRate > 0) || !isSameFormat(fileFormat, waveFileFormat(fileFormat.sampleRate)))
-        return std::unexpected(kAudioFileUnsupportedDataFormatError);
-    if (createStatus_ != kAudioHardwareNoError)
-        return std::unexpected(createStatus_);
+    if (refusal_)
+        return std::unexpected(*refusal_);
+    if (!(sampleRate > 0))
+        return std::unexpected(TapError{"Create recording file", EINVAL});
     auto& content = disk_[location];
     content = std::make_shared<SimulatedAudioContent>();  // Whoever still writes to an older one keeps it.
-    content->format = fileFormat;
+    content->sampleRate = sampleRate;
     return &open_.emplace_back(*this, name, content);
 }
 
-AudioStatus SimulatedAudioFiles::dispose(AudioFile& file)
+std::optional<AudioFileError> SimulatedAudioFiles::dispose(AudioFile& file)
 {
     const auto open = std::ranges::find(open_, &file, [](OpenFile& each) -> AudioFile* { return &each; });
-    if (open == open_.end())
-        return kAudioHardwareBadObjectError;
+    assert(open != open_.end());
     whenDisposed_();
     open->complete();
+    const auto failure = open->failure();
     open_.erase(open);
-    return kAudioHardwareNoError;
+    return failure;
 }
 
-std::string SimulatedAudioFiles::describe(AudioStatus status) const
+std::string SimulatedAudioFiles::describe(AudioFileError error) const
 {
-    return "error " + std::to_string(status);
+    return "error " + std::to_string(error.code);
 }
 
-void SimulatedAudioFiles::failWriting(AudioStatus status)
+void SimulatedAudioFiles::failWriting(AudioFileError error)
 {
     for (auto& file : open_)
-        file.fail(status);
+        file.fail(error);
 }
 
 const SimulatedAudioContent* SimulatedAudioFiles::at(const std::filesystem::path& location) const

@@ -18,7 +18,7 @@ namespace fadeloom {
 
 /// A file as it lies on the simulated disk.
 struct SimulatedAudioContent {
-    AudioStreamBasicDescription format{};
+    double sampleRate = 0;  // hertz
     std::vector<float> samples;  // Interleaved, as they were handed over.
     bool isComplete = false;  // Closed in good order.
 
@@ -33,17 +33,16 @@ public:
     ~SimulatedAudioFiles() override;
 
     bool isTaken(const std::filesystem::path& location) const override;
-    AudioResult<AudioFile*> create(
-        const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat) override;
-    AudioStatus dispose(AudioFile& file) override;
+    std::expected<AudioFile*, TapError> create(
+        const std::filesystem::path& location, double sampleRate) override;
+    std::optional<AudioFileError> dispose(AudioFile& file) override;
     /// "error 28" for 28.
-    std::string describe(AudioStatus status) const override;
+    std::string describe(AudioFileError error) const override;
 
-    // Faults, until they are taken back with `kAudioHardwareNoError`.
-    void refuseToCreate(AudioStatus status) { createStatus_ = status; }
-    void refuseClientFormat(AudioStatus status) { clientFormatStatus_ = status; }
-    /// Every open file fails: it takes nothing any more.
-    void failWriting(AudioStatus status);
+    /// Every file is refused for this reason; none when it is absent.
+    void refuseToCreate(std::optional<TapError> refusal) { refusal_ = std::move(refusal); }
+    /// Every open file fails: it keeps nothing any more.
+    void failWriting(AudioFileError error);
     /// Every open file's writer is held up: from now on there is no room for samples.
     void setStalled(bool isStalled) { isStalled_ = isStalled; }
 
@@ -53,7 +52,7 @@ public:
     /// Has `look` called each time a file is about to be closed.
     void whenDisposed(std::function<void()> look) { whenDisposed_ = std::move(look); }
 
-    /// What was asked, in order: "create NAME", "format NAME", "prime NAME", "dispose NAME", with the file's name.
+    /// What was asked, in order: "create NAME", "dispose NAME", with the file's name.
     [[nodiscard]] const std::vector<std::string>& journal() const { return journal_; }
     [[nodiscard]] std::size_t openCount() const { return open_.size(); }
     /// The file of this name on the simulated disk, or null.
@@ -68,8 +67,7 @@ private:
     std::map<std::filesystem::path, std::shared_ptr<SimulatedAudioContent>> disk_;
     std::vector<std::string> journal_;
     std::function<void()> whenDisposed_ = [] { };
-    AudioStatus createStatus_ = kAudioHardwareNoError;
-    AudioStatus clientFormatStatus_ = kAudioHardwareNoError;
+    std::optional<TapError> refusal_;
     bool isStalled_ = false;
     bool foldsCase_ = false;
 };

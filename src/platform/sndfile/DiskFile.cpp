@@ -12,7 +12,7 @@ namespace fadeloom {
 
 static_assert(sizeof(off_t) == 8);  // Files have more than 2 GiB.
 
-AudioResult<std::unique_ptr<DiskFile>> DiskFile::create(const std::filesystem::path& location)
+std::expected<std::unique_ptr<DiskFile>, int> DiskFile::create(const std::filesystem::path& location)
 {
     if (::unlink(location.c_str()) != 0 && errno != ENOENT)
         return std::unexpected(errno);
@@ -57,9 +57,9 @@ void DiskFile::close()
         note(errno);
 }
 
-void DiskFile::note(AudioStatus failure)
+void DiskFile::note(int failure)
 {
-    if (failure_ == kAudioHardwareNoError)
+    if (failure_ == 0)
         failure_ = failure;
 }
 

@@ -2,30 +2,30 @@
 // A new file and what is written to it.
 #pragma once
 
-#include "platform/AudioObject.h"
-
 #include <cstddef>
 #include <cstdint>
+#include <expected>
 #include <filesystem>
 #include <memory>
 #include <span>
 
 namespace fadeloom {
 
-/// Statuses are error numbers of the system. Thread: any, one at a time.
+/// Errors are the system's numbers (errno). Thread: any, one at a time.
 class DiskFile {
 public:
     /// Makes an empty file, in place of any file of that name: who has the old one open keeps it, and a symbolic link
     /// is replaced, not followed. Like any document it gets the permissions that the user's mask leaves.
-    [[nodiscard]] static AudioResult<std::unique_ptr<DiskFile>> create(const std::filesystem::path& location);
+    [[nodiscard]] static std::expected<std::unique_ptr<DiskFile>, int> create(
+        const std::filesystem::path& location);
     ~DiskFile() { close(); }
     DiskFile(const DiskFile&) = delete;
     DiskFile& operator=(const DiskFile&) = delete;
 
     /// In bytes.
     [[nodiscard]] std::uint64_t size() const { return size_; }
-    /// The first failure of all that was done here.
-    [[nodiscard]] AudioStatus failure() const { return failure_; }
+    /// The first failure of all that was done here, or 0.
+    [[nodiscard]] int failure() const { return failure_; }
 
     /// Returns how many bytes got onto the disk: all of them, or fewer after a failure.
     std::size_t write(std::uint64_t offset, std::span<const std::byte> bytes);
@@ -38,11 +38,11 @@ private:
         : descriptor_(descriptor)
     {
     }
-    void note(AudioStatus failure);
+    void note(int failure);
 
     int descriptor_;
     std::uint64_t size_ = 0;
-    AudioStatus failure_ = kAudioHardwareNoError;
+    int failure_ = 0;
 };
 
 }  // namespace fadeloom

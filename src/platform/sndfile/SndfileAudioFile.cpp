@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sndfile/SndfileAudioFile.h"
 
-#include "platform/WaveFormats.h"
-#include "platform/sndfile/FileStatus.h"
 #include "platform/sndfile/Pcm24.h"
 
 #include <algorithm>
@@ -25,7 +23,7 @@ constexpr std::chrono::milliseconds pause{100};
 
 }  // namespace
 
-AudioResult<std::unique_ptr<SndfileAudioFile>> SndfileAudioFile::open(
+std::expected<std::unique_ptr<SndfileAudioFile>, int> SndfileAudioFile::open(
     std::unique_ptr<DiskFile> disk, int sampleRate)
 {
     auto file = WaveFile::create(std::move(disk), sampleRate);
@@ -42,8 +40,7 @@ AudioResult<std::unique_ptr<SndfileAudioFile>> SndfileAudioFile::open(
 }
 
 SndfileAudioFile::SndfileAudioFile(std::unique_ptr<WaveFile> file, int sampleRate)
-    : sampleRate_(sampleRate)
-    , ring_(ringSeconds * static_cast<std::size_t>(sampleRate) * WaveFile::channels)
+    : ring_(ringSeconds * static_cast<std::size_t>(sampleRate) * WaveFile::channels)
     , file_(std::move(file))
 {
 }
@@ -53,32 +50,23 @@ SndfileAudioFile::~SndfileAudioFile()
     close();
 }
 
-AudioStatus SndfileAudioFile::setClientFormat(const AudioStreamBasicDescription& format)
+bool SndfileAudioFile::write(std::span<const float> samples) noexcept
 {
-    if (!isSameFormat(format, waveClientFormat(sampleRate_)))
-        return kExtAudioFileError_InvalidDataFormat;
-    hasClientFormat_ = true;
-    return kAudioHardwareNoError;
+    return hasFailed() || ring_.push(samples);
 }
 
-AudioStatus SndfileAudioFile::write(std::uint32_t frameCount, const float* samples) noexcept
+std::optional<AudioFileError> SndfileAudioFile::failure() const
 {
-    if (!hasClientFormat_)
-        return kExtAudioFileError_InvalidOperationOrder;
-    const AudioStatus status = status_.load(std::memory_order_relaxed);
-    if (status != kAudioHardwareNoError || frameCount == 0)  // There is nothing left to prime.
-        return status;
-    return ring_.push({samples, std::size_t{frameCount} * WaveFile::channels})
-        ? kAudioHardwareNoError
-        : kExtAudioFileError_AsyncWriteBufferOverflow;
+    const int error = firstFailure_.load(std::memory_order_relaxed);
+    return error == 0 ? std::nullopt : std::optional(AudioFileError{error});
 }
 
-AudioStatus SndfileAudioFile::close()
+std::optional<AudioFileError> SndfileAudioFile::close()
 {
     writer_.request_stop();
     if (writer_.joinable())
         writer_.join();
-    return status_.load(std::memory_order_relaxed);
+    return failure();
 }
 
 void SndfileAudioFile::work(const std::stop_token& stop)
@@ -97,7 +85,7 @@ void SndfileAudioFile::work(const std::stop_token& stop)
 
 void SndfileAudioFile::drainRing()
 {
-    while (status_.load(std::memory_order_relaxed) == kAudioHardwareNoError) {
+    while (!hasFailed()) {
         const auto waiting = ring_.oldest();
         if (waiting.empty())
             return;
@@ -109,10 +97,10 @@ void SndfileAudioFile::drainRing()
     }
 }
 
-void SndfileAudioFile::note(AudioStatus status)
+void SndfileAudioFile::note(int error)
 {
-    if (status_.load(std::memory_order_relaxed) == kAudioHardwareNoError)
-        status_.store(status, std::memory_order_relaxed);
+    if (!hasFailed())
+        firstFailure_.store(error, std::memory_order_relaxed);
 }
 
 }  // namespace fadeloom

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sndfile/SndfileAudioFiles.h"
 
-#include "platform/WaveFormats.h"
-#include "platform/sndfile/FileStatus.h"
 #include "platform/sndfile/SignalsHeld.h"
 #include "platform/sndfile/SndfileAudioFile.h"
 
 #include <algorithm>
+#include <array>
 #include <cassert>
+#include <cerrno>
 #include <cmath>
+#include <cstring>
 #include <system_error>
 
 #include <unistd.h>
@@ -17,7 +18,7 @@ namespace fadeloom {
 
 namespace {
 
-/// Whole hertz, as a WAVE file tells them, and no more than devices have: memory is set aside for four seconds.
+/// Whole hertz, as a WAVE file has them, and no more than devices have: memory is set aside for four seconds.
 bool isPossibleRate(double rate)
 {
     constexpr double highest = 768'000;
@@ -35,37 +36,38 @@ bool SndfileAudioFiles::isTaken(const std::filesystem::path& location) const
     return std::filesystem::exists(std::filesystem::symlink_status(location, unknown));
 }
 
-AudioResult<AudioFile*> SndfileAudioFiles::create(
-    const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat)
+std::expected<AudioFile*, TapError> SndfileAudioFiles::create(
+    const std::filesystem::path& location, double sampleRate)
 {
-    if (!isPossibleRate(fileFormat.sampleRate)
-        || !isSameFormat(fileFormat, waveFileFormat(fileFormat.sampleRate)))
-        return std::unexpected(kAudioFileUnsupportedDataFormatError);
+    const auto refused = [](int error) { return std::unexpected(TapError{"Create recording file", error}); };
+    if (!isPossibleRate(sampleRate))
+        return refused(EINVAL);
     const SignalsHeld held;
     auto disk = DiskFile::create(location);
     if (!disk)
-        return std::unexpected(disk.error());
-    auto file = SndfileAudioFile::open(std::move(*disk), static_cast<int>(fileFormat.sampleRate));
+        return refused(disk.error());
+    auto file = SndfileAudioFile::open(std::move(*disk), static_cast<int>(sampleRate));
     if (!file) {
         ::unlink(location.c_str());
-        return std::unexpected(file.error());
+        return refused(file.error());
     }
     return files_.emplace_back(std::move(*file)).get();
 }
 
-AudioStatus SndfileAudioFiles::dispose(AudioFile& file)
+std::optional<AudioFileError> SndfileAudioFiles::dispose(AudioFile& file)
 {
     const auto found =
         std::ranges::find(files_, &file, [](const auto& open) -> const AudioFile* { return open.get(); });
     assert(found != files_.end());
-    const AudioStatus status = (*found)->close();
+    const auto failure = (*found)->close();
     files_.erase(found);
-    return status;
+    return failure;
 }
 
-std::string SndfileAudioFiles::describe(AudioStatus status) const
+std::string SndfileAudioFiles::describe(AudioFileError error) const
 {
-    return fileStatusText(status);
+    std::array<char, 256> text;
+    return strerror_r(error.code, text.data(), text.size());
 }
 
 }  // namespace fadeloom

@@ -11,7 +11,7 @@ namespace fadeloom {
 
 class SndfileAudioFile;
 
-/// Statuses are error numbers of the system and those of FileStatus.h. Whatever is refused leaves no file behind.
+/// Codes are the system's error numbers (errno). Whatever is refused leaves no file behind.
 class SndfileAudioFiles final : public AudioFiles {
 public:
     SndfileAudioFiles();
@@ -20,12 +20,10 @@ public:
     SndfileAudioFiles& operator=(const SndfileAudioFiles&) = delete;
 
     bool isTaken(const std::filesystem::path& location) const override;
-    AudioResult<AudioFile*> create(
-        const std::filesystem::path& location, const AudioStreamBasicDescription& fileFormat) override;
-    /// Returns the first failure since the file was made.
-    AudioStatus dispose(AudioFile& file) override;
-    /// Thread: any.
-    std::string describe(AudioStatus status) const override;
+    std::expected<AudioFile*, TapError> create(
+        const std::filesystem::path& location, double sampleRate) override;
+    std::optional<AudioFileError> dispose(AudioFile& file) override;
+    std::string describe(AudioFileError error) const override;
 
 private:
     std::vector<std::unique_ptr<SndfileAudioFile>> files_;

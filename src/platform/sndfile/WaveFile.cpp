@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
+#include <cerrno>
 #include <cstdio>
 #include <type_traits>
 #include <utility>
@@ -30,12 +31,12 @@ struct WaveFile::Callbacks {
     }
 };
 
-AudioResult<std::unique_ptr<WaveFile>> WaveFile::create(
+std::expected<std::unique_ptr<WaveFile>, int> WaveFile::create(
     std::unique_ptr<DiskFile> disk, int sampleRate, std::uint64_t largestRiff)
 {
     std::unique_ptr<WaveFile> file{new WaveFile(std::move(disk), largestRiff)};
     if (!file->open(sampleRate))
-        return std::unexpected(file->failure(kAudioHardwareUnspecifiedError));
+        return std::unexpected(file->failure());
     return file;
 }
 
@@ -63,7 +64,7 @@ bool WaveFile::open(int sampleRate)
     return disk_->size() == sizeof(WaveHeader);
 }
 
-AudioStatus WaveFile::append(std::span<const std::int32_t> samples)
+int WaveFile::append(std::span<const std::int32_t> samples)
 {
     assert(samples.size() % channels == 0);
     const auto frames = static_cast<sf_count_t>(samples.size() / channels);
@@ -72,19 +73,19 @@ AudioStatus WaveFile::append(std::span<const std::int32_t> samples)
     if (written < frames)
         disk_->truncate(sizeBefore + static_cast<std::uint64_t>(written) * bytesPerFrame);
     updateHeader();
-    return written < frames ? failure(kAudioHardwareUnspecifiedError) : disk_->failure();
+    return written < frames ? failure() : disk_->failure();
 }
 
-AudioStatus WaveFile::close()
+int WaveFile::close()
 {
     file_.reset();
     disk_->close();
     return disk_->failure();
 }
 
-AudioStatus WaveFile::failure(AudioStatus otherwise) const
+int WaveFile::failure() const
 {
-    return disk_->failure() != kAudioHardwareNoError ? disk_->failure() : otherwise;
+    return disk_->failure() != 0 ? disk_->failure() : EIO;
 }
 
 void WaveFile::updateHeader()

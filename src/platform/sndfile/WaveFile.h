@@ -8,6 +8,7 @@
 #include <sndfile.h>
 
 #include <cstdint>
+#include <expected>
 #include <memory>
 #include <span>
 
@@ -17,7 +18,7 @@ namespace fadeloom {
 /// and once the file is too large for RIFF it is an RF64 header that gets there. So the file has a plain PCM format
 /// chunk at any size, and there is no moment at which its header is wrong.
 ///
-/// Statuses are those of the `DiskFile`. Thread: any, one at a time.
+/// Errors are the system's numbers (errno), 0 for none. Thread: any, one at a time.
 class WaveFile {
 public:
     static constexpr std::uint32_t channels = 2;
@@ -27,7 +28,7 @@ public:
 
     /// Writes the header of an empty file into `disk`, which is empty. `sampleRate`: hertz. A file that is larger than
     /// `largestRiff` bytes becomes RF64.
-    [[nodiscard]] static AudioResult<std::unique_ptr<WaveFile>> create(
+    [[nodiscard]] static std::expected<std::unique_ptr<WaveFile>, int> create(
         std::unique_ptr<DiskFile> disk, int sampleRate, std::uint64_t largestRiff = largestRiffFile);
     ~WaveFile() { close(); }
     WaveFile(const WaveFile&) = delete;
@@ -35,9 +36,9 @@ public:
 
     /// Writes interleaved samples, whole frames in the form that `convertToPcm24` gives, and brings the header up to
     /// date. When not all of them can be written, the file ends with the last whole frame that could.
-    AudioStatus append(std::span<const std::int32_t> samples);
+    int append(std::span<const std::int32_t> samples);
     /// Completes the file. Returns the first failure since it was made.
-    AudioStatus close();
+    int close();
 
 private:
     struct Callbacks;
@@ -47,7 +48,8 @@ private:
 
     WaveFile(std::unique_ptr<DiskFile> disk, std::uint64_t largestRiff);
     [[nodiscard]] bool open(int sampleRate);
-    [[nodiscard]] AudioStatus failure(AudioStatus otherwise) const;
+    /// The disk's, or EIO where it has none.
+    [[nodiscard]] int failure() const;
     void updateHeader();
     sf_count_t write(std::span<const std::byte> bytes);
 

@@ -2,7 +2,6 @@
 // Audio files in memory keep the contract of audio files, and fail when they are told to.
 #include "platform/simulated/SimulatedAudioFiles.h"
 
-#include "platform/WaveFormats.h"
 #include "tests/platform/AudioFilesContract.h"
 
 #include <array>
@@ -29,7 +28,7 @@ public:
         const auto* const content = files_.at(location);
         if (!content || !content->isComplete)
             return std::nullopt;
-        WrittenSound sound{.sampleRate = content->format.sampleRate, .steps = {}};
+        WrittenSound sound{.sampleRate = content->sampleRate, .steps = {}};
         std::ranges::transform(content->samples, std::back_inserter(sound.steps), stepOf);
         return sound;
     }
@@ -45,7 +44,7 @@ std::unique_ptr<ContractFilesWorld> makeSimulatedFilesWorld()
 
 class SimulatedAudioFilesTest : public testing::Test {
 protected:
-    AudioFile& open() { return **files.create(location, waveFileFormat(48000)); }
+    AudioFile& open() { return **files.create(location, 48000); }
 
     const std::filesystem::path location = "/music/a.wav";
     static constexpr std::array<float, 2> frame{0.5F, -0.5F};
@@ -54,34 +53,35 @@ protected:
 
 TEST_F(SimulatedAudioFilesTest, refusesWhatItIsToldTo)
 {
-    files.refuseToCreate(28);
-    EXPECT_EQ(files.create(location, waveFileFormat(48000)).error(), 28);
+    const TapError refusal{"Create recording file", 28};
+    files.refuseToCreate(refusal);
+    EXPECT_EQ(files.create(location, 48000), std::unexpected(refusal));
     EXPECT_EQ(files.at(location), nullptr);
 
-    files.refuseToCreate(kAudioHardwareNoError);
-    files.refuseClientFormat(-50);
-    EXPECT_EQ(open().setClientFormat(waveClientFormat(48000)), -50);
+    files.refuseToCreate(std::nullopt);
+    EXPECT_TRUE(files.create(location, 48000));
 }
 
-TEST_F(SimulatedAudioFilesTest, aFailedFileTakesNothingMore)
+TEST_F(SimulatedAudioFilesTest, aFailedFileKeepsNothingMore)
 {
     auto& file = open();
-    file.write(1, frame.data());
+    EXPECT_TRUE(file.write(frame));
 
-    files.failWriting(28);
-    file.write(1, frame.data());
+    files.failWriting({28});
+    EXPECT_TRUE(file.write(frame));
 
-    EXPECT_EQ(file.status(), 28);
+    EXPECT_EQ(file.failure(), AudioFileError{28});
     EXPECT_EQ(files.at(location)->frameCount(), 1);
+    EXPECT_EQ(files.dispose(file), AudioFileError{28});
 }
 
 TEST_F(SimulatedAudioFilesTest, aStalledFileHasNoRoom)
 {
     auto& file = open();
     files.setStalled(true);
-    EXPECT_EQ(file.write(1, frame.data()), kExtAudioFileError_AsyncWriteBufferOverflow);
+    EXPECT_FALSE(file.write(frame));
     files.setStalled(false);
-    EXPECT_EQ(file.write(1, frame.data()), kAudioHardwareNoError);
+    EXPECT_TRUE(file.write(frame));
 
     EXPECT_EQ(files.at(location)->frameCount(), 1);
 }
@@ -92,7 +92,7 @@ TEST_F(SimulatedAudioFilesTest, isIncompleteUntilItIsDisposedOf)
     EXPECT_FALSE(files.at(location)->isComplete);
     EXPECT_EQ(files.openCount(), 1);
 
-    EXPECT_EQ(files.dispose(file), kAudioHardwareNoError);
+    EXPECT_EQ(files.dispose(file), std::nullopt);
 
     EXPECT_TRUE(files.at(location)->isComplete);
     EXPECT_EQ(files.openCount(), 0);

@@ -13,20 +13,20 @@ namespace fs = std::filesystem;
 class SndfileFailureTest : public SndfileTest {
 protected:
     /// Hands sound over until the file takes no more, which is for the reason `expected`.
-    void writeUntil(AudioStatus expected)
+    void writeUntil(int expected)
     {
         AudioFile& file = *open(location);
         std::uint64_t frame = 0;
         ASSERT_TRUE(waitUntil([&] {
-            if (hand(file, samples(frame, 480)) == kAudioHardwareNoError)
+            if (file.write(samples(frame, 480)))
                 frame += 480;
-            return file.status() != kAudioHardwareNoError;
+            return file.failure().has_value();
         }));
 
-        EXPECT_EQ(file.status(), expected);
-        EXPECT_EQ(hand(file, samples(frame, 1)), expected);
+        EXPECT_EQ(file.failure(), AudioFileError{expected});
+        EXPECT_TRUE(file.write(samples(frame, 1))) << "dropped";
         expectWholeFrames();  // Also while the file is still open.
-        EXPECT_EQ(files.dispose(file), expected);
+        EXPECT_EQ(files.dispose(file), AudioFileError{expected});
     }
     /// All agree on the file's length, and its sound is what was handed over.
     void expectWholeFrames()
@@ -43,9 +43,9 @@ TEST_F(SndfileFailureTest, aKilledProgramLeavesAllButTheLastSecond)
 {
     const auto end = endOfChild([&] {
         AudioFile& file = *open(location);
-        EXPECT_EQ(hand(file, samples(0, 2 * rate)), kAudioHardwareNoError);
+        EXPECT_TRUE(file.write(samples(0, 2 * rate)));
         std::this_thread::sleep_for(std::chrono::seconds{1});
-        EXPECT_EQ(hand(file, samples(2 * rate, rate)), kAudioHardwareNoError);
+        EXPECT_TRUE(file.write(samples(2 * rate, rate)));
         return std::raise(SIGKILL);
     });
 
@@ -89,7 +89,7 @@ TEST_F(SndfileFailureTest, noFileIsMadeThatMayHoldNothing)
 {
     const auto end = endOfChild([&] {
         limitFileSizes(0);
-        EXPECT_EQ(files.create(location, waveFileFormat(rate)), std::unexpected(EFBIG));
+        EXPECT_EQ(files.create(location, rate), std::unexpected(TapError{"Create recording file", EFBIG}));
         return 0;
     });
 
@@ -108,14 +108,15 @@ TEST_F(SndfileFailureTest, onAFullDiskTheFileKeepsWhatFits)
 
         expectWholeFrames();
         EXPECT_GT(fs::file_size(location), diskSize - 10'000);  // The disk's own needs.
-        EXPECT_EQ(files.create(folder.path() / "other.wav", waveFileFormat(rate)), std::unexpected(ENOSPC));
+        EXPECT_EQ(files.create(folder.path() / "other.wav", rate),
+            std::unexpected(TapError{"Create recording file", ENOSPC}));
         EXPECT_FALSE(fs::exists(folder.path() / "other.wav"));
         return 0;
     });
 
     ASSERT_NE(refused, childFailed);
     if (refused != 0)
-        GTEST_SKIP() << "no disk can be mounted here: " << files.describe(refused);
+        GTEST_SKIP() << "no disk can be mounted here: " << files.describe({refused});
 }
 
 }  // namespace

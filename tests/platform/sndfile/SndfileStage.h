@@ -2,8 +2,6 @@
 // What tests of the files of libsndfile stand on.
 #pragma once
 
-#include "platform/WaveFormats.h"
-#include "platform/sndfile/FileStatus.h"
 #include "platform/sndfile/SndfileAudioFiles.h"
 #include "tests/platform/sndfile/WaveReading.h"
 #include "tests/support/TemporaryFolder.h"
@@ -26,12 +24,11 @@ protected:
 
     AudioFile* open(const std::filesystem::path& path)
     {
-        const auto file = files.create(path, waveFileFormat(rate));
+        const auto file = files.create(path, rate);
         if (!file) {
-            ADD_FAILURE() << files.describe(file.error());
+            ADD_FAILURE() << file.error().description();
             return nullptr;
         }
-        EXPECT_EQ((*file)->setClientFormat(waveClientFormat(rate)), kAudioHardwareNoError);
         return *file;
     }
 
@@ -47,10 +44,6 @@ protected:
     static std::vector<float> samples(std::uint64_t first, std::size_t frames)
     {
         return samplesOf(steps(first, frames));
-    }
-    static AudioStatus hand(AudioFile& file, const std::vector<float>& samples)
-    {
-        return file.write(static_cast<std::uint32_t>(samples.size() / 2), samples.data());
     }
 
     /// Waits until `isDone` says so, for once; false when that takes too long.

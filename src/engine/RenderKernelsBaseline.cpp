@@ -1,8 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "engine/VectorKernels.h"
-
-namespace fadeloom {
-
-constinit const RenderKernels baselineKernels = vectorKernels("baseline");
-
-}  // namespace fadeloom

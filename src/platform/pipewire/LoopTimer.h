@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// A timer of a PipeWire loop that expires once.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+
+struct pw_loop;
+struct spa_source;
+
+namespace fadeloom {
+
+/// Thread: the loop's, or one that holds its lock.
+class LoopTimer {
+public:
+    /// `expired` is called on the loop's thread.
+    LoopTimer(pw_loop* loop, std::function<void()> expired);
+    ~LoopTimer();
+    LoopTimer(const LoopTimer&) = delete;
+    LoopTimer& operator=(const LoopTimer&) = delete;
+
+    /// Expires after `delay`, which is greater than 0, and no more at an earlier time that was set.
+    void start(std::chrono::milliseconds delay);
+
+private:
+    static void onExpired(void* self, std::uint64_t expirations);
+
+    pw_loop* const loop_;
+    const std::function<void()> expired_;
+    spa_source* const source_;
+};
+
+}  // namespace fadeloom
