@@ -35,12 +35,12 @@ struct TextWriter::State {
 
     const Sink sink;
     const Notice notice;
-    std::mutex mutex;  // Guards the rest; open while the sink works.
+    std::mutex mutex;  // Guards the rest; not held while the sink runs.
     std::condition_variable changed;
     std::deque<std::string> waiting;
     std::size_t size = 0;
     std::uint64_t dropped = 0;
-    std::uint64_t taken = 0;  // Texts that the sink has finished with.
+    std::uint64_t taken = 0;  // Texts that the sink has completed.
     bool isWorking = false;
     bool isClosing = false;
 };
@@ -77,7 +77,7 @@ TextWriter::TextWriter(Sink sink, Notice notice)
     try {
         std::thread([state = state_] { state->work(); }).detach();
     } catch (const std::system_error&) {
-        state_->isWorking = false;  // Everything is dropped then.
+        state_->isWorking = false;  // The rest is dropped.
     }
 }
 
@@ -119,7 +119,7 @@ TextWriter::Sink writeToDescriptor(int descriptor)
             const auto count = ::write(descriptor, text.data(), text.size());
             if (count >= 0) {
                 text.remove_prefix(static_cast<std::size_t>(count));
-            } else if (errno == EAGAIN) {  // Whoever shares the file has made it so.
+            } else if (errno == EAGAIN) {  // Another process that shares the file has made it non-blocking.
                 pollfd file{.fd = descriptor, .events = POLLOUT, .revents = 0};
                 ::poll(&file, 1, -1);
             } else if (errno != EINTR) {

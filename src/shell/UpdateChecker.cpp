@@ -66,7 +66,7 @@ void UpdateChecker::check(std::function<void(bool)> done)
         life_.whileAlive(answered));
 }
 
-// Builds alone are compared. How a version is called says nothing.
+// Only build numbers are compared; version names carry no order.
 void UpdateChecker::take(const RemoteVersion& remote)
 {
     const bool isNewer = remote.build > localBuild_;
