@@ -60,8 +60,8 @@ public:
     [[nodiscard]] std::span<const T> oldest() const noexcept
     {
         const std::uint64_t pushed = pushed_.load(std::memory_order_acquire);
-        const std::uint64_t released =
-            released_.load(std::memory_order_relaxed);  // Only this thread changes it.
+        // Only this thread changes it.
+        const std::uint64_t released = released_.load(std::memory_order_relaxed);
         const std::size_t begin = placeOf(released);
         const auto count = static_cast<std::size_t>(pushed - released);
         return {items_.data() + begin, std::min(count, capacity() - begin)};

@@ -17,7 +17,7 @@ EventSource::EventSource(const AudioController& controller, MainLoop& mainLoop, 
     const auto listen = [this](const auto& published, auto react) {
         subscriptions_.push_back(published.whenAssigned(react));
     };
-    // Told now, and again after each change.
+    // Emitted now, and again after each change.
     const auto follow = [&listen](const auto& published, auto react) {
         react();
         listen(published, react);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Tells what happens to a controller, as events.
+// Turns a controller's state changes into events.
 #pragma once
 
 #include "base/Subscription.h"
@@ -21,10 +21,10 @@ class EventSource {
 public:
     using Tell = std::function<void(const Event&)>;
 
-    /// How long changes of apps' settings are collected: a slider that is dragged gives one event in that time.
+    /// Changes of apps' settings are coalesced over this time: dragging a slider gives one event per interval.
     static constexpr std::chrono::milliseconds collecting{30};
 
-    /// Tells how things stand now, without apps' settings, and from then on what changes. All must outlive this.
+    /// Emits the current state, without apps' settings, and then every change. All arguments must outlive this.
     EventSource(const AudioController& controller, MainLoop& mainLoop, Tell tell);
     EventSource(const EventSource&) = delete;
     EventSource& operator=(const EventSource&) = delete;
@@ -42,7 +42,7 @@ private:
     const AudioController& controller_;
     MainLoop& mainLoop_;
     const Tell tell_;
-    std::vector<AppEntry> apps_;  // As last told, all six.
+    std::vector<AppEntry> apps_;  // As last emitted, all six.
     std::vector<OutputDevice> devices_;
     AppOutputs outputs_;
     AppSettingsByID settings_;

@@ -81,7 +81,7 @@ void Watch::tell(const Event& event)
     if (request_.format == waybar)
         return isBeginning_ ? void() : tellBar();
     if (request_.format == json && isBeginning_)
-        return;  // The state said it.
+        return;  // Already contained in the state.
     if (request_.isSandboxed && std::holds_alternative<event::RecordingSaved>(event))
         return;
     const auto app = appOf(event);
@@ -107,7 +107,7 @@ void Watch::tellLevels()
 
 void Watch::tellBar()
 {
-    // An app that is not known yet may come: the bar stays empty until then.
+    // An unknown app may still appear: the bar stays empty until then.
     const auto status = barStatus(controller_, text_, request_.app);
     auto line = waybarLine(controller_, status.value_or(BarStatus()));
     if (line == last_)

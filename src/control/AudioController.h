@@ -187,8 +187,8 @@ private:
 
     // A block is shared with the renderer of the app's tap and outlives it, so that the next tap sounds the same.
     std::map<std::string, std::shared_ptr<TapParameters>> params_;
-    using OutputTaps =
-        std::map<std::string, std::unique_ptr<AppTap>>;  // By the output's unique id; never empty.
+    // By the output's unique id; never empty.
+    using OutputTaps = std::map<std::string, std::unique_ptr<AppTap>>;
     std::map<std::string, OutputTaps> taps_;
     Recordings recordings_{platform_.mainLoop, platform_.audio, platform_.audioFiles, engineLog_,
         [this](const std::string& bundleID, AudioFileError error) { recordingBroken(bundleID, error); }};

@@ -62,7 +62,7 @@ std::optional<std::string> Client::ask(const std::string& request)
 {
     const auto end = std::chrono::steady_clock::now() + std::max(wait_, patience);
     auto answer = askOnce(request);
-    // One that has just ended leaves the connection without an answer.
+    // An instance that is exiting closes the connection without a reply.
     const auto isToBeAskedAgain = [&] {
         return answer ? answer->starts_with("busy ") : isClosed_ && wait_.count() > 0;
     };
@@ -77,7 +77,7 @@ std::optional<std::string> Client::ask(const std::string& request)
 
 std::optional<std::string> Client::askOnce(const std::string& request)
 {
-    // One that refuses a line before its end has said so all the same.
+    // An instance may reject a line before reading all of it; its reply counts.
     static_cast<void>(send(request + "\n"));
     while (true) {
         if (auto answer = takeLine())

@@ -29,7 +29,7 @@ Status complainOfSilence()
     return complain(noAnswer, "the running Fadeloom does not answer, or is too old for this");
 }
 
-/// Whether the words ask for one value of an app.
+/// Whether the words query a single value of an app.
 bool isReading(Words words)
 {
     constexpr std::array values = {"volume", "mute", "output", "eq", "preset", "preamp"};
@@ -161,7 +161,7 @@ Status exportSettings(Client& client, Words words)
     const std::filesystem::path file = words[1];
     auto part = file;
     part += ".part";
-    umask(S_IRWXG | S_IRWXO);  // The user's own.
+    umask(S_IRWXG | S_IRWXO);  // Readable only by the user.
     std::ofstream output(part);
     output << sentence << '\n';
     output.close();
@@ -184,7 +184,7 @@ Status restoreSettings(Client& client, Words words, const Options& options)
     std::string text{std::istreambuf_iterator<char>(input), {}};
     if (words[1] != "-" && (!file.is_open() || file.bad()))
         return complain(refused, "cannot read " + words[1]);
-    // JSON has them only between its parts.
+    // In JSON, line feeds occur only between tokens.
     std::ranges::replace_if(text, [](char byte) { return byte == '\n' || byte == '\r'; }, ' ');
     return printAnswer(client, std::array<std::string, 2>{"restore", std::move(text)}, options);
 }

@@ -12,8 +12,8 @@ struct DesktopLook {
     bool reducesMotion = false;
     bool hasHighContrast = false;
     double textScale = 1;  // Of the usual size.
-    std::optional<std::uint32_t>
-        accent{};  // The user's favourite colour as 0xRRGGBB; absent for each program's own.
+    // The user's favourite colour as 0xRRGGBB; absent for each program's own.
+    std::optional<std::uint32_t> accent{};
 
     bool operator==(const DesktopLook&) const = default;
 };

@@ -35,8 +35,8 @@ public:
 struct TapFormat {
     double sampleRate = 48000;  // Hertz.
     StereoChannels output{};  // Where the device wants stereo.
-    std::size_t tapBufferCount =
-        1;  // The last buffers of the input are the tap's; those before are the device's own.
+    // The last buffers of the input are the tap's; those before are the device's own.
+    std::size_t tapBufferCount = 1;
     bool isTapInterleaved = true;  // One buffer of two channels, or one buffer for each channel.
 };
 

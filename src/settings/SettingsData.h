@@ -24,8 +24,8 @@ struct SettingsData {
     std::map<std::string, AppAudioSettings> apps{};
     FocusSettings focus{};
     std::optional<std::string> recordingsFolder{};  // Absent: the default folder.
-    std::map<std::string, std::string>
-        knownAppNames{};  // So that an app can be named while it is not running.
+    // So that an app can be named while it is not running.
+    std::map<std::string, std::string> knownAppNames{};
     std::vector<EQPreset> userPresets{};  // In the user's order.
     AppearanceSettings appearance{};
     float volumeLimit = 1;  // One of `volumeLimits`.

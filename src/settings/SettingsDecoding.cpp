@@ -25,8 +25,8 @@ std::string positionOf(std::size_t byte, std::string_view text)
 {
     const auto before = text.substr(0, byte == 0 ? 0 : byte - 1);
     const auto line = 1 + std::ranges::count(before, '\n');
-    const auto column =
-        before.size() - (before.rfind('\n') + 1) + 1;  // Also correct on the first line: npos + 1 is 0.
+    // Also correct on the first line: npos + 1 is 0.
+    const auto column = before.size() - (before.rfind('\n') + 1) + 1;
     return "line " + std::to_string(line) + ", column " + std::to_string(column);
 }
 

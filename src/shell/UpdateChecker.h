@@ -35,8 +35,8 @@ public:
     /// What is installed, and where to check.
     struct Product {
         std::string version;  // For display.
-        std::string
-            build;  // Its number in digits; anything else counts as 0, which is older than any release.
+        // Its number in digits; anything else counts as 0, which is older than any release.
+        std::string build;
         std::string endpoint;  // The base URL of the web server.
     };
     /// Its dependencies; all must outlive it.

@@ -9,8 +9,8 @@ namespace fadeloom {
 
 struct KnownCallApp {
     std::string_view name;
-    std::span<const std::string_view>
-        bundleIDs;  // Desktop ids and Flatpak ids; the first stands for the app.
+    // Desktop ids and Flatpak ids; the first stands for the app.
+    std::span<const std::string_view> bundleIDs;
     std::span<const std::string_view> sites;  // Of its web app: hosts, their subdomains included.
     std::span<const std::string_view> chromiumIDs;  // Of its web app, as browsers of Chromium's kind name it.
 };

@@ -60,8 +60,8 @@ private:
     int misses_ = 0;
     std::uint32_t asked_ = 0;
     std::chrono::nanoseconds workedAtQuestion_{};
-    std::atomic<std::uint32_t> answered_ =
-        0;  // Relaxed, as the next: they promise nothing about other memory.
+    // Relaxed, as the next: they promise nothing about other memory.
+    std::atomic<std::uint32_t> answered_ = 0;
     // The data loop's thread and its processor time's clock; 0 before its first answer.
     std::atomic<pid_t> thread_ = 0;
     std::atomic<clockid_t> workClock_ = 0;

@@ -37,8 +37,8 @@ public:
         if (found == tasks_.end() || found->second.ticket != handle.ticket)
             return;
         killTimer(handle.timer);
-        const auto released =
-            std::move(found->second.task);  // What it holds may come back here when it goes.
+        // What it holds may come back here when it goes.
+        const auto released = std::move(found->second.task);
         tasks_.erase(found);
     }
 

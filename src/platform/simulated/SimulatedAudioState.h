@@ -29,8 +29,8 @@ struct SimulatedAudioProcess {
     std::string bundleID{};  // Empty for none.
     bool isPlaying = false;
     bool isUsingMic = false;
-    std::vector<std::string>
-        chosenOutputs{};  // Where it plays by its own choice; none for the default output.
+    // Where it plays by its own choice; none for the default output.
+    std::vector<std::string> chosenOutputs{};
     std::optional<OutOfReach> outOfReach{};
     SimulatedSignal signal = SimulatedSignal::silence();
     std::uint64_t position = 0;  // Frames played since it last began.

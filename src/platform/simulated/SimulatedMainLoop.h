@@ -53,8 +53,8 @@ private:
     std::mutex mutex_;
     std::deque<Task> posted_;
     std::vector<std::weak_ptr<Timer>> timers_;
-    std::shared_ptr<int> presence_ =
-        std::make_shared<int>();  // Seen weakly by subscriptions, which may outlive us.
+    // Seen weakly by subscriptions, which may outlive us.
+    std::shared_ptr<int> presence_ = std::make_shared<int>();
 };
 
 }  // namespace fadeloom

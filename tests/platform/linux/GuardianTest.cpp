@@ -24,8 +24,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::uint64_t heldThing = 0x1234'5678'9ABC'DEF0;
-std::string
-    releaseFile;  // What the guardian released, in text. The release reaches nothing but what is global.
+// What the guardian released, in text. The release reaches nothing but what is global.
+std::string releaseFile;
 
 void noteRelease(std::uint64_t held, pid_t program)
 {
