@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program on a Linux desktop: its icon in the tray, dialogs, the look.
+// The program on a Linux desktop: its tray icon, dialogs, the appearance.
 #pragma once
 
 #include "platform/qtdesktop/QtApplication.h"
@@ -15,7 +15,7 @@ namespace fadeloom {
 /// Needs a QApplication. Thread: main.
 class HomeDesktop {
 public:
-    /// Before the QApplication: how it draws. Says whether there is a display to draw on.
+    /// Selects how to draw; call before creating the QApplication. Returns whether there is a display.
     [[nodiscard]] static bool prepare();
 
     HomeDesktop();
@@ -26,12 +26,12 @@ public:
     [[nodiscard]] Dialogs& dialogs() { return dialogs_; }
     [[nodiscard]] QtTrayIcon& icon() { return icon_; }
     [[nodiscard]] const DesktopLook& look() const { return look_.look(); }
-    /// Called from now on whenever windows are to look otherwise.
+    /// Called whenever the desktop's appearance changes.
     void whenLookChanges(std::function<void(const DesktopLook&)> changed)
     {
         lookChanged_ = std::move(changed);
     }
-    /// Never called: a session on Linux ends its programs by a signal, which they are asked by anyway.
+    /// Never called: a Linux session ends its programs with a signal, which is handled anyway.
     void whenSessionEnds(const std::function<void()>& /*ends*/) { }
     /// Called once it turns out that nobody shows the icon.
     void whenWithoutTray(std::function<void()> withoutTray) { withoutTray_ = std::move(withoutTray); }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program on macOS: its item in the menu bar, dialogs, the look.
+// The program on macOS: its menu bar item, dialogs, the appearance.
 #pragma once
 
 #include "platform/DesktopLook.h"
@@ -17,7 +17,7 @@ namespace fadeloom {
 /// Needs a QGuiApplication. Thread: main.
 class HomeDesktop {
 public:
-    /// Before the application object. Says whether there is a display to draw on.
+    /// Call before creating the application object. Returns whether there is a display.
     [[nodiscard]] static bool prepare() { return true; }
 
     HomeDesktop() = default;
@@ -28,12 +28,12 @@ public:
     [[nodiscard]] Dialogs& dialogs() { return dialogs_; }
     [[nodiscard]] MenuBarItem& icon() { return icon_; }
     [[nodiscard]] DesktopLook look() const { return {.isDark = look_.isDark()}; }
-    /// Called from now on whenever windows are to look otherwise.
+    /// Called whenever the system's appearance changes.
     void whenLookChanges(std::function<void(const DesktopLook&)> changed)
     {
         lookChanged_ = std::move(changed);
     }
-    /// Called when the user logs out or shuts down, while there still is time to put things in order.
+    /// Called when the user logs out or shuts down, while there is still time to shut down cleanly.
     void whenSessionEnds(std::function<void()> ends) { sessionEnds_ = std::move(ends); }
 
 private:
