@@ -38,7 +38,7 @@ void PanelModel::observe()
     whenAssigned(state.devices, [this] { Q_EMIT outputsChanged(); });
     whenAssigned(state.defaultDeviceUID, [this] { Q_EMIT outputsChanged(); });
     whenAssigned(state.lastRecording, [this] { Q_EMIT lastRecordingChanged(); });
-    whenAssigned(state.apps, [this] { refreshBanner(); });  // One of them may be the call's.
+    whenAssigned(state.apps, [this] { refreshBanner(); });  // The app on a call may have changed.
     whenAssigned(state.callApp, [this] { refreshBanner(); });
     whenAssigned(state.error, [this] { refreshBanner(); });
     whenAssigned(state.settings, [this] {
@@ -153,7 +153,7 @@ bool PanelModel::levelMeters() const
 
 QColor PanelModel::accentInk() const
 {
-    // The panel's ground in Theme, where it is nearer to the text.
+    // The panel's background in Theme, in the variant with less contrast to text.
     const QColor ground = isDark() ? QColor(0x23, 0x21, 0x2B) : QColor(0xEF, 0xED, 0xF4);
     return desktop_.accent ? legibleBeside(QColor::fromRgb(*desktop_.accent), ground)
                            : QColor(Qt::transparent);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The panel as a whole: what its root view and its mixer show, and what they ask for.
+// View model of the panel as a whole: its root view and its mixer.
 //
-// It holds no state of the program but which page is shown. Everything else is read from the controller whenever the
-// controller announces a change, and worded for the views.
+// Its only state is the current page. Everything else is read from the controller whenever that announces a change, and
+// worded for the views.
 #pragma once
 
 #include "base/Subscription.h"
@@ -69,21 +69,21 @@ public:
     [[nodiscard]] QVariantList outputEntries() const;
     /// The file's name; empty without a recording.
     [[nodiscard]] QString lastRecording() const;
-    /// Empty when there is none.
+    /// Empty if there is none.
     [[nodiscard]] QString availableVersion() const;
     [[nodiscard]] bool isDark() const;
     [[nodiscard]] bool glass() const;
     [[nodiscard]] bool animations() const;
     [[nodiscard]] bool hasHighContrast() const { return desktop_.hasHighContrast; }
     [[nodiscard]] double textScale() const { return desktop_.textScale; }
-    /// The desktop's favourite colour for text and below white text; transparent where it has none.
+    /// The desktop's accent colour, adjusted for text in it and white text on it; transparent without one.
     [[nodiscard]] QColor accentInk() const;
     [[nodiscard]] QColor accentFill() const;
     [[nodiscard]] bool levelMeters() const;
     [[nodiscard]] AppRowList* rows() { return &rows_; }
     [[nodiscard]] SettingsModel* settings() { return &settings_; }
 
-    /// Whether it is dark counts while the user's theme is "System"; less motion and more contrast always.
+    /// `isDark` applies while the user's theme is "System"; reduced motion and high contrast always.
     void setDesktopLook(const DesktopLook& look);
 
     /// `key`: of an entry of `outputEntries`.

@@ -21,7 +21,7 @@ namespace {
 
 struct Screen {
     const char* name;
-    bool isExpanded;  // The first app is open.
+    bool isExpanded;  // The first app is expanded.
     bool showsSettings;
 };
 constexpr std::array screens = {
