@@ -25,8 +25,8 @@ public:
     using Notice = std::function<std::string(std::uint64_t dropped)>;
 
     static constexpr std::size_t room = std::size_t{256} * 1024;  // Bytes that may be pending.
-    static constexpr std::chrono::milliseconds patience{
-        300};  // At the end, for a sink that makes no progress.
+    // At the end, for a sink that makes no progress.
+    static constexpr std::chrono::milliseconds patience{300};
 
     TextWriter(Sink sink, Notice notice);
     /// Calls `close`.

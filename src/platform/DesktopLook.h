@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the desktop asks of the look of every program.
+// The desktop's appearance preferences for all programs.
 #pragma once
 
 #include <cstdint>
@@ -11,8 +11,8 @@ struct DesktopLook {
     bool isDark = false;
     bool reducesMotion = false;
     bool hasHighContrast = false;
-    double textScale = 1;  // Of the usual size.
-    // The user's favourite colour as 0xRRGGBB; absent for each program's own.
+    double textScale = 1;  // Relative to the normal size.
+    // The accent colour as 0xRRGGBB; nullopt if each program uses its own.
     std::optional<std::uint32_t> accent{};
 
     bool operator==(const DesktopLook&) const = default;

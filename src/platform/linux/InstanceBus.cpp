@@ -84,7 +84,7 @@ private:
             return std::nullopt;
         if (message.member() == QLatin1String("Activate") || message.member() == QLatin1String("Open"))
             return InstanceRequest::open;
-        // The names of actions begin with a small letter.
+        // The names of actions are in lower case.
         const auto action = message.member() == QLatin1String("ActivateAction")
             ? message.arguments().value(0).toString()
             : QString();
@@ -125,7 +125,7 @@ InstanceBus::~InstanceBus()
 
 bool InstanceBus::claim()
 {
-    // Whoever sees the name may call at once.
+    // Whoever sees the name may call immediately.
     if (!bus_.registerVirtualObject(objectPath, object_.get()))
         return false;
     bus_.registerVirtualObject(treePath, tree_.get(), QDBusConnection::SubPath);
@@ -159,7 +159,7 @@ bool InstanceBus::isHeldByInstance(std::chrono::milliseconds patience)
     if (reply.type() == QDBusMessage::ReplyMessage || reply.errorName().startsWith(errorPrefix))
         return true;
     switch (QDBusError(reply).type()) {
-    case QDBusError::ServiceUnknown:  // It has just left: the name can be taken now.
+    case QDBusError::ServiceUnknown:  // It has just exited: the name is free now.
         return true;
     case QDBusError::NoReply:
     case QDBusError::Timeout:

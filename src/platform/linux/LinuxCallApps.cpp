@@ -22,7 +22,7 @@ bool isOfSite(std::string_view host, std::string_view site)
         || (host.ends_with(site) && host.size() > site.size() && host[host.size() - site.size() - 1] == '.');
 }
 
-/// Some web apps of Firefox tell nothing but their name.
+/// Some web apps of Firefox have no URL, only their name.
 bool isNamed(const DesktopEntry& entry, std::string_view name)
 {
     return entry.id.starts_with("FFPWA-") && entry.site.empty() && entry.name == name;
