@@ -23,7 +23,7 @@ bool isPaletteDark()
     return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 }
 
-/// What Qt makes of the desktop; what the portal says where Qt knows nothing.
+/// Qt's colour scheme; the portal's if Qt does not know.
 bool isDark(const DesktopLook& told)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
@@ -38,7 +38,7 @@ DesktopLook lookNow(const PortalSettings& settings)
 {
     auto look = lookOf(settings, isPaletteDark());
     look.isDark = isDark(look);
-    // There it is in the display's resolution already, by which Qt enlarges everything.
+    // On X11 it is included in the display's resolution, with which Qt scales everything.
     if (QGuiApplication::platformName() == QLatin1String("xcb"))
         look.textScale = 1;
     return look;
@@ -61,7 +61,7 @@ void SystemLook::askPortal()
 {
     if (!bus_.isConnected())
         return;
-    // Without them neither the signal nor the answer is ever delivered.
+    // Unless the types are registered, neither the signal nor the reply is delivered.
     qRegisterMetaType<QDBusVariant>();
     qDBusRegisterMetaType<PortalSettings>();
     bus_.connect(portalService, portalPath, portalInterface, QStringLiteral("SettingChanged"), this,

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The look that the desktop asks for.
+// The desktop's appearance.
 #pragma once
 
 #include "platform/qtdesktop/PortalSettings.h"
@@ -13,13 +13,13 @@
 
 namespace fadeloom {
 
-/// Asks the desktop's settings portal, whose answer comes later. Whether it is dark Qt may know (6.5 and later); until the
-/// answer, and without either, the colours of the desktop's palette tell. Needs a QGuiApplication. Thread: main.
+/// Queries the desktop's settings portal asynchronously. Qt 6.5 and later may know whether the desktop is dark; until
+/// the reply, and without either, the desktop's palette decides. Needs a QGuiApplication. Thread: main.
 class SystemLook final : public QObject {
     Q_OBJECT
 
 public:
-    /// `changed` is called whenever the answer is another one.
+    /// `changed` is called whenever the result differs.
     explicit SystemLook(std::function<void(const DesktopLook&)> changed,
         const QDBusConnection& bus = QDBusConnection::sessionBus());
 

@@ -42,7 +42,7 @@ TrayHost::TrayHost(std::function<void(Kind)> found, int waitMilliseconds, const 
         watcherCame();
 }
 
-// A watcher keeps the list of icons; whether anybody shows them is another question.
+// A watcher maintains the list of icons, but there may be no host to show them.
 void TrayHost::watcherCame()
 {
     auto question = QDBusMessage::createMethodCall(
@@ -52,7 +52,7 @@ void TrayHost::watcherCame()
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         const QDBusPendingReply<QDBusVariant> reply = *answer;
         answer->deleteLater();
-        // One that does not know the question has no other host than itself.
+        // A watcher without this property is its own only host.
         if (reply.isError() || reply.value().variant().toBool())
             hostCame();
     });

@@ -31,7 +31,7 @@ void leaveOutOfWindowLists(QWindow& window)
     auto* const connection = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
     const std::array states{
         atomOf(connection, "_NET_WM_STATE_SKIP_TASKBAR"), atomOf(connection, "_NET_WM_STATE_SKIP_PAGER")};
-    // Qt adds its own to what is there.
+    // Qt adds its own to the existing ones.
     xcb_change_property(connection, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window.winId()),
         atomOf(connection, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, states.size(), states.data());
 }
