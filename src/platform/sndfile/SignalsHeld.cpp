@@ -14,7 +14,7 @@ SignalsHeld::SignalsHeld()
 
 SignalsHeld::~SignalsHeld()
 {
-    // One that waits would come as soon as it may.
+    // A pending one would be delivered on unblocking.
     sigset_t fileTooLarge;
     sigemptyset(&fileTooLarge);
     sigaddset(&fileTooLarge, SIGXFSZ);

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-// Keeps signals away from the threads that write files.
+// Blocks signals for the threads that write files.
 #pragma once
 
 #include <csignal>
 
 namespace fadeloom {
 
-/// While one lives, no signal interrupts its thread. A thread that is started meanwhile is spared for its whole life.
+/// While an instance exists, all signals are blocked on its thread, and permanently on threads started meanwhile.
 ///
-/// So a write beyond the limit of file sizes fails like any other: SIGXFSZ, which it sends to its own thread and which
-/// would end the program, stays with the thread. The program's way with signals is left as it is.
+/// So a write beyond the file size limit fails like any other: SIGXFSZ, which is sent to the writing thread and would
+/// end the program, stays pending. The program's signal actions are unchanged.
 class SignalsHeld {
 public:
     SignalsHeld();
