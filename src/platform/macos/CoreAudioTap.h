@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // One tap on macOS.
 //
-// A process tap mixes the processes and keeps them silent elsewhere while it is read. A private aggregate device joins
-// the tap to the output device, which gives the clock. An IO procedure on it runs what the program asked for. They are
-// made in this order and taken down in the opposite one.
+// A process tap mixes the processes and mutes them elsewhere while it is read. A private aggregate device combines the
+// tap with the output device, which provides the clock. An IO procedure on it runs the program's procedure. They are
+// created in this order and torn down in reverse.
 //
-// Three things end a tap from outside: its device goes, the audio service restarts, or it delivers zeros while its
-// processes play. It then has no rate, and whoever owns it makes a new one.
+// Three external events end a tap: its device is removed, the audio service restarts, or it delivers zeros while its
+// processes play. It then has no rate, and its owner creates a new one.
 #pragma once
 
 #include "platform/ProcessTap.h"
@@ -28,7 +28,7 @@ namespace fadeloom {
 
 class PropertyListener;
 
-/// What taps have from their audio system, which outlives them.
+/// State that taps share with their audio system, which outlives them.
 struct TapSurroundings {
     ServiceRestarts& restarts;
     SilentTaps& silentTaps;
@@ -37,7 +37,7 @@ struct TapSurroundings {
 /// Thread: main.
 class CoreAudioTap final : public ProcessTap {
 public:
-    /// Builds everything and starts the sound; after a failure nothing of it is left, and the error names the step.
+    /// Builds everything and starts the device; after a failure nothing of it is left, and the error names the step.
     [[nodiscard]] static std::expected<std::unique_ptr<CoreAudioTap>, TapError> create(
         const TapRequest& request, const AudioIOProcFactory& makeIOProc, TapSurroundings surroundings);
     CoreAudioTap(const CoreAudioTap&) = delete;
@@ -74,7 +74,7 @@ private:
 
     // Shared with the block, which the system keeps until no cycle can reach it.
     const std::shared_ptr<SilenceCount> silence_ = std::make_shared<SilenceCount>();
-    std::uint64_t silentWhilePaused_ = 0;  // Frames of the silence that were no fault.
+    std::uint64_t silentWhilePaused_ = 0;  // Frames of silence during which no process was playing.
     std::unique_ptr<PropertyListener> deviceListener_;
     Subscription restarts_;
     Subscription looks_;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The well-known call apps of macOS, by their bundle identifiers.
+// The known call apps of macOS, by bundle identifier.
 #pragma once
 
 #include "platform/CallApps.h"

@@ -25,8 +25,8 @@ bool isOfMouse(NSEvent* event)
     }
 }
 
-/// Where a click is a gesture, the event of the moment may be any, or none: then the keyboard itself is asked. Control
-/// and Option together are how VoiceOver presses what it reads.
+/// For accessibility presses, the current event may be any, or none: then the keyboard state is queried instead.
+/// Control and Option together are VoiceOver's own modifiers.
 bool asksForMenu(NSEvent* event)
 {
     const bool isMouse = event != nil && isOfMouse(event);
@@ -40,7 +40,7 @@ bool asksForMenu(NSEvent* event)
 
 }  // namespace
 
-/// One place in the menu bar.
+/// The status item.
 class MenuBarItem::Shown {
 public:
     Shown(NSString* name, std::function<void()> clicked, std::function<void()> asksForMenu)
@@ -64,7 +64,7 @@ public:
 
     [[nodiscard]] NSStatusBarButton* button() const { return item_.button; }
 
-    /// Returns when the menu has closed. With a menu of its own the item would open it on every click.
+    /// Returns when the menu has closed. If the menu were assigned to the item, every click would open it.
     void open(NSMenu* menu)
     {
         item_.menu = menu;
@@ -73,7 +73,7 @@ public:
     }
 
 private:
-    /// To screen readers, which have no right button. The menu opens later: whoever asks waits for the answer.
+    /// For screen readers, which have no right click. Deferred, because the caller waits for the reply.
     void offerMenu(std::function<void()> asksForMenu)
     {
         NSString* name = NSAccessibilityActionDescription(NSAccessibilityShowMenuAction);

@@ -24,7 +24,7 @@ PropertyListener::PropertyListener(
     , address_(address)
     , told_(told)
     , block_(^(UInt32, const AudioObjectPropertyAddress*) {
-        const auto kept = told;  // The listener may end its own subscription, and this block with it.
+        const auto kept = told;  // The listener may end its own subscription, and with it this block.
         if (!kept->isOver)
             kept->listener();
     })

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One listener to one property of one audio object.
+// A listener for one property of one audio object.
 #pragma once
 
 #include "platform/macos/BlockRef.h"
@@ -12,7 +12,7 @@
 
 namespace fadeloom {
 
-/// Hears on the main queue, until its end. Thread: main.
+/// Called on the main queue, until it is destroyed. Thread: main.
 class PropertyListener {
 public:
     [[nodiscard]] static std::expected<std::unique_ptr<PropertyListener>, OSStatus> add(
@@ -22,7 +22,7 @@ public:
     ~PropertyListener();
 
 private:
-    /// Outlives the listener: a call that is on its way to the main queue when it ends still arrives.
+    /// Outlives the listener: a call already queued when it ends still arrives.
     struct Told {
         std::function<void()> listener;
         bool isOver = false;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Taps that deliver zeros while their applications play.
+// Detects taps that deliver zeros while their applications play.
 //
-// A tap may fall silent for good although its application is heard by the system. It cannot be told from an application
-// that plays silence, so a tap is made anew after a while, and each time that this has not helped, after twice as long.
+// A tap may fall silent permanently although its application is playing. That is indistinguishable from an application
+// that plays silence, so a tap is replaced after some time, and each time that has not helped, after twice that time.
 #pragma once
 
 #include "base/Observers.h"
@@ -19,16 +19,16 @@
 
 namespace fadeloom {
 
-/// What all taps share for that. Thread: main.
+/// Shared by all taps. Thread: main.
 class SilentTaps {
 public:
     static constexpr std::chrono::seconds firstPatience{10};
     static constexpr std::chrono::seconds longestPatience{3600};
 
-    /// By processes and output: the next tap has the same.
+    /// By processes and output: the replacement of a tap has the same.
     using Key = std::pair<std::vector<AudioProcessID>, std::string>;
 
-    /// Has the taps look at themselves: this is what the processes do now.
+    /// Makes the taps check themselves against the current state of the processes.
     void look(std::span<const AudioProcess> processes);
     /// `lookAtIt` is called each time, until the subscription ends.
     [[nodiscard]] Subscription whenLooking(std::function<void()> lookAtIt)
@@ -36,13 +36,13 @@ public:
         return looks_.add(std::move(lookAtIt));
     }
 
-    /// Whether one of these plays.
+    /// Whether any of these plays.
     [[nodiscard]] bool isAnyPlaying(std::span<const AudioProcessID> processes) const;
-    /// How long zeros of such a tap are borne.
+    /// For how long zeros from such a tap are tolerated.
     [[nodiscard]] std::chrono::seconds patienceWith(const Key& key) const;
-    /// Zeros were borne long enough, and the tap is made anew.
+    /// The tap has exceeded that time, and is replaced.
     void noteRenewal(const Key& key);
-    /// Sound has come.
+    /// Audio has arrived.
     void noteSound(const Key& key) { patience_.erase(key); }
 
 private:
