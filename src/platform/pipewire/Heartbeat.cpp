@@ -16,13 +16,13 @@ namespace fadeloom {
 
 namespace {
 
-/// Whether a thread of ours runs or waits for nothing but a processor.
+/// Whether our thread is running or runnable.
 bool isReadyToRun(pid_t thread)
 {
     std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
     std::string line;
     std::getline(file, line);
-    const auto name = line.rfind(')');  // The name before it may hold anything.
+    const auto name = line.rfind(')');  // The name before it may contain anything.
     return name != std::string::npos && line.compare(name, 3, ") R") == 0;
 }
 
@@ -83,7 +83,7 @@ void Heartbeat::check()
             isStalled_ = true;
             callbacks_.stalled();
         }
-        return;  // One question at a time: they would fill the loop's queue.
+        return;  // One ping at a time: more would fill the loop's queue.
     }
     misses_ = 0;
     if (std::exchange(isStalled_, false)) {
@@ -95,8 +95,7 @@ void Heartbeat::check()
     pw_data_loop_invoke(dataLoop_, &onBeat, asked_, nullptr, 0, false, this);
 }
 
-// Ready to run since the question, and hardly ever running. A thread that hangs waits for something or works all the
-// time.
+// Runnable since the ping, and hardly running. A thread that hangs is either blocked or busy.
 bool Heartbeat::isStarved() const
 {
     return isReadyToRun(thread_.load(std::memory_order_relaxed))

@@ -11,13 +11,13 @@ namespace fadeloom {
 
 namespace {
 
-// What belongs together, and what goes in and out of it.
+// The inputs and outputs of a group of nodes.
 struct Passage {
     std::vector<GraphID> inlets;
     std::vector<GraphID> outlets;
 };
 
-// The program behind a client: its process, as far as that can be known; else the client itself.
+// The program behind a client: its process, as far as that is known; else the client itself.
 std::string programOf(const Graph& graph, const GraphNode& node)
 {
     const auto id = node.clientID();
@@ -75,7 +75,7 @@ void SoundFlow::addPrograms(const Graph& graph)
     };
     for (const auto& [id, node] : graph.nodes) {
         const bool isStream = node.isOutputStream() || node.isInputStream();
-        // The halves of a loopback belong to their group, not to the server that runs them all in one process.
+        // The halves of a loopback belong to their group, not to the server that runs all of them in one process.
         const auto client = node.clientID();
         if (!client || !propertyOf(node.properties, "node.link-group").empty())
             continue;
@@ -99,7 +99,7 @@ void SoundFlow::lead(GraphID stream, GraphID device)
 bool SoundFlow::comesBack(GraphID device, GraphID stream) const
 {
     if (!fed_.contains(stream))
-        return false;  // So it is with players.
+        return false;  // The usual case for players.
     std::set<GraphID> reached{device};
     std::vector<GraphID> open{device};
     while (!open.empty() && !reached.contains(stream)) {

@@ -135,7 +135,7 @@ void TapRouter::setGates()
             return runsThrough(stream) && isRunning(stream) && isDirect(stream)
                 && !hasAnotherSettledStream(stream);
         });
-        // Once its last stream is back on a device a released path falls silent, before its filter is really gone.
+        // Once its last stream is back on a device, a released path falls silent, before its filter is actually gone.
         const bool isOver = path.isReleased && std::ranges::none_of(streams_, runsThrough);
         path.filter->setGateOpen(!isHeardTwice && !isOver);
     }
@@ -157,7 +157,7 @@ void TapRouter::sessionManagerAppeared()
 
 void TapRouter::sessionManagerVanished()
 {
-    // The next one could not adopt it: some generations then stop linking anything.
+    // The next one could not adopt it: some versions then stop linking anything.
     park_.reset();
     held_.clear();
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The streams of the taps: which ones are taken, kept and given back.
+// The streams of the taps: which ones are captured, kept and released.
 #include "platform/pipewire/TapRouter.h"
 
 #include <algorithm>
@@ -11,18 +11,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A session manager moves a stream within milliseconds, on a busy machine in a second. One that has not by then is not
-// going to.
+// A session manager moves a stream within milliseconds, on a busy machine within a second. If it has not by then, it is
+// not going to.
 constexpr auto stuckAfter = 2000ms;
-// How long a stream that is given back may stay on our links while no session manager takes it.
+// How long a released stream may stay on our links while no session manager takes it.
 constexpr auto giveUpAfter = 1000ms;
 // How long a stream that has changed its device waits for a tap there.
 constexpr auto pathWithin = 500ms;
 
-/// Why a stream that is to be ours stays on its device.
+/// Why a stream that should be ours stays on its device.
 std::string whyStuck(const GraphNode& stream)
 {
-    // No session manager cares for such a stream: whoever made its links keeps them.
+    // No session manager manages such a stream: whoever created its links keeps them.
     const auto autoconnect = propertyOf(stream.properties, "node.autoconnect");
     if (autoconnect != "true" && autoconnect != "1")
         return "the links of a stream were made by hand and stay; its application is heard as it is";
@@ -102,7 +102,7 @@ void TapRouter::streamChanged(const GraphNode& stream)
 {
     if (held_.has(stream) && !isTappable(stream))
         held_.release(stream.id);
-    // The doorbell has been answered: from now on it would be heard.
+    // The doorbell has been answered: from now on it would be audible.
     const auto* known = streamWith(stream.id);
     if (known && known->path && !needsDoorbell(stream))
         links_.drop(stream.id, known->path->route.deviceNode);
@@ -110,7 +110,7 @@ void TapRouter::streamChanged(const GraphNode& stream)
 
 void TapRouter::follow(Stream& stream, TapPath* wanted)
 {
-    // A path that changes hands is left when the next one can take over.
+    // A path whose streams are handed over is left once the next one can take over.
     if (wanted && stream.path && wanted != stream.path && !stream.path->route.isStopped && !isReady(*wanted))
         wanted = stream.path;
     if (wanted) {
@@ -130,7 +130,7 @@ void TapRouter::follow(Stream& stream, TapPath* wanted)
 
 bool TapRouter::mayStillFindAPath(Stream& stream)
 {
-    // It has changed to a device for which its application has no tap yet. Until there is one, it stays where it is.
+    // It has moved to a device for which its application has no tap yet. Until there is one, it stays where it is.
     if (!stream.path || stream.path->isReleased || stream.path->route.scope == StreamScope::every)
         return false;
     const auto now = std::chrono::steady_clock::now();

@@ -37,12 +37,10 @@
 
 namespace fadeloom {
 
-/// Thread: the one that creates it, which is its main thread. Initially it has no devices, no applications, and
-/// permission.
+/// Initially without devices and applications, with permission. Thread: the one that creates it, as its main thread.
 class SimulatedPlatform {
 public:
-    /// `applicationSupport`: a real folder for the program's files. `text`: replaces `SimulatedText`; must outlive
-    /// this.
+    /// `applicationSupport`: a real folder for the program's files. `text` replaces `SimulatedText`; must outlive this.
     explicit SimulatedPlatform(std::filesystem::path applicationSupport, Text* text = nullptr);
     SimulatedPlatform(const SimulatedPlatform&) = delete;
     SimulatedPlatform& operator=(const SimulatedPlatform&) = delete;
