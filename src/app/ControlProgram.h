@@ -6,6 +6,6 @@ namespace fadeloom {
 
 /// Replaces this process by fadeloomctl with the same arguments: the one beside this program, else from the search
 /// path. Returns an exit status only if there is none. `arguments`: of the program, its name first.
-[[nodiscard]] int becomeControl(char** arguments);
+[[nodiscard]] int execControl(char** arguments);
 
 }  // namespace fadeloom

@@ -16,7 +16,7 @@ namespace {
 // Every library writes to standard error, on every thread. Reopening the file gives us our own file description, so
 // making it non-blocking affects nobody who shares the old one. A regular file is left alone, because it has a write
 // position, and so is one that cannot be reopened.
-void dropErrorsThatNobodyReads()
+void makeStandardErrorNonBlocking()
 {
     struct stat status{};
     if (fstat(STDERR_FILENO, &status) != 0 || (!S_ISFIFO(status.st_mode) && isatty(STDERR_FILENO) == 0))
@@ -37,7 +37,7 @@ void secureStandardStreams()
         if (fcntl(stream, F_GETFD) == -1 && errno == EBADF && open("/dev/null", O_RDWR) == -1)
             return;
     }
-    dropErrorsThatNobodyReads();
+    makeStandardErrorNonBlocking();
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGTTIN, SIG_IGN);
     std::signal(SIGTTOU, SIG_IGN);

@@ -104,8 +104,9 @@ TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Host host)
     , updates_(makeUpdateChecker(platform_, host_.workspace))
     , panel_(controller_, panelParts())
 {
-    panel_.setDesktopLook(desktop_.look());
-    desktop_.whenLookChanges([this](const DesktopLook& look) { panel_.setDesktopLook(look); });
+    panel_.setDesktopAppearance(desktop_.appearance());
+    desktop_.whenAppearanceChanges(
+        [this](const DesktopAppearance& appearance) { panel_.setDesktopAppearance(appearance); });
     // The loop may not run again: shut down before this returns.
     desktop_.whenSessionEnds([this] {
         controller_.shutdown();
@@ -118,7 +119,7 @@ TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Host host)
 TrayRun::~TrayRun()
 {
     desktop_.whenSessionEnds([] { });
-    desktop_.whenLookChanges([](const DesktopLook&) { });
+    desktop_.whenAppearanceChanges([](const DesktopAppearance&) { });
     if (host_.instance != nullptr)
         host_.instance->serve({});
 }

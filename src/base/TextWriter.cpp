@@ -27,7 +27,7 @@ struct TextWriter::State {
         size += text.size();
         waiting.push_back(std::move(text));
     }
-    void tellOfDropped()
+    void reportDropped()
     {
         if (dropped > 0)
             add(notice(std::exchange(dropped, 0)));
@@ -50,7 +50,7 @@ void TextWriter::State::work()
     std::unique_lock lock(mutex);
     while (true) {
         if (waiting.empty())
-            tellOfDropped();
+            reportDropped();
         if (!waiting.empty()) {
             const auto text = std::move(waiting.front());
             waiting.pop_front();
@@ -93,7 +93,7 @@ void TextWriter::write(std::string text)
         ++state_->dropped;
         return;
     }
-    state_->tellOfDropped();
+    state_->reportDropped();
     state_->add(std::move(text));
     state_->changed.notify_all();
 }
@@ -106,7 +106,7 @@ bool TextWriter::close()
     while (state_->isWorking) {
         const auto before = state_->taken;
         const auto hasMoved = [&] { return !state_->isWorking || state_->taken != before; };
-        if (!state_->changed.wait_for(lock, patience, hasMoved))
+        if (!state_->changed.wait_for(lock, timeout, hasMoved))
             return false;
     }
     return true;

@@ -26,7 +26,7 @@ public:
 
     static constexpr std::size_t room = std::size_t{256} * 1024;  // Bytes that may be pending.
     // At the end, for a sink that makes no progress.
-    static constexpr std::chrono::milliseconds patience{300};
+    static constexpr std::chrono::milliseconds timeout{300};
 
     TextWriter(Sink sink, Notice notice);
     /// Calls `close`.
@@ -36,7 +36,7 @@ public:
 
     /// Queues the text after the previous ones. Never blocks.
     void write(std::string text);
-    /// Blocks until everything is written, or the sink has made no progress for `patience`. Returns false if something
+    /// Blocks until everything is written, or the sink has made no progress for `timeout`. Returns false if something
     /// was left, which may still be written. Must not be written to afterwards.
     bool close();
 

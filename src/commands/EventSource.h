@@ -30,18 +30,18 @@ public:
     EventSource& operator=(const EventSource&) = delete;
 
 private:
-    void tellApps();
-    void tellDevices();
-    void tellOutputs();
-    void tellCallOffers();
-    void tellRecordings();
+    void emitApps();
+    void emitDevices();
+    void emitOutputs();
+    void emitCallOffers();
+    void emitRecordings();
     void settingsChanged();
-    void tellSettings();
-    void tellAll(const Events& events);
+    void emitSettings();
+    void emitAll(const Events& events);
 
     const AudioController& controller_;
     MainLoop& mainLoop_;
-    const Tell tell_;
+    const Tell emit_;
     std::vector<AppEntry> apps_;  // As last emitted, all six.
     std::vector<OutputDevice> devices_;
     AppOutputs outputs_;

@@ -47,9 +47,9 @@ public:
 
 private:
     [[nodiscard]] bool isAbout(const std::string& id) const;
-    void tell(const Event& event);
-    void tellLevels();
-    void tellBar();
+    void deliver(const Event& event);
+    void sendLevels();
+    void sendBarStatus();
 
     AudioController& controller_;
     const Text& text_;

@@ -11,10 +11,10 @@
 
 namespace fadeloom::ctl {
 
-/// One connection for many commands. Blocks for at most `patience` per step, except in `follow`.
+/// One connection for many commands. Blocks for at most `timeout` per step, except in `follow`.
 class Client {
 public:
-    static constexpr std::chrono::seconds patience{2};
+    static constexpr std::chrono::seconds timeout{2};
 
     /// `socket`: where the program listens. `wait`: how long to wait for one that is not running, or is starting or
     /// exiting.

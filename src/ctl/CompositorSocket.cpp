@@ -32,9 +32,9 @@ public:
         if (socket.size() >= sizeof address.sun_path)
             return;
         std::ranges::copy(socket, address.sun_path);
-        const timeval patience{.tv_sec = 2, .tv_usec = 0};
+        const timeval timeout{.tv_sec = 2, .tv_usec = 0};
         for (const int option : {SO_RCVTIMEO, SO_SNDTIMEO})
-            setsockopt(descriptor_, SOL_SOCKET, option, &patience, sizeof patience);
+            setsockopt(descriptor_, SOL_SOCKET, option, &timeout, sizeof timeout);
         isConnected_ = connect(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
     }
     Connection(const Connection&) = delete;

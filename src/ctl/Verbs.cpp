@@ -24,7 +24,7 @@ Status complain(Status status, std::string_view sentence)
     return status;
 }
 
-Status complainOfSilence()
+Status reportNoReply()
 {
     return complain(noAnswer, "the running Fadeloom does not answer, or is too old for this");
 }
@@ -63,7 +63,7 @@ Status printAnswerLine(Client& client, Words words, const std::string& line, con
     const bool isJson = options.form == Options::Form::json;
     const auto answer = client.ask((isJson ? "Json " : "Run ") + line);
     if (!answer)
-        return complainOfSilence();
+        return reportNoReply();
     const auto [status, sentence] = Answer::parse(*answer);
     if (status != done)
         return complain(status, sentence);
@@ -89,7 +89,7 @@ Status printCandidates(Client& client, Words words)
 {
     const auto answer = client.ask("Run " + lineOf(words));
     if (!answer)
-        return complainOfSilence();
+        return reportNoReply();
     const auto [status, sentence] = Answer::parse(*answer);
     if (status != done)
         return complain(status, sentence);
@@ -126,7 +126,7 @@ Status watch(Client& client, Words words, const Options& options)
     while (true) {
         const auto begun = client.ask("Watch " + std::string(form) + " " + lineOf(words));
         if (!begun)
-            return complainOfSilence();
+            return reportNoReply();
         if (const auto [status, sentence] = Answer::parse(*begun); status != done)
             return complain(status, sentence);
         std::string last;
@@ -149,7 +149,7 @@ Status exportSettings(Client& client, Words words)
 {
     const auto answer = client.ask("Run export");
     if (!answer)
-        return complainOfSilence();
+        return reportNoReply();
     auto [status, sentence] = Answer::parse(*answer);
     if (status != done)
         return complain(status, sentence);

@@ -21,7 +21,7 @@ public:
     virtual ~CallApps() = default;
 
     /// In display order.
-    [[nodiscard]] virtual const std::vector<CallApp>& wellKnown() const = 0;
+    [[nodiscard]] virtual const std::vector<CallApp>& knownApps() const = 0;
     /// The default list of an earlier version; empty if it was the same.
     [[nodiscard]] virtual std::vector<std::string> formerDefaults() const = 0;
     /// This identifier, then all others of the known app that it belongs to.

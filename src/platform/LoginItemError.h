@@ -15,12 +15,12 @@ struct ProgramUnknown {
 };
 
 /// The system's own message, in the user's language.
-struct SystemWords {
+struct SystemMessage {
     std::string text;
 
-    friend bool operator==(const SystemWords&, const SystemWords&) = default;
+    friend bool operator==(const SystemMessage&, const SystemMessage&) = default;
 };
 
-using LoginItemError = std::variant<FileError, ProgramUnknown, SystemWords>;
+using LoginItemError = std::variant<FileError, ProgramUnknown, SystemMessage>;
 
 }  // namespace fadeloom

@@ -75,10 +75,10 @@ void UpdateChecker::take(const RemoteVersion& remote)
 
 void UpdateChecker::checkInteractively()
 {
-    check([this](bool isReachable) { tellOutcome(isReachable); });
+    check([this](bool isReachable) { reportOutcome(isReachable); });
 }
 
-void UpdateChecker::tellOutcome(bool isReachable)
+void UpdateChecker::reportOutcome(bool isReachable)
 {
     parts_.application.activate();
     if (const auto& remote = *available_) {

@@ -73,7 +73,7 @@ public:
 
 private:
     void take(const RemoteVersion& remote);
-    void tellOutcome(bool isReachable);
+    void reportOutcome(bool isReachable);
     [[nodiscard]] Alert updateAlert(const RemoteVersion& remote) const;
 
     const Product product_;

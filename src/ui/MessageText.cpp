@@ -76,7 +76,7 @@ struct Wording {
     {
         return words(QT_TRANSLATE_NOOP("MessageText", "The system does not tell where this program is."));
     }
-    QString operator()(const SystemWords& error) const { return QString::fromStdString(error.text); }
+    QString operator()(const SystemMessage& error) const { return QString::fromStdString(error.text); }
 
     QString operator()(const BuiltInPresetName& error) const
     {

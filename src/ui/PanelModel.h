@@ -6,7 +6,7 @@
 #pragma once
 
 #include "base/Subscription.h"
-#include "platform/DesktopLook.h"
+#include "platform/DesktopAppearance.h"
 #include "settings/AppearanceSettings.h"
 #include "ui/AppRowList.h"
 #include "ui/MenuEntry.h"
@@ -39,14 +39,14 @@ class PanelModel : public QObject {
     Q_PROPERTY(QVariantList outputEntries READ outputEntries NOTIFY outputsChanged)
     Q_PROPERTY(QString lastRecording READ lastRecording NOTIFY lastRecordingChanged)
     Q_PROPERTY(QString availableVersion READ availableVersion NOTIFY availableVersionChanged)
-    Q_PROPERTY(bool isDark READ isDark NOTIFY lookChanged)
-    Q_PROPERTY(bool glass READ glass NOTIFY lookChanged)
-    Q_PROPERTY(bool animations READ animations NOTIFY lookChanged)
-    Q_PROPERTY(bool hasHighContrast READ hasHighContrast NOTIFY lookChanged)
-    Q_PROPERTY(double textScale READ textScale NOTIFY lookChanged)
-    Q_PROPERTY(QColor accentInk READ accentInk NOTIFY lookChanged)
-    Q_PROPERTY(QColor accentFill READ accentFill NOTIFY lookChanged)
-    Q_PROPERTY(bool levelMeters READ levelMeters NOTIFY lookChanged)
+    Q_PROPERTY(bool isDark READ isDark NOTIFY appearanceChanged)
+    Q_PROPERTY(bool glass READ glass NOTIFY appearanceChanged)
+    Q_PROPERTY(bool animations READ animations NOTIFY appearanceChanged)
+    Q_PROPERTY(bool hasHighContrast READ hasHighContrast NOTIFY appearanceChanged)
+    Q_PROPERTY(double textScale READ textScale NOTIFY appearanceChanged)
+    Q_PROPERTY(QColor accentInk READ accentInk NOTIFY appearanceChanged)
+    Q_PROPERTY(QColor accentFill READ accentFill NOTIFY appearanceChanged)
+    Q_PROPERTY(bool levelMeters READ levelMeters NOTIFY appearanceChanged)
     Q_PROPERTY(fadeloom::AppRowList* rows READ rows CONSTANT)
     Q_PROPERTY(fadeloom::SettingsModel* settings READ settings CONSTANT)
 
@@ -84,7 +84,7 @@ public:
     [[nodiscard]] SettingsModel* settings() { return &settings_; }
 
     /// `isDark` applies while the user's theme is "System"; reduced motion and high contrast always.
-    void setDesktopLook(const DesktopLook& look);
+    void setDesktopAppearance(const DesktopAppearance& appearance);
 
     /// `key`: of an entry of `outputEntries`.
     Q_INVOKABLE void chooseOutput(const QString& key);
@@ -101,7 +101,7 @@ Q_SIGNALS:
     void outputsChanged();
     void lastRecordingChanged();
     void availableVersionChanged();
-    void lookChanged();
+    void appearanceChanged();
 
 private:
     struct ShownBanner {
@@ -113,18 +113,18 @@ private:
 
     void observe();
     void refreshBanner();
-    void refreshLook();
+    void refreshAppearance();
     [[nodiscard]] ShownBanner readBanner() const;
     [[nodiscard]] QString callText(const std::string& bundleID) const;
 
     AudioController& controller_;
     const PanelParts parts_;
     bool showsSettings_ = false;
-    DesktopLook desktop_{.isDark = true};
+    DesktopAppearance desktop_{.isDark = true};
     AppRowList rows_;
     SettingsModel settings_;
     ShownBanner banner_;
-    AppearanceSettings look_;
+    AppearanceSettings appearance_;
 
     std::vector<Subscription> observed_;
 };

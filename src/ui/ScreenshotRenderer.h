@@ -23,7 +23,7 @@ void prepareEnvironment();
 /// Writes "panel", "eq" and "settings", each followed by `suffix` and ".png", and prints one line for each to `lines`.
 /// A file that cannot be written is reported only there. Nothing of `platform` is captured or changed.
 void run(const Platform& platform, EngineLog& engineLog, const PanelParts& parts,
-    const std::filesystem::path& outputDirectory, const std::string& suffix, Theme look, DemoHome home,
+    const std::filesystem::path& outputDirectory, const std::string& suffix, Theme theme, DemoHome home,
     std::ostream& lines);
 
 }  // namespace ScreenshotRenderer

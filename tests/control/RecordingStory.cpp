@@ -55,7 +55,7 @@ TEST_F(RecordingStory, writesWhatTheAppPlays)
     EXPECT_THAT(lastFile().samples, Each(source));
 }
 
-TEST_F(RecordingStory, writesTheSoundBeforeEverythingThatIsDoneToIt)
+TEST_F(RecordingStory, writesTheUnprocessedAudio)
 {
     launchPlaying("Player");
     change(player, [](auto& app) {
@@ -74,7 +74,7 @@ TEST_F(RecordingStory, writesTheSoundBeforeEverythingThatIsDoneToIt)
     EXPECT_THAT(lastFile().samples, Each(source));
 }
 
-TEST_F(RecordingStory, bearsTheAppsNameAndTheTime)
+TEST_F(RecordingStory, hasTheAppsNameAndTheTime)
 {
     using namespace std::chrono;
     world.setDate(sys_days{2025y / 3 / 2} + 14h + 5min + 9s);
@@ -208,7 +208,7 @@ TEST_F(RecordingStory, neverReplacesAnother)
     EXPECT_THAT(files(), SizeIs(4));
 }
 
-TEST_F(RecordingStory, takesAnotherNameWhereOnlyTheCaseOfLettersDiffers)
+TEST_F(RecordingStory, usesAnotherNameIfOnlyTheCaseDiffers)
 {
     world.audioFiles().foldCase();
     launchPlaying("Player");
@@ -225,7 +225,7 @@ TEST_F(RecordingStory, takesAnotherNameWhereOnlyTheCaseOfLettersDiffers)
     EXPECT_THAT(names, Contains(AllOf(StartsWith("Player "), Not(EndsWith(" 2")))));
 }
 
-TEST_F(RecordingStory, ofSeveralAppsGoOnSideBySide)
+TEST_F(RecordingStory, ofSeveralAppsRunConcurrently)
 {
     launchPlaying("Player");
     world.startPlaying(world.launchApp("Radio"), SimulatedSignal::constant(0.5F));
@@ -242,7 +242,7 @@ TEST_F(RecordingStory, ofSeveralAppsGoOnSideBySide)
     EXPECT_THAT(lastFile().samples, Each(0.5F));
 }
 
-TEST_F(RecordingStory, goesOnWhenTheAppMovesToAnotherOutput)
+TEST_F(RecordingStory, continuesWhenTheAppMovesToAnotherOutput)
 {
     launchPlaying("Player");
     record(player);
@@ -359,7 +359,7 @@ TEST_F(RecordingStory, aFolderThatCannotBeMadeIsReported)
     EXPECT_THAT(*state().recordings, IsEmpty());
 }
 
-TEST_F(RecordingStory, endsWhenTheDiskIsFullAndTheSoundGoesOn)
+TEST_F(RecordingStory, endsWhenTheDiskIsFullWhilePlaybackContinues)
 {
     launchPlaying("Player");
     record(player);
@@ -375,7 +375,7 @@ TEST_F(RecordingStory, endsWhenTheDiskIsFullAndTheSoundGoesOn)
     EXPECT_NEAR(heardAt("speakers"), source, tolerance);
 }
 
-TEST_F(RecordingStory, saysInTheLogWhatItLost)
+TEST_F(RecordingStory, logsWhatItLost)
 {
     launchPlaying("Player");
     record(player);
@@ -389,7 +389,7 @@ TEST_F(RecordingStory, saysInTheLogWhatItLost)
     EXPECT_TRUE(hasLogged("recording has gaps: com.example.player, 2310 ms lost"));
 }
 
-TEST_F(RecordingStory, nothingLooksAfterRecordingsWhileThereAreNone)
+TEST_F(RecordingStory, noTimerRunsWithoutRecordings)
 {
     launchPlaying("Player");
     const auto idle = world.mainLoop().timerCount();

@@ -27,7 +27,7 @@ public:
     /// replied. Tasks of one sender keep their order. A sender unknown to the bus counts as sandboxed.
     void with(const QString& sender, Task task);
     /// Called when a sender's connection has ended.
-    void whenGone(std::function<void(const QString& sender)> gone) { gone_ = std::move(gone); }
+    void whenDisconnected(std::function<void(const QString& sender)> gone) { gone_ = std::move(gone); }
 
 private:
     void ask(const QString& sender);

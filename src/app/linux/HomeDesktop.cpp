@@ -51,14 +51,14 @@ bool HomeDesktop::prepare()
 }
 
 HomeDesktop::HomeDesktop()
-    : icon_(trayPicture(look_.look().isDark, currentDesktop()), [this] { withoutTray_(); })
+    : icon_(trayPicture(appearance_.appearance().isDark, currentDesktop()), [this] { withoutTray_(); })
 {
 }
 
-void HomeDesktop::changeLook(const DesktopLook& look)
+void HomeDesktop::changeAppearance(const DesktopAppearance& appearance)
 {
-    icon_.setPicture(trayPicture(look.isDark, currentDesktop()));
-    lookChanged_(look);
+    icon_.setPicture(trayPicture(appearance.isDark, currentDesktop()));
+    appearanceChanged_(appearance);
 }
 
 }  // namespace fadeloom

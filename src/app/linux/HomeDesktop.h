@@ -5,7 +5,7 @@
 #include "platform/qtdesktop/QtApplication.h"
 #include "platform/qtdesktop/QtDialogs.h"
 #include "platform/qtdesktop/QtTrayIcon.h"
-#include "platform/qtdesktop/SystemLook.h"
+#include "platform/qtdesktop/SystemAppearance.h"
 
 #include <functional>
 #include <utility>
@@ -25,11 +25,11 @@ public:
     [[nodiscard]] Application& application() { return application_; }
     [[nodiscard]] Dialogs& dialogs() { return dialogs_; }
     [[nodiscard]] QtTrayIcon& icon() { return icon_; }
-    [[nodiscard]] const DesktopLook& look() const { return look_.look(); }
+    [[nodiscard]] const DesktopAppearance& appearance() const { return appearance_.appearance(); }
     /// Called whenever the desktop's appearance changes.
-    void whenLookChanges(std::function<void(const DesktopLook&)> changed)
+    void whenAppearanceChanges(std::function<void(const DesktopAppearance&)> changed)
     {
-        lookChanged_ = std::move(changed);
+        appearanceChanged_ = std::move(changed);
     }
     /// Never called: a Linux session ends its programs with a signal, which is handled anyway.
     void whenSessionEnds(const std::function<void()>& /*ends*/) { }
@@ -37,13 +37,14 @@ public:
     void whenWithoutTray(std::function<void()> withoutTray) { withoutTray_ = std::move(withoutTray); }
 
 private:
-    void changeLook(const DesktopLook& look);
+    void changeAppearance(const DesktopAppearance& appearance);
 
-    std::function<void(const DesktopLook&)> lookChanged_ = [](const DesktopLook&) { };
+    std::function<void(const DesktopAppearance&)> appearanceChanged_ = [](const DesktopAppearance&) { };
     std::function<void()> withoutTray_ = [] { };
     QtApplication application_{[](auto) { }};  // The panel reads the choice from the settings.
     QtDialogs dialogs_;
-    SystemLook look_{[this](const DesktopLook& look) { changeLook(look); }};
+    SystemAppearance appearance_{
+        [this](const DesktopAppearance& appearance) { changeAppearance(appearance); }};
     QtTrayIcon icon_;
 };
 

@@ -24,7 +24,7 @@ public:
     void setContent(QtPopover::MakeContent make) { popover_.setContent(std::move(make)); }
 
 private:
-    void beOrdinary();
+    void showAsOrdinaryWindow();
 
     HomeDesktop& desktop_;
     QtPopover popover_;

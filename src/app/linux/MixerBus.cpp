@@ -56,7 +56,7 @@ MixerBus::MixerBus(const QDBusConnection& connection, const ServedControl& contr
     , callers_(connection)
     , announcer_((registerBusTypes(), connection), control.mainLoop, control.controller, control.version)
 {
-    callers_.whenGone([this](const QString& sender) { unsubscribe(sender); });
+    callers_.whenDisconnected([this](const QString& sender) { unsubscribe(sender); });
 }
 
 QString MixerBus::introspect(const QString& path) const

@@ -28,7 +28,7 @@ public:
     /// The content, created when it opens for the first time; its implicit size is the panel's.
     void setContent(std::function<std::unique_ptr<QQuickItem>()> make)
     {
-        popover_.whenFirstNeeded([this, make = std::move(make)] {
+        popover_.whenFirstShown([this, make = std::move(make)] {
             if (auto content = make())
                 content_.emplace(popover_, std::move(content));
         });

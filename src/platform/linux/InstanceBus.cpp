@@ -144,18 +144,18 @@ void InstanceBus::serve(InstanceTree* tree)
     tree_->served = tree;
 }
 
-QDBusMessage InstanceBus::call(InstanceRequest request, std::chrono::milliseconds patience)
+QDBusMessage InstanceBus::call(InstanceRequest request, std::chrono::milliseconds timeout)
 {
     auto question =
         QDBusMessage::createMethodCall(busName, objectPath, interfaceName, qName(nameOf(request)));
     question.setAutoStartService(false);
-    const auto wait = static_cast<int>(std::max(patience, std::chrono::milliseconds(1)).count());
+    const auto wait = static_cast<int>(std::max(timeout, std::chrono::milliseconds(1)).count());
     return bus_.call(question, QDBus::Block, wait);
 }
 
-bool InstanceBus::isHeldByInstance(std::chrono::milliseconds patience)
+bool InstanceBus::isHeldByInstance(std::chrono::milliseconds timeout)
 {
-    const auto reply = call(InstanceRequest::ping, patience);
+    const auto reply = call(InstanceRequest::ping, timeout);
     if (reply.type() == QDBusMessage::ReplyMessage || reply.errorName().startsWith(errorPrefix))
         return true;
     switch (QDBusError(reply).type()) {
@@ -182,9 +182,9 @@ bool InstanceBus::runsOurExecutable() const
     return !ours.isEmpty() && executable(QString::number(owner.value())) == ours;
 }
 
-std::optional<InstanceAnswer> InstanceBus::ask(InstanceRequest request, std::chrono::milliseconds patience)
+std::optional<InstanceAnswer> InstanceBus::ask(InstanceRequest request, std::chrono::milliseconds timeout)
 {
-    const auto reply = call(request, patience);
+    const auto reply = call(request, timeout);
     if (reply.type() == QDBusMessage::ReplyMessage)
         return InstanceAnswer::done;
     if (!reply.errorName().startsWith(errorPrefix))

@@ -44,10 +44,10 @@ public:
     [[nodiscard]] bool claim();
     /// Whether the name belongs to an instance of the program rather than another program: it replies like one, or does
     /// not reply in time and runs our executable. Blocks for that.
-    [[nodiscard]] bool isHeldByInstance(std::chrono::milliseconds patience);
+    [[nodiscard]] bool isHeldByInstance(std::chrono::milliseconds timeout);
     /// Sends a request to the owner of the name. nullopt without a reply in time; blocks for that.
     [[nodiscard]] std::optional<InstanceAnswer> ask(
-        InstanceRequest request, std::chrono::milliseconds patience);
+        InstanceRequest request, std::chrono::milliseconds timeout);
 
     /// Handles calls to the objects below; none are handled while it is null.
     void serve(InstanceTree* tree);
@@ -56,7 +56,7 @@ private:
     class Object;
     class Tree;
 
-    [[nodiscard]] QDBusMessage call(InstanceRequest request, std::chrono::milliseconds patience);
+    [[nodiscard]] QDBusMessage call(InstanceRequest request, std::chrono::milliseconds timeout);
     [[nodiscard]] bool runsOurExecutable() const;
 
     const QString connectionName_;

@@ -25,12 +25,12 @@ public:
     InstanceLock& operator=(const InstanceLock&) = delete;
 
     /// Never blocks: neither on a lock held by another process nor on the other end of a pipe.
-    [[nodiscard]] Outcome tryToTake();
+    [[nodiscard]] Outcome tryToLock();
     /// Releases our lock, and removes its file.
     void release();
 
 private:
-    [[nodiscard]] bool isStillInPlace(int descriptor) const;
+    [[nodiscard]] bool isStillNamed(int descriptor) const;
 
     const std::filesystem::path file_;
     std::unique_ptr<FileDescriptor> descriptor_;  // Set while we hold the lock.

@@ -162,9 +162,9 @@ void InstanceSocket::watch(QLocalSocket& connection, const InstanceCommand& comm
 }
 
 std::optional<InstanceAnswer> InstanceSocket::ask(
-    InstanceRequest request, std::chrono::milliseconds patience) const
+    InstanceRequest request, std::chrono::milliseconds timeout) const
 {
-    const QDeadlineTimer deadline(patience);
+    const QDeadlineTimer deadline(timeout);
     QLocalSocket socket;
     socket.connectToServer(file_);
     if (!socket.waitForConnected(left(deadline)))

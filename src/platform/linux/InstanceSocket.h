@@ -45,7 +45,7 @@ public:
     void endWatches();
     /// Sends a request to the listening instance. nullopt without a reply in time; blocks for that.
     [[nodiscard]] std::optional<InstanceAnswer> ask(
-        InstanceRequest request, std::chrono::milliseconds patience) const;
+        InstanceRequest request, std::chrono::milliseconds timeout) const;
 
 private:
     void accept();

@@ -24,7 +24,7 @@ public:
     {
     }
 
-    [[nodiscard]] const std::vector<CallApp>& wellKnown() const override;
+    [[nodiscard]] const std::vector<CallApp>& knownApps() const override;
     [[nodiscard]] std::vector<std::string> formerDefaults() const override;
     [[nodiscard]] std::vector<std::string> identifiersOf(const std::string& bundleID) const override;
 

@@ -62,16 +62,16 @@ QDBusConnection SingleInstance::bus() const
 
 SingleInstance::Start SingleInstance::claim(InstanceRequest request)
 {
-    QDeadlineTimer deadline(patience);
+    QDeadlineTimer deadline(timeout);
     bool isAwaitingEnd = false;
-    while (!tryToBeFirst()) {
+    while (!tryToClaim()) {
         const auto answer = ask(request, left(deadline));
         if (answer == InstanceAnswer::done)
             return Start::answered;
         if (answer == InstanceAnswer::noPanel)
             return Start::withoutPanel;
         if (answer == InstanceAnswer::ending && !std::exchange(isAwaitingEnd, true))
-            deadline.setRemainingTime(patienceWithEnding);
+            deadline.setRemainingTime(endingTimeout);
         if (deadline.hasExpired())
             return Start::unanswered;
         std::this_thread::sleep_for(pause);
@@ -79,14 +79,14 @@ SingleInstance::Start SingleInstance::claim(InstanceRequest request)
     return Start::first;
 }
 
-bool SingleInstance::tryToBeFirst()
+bool SingleInstance::tryToClaim()
 {
-    const auto outcome = lock_.tryToTake();
+    const auto outcome = lock_.tryToLock();
     if (outcome == InstanceLock::Outcome::heldByAnother)
         return false;
     // If locking is impossible, whichever instance replies is the first.
     const bool isAnswered = outcome == InstanceLock::Outcome::unusable
-        && socket_->ask(InstanceRequest::ping, patience).has_value();
+        && socket_->ask(InstanceRequest::ping, timeout).has_value();
     if (isAnswered || isAnotherOnBus()) {
         lock_.release();
         return false;
@@ -99,7 +99,7 @@ bool SingleInstance::tryToBeFirst()
 // session.
 bool SingleInstance::isAnotherOnBus()
 {
-    return bus_->isConnected() && !bus_->claim() && bus_->isHeldByInstance(patience);
+    return bus_->isConnected() && !bus_->claim() && bus_->isHeldByInstance(timeout);
 }
 
 std::optional<InstanceAnswer> SingleInstance::ask(InstanceRequest request, std::chrono::milliseconds wait)

@@ -45,9 +45,9 @@ public:
         InstanceTree* tree = nullptr;  // On the session bus.
     };
 
-    static constexpr std::chrono::milliseconds patience{2'000};  // For a reply from a running instance.
+    static constexpr std::chrono::milliseconds timeout{2'000};  // For a reply from a running instance.
     // For an instance that said that it is exiting.
-    static constexpr std::chrono::milliseconds patienceWithEnding{10'000};
+    static constexpr std::chrono::milliseconds endingTimeout{10'000};
 
     /// `runtimeFolder`: the user's own, and the same for all instances that must find each other. Claims nothing yet.
     explicit SingleInstance(const std::filesystem::path& runtimeFolder);
@@ -68,7 +68,7 @@ public:
 
 private:
     [[nodiscard]] std::string busyAnswer() const;
-    [[nodiscard]] bool tryToBeFirst();
+    [[nodiscard]] bool tryToClaim();
     [[nodiscard]] bool isAnotherOnBus();
     [[nodiscard]] std::optional<InstanceAnswer> ask(InstanceRequest request, std::chrono::milliseconds wait);
     [[nodiscard]] InstanceAnswer answer(InstanceRequest request);

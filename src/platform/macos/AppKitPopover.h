@@ -24,7 +24,7 @@ public:
     /// An `NSView`, owned by the popover.
     [[nodiscard]] void* contentView() const;
     /// Fills the view; called once, before it is first shown.
-    void whenFirstNeeded(std::function<void()> makeContent) { makeContent_ = std::move(makeContent); }
+    void whenFirstShown(std::function<void()> makeContent) { makeContent_ = std::move(makeContent); }
     /// Points.
     void setContentSize(double width, double height);
 

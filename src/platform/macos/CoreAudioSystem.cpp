@@ -58,7 +58,7 @@ std::vector<AudioProcess> CoreAudioSystem::processes(ReadMic readMic)
     auto processes = processWatch_->processes.all(readMic);
     if (!processWatch_->observers.isEmpty())
         processWatch_->listeners.sync(processes);
-    silentTaps_.look(processes);
+    silentTaps_.check(processes);
     return processes;
 }
 

@@ -59,7 +59,7 @@ CycleTime cycleTime(AudioObjectID clock, const AudioTimeStamp& input, const Audi
 }  // namespace
 
 std::expected<std::unique_ptr<CoreAudioTap>, TapError> CoreAudioTap::create(
-    const TapRequest& request, const AudioIOProcFactory& makeIOProc, TapSurroundings surroundings)
+    const TapRequest& request, const AudioIOProcFactory& makeIOProc, TapContext surroundings)
 {
     // The constructor is private, so std::make_unique cannot call it.
     std::unique_ptr<CoreAudioTap> tap(new CoreAudioTap(request.output, surroundings));
@@ -69,9 +69,9 @@ std::expected<std::unique_ptr<CoreAudioTap>, TapError> CoreAudioTap::create(
     return tap;
 }
 
-CoreAudioTap::CoreAudioTap(OutputDevice output, TapSurroundings surroundings)
+CoreAudioTap::CoreAudioTap(OutputDevice output, TapContext surroundings)
     : output_(std::move(output))
-    , surroundings_(surroundings)
+    , context_(surroundings)
 {
 }
 
@@ -208,27 +208,27 @@ void CoreAudioTap::watch()
     });
     if (listener)
         deviceListener_ = std::move(*listener);
-    restarts_ = surroundings_.restarts.add([this] { abandon(); });
-    looks_ = surroundings_.silentTaps.whenLooking([this] { lookForSilence(); });
+    restarts_ = context_.restarts.add([this] { abandon(); });
+    checks_ = context_.silentTaps.whenChecking([this] { checkForSilence(); });
 }
 
-void CoreAudioTap::lookForSilence()
+void CoreAudioTap::checkForSilence()
 {
-    auto& taps = surroundings_.silentTaps;
+    auto& taps = context_.silentTaps;
     const SilentTaps::Key key{description_.processes, output_.uid};
     const std::uint64_t silent = silence_->silentFrames();
     if (silent < silentWhilePaused_)
         silentWhilePaused_ = 0;
-    if (silence_->hasHeard())
-        taps.noteSound(key);
+    if (silence_->hasHadSound())
+        taps.soundArrived(key);
     if (!taps.isAnyPlaying(description_.processes))
         silentWhilePaused_ = silent;
     if (!isRunning_)
         return;
-    const auto patience = static_cast<double>(taps.patienceWith(key).count());
-    if (static_cast<double>(silent - silentWhilePaused_) < patience * sampleRate_)
+    const auto tolerance = static_cast<double>(taps.toleratedSilence(key).count());
+    if (static_cast<double>(silent - silentWhilePaused_) < tolerance * sampleRate_)
         return;
-    taps.noteRenewal(key);
+    taps.tapReplaced(key);
     isRunning_ = false;
 }
 

@@ -29,7 +29,7 @@ namespace fadeloom {
 class PropertyListener;
 
 /// State that taps share with their audio system, which outlives them.
-struct TapSurroundings {
+struct TapContext {
     ServiceRestarts& restarts;
     SilentTaps& silentTaps;
 };
@@ -39,7 +39,7 @@ class CoreAudioTap final : public ProcessTap {
 public:
     /// Builds everything and starts the device; after a failure nothing of it is left, and the error names the step.
     [[nodiscard]] static std::expected<std::unique_ptr<CoreAudioTap>, TapError> create(
-        const TapRequest& request, const AudioIOProcFactory& makeIOProc, TapSurroundings surroundings);
+        const TapRequest& request, const AudioIOProcFactory& makeIOProc, TapContext surroundings);
     CoreAudioTap(const CoreAudioTap&) = delete;
     CoreAudioTap& operator=(const CoreAudioTap&) = delete;
     ~CoreAudioTap() override;
@@ -49,7 +49,7 @@ public:
     [[nodiscard]] bool setProcesses(const std::vector<AudioProcessID>& processes) override;
 
 private:
-    CoreAudioTap(OutputDevice output, TapSurroundings surroundings);
+    CoreAudioTap(OutputDevice output, TapContext surroundings);
 
     [[nodiscard]] std::expected<void, TapError> build(
         const TapRequest& request, const AudioIOProcFactory& makeIOProc);
@@ -59,11 +59,11 @@ private:
     [[nodiscard]] OSStatus createIOProc(std::shared_ptr<AudioIOProc> proc, std::size_t tapBufferCount);
     [[nodiscard]] std::expected<void, TapError> disableDeviceInputs();
     void watch();
-    void lookForSilence();
+    void checkForSilence();
     void abandon();
 
     const OutputDevice output_;
-    const TapSurroundings surroundings_;
+    const TapContext context_;
     bool isRunning_ = false;
     double sampleRate_ = 0;
     int disabledInputs_ = 0;
@@ -77,7 +77,7 @@ private:
     std::uint64_t silentWhilePaused_ = 0;  // Frames of silence during which no process was playing.
     std::unique_ptr<PropertyListener> deviceListener_;
     Subscription restarts_;
-    Subscription looks_;
+    Subscription checks_;
 };
 
 }  // namespace fadeloom

@@ -8,7 +8,7 @@ namespace fadeloom {
 
 class MacOSCallApps : public CallApps {
 public:
-    [[nodiscard]] const std::vector<CallApp>& wellKnown() const override;
+    [[nodiscard]] const std::vector<CallApp>& knownApps() const override;
     [[nodiscard]] std::vector<std::string> formerDefaults() const override { return {}; }
     [[nodiscard]] std::vector<std::string> identifiersOf(const std::string& bundleID) const override;
 };

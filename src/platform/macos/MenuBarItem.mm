@@ -27,7 +27,7 @@ bool isOfMouse(NSEvent* event)
 
 /// For accessibility presses, the current event may be any, or none: then the keyboard state is queried instead.
 /// Control and Option together are VoiceOver's own modifiers.
-bool asksForMenu(NSEvent* event)
+bool isMenuClick(NSEvent* event)
 {
     const bool isMouse = event != nil && isOfMouse(event);
     if (isMouse && (event.type == NSEventTypeRightMouseUp || event.type == NSEventTypeRightMouseDown))
@@ -43,7 +43,7 @@ bool asksForMenu(NSEvent* event)
 /// The status item.
 class MenuBarItem::Shown {
 public:
-    Shown(NSString* name, std::function<void()> clicked, std::function<void()> asksForMenu)
+    Shown(NSString* name, std::function<void()> clicked, std::function<void()> isMenuClick)
         : item_([NSStatusBar.systemStatusBar statusItemWithLength:NSSquareStatusItemLength])
         , action_([[FadeloomAction alloc] initWithFunction:std::move(clicked)])
     {
@@ -56,7 +56,7 @@ public:
         button.target = action_;
         button.action = @selector(act:);
         [button sendActionOn:NSEventMaskLeftMouseUp | NSEventMaskRightMouseUp];
-        offerMenu(std::move(asksForMenu));
+        offerMenu(std::move(isMenuClick));
     }
     Shown(const Shown&) = delete;
     Shown& operator=(const Shown&) = delete;
@@ -74,13 +74,13 @@ public:
 
 private:
     /// For screen readers, which have no right click. Deferred, because the caller waits for the reply.
-    void offerMenu(std::function<void()> asksForMenu)
+    void offerMenu(std::function<void()> isMenuClick)
     {
         NSString* name = NSAccessibilityActionDescription(NSAccessibilityShowMenuAction);
         NSAccessibilityCustomAction* action = [[NSAccessibilityCustomAction alloc]
             initWithName:name == nil ? @"show menu" : name
                  handler:^{
-                     dispatch_async(dispatch_get_main_queue(), ^{ asksForMenu(); });
+                     dispatch_async(dispatch_get_main_queue(), ^{ isMenuClick(); });
                      return YES;
                  }];
         item_.button.accessibilityCustomActions = @[ action ];
@@ -124,7 +124,7 @@ void* MenuBarItem::button() const
 void MenuBarItem::clicked()
 {
     @autoreleasepool {
-        if (asksForMenu(NSApp.currentEvent))
+        if (isMenuClick(NSApp.currentEvent))
             openMenu();
         else
             clicked_();

@@ -27,7 +27,7 @@ public:
 
     /// Set in the environment of an instance that succeeds an exiting one.
     static constexpr const char* successorVariable = "FADELOOM_SUCCEEDS";
-    static constexpr std::chrono::milliseconds patience{10'000};  // For an exiting instance.
+    static constexpr std::chrono::milliseconds timeout{10'000};  // For an exiting instance.
 
     /// `folder`: the user's own, and the same for all instances; empty for none.
     explicit OneInstance(std::filesystem::path folder);

@@ -63,7 +63,7 @@ OneInstance::Start OneInstance::claim(bool hasPanel)
         return Start::first;
 
     const bool isSuccessor = std::getenv(successorVariable) != nullptr;
-    const auto end = std::chrono::steady_clock::now() + patience;
+    const auto end = std::chrono::steady_clock::now() + timeout;
     while (!tryToLock()) {
         const char kind = kindOfOther();
         if ((kind != ending && !isSuccessor) || std::chrono::steady_clock::now() >= end)

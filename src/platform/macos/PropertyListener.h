@@ -23,17 +23,17 @@ public:
 
 private:
     /// Outlives the listener: a call already queued when it ends still arrives.
-    struct Told {
+    struct Callback {
         std::function<void()> listener;
         bool isOver = false;
     };
 
     PropertyListener(
-        AudioObjectID object, const AudioObjectPropertyAddress& address, std::shared_ptr<Told> told);
+        AudioObjectID object, const AudioObjectPropertyAddress& address, std::shared_ptr<Callback> told);
 
     const AudioObjectID object_;
     const AudioObjectPropertyAddress address_;
-    const std::shared_ptr<Told> told_;
+    const std::shared_ptr<Callback> callback_;
     const BlockRef<AudioObjectPropertyListenerBlock> block_;
     bool isAdded_ = false;
 };

@@ -31,7 +31,7 @@ public:
     [[nodiscard]] std::uint64_t silentFrames() const { return silentFrames_.load(std::memory_order_relaxed); }
 
     /// Whether there ever was a non-zero sample. Thread: any.
-    [[nodiscard]] bool hasHeard() const { return hasHeard_.load(std::memory_order_relaxed); }
+    [[nodiscard]] bool hasHadSound() const { return hasHeard_.load(std::memory_order_relaxed); }
 
 private:
     static bool isSilent(AudioBuffers tap) noexcept FADELOOM_NONBLOCKING

@@ -22,33 +22,33 @@ namespace fadeloom {
 /// Shared by all taps. Thread: main.
 class SilentTaps {
 public:
-    static constexpr std::chrono::seconds firstPatience{10};
-    static constexpr std::chrono::seconds longestPatience{3600};
+    static constexpr std::chrono::seconds initialTolerance{10};
+    static constexpr std::chrono::seconds maximumTolerance{3600};
 
     /// By processes and output: the replacement of a tap has the same.
     using Key = std::pair<std::vector<AudioProcessID>, std::string>;
 
     /// Makes the taps check themselves against the current state of the processes.
-    void look(std::span<const AudioProcess> processes);
-    /// `lookAtIt` is called each time, until the subscription ends.
-    [[nodiscard]] Subscription whenLooking(std::function<void()> lookAtIt)
+    void check(std::span<const AudioProcess> processes);
+    /// `check` is called each time, until the subscription ends.
+    [[nodiscard]] Subscription whenChecking(std::function<void()> check)
     {
-        return looks_.add(std::move(lookAtIt));
+        return checks_.add(std::move(check));
     }
 
     /// Whether any of these plays.
     [[nodiscard]] bool isAnyPlaying(std::span<const AudioProcessID> processes) const;
     /// For how long zeros from such a tap are tolerated.
-    [[nodiscard]] std::chrono::seconds patienceWith(const Key& key) const;
+    [[nodiscard]] std::chrono::seconds toleratedSilence(const Key& key) const;
     /// The tap has exceeded that time, and is replaced.
-    void noteRenewal(const Key& key);
+    void tapReplaced(const Key& key);
     /// Audio has arrived.
-    void noteSound(const Key& key) { patience_.erase(key); }
+    void soundArrived(const Key& key) { toleratedSilence_.erase(key); }
 
 private:
-    Observers looks_;
+    Observers checks_;
     std::set<AudioProcessID> playing_;
-    std::map<Key, std::chrono::seconds> patience_;
+    std::map<Key, std::chrono::seconds> toleratedSilence_;
 };
 
 }  // namespace fadeloom

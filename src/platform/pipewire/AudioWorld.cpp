@@ -18,7 +18,7 @@ auto find(const Things& things, const Key& key, Projection projection) -> const 
 }
 
 std::optional<OutOfReach> outOfReach(
-    const GraphNode& stream, const AudioWorldBuilder::StreamKnowledge& knowledge)
+    const GraphNode& stream, const AudioWorldBuilder::StreamQueries& knowledge)
 {
     if (!isTappable(stream))
         return OutOfReach::fixed;
@@ -64,7 +64,7 @@ AudioChanges changesBetween(const AudioWorld& before, const AudioWorld& after)
     };
 }
 
-AudioWorld AudioWorldBuilder::build(const Graph& graph, const StreamKnowledge& knowledge)
+AudioWorld AudioWorldBuilder::build(const Graph& graph, const StreamQueries& knowledge)
 {
     AudioWorld world;
     addDevices(graph, world);
@@ -107,7 +107,7 @@ void AudioWorldBuilder::addDevices(const Graph& graph, AudioWorld& world)
     std::ranges::sort(world.devices, {}, &AudioWorld::Device::serial);
 }
 
-void AudioWorldBuilder::addProcesses(const Graph& graph, const StreamKnowledge& knowledge, AudioWorld& world)
+void AudioWorldBuilder::addProcesses(const Graph& graph, const StreamQueries& knowledge, AudioWorld& world)
 {
     struct Activity {
         bool hasStream = false;

@@ -82,14 +82,14 @@ public:
     {
     }
 
-    struct StreamKnowledge {
+    struct StreamQueries {
         ChosenTargetOf chosenTarget;
         /// Whether a stream is held: it would play, and counts as playing.
         std::function<bool(const GraphNode& stream)> isHeld;
         /// Whether a stream is left to another program, which keeps moving it.
         std::function<bool(const GraphNode& stream)> isLeftAlone;
     };
-    [[nodiscard]] AudioWorld build(const Graph& graph, const StreamKnowledge& knowledge);
+    [[nodiscard]] AudioWorld build(const Graph& graph, const StreamQueries& knowledge);
     void processEnded(std::int32_t pid);
     /// A restarted server reuses serials.
     void forget();
@@ -113,7 +113,7 @@ private:
     };
 
     void addDevices(const Graph& graph, AudioWorld& world);
-    void addProcesses(const Graph& graph, const StreamKnowledge& knowledge, AudioWorld& world);
+    void addProcesses(const Graph& graph, const StreamQueries& knowledge, AudioWorld& world);
     [[nodiscard]] const ProcessKey& keyOf(const GraphClient& client);
 
     Questions questions_;

@@ -17,7 +17,7 @@ namespace fadeloom {
 namespace {
 
 /// Whether our thread is running or runnable.
-bool isReadyToRun(pid_t thread)
+bool isRunnable(pid_t thread)
 {
     std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
     std::string line;
@@ -69,7 +69,7 @@ int Heartbeat::onBeat(spa_loop* /*loop*/, bool /*async*/, std::uint32_t beat, co
     heartbeat.thread_.store(gettid(), std::memory_order_relaxed);
     clockid_t clock = 0;
     if (pthread_getcpuclockid(pthread_self(), &clock) == 0)
-        heartbeat.workClock_.store(clock, std::memory_order_relaxed);
+        heartbeat.cpuClock_.store(clock, std::memory_order_relaxed);
     heartbeat.answered_.store(beat, std::memory_order_relaxed);
     return 0;
 }
@@ -91,21 +91,20 @@ void Heartbeat::check()
         callbacks_.recovered();
     }
     ++asked_;
-    workedAtQuestion_ = timeWorked();
+    cpuTimeAtPing_ = cpuTime();
     pw_data_loop_invoke(dataLoop_, &onBeat, asked_, nullptr, 0, false, this);
 }
 
 // Runnable since the ping, and hardly running. A thread that hangs is either blocked or busy.
 bool Heartbeat::isStarved() const
 {
-    return isReadyToRun(thread_.load(std::memory_order_relaxed))
-        && timeWorked() - workedAtQuestion_ < interval / 2;
+    return isRunnable(thread_.load(std::memory_order_relaxed)) && cpuTime() - cpuTimeAtPing_ < interval / 2;
 }
 
-std::chrono::nanoseconds Heartbeat::timeWorked() const
+std::chrono::nanoseconds Heartbeat::cpuTime() const
 {
     timespec worked{};
-    clock_gettime(workClock_.load(std::memory_order_relaxed), &worked);
+    clock_gettime(cpuClock_.load(std::memory_order_relaxed), &worked);
     return std::chrono::seconds(worked.tv_sec) + std::chrono::nanoseconds(worked.tv_nsec);
 }
 

@@ -47,7 +47,7 @@ private:
     static int onBeat(
         spa_loop* loop, bool async, std::uint32_t beat, const void* data, std::size_t size, void* self);
     void check();
-    [[nodiscard]] std::chrono::nanoseconds timeWorked() const;
+    [[nodiscard]] std::chrono::nanoseconds cpuTime() const;
     [[nodiscard]] bool isStarved() const;
     void setTimer(bool isRunning);
 
@@ -59,12 +59,12 @@ private:
     bool isStalled_ = false;
     int misses_ = 0;
     std::uint32_t asked_ = 0;
-    std::chrono::nanoseconds workedAtQuestion_{};
+    std::chrono::nanoseconds cpuTimeAtPing_{};
     // Relaxed, like the next: they guard no other memory.
     std::atomic<std::uint32_t> answered_ = 0;
     // The data loop's thread and the clock of its CPU time; 0 before its first reply.
     std::atomic<pid_t> thread_ = 0;
-    std::atomic<clockid_t> workClock_ = 0;
+    std::atomic<clockid_t> cpuClock_ = 0;
 };
 
 }  // namespace fadeloom

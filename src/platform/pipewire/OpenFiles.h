@@ -15,13 +15,13 @@ inline constexpr std::size_t filesInReserve = 16;
 
 /// Predicts what taps will take: the server sends their descriptors a moment after they are created, possibly after the
 /// next ones are created. Thread: main.
-class FilesOfTaps {
+class DescriptorBudget {
 public:
     /// The process's limit of open files, if it leaves no room for one more tap besides the existing `taps`.
     [[nodiscard]] std::optional<std::size_t> limitWithoutRoom(std::size_t taps);
 
 private:
-    std::size_t besidesTaps_ = 0;  // Counted when there was no tap.
+    std::size_t otherDescriptors_ = 0;  // Counted when there was no tap.
 };
 
 }  // namespace fadeloom

@@ -33,7 +33,7 @@ void ParkedStream::write(const char* key, const std::optional<std::string>& valu
     connection_.setMetadata(id_, key, key == targetNode ? "Spa:Id" : "Spa:String", value);
 }
 
-bool ParkedStream::keepOn(const std::string& parkName)
+bool ParkedStream::ensureParkedOn(const std::string& parkName)
 {
     if (connection_.graph().metadataValue(id_, targetObject) == parkName) {
         rememberUsersNode();
@@ -55,7 +55,7 @@ bool ParkedStream::keepOn(const std::string& parkName)
     return true;
 }
 
-void ParkedStream::giveBack()
+void ParkedStream::restoreTarget()
 {
     if (!chosen_.object.empty()) {
         if (chosen_.node.empty())

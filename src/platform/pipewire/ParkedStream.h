@@ -28,13 +28,13 @@ public:
 
     /// Ensures that the session manager keeps the stream on the park. A change by anybody else is recorded as the
     /// user's choice and reverted, at most once per `rewriteInterval`; returns false if it must be called again then.
-    bool keepOn(const std::string& parkName);
+    bool ensureParkedOn(const std::string& parkName);
     /// The choice of anybody but us.
     [[nodiscard]] const ChosenTarget& chosen() const { return chosen_; }
     /// Whether somebody keeps moving the stream: then we give in.
     [[nodiscard]] bool isContested() const { return moves_.size() >= movesOfAProgram; }
     /// Restores the user's choice: the session manager moves the stream to its own device.
-    void giveBack();
+    void restoreTarget();
     /// Call for every change of this stream's metadata.
     void metadataChanged(const std::string& key, const std::string& value);
     /// The session manager has lost its state: write again.

@@ -213,7 +213,7 @@ std::expected<std::unique_ptr<ProcessTap>, TapError> PipeWireAudioSystem::create
         .isTapInterleaved = false,
     };
     // Before the server sends anything: descriptors beyond the limit are lost, and with them the connection.
-    if (const auto limit = filesOfTaps_.limitWithoutRoom(session_->pathCount()))
+    if (const auto limit = descriptorBudget_.limitWithoutRoom(session_->pathCount()))
         return failed("of %1 files that may be open, too few are left", std::to_string(*limit));
     auto* path =
         session_->startPath({request.processes.begin(), request.processes.end()}, *device, makeIOProc(format),

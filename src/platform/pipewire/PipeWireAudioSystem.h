@@ -77,7 +77,7 @@ private:
     // Shared with posted notifications, which hold a weak reference.
     std::shared_ptr<Announcements> announcements_;
     std::map<AudioProcessID, Identity> identities_;
-    FilesOfTaps filesOfTaps_;
+    DescriptorBudget descriptorBudget_;
     std::shared_ptr<GraphSession> session_;  // A stopped tap releases its streams in a later iteration.
 };
 

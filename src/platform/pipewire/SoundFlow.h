@@ -18,15 +18,15 @@ public:
     /// From now on the stream is assumed to play to this device only.
     void lead(GraphID stream, GraphID device);
     /// Whether the device's input comes out of the stream again: connecting them would create a feedback loop.
-    [[nodiscard]] bool comesBack(GraphID device, GraphID stream) const;
+    [[nodiscard]] bool wouldFeedBack(GraphID device, GraphID stream) const;
 
 private:
     void addLinks(const Graph& graph);
     void addGroups(const Graph& graph);
     void addPrograms(const Graph& graph);
 
-    std::map<GraphID, std::set<GraphID>> ways_;  // From a node to those that receive its audio.
-    std::set<GraphID> fed_;  // Nodes that receive audio.
+    std::map<GraphID, std::set<GraphID>> edges_;  // From a node to those that receive its audio.
+    std::set<GraphID> receivers_;  // Nodes that receive audio.
 };
 
 }  // namespace fadeloom

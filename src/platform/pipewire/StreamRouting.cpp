@@ -64,8 +64,8 @@ StreamRouting routeStreams(const Graph& graph, const AudioWorld& world,
     }
     for (const auto& [stream, tap, device] : candidates) {
         const bool isAtHome = device && device->serial == tap->deviceSerial;
-        if (!isAtHome && flow.comesBack(tap->deviceNode, stream)) {
-            routing.circles.insert(stream);
+        if (!isAtHome && flow.wouldFeedBack(tap->deviceNode, stream)) {
+            routing.feedbackLoops.insert(stream);
             continue;
         }
         flow.lead(stream, tap->deviceNode);

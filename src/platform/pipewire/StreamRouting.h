@@ -30,7 +30,7 @@ struct TapRoute {
 struct StreamRouting {
     std::map<GraphID, const TapRoute*> routes;  // By stream.
     /// Streams that stay where they are, because the audio of their tap's device feeds back into them.
-    std::set<GraphID> circles;
+    std::set<GraphID> feedbackLoops;
 };
 
 /// No combination of decisions creates a feedback loop: audio that a program captures from a device is never routed

@@ -75,14 +75,14 @@ void TapRouter::update(const AudioWorld& world)
 
     forgetVanishedStreams();
     const auto wanted = wantedPaths(world);
-    takeHoldOfStreams(wanted);
+    captureStreams(wanted);
     for (auto& stream : streams_) {
         const auto found = wanted.find(stream.parked.id());
         if (!stream.isBeingGivenBack)
             follow(stream, found == wanted.end() ? nullptr : found->second);
     }
     held_.update();
-    finishGivingBack();
+    finishReleasing();
     setGates();
     if (links_.reconcile(connection_.core(), wantedLinks()))
         connection_.callBackIn(OwnLinks::retryDelay);
@@ -95,7 +95,7 @@ void TapRouter::forgetVanishedStreams()
     streams_.remove_if([&](const Stream& stream) {
         return !connection_.graph().node(stream.parked.id(), stream.parked.serial());
     });
-    for (auto* serials : {&leftAlone_, &circles_})
+    for (auto* serials : {&leftAlone_, &reportedLoops_})
         std::erase_if(
             *serials, [&](GraphSerial serial) { return !connection_.graph().nodeWithSerial(serial); });
 }
@@ -176,7 +176,7 @@ void TapRouter::disconnected()
     streams_.clear();
     held_.clear();
     leftAlone_.clear();
-    circles_.clear();
+    reportedLoops_.clear();
     park_.reset();
     for (auto& path : paths_)
         path.filter.reset();

@@ -92,7 +92,7 @@ private:
         TapPath* path = nullptr;
         std::chrono::steady_clock::time_point since;  // Since it was captured, or its release began.
         bool isBeingGivenBack = false;
-        std::optional<std::chrono::steady_clock::time_point> homelessSince{};  // Since no path wants it.
+        std::optional<std::chrono::steady_clock::time_point> unroutedSince{};  // Since no path wants it.
         bool isStuckReported = false;
         // With the times at which they appeared.
         std::map<GraphSerial, std::chrono::steady_clock::time_point> parkLinks;
@@ -109,13 +109,13 @@ private:
     /// By stream.
     using WantedPaths = std::map<GraphID, TapPath*>;
     [[nodiscard]] WantedPaths wantedPaths(const AudioWorld& world);
-    void takeHoldOfStreams(const WantedPaths& wanted);
+    void captureStreams(const WantedPaths& wanted);
     void follow(Stream& stream, TapPath* wanted);
-    [[nodiscard]] bool mayStillFindAPath(Stream& stream);
+    [[nodiscard]] bool mayFindPath(Stream& stream);
     [[nodiscard]] Stream* streamWith(GraphID id);
     void keepParked(Stream& stream);
-    void giveBack(Stream& stream);
-    void finishGivingBack();
+    void release(Stream& stream);
+    void finishReleasing();
     [[nodiscard]] std::set<WantedLink> wantedLinks() const;
     void addDeviceLinks(std::set<WantedLink>& links, const TapPath& path, const FilterPorts& ports) const;
     void addStreamLinks(std::set<WantedLink>& links, const Stream& stream, const FilterPorts& ports) const;
@@ -136,7 +136,7 @@ private:
     std::list<Stream> streams_;
     HeldStreams held_;
     std::set<GraphSerial> leftAlone_;  // Streams that somebody else keeps moving.
-    std::set<GraphSerial> circles_;  // Streams whose feedback loop has been reported.
+    std::set<GraphSerial> reportedLoops_;  // Streams whose feedback loop has been reported.
     OwnLinks links_;
     unsigned nodesMade_ = 0;
 };

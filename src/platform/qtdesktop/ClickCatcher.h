@@ -21,7 +21,7 @@ public:
     ~ClickCatcher();
 
     /// Excludes this part of its screen.
-    void leaveFree(const QRect& part);
+    void exclude(const QRect& part);
     [[nodiscard]] bool isAt(const wl_surface* surface) const { return surface == surface_; }
 
 private:

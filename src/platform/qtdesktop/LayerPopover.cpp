@@ -42,8 +42,8 @@ LayerPopover::LayerPopover(
     , dismissed_(std::move(dismissed))
 {
     shell_->whenReleased([this](const wl_surface* surface) { released(surface); });
-    connect(&window_, &QWindow::widthChanged, this, [this] { putInPlace(); });
-    connect(&window_, &QWindow::heightChanged, this, [this] { putInPlace(); });
+    connect(&window_, &QWindow::widthChanged, this, [this] { updatePlacement(); });
+    connect(&window_, &QWindow::heightChanged, this, [this] { updatePlacement(); });
     qGuiApp->installEventFilter(this);
 }
 
@@ -79,7 +79,7 @@ void LayerPopover::open(const IconPlace& icon, const std::function<void(int avai
     if (!free_.isValid())
         free_ = screen.size();
     fit(free_.height() - 2 * panelGap);
-    putInPlace();
+    updatePlacement();
     shell_->roundtrip();  // No frame may be drawn before the surface is configured.
     window_.show();
 }
@@ -157,25 +157,25 @@ QRect LayerPopover::screen() const
     return QGuiApplication::screens().at(static_cast<qsizetype>(placement_.screen))->geometry();
 }
 
-void LayerPopover::putInPlace()
+void LayerPopover::updatePlacement()
 {
     if (!role_ || !free_.isValid())
         return;
     auto screens = currentScreens();
     auto& [all, free, ratio] = screens[placement_.screen];
-    free = freePart(all, free_, placement_.edge);
+    free = availablePart(all, free_, placement_.edge);
     placement_ = placePopover(icon_, window_.size(), screens);
     role_->move(place());
-    leaveFree();
+    exclude();
 }
 
 // The stacking order of two surfaces in a layer is up to the compositor.
-void LayerPopover::leaveFree()
+void LayerPopover::exclude()
 {
     std::size_t number = 0;
     for (auto& catcher : catchers_) {
         if (number++ == placement_.screen)
-            catcher.leaveFree(QRect(placement_.position - screen().topLeft(), window_.size()));
+            catcher.exclude(QRect(placement_.position - screen().topLeft(), window_.size()));
     }
 }
 
@@ -203,7 +203,7 @@ void LayerPopover::noteDialog(QWindow& dialog, bool isOpen)
         makeCatchers();
     else
         catchers_.clear();
-    putInPlace();
+    updatePlacement();
 }
 
 }  // namespace fadeloom

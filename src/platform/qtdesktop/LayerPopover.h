@@ -50,8 +50,8 @@ private:
     [[nodiscard]] std::optional<QRect> findIcon(const IconPlace& told) const;
     [[nodiscard]] LayerSurface::Place place() const;
     [[nodiscard]] QRect screen() const;
-    void putInPlace();
-    void leaveFree();
+    void updatePlacement();
+    void exclude();
     void noteDialog(QWindow& dialog, bool isOpen);
 
     std::unique_ptr<LayerShell> shell_;

@@ -105,7 +105,7 @@ bool isAtEdge(QPoint place, const ScreenArea& screen)
     return std::ranges::min(distances(place, screen.geometry)) < thickestBar;
 }
 
-QRect freePart(const QRect& screen, QSize free, ScreenEdge edge)
+QRect availablePart(const QRect& screen, QSize free, ScreenEdge edge)
 {
     auto result = screen;
     const int across = screen.width() - free.width();

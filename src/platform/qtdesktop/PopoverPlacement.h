@@ -41,7 +41,7 @@ struct PopoverPlacement {
 [[nodiscard]] bool isAtEdge(QPoint place, const ScreenArea& screen);
 
 /// The part of `screen` available to windows, if only its size and the bar's edge are known.
-[[nodiscard]] QRect freePart(const QRect& screen, QSize free, ScreenEdge edge);
+[[nodiscard]] QRect availablePart(const QRect& screen, QSize free, ScreenEdge edge);
 
 /// Places a panel of this size beside its icon: on the icon's screen, clear of the bar, centred on the icon along the
 /// bar, and entirely within the available area. Without an icon: at the end of the first screen's bar; without a bar in

@@ -79,7 +79,7 @@ QStringList portalNameSpaces()
     return {appearance, gnome, kdeGeneral, kdeMotion};
 }
 
-DesktopLook lookOf(const PortalSettings& settings, bool isDark)
+DesktopAppearance desktopAppearanceOf(const PortalSettings& settings, bool isDark)
 {
     const auto& asked = settings[appearance];
     return {

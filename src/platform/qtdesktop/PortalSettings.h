@@ -2,7 +2,7 @@
 // The desktop settings from its portal, and the appearance that follows from them.
 #pragma once
 
-#include "platform/DesktopLook.h"
+#include "platform/DesktopAppearance.h"
 
 #include <QMap>
 #include <QStringList>
@@ -17,6 +17,6 @@ using PortalSettings = QMap<QString, QVariantMap>;
 [[nodiscard]] QStringList portalNameSpaces();
 
 /// `isDark`: the default if the settings do not specify it.
-[[nodiscard]] DesktopLook lookOf(const PortalSettings& settings, bool isDark);
+[[nodiscard]] DesktopAppearance desktopAppearanceOf(const PortalSettings& settings, bool isDark);
 
 }  // namespace fadeloom

@@ -41,7 +41,7 @@ QtPopover::QtPopover(std::function<IconPlace()> place, std::function<bool()> red
     });
     const auto sizeChanged = [this] {
         if (isOpen_)
-            putInPlace();
+            updatePlacement();
     };
     QObject::connect(view_.get(), &QWindow::heightChanged, view_.get(), sizeChanged);
     QObject::connect(view_.get(), &QWindow::widthChanged, view_.get(), sizeChanged);
@@ -69,7 +69,7 @@ QQuickView& QtPopover::view()
     return *view_;
 }
 
-void QtPopover::becomeOrdinaryWindow(std::optional<QPoint> left, std::function<void(QPoint)> leaves)
+void QtPopover::turnIntoOrdinaryWindow(std::optional<QPoint> left, std::function<void(QPoint)> leaves)
 {
     left_ = left;
     leaves_ = std::move(leaves);
@@ -106,10 +106,10 @@ void QtPopover::show()
 void QtPopover::showAsWindow()
 {
     fitContent(availableHeight());
-    putInPlace();
+    updatePlacement();
     view_->setWindowStates(view_->windowStates() & ~Qt::WindowMinimized);
     if (!isOrdinary_)
-        leaveOutOfWindowLists(*view_);
+        hideFromWindowLists(*view_);
     view_->show();
     view_->raise();
 }
@@ -161,7 +161,7 @@ int QtPopover::availableHeight() const
     return screens[placePopover(place_().rect, view_->size(), screens).screen].free.height() - 2 * panelGap;
 }
 
-void QtPopover::putInPlace()
+void QtPopover::updatePlacement()
 {
     if (layer_)
         return;

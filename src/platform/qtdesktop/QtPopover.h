@@ -41,7 +41,7 @@ public:
     [[nodiscard]] QQuickView& view();
     /// Turns it into a window with a frame and a title, which stays open until it is closed. It opens where it was
     /// `left`, else in the middle of the screen; `leaves` receives its position each time it closes.
-    void becomeOrdinaryWindow(
+    void turnIntoOrdinaryWindow(
         std::optional<QPoint> left = {}, std::function<void(QPoint)> leaves = [](QPoint) { });
 
     void show() override;
@@ -60,7 +60,7 @@ private:
     void showAsWindow();
     void fadeIn();
     void windowMoved();
-    void putInPlace();
+    void updatePlacement();
     void activeChanged();
     [[nodiscard]] bool isSeen() const;
     void seenChanged();

@@ -23,20 +23,20 @@ public:
         embedding,  // XEmbed, on X11.
         none,
     };
-    static constexpr int patience = 5000;  // Milliseconds.
+    static constexpr int timeout = 5000;  // Milliseconds.
 
     /// Calls `found` once it is known how icons can be shown: when a StatusNotifier host exists or appears, or at the
     /// timeout with what exists then. After `embedding` and `none` it is called again if such a host appears later.
-    explicit TrayHost(std::function<void(Kind)> found, int waitMilliseconds = patience,
+    explicit TrayHost(std::function<void(Kind)> found, int waitMilliseconds = timeout,
         const QDBusConnection& bus = QDBusConnection::sessionBus());
 
 private Q_SLOTS:
-    void StatusNotifierHostRegistered() { hostCame(); }
+    void StatusNotifierHostRegistered() { hostAppeared(); }
 
 private:
-    void watcherCame();
-    void hostCame();
-    void timeIsOver();
+    void watcherAppeared();
+    void hostAppeared();
+    void timedOut();
 
     std::function<void(Kind)> found_;
     QDBusConnection bus_;

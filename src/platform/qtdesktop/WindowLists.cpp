@@ -24,7 +24,7 @@ xcb_atom_t atomOf(xcb_connection_t* connection, std::string_view name)
 
 }  // namespace
 
-void leaveOutOfWindowLists(QWindow& window)
+void hideFromWindowLists(QWindow& window)
 {
     if (QGuiApplication::platformName() != QLatin1String("xcb") || window.isVisible())
         return;

@@ -8,6 +8,6 @@ namespace fadeloom {
 
 /// Removes the window from taskbars and pagers on X11; does nothing elsewhere. Call each time before showing it,
 /// because a window manager forgets it when the window is hidden. Thread: main.
-void leaveOutOfWindowLists(QWindow& window);
+void hideFromWindowLists(QWindow& window);
 
 }  // namespace fadeloom

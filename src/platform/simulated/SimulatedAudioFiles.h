@@ -49,8 +49,8 @@ public:
     /// Makes file names case-insensitive for ASCII letters, as on many disks.
     void foldCase() { foldsCase_ = true; }
 
-    /// Calls `look` each time a file is about to be closed.
-    void whenDisposed(std::function<void()> look) { whenDisposed_ = std::move(look); }
+    /// Calls `disposed` each time a file is about to be closed.
+    void whenDisposed(std::function<void()> disposed) { whenDisposed_ = std::move(disposed); }
 
     /// The calls so far: "create NAME", "dispose NAME", with the file's name.
     [[nodiscard]] const std::vector<std::string>& journal() const { return journal_; }

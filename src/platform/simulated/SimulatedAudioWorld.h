@@ -83,7 +83,7 @@ public:
     [[nodiscard]] SimulatedAudioState& state() { return state_; }
     void setDefaultOutput(OutputDeviceID device);
     /// Ensures that cycles run while there is anything to do.
-    void keepCycling();
+    void scheduleCycles();
 
     SimulatedAnnouncement processesChanged;
     SimulatedAnnouncement outputDevicesChanged;

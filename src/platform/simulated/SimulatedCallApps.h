@@ -10,7 +10,7 @@ namespace fadeloom {
 
 class SimulatedCallApps : public CallApps {
 public:
-    [[nodiscard]] const std::vector<CallApp>& wellKnown() const override { return apps_; }
+    [[nodiscard]] const std::vector<CallApp>& knownApps() const override { return apps_; }
     [[nodiscard]] std::vector<std::string> formerDefaults() const override { return former_; }
     [[nodiscard]] std::vector<std::string> identifiersOf(const std::string& bundleID) const override
     {

@@ -30,7 +30,7 @@ private:
     {
         changeCount_ += 1;
         if (refusal_)
-            return std::unexpected(SystemWords{*refusal_});
+            return std::unexpected(SystemMessage{*refusal_});
         status_ = wanted == Status::enabled ? registered_ : wanted;
         return {};
     }

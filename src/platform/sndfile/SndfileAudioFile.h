@@ -21,7 +21,7 @@ namespace fadeloom {
 /// write samples are dropped; the file remains as it is.
 class SndfileAudioFile final : public AudioFile {
 public:
-    /// Opens the empty file `disk` and starts its writer. Call while signals are blocked (`SignalsHeld`), which the
+    /// Opens the empty file `disk` and starts its writer. Call while signals are blocked (`SignalBlock`), which the
     /// writer inherits. Errors: errno values.
     [[nodiscard]] static std::expected<std::unique_ptr<SndfileAudioFile>, int> open(
         std::unique_ptr<DiskFile> disk, int sampleRate);

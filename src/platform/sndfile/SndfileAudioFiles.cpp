@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sndfile/SndfileAudioFiles.h"
 
-#include "platform/sndfile/SignalsHeld.h"
+#include "platform/sndfile/SignalBlock.h"
 #include "platform/sndfile/SndfileAudioFile.h"
 
 #include <algorithm>
@@ -42,7 +42,7 @@ std::expected<AudioFile*, TapError> SndfileAudioFiles::create(
     const auto refused = [](int error) { return std::unexpected(TapError{"Create recording file", error}); };
     if (!isPossibleRate(sampleRate))
         return refused(EINVAL);
-    const SignalsHeld held;
+    const SignalBlock held;
     auto disk = DiskFile::create(location);
     if (!disk)
         return refused(disk.error());

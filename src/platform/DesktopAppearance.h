@@ -7,7 +7,7 @@
 
 namespace fadeloom {
 
-struct DesktopLook {
+struct DesktopAppearance {
     bool isDark = false;
     bool reducesMotion = false;
     bool hasHighContrast = false;
@@ -15,7 +15,7 @@ struct DesktopLook {
     // The accent colour as 0xRRGGBB; nullopt if each program uses its own.
     std::optional<std::uint32_t> accent{};
 
-    bool operator==(const DesktopLook&) const = default;
+    bool operator==(const DesktopAppearance&) const = default;
 };
 
 }  // namespace fadeloom

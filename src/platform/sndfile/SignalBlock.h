@@ -10,12 +10,12 @@ namespace fadeloom {
 ///
 /// So a write beyond the file size limit fails like any other: SIGXFSZ, which is sent to the writing thread and would
 /// end the program, stays pending. The program's signal actions are unchanged.
-class SignalsHeld {
+class SignalBlock {
 public:
-    SignalsHeld();
-    ~SignalsHeld();
-    SignalsHeld(const SignalsHeld&) = delete;
-    SignalsHeld& operator=(const SignalsHeld&) = delete;
+    SignalBlock();
+    ~SignalBlock();
+    SignalBlock(const SignalBlock&) = delete;
+    SignalBlock& operator=(const SignalBlock&) = delete;
 
 private:
     sigset_t former_{};

@@ -15,15 +15,15 @@ namespace fadeloom {
 
 /// Queries the desktop's settings portal asynchronously. Qt 6.5 and later may know whether the desktop is dark; until
 /// the reply, and without either, the desktop's palette decides. Needs a QGuiApplication. Thread: main.
-class SystemLook final : public QObject {
+class SystemAppearance final : public QObject {
     Q_OBJECT
 
 public:
     /// `changed` is called whenever the result differs.
-    explicit SystemLook(std::function<void(const DesktopLook&)> changed,
+    explicit SystemAppearance(std::function<void(const DesktopAppearance&)> changed,
         const QDBusConnection& bus = QDBusConnection::sessionBus());
 
-    [[nodiscard]] const DesktopLook& look() const { return look_; }
+    [[nodiscard]] const DesktopAppearance& appearance() const { return appearance_; }
 
 private Q_SLOTS:
     void settingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value);
@@ -32,10 +32,10 @@ private:
     void askPortal();
     void refresh();
 
-    std::function<void(const DesktopLook&)> changed_;
+    std::function<void(const DesktopAppearance&)> changed_;
     QDBusConnection bus_;
     PortalSettings settings_;
-    DesktopLook look_;
+    DesktopAppearance appearance_;
 };
 
 }  // namespace fadeloom
