@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Builds and runs the test suites that `./test` names, and ends with one line that counts them."""
+"""Builds and runs the test suites that `./test` names, and prints the totals in the last line."""
 
 import argparse
 import concurrent.futures
@@ -16,12 +16,12 @@ import renderInstructions
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
-SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
+SOME_FAILED = 1  # pytest's exit status; it has another one if no test ran.
 SPECIAL = ("pipewire", "week", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks",
            "trixie")
 OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdesktop", "src/platform/sndfile",
             "src/app/linux", "src/ctl")
-# What the suites with real players start.
+# The programs used by the suites with real players.
 PLAYED = ("fadeloom", "fadeloomctl", "pipewireContractTests", "pipewireRealTimeTests")
 SHORT_SANITIZERS = {"asan": ("engine", "settings", "platform/sndfile"), "tsan": ("engine", "platform/sndfile")}
 SANITIZER_OPTIONS = {
@@ -29,17 +29,17 @@ SANITIZER_OPTIONS = {
     "UBSAN_OPTIONS": "halt_on_error=1:print_stacktrace=1",
     "TSAN_OPTIONS": "halt_on_error=1",
 }
-# The suites with real players, and what pytest is given for each.
+# The suites with real players, with their arguments for pytest.
 PLAYERS = {
     "pipewire": ("tests/pipewire", "--ignore=tests/pipewire/test_week.py"),
     "week": ("tests/pipewire/test_week.py",),
     "desktop": ("tests/desktop",),
 }
-LONG_FORMS = ("engine", "platform/sndfile")  # Folders with test suites that are named LongForm.
+LONG_FORMS = ("engine", "platform/sndfile")  # Folders with test suites named LongForm.
 
 
 class Tally:
-    """Counts tests over suites and remembers which failed."""
+    """Accumulates the results of suites and the names of failed tests."""
 
     def __init__(self):
         self.passed = 0
@@ -47,7 +47,7 @@ class Tally:
         self.failures = []
 
     def addJUnit(self, suite, file, status):
-        """Takes the results of a suite; one that left none behind counts as one failure."""
+        """Adds the results of a suite; one without results counts as one failure."""
         try:
             cases = list(ElementTree.parse(file).iter("testcase"))
         except (OSError, ElementTree.ParseError):
@@ -82,7 +82,7 @@ class Tally:
 
 
 def run(*command, quiet=False, **options):
-    """Runs a command in the project's root; with `quiet`, its output shows only when it fails."""
+    """Runs a command in the project's root; with `quiet`, its output is printed only if it fails."""
     command = [str(word) for word in command]
     if not quiet:
         return subprocess.run(command, cwd=ROOT, **options).returncode
@@ -109,7 +109,7 @@ def testedFolders():
 
 
 def build(preset, *targets):
-    """Configures a preset and builds it, or only these targets; ends the run when that fails."""
+    """Configures and builds a preset, or only these targets; exits if that fails."""
     started = time.monotonic()
     chosen = ["--target", *targets] if targets else []
     if run("cmake", "--preset", preset, quiet=True) or run("cmake", "--build", "--preset", preset, *chosen, quiet=True):
@@ -118,8 +118,8 @@ def build(preset, *targets):
     print(f"Built {preset} in {time.monotonic() - started:.0f} s", flush=True)
 
 
-def makeWay():
-    """Leaves this thread, and what it starts, only the processor time that nobody else wants."""
+def useIdleTimeOnly():
+    """Restricts this thread and its children to otherwise unused CPU time."""
     os.sched_setscheduler(0, os.SCHED_IDLE, os.sched_param(0))
 
 
@@ -131,7 +131,7 @@ def results(name):
 
 
 def runUnits(tally, labels):
-    """The unit tests and the ones on the simulated platform; `labels` are folders of src/, none means all."""
+    """The unit tests and the ones on the simulated platform; `labels` are folders of src/, empty for all."""
     file = results("units")
     pattern = "^(" + "|".join(labels) + ")$" if labels else "."
     status = run("ctest", "--preset", "test", "--output-junit", file, "-L", pattern, quiet=True)
@@ -147,7 +147,7 @@ def runProgram(tally, name, program, *options, under=(), **environment):
 
 
 def runLongForms(tally, labels):
-    """The unit tests that take minutes and gigabytes, in a temporary folder that is no memory."""
+    """The unit tests that take minutes and gigabytes, in a temporary folder that is not in memory."""
     for folder in LONG_FORMS:
         if labels and folder not in labels:
             continue
@@ -163,8 +163,8 @@ def runPipeWire(tally):
 
 
 def runPlayers(tally, suite):
-    """A suite with real players. One that stumbles on a busy machine is not our failure: what failed gets one
-    more attempt, and is named."""
+    """A suite with real players. Players may fail on a busy machine through no fault of ours: failed tests are retried
+    once, and named."""
     first = Tally()
     status = runPyTest(first, suite, *PLAYERS[suite])
     if first.failures and status == SOME_FAILED:
@@ -188,14 +188,14 @@ def runPyTest(tally, suite, *options, name=None):
 
 
 def compilerOf(preset):
-    """The first line of what the preset's compiler says of itself."""
+    """The first line of `--version` of the preset's compiler."""
     cache = (ROOT / "build" / preset / "CMakeCache.txt").read_text(encoding="utf-8")
     path = next(line.split("=", 1)[1] for line in cache.splitlines() if line.startswith("CMAKE_CXX_COMPILER:"))
     return subprocess.run([path, "--version"], text=True, capture_output=True).stdout.splitlines()[0]
 
 
 def runInstructions(tally):
-    """How many instructions the render path takes: no more than are stored, and a few in a hundred."""
+    """Instructions per frame of the render path: at most those stored, plus a tolerance of a few percent."""
     why = renderInstructions.whyIncomparable(compilerOf("test"))
     if why:
         print(f"instructions: not compared, {why}")
@@ -204,12 +204,12 @@ def runInstructions(tally):
     for form, case, count in renderInstructions.counts(ROOT / "build/test/benchmarks/renderDriver"):
         isPassed = count <= expected[form][case] * renderInstructions.SLACK
         if not isPassed:
-            print(f"{form} {case}: {count:.1f} instructions a frame, stored are {expected[form][case]}")
+            print(f"{form} {case}: {count:.1f} instructions per frame, stored: {expected[form][case]}")
         tally.add(f"instructions: {form} {case}", isPassed)
 
 
 def runSanitizers(tally, isLong):
-    """The unit tests under the sanitizers; in the short form those of the folders where memory and threads matter."""
+    """The unit tests under the sanitizers; in the short form only the folders where memory and threads matter."""
     for preset, short in SHORT_SANITIZERS.items():
         folders = testedFolders() if isLong else short
         build(preset, *(testsOf(folder) for folder in folders))
@@ -219,9 +219,9 @@ def runSanitizers(tally, isLong):
 
 
 def runMacOS(tally):
-    """The program for macOS on doubles of the platform, its scripts, and its compilation for the processors of a Mac."""
+    """The program for macOS on doubles of the platform, its scripts, and its compilation for both Mac architectures."""
     if platform.machine() != "x86_64":
-        print(f"macos: the doubles send messages on x86_64 and not on {platform.machine()}")
+        print(f"macos: the doubles implement message dispatch for x86_64, not for {platform.machine()}")
         tally.add(f"macos: cannot be run on {platform.machine()}", False)
         return
     build("macos", "macosTests", "macosHomeTests")
@@ -232,7 +232,7 @@ def runMacOS(tally):
     tally.add("macos: bundle", run("/usr/bin/python3", "tools/checkBundle.py", quiet=True) == 0)
     runPyTest(tally, "macosScripts", "tests/macos")
 
-    # What does not compile leaves no object behind.
+    # What does not compile leaves no object file.
     started = time.monotonic()
     run("cmake", "--build", "--preset", "macos", "--target", "macosObjects", "--", "-k", "0", quiet=True)
     print(f"Compiled for a Mac in {time.monotonic() - started:.0f} s", flush=True)
@@ -249,7 +249,7 @@ def runMacOS(tally):
 
 
 def runFuzz(tally, isLong):
-    """Looks for inputs that what reads them does not survive: for half a minute altogether, or ten."""
+    """Fuzzes the parsers: for half a minute in total, or ten."""
     corpora = {"settings": "settings", "words": "words", "command": "commands", "socket": "lines"}
     seconds = (600 if isLong else 30) // len(corpora)
     folder = ROOT / "build" / "fuzz"
@@ -271,7 +271,7 @@ def sources(*suffixes, below=("src", "tests", "benchmarks")):
 
 
 def runChecks(tally, isLong):
-    """What tools can say of the sources without running them."""
+    """Static checks of the sources."""
     tally.add("checks: formatting",
               run("clang-format-19", "--dry-run", "-Werror", *sources(".cpp", ".h", ".mm"), quiet=True) == 0)
     for name, tool in (("layers", "checkLayers"), ("sizes", "checkSizes"), ("views", "checkQml"),
@@ -279,7 +279,7 @@ def runChecks(tally, isLong):
         tally.add(f"checks: {name}", run("/usr/bin/python3", f"tools/{tool}.py", quiet=True) == 0)
     if not isLong:
         return
-    # The plain build's commands: one for each source that it has.
+    # Needs the compile commands of the non-unity build, one per source.
     looked = [name for name in sources(".cpp", below=["src"]) if "macos" not in name.lower()]
     tally.add("checks: static analysis", run("cmake", "--preset", "dev", quiet=True) == 0 and
               run("xargs", "-P", "2", "-n", "4", "clang-tidy-19", "--quiet", "--extra-arg=-Wno-unknown-warning-option",
@@ -287,12 +287,12 @@ def runChecks(tally, isLong):
 
 
 def runTrixie(tally):
-    """The suites with real players on Debian 13, whose session manager is another one."""
+    """The suites with real players on Debian 13, with its newer session manager."""
     tally.add("trixie: pipewire", run("tools/onTrixie", "platform/pipewire", "pipewire") == 0)
 
 
 def runWithoutPlayers(tally, isLong):
-    """The suites that hear nothing and can wait."""
+    """The suites without audio, which can wait."""
     build("test")
     runSanitizers(tally, isLong)
     runMacOS(tally)
@@ -302,16 +302,16 @@ def runWithoutPlayers(tally, isLong):
 
 
 def runEverything(tally, isLong):
-    """Every suite. Real players leave most of the processors' time to others, and do not mind when it is taken by what
-    makes way for them."""
+    """Every suite. Real players leave most of the CPU time to others, and are not disturbed by processes with idle
+    priority."""
     build("test", *PLAYED)
     beside, week = Tally(), Tally()
-    with concurrent.futures.ThreadPoolExecutor(1, initializer=makeWay) as idle, \
+    with concurrent.futures.ThreadPoolExecutor(1, initializer=useIdleTimeOnly) as idle, \
             concurrent.futures.ThreadPoolExecutor(1) as second:
         rest = idle.submit(runWithoutPlayers, beside, isLong)
         runPipeWire(tally)
         runPlayers(tally, "pipewire")
-        days = second.submit(runPlayers, week, "week")  # It waits for sound more than it works.
+        days = second.submit(runPlayers, week, "week")  # It mostly waits for audio.
         runPlayers(tally, "desktop")
         days.result()
         rest.result()
@@ -323,8 +323,8 @@ def runEverything(tally, isLong):
 
 
 def runSome(tally, suites, folders, isLong):
-    """The suites that were named; `folders` are those among them that are folders of src/."""
-    if not set(suites) <= {"macos", "trixie"}:  # They have builds of their own.
+    """The named suites; `folders` are those among them that are folders of src/."""
+    if not set(suites) <= {"macos", "trixie"}:  # They have separate builds.
         build("test")
     if folders:
         runUnits(tally, folders)
@@ -361,7 +361,7 @@ def main():
 
     tally = Tally()
     if arguments.long:
-        os.environ["FADELOOM_LONG"] = "1"  # For what is not started with an option of its own.
+        os.environ["FADELOOM_LONG"] = "1"  # For child processes that take no such option.
     if not arguments.suites:
         runEverything(tally, arguments.long)
     else:

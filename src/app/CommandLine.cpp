@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view screenshotsArgument = "--render-screenshots";
 
-// The folder, then perhaps a suffix, then perhaps the look. Whatever else is there does not count.
+// The folder, optionally a suffix, optionally the appearance. Anything else is ignored.
 std::optional<CommandLine> screenshotsIn(std::span<const std::string_view> arguments)
 {
     const auto found = std::ranges::find(arguments, screenshotsArgument);
@@ -32,7 +32,7 @@ std::optional<CommandLine> screenshotsIn(std::span<const std::string_view> argum
 
 std::expected<CommandLine, std::string> parseCommandLine(std::span<const std::string_view> arguments)
 {
-    // A verb: fadeloomctl knows which there are.
+    // A verb: validated by fadeloomctl.
     const char first = arguments.empty() || arguments.front().empty() ? '-' : arguments.front().front();
     if (first >= 'a' && first <= 'z')
         return CommandLine{.action = CommandLine::Action::giveCommand};
@@ -55,7 +55,7 @@ std::expected<CommandLine, std::string> parseCommandLine(std::span<const std::st
             wantsHelp = true;
         else if (argument == "--version")
             wantsVersion = true;
-        else if (argument != screenshotsArgument)  // As the last one it asks for nothing.
+        else if (argument != screenshotsArgument)  // As the last argument it has no folder and is ignored.
             return std::unexpected("unknown argument: " + printable(argument));
     }
 

@@ -9,7 +9,7 @@
 
 namespace fadeloom {
 
-int becomeControl(char** arguments)
+int execControl(char** arguments)
 {
     std::error_code error;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", error);

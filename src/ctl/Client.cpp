@@ -52,7 +52,7 @@ bool Client::tryToConnect()
     isClosed_ = false;
     received_.clear();
     descriptor_ = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const timeval limit{.tv_sec = patience.count(), .tv_usec = 0};
+    const timeval limit{.tv_sec = timeout.count(), .tv_usec = 0};
     for (const int option : {SO_RCVTIMEO, SO_SNDTIMEO})
         setsockopt(descriptor_, SOL_SOCKET, option, &limit, sizeof limit);
     return ::connect(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
@@ -60,13 +60,13 @@ bool Client::tryToConnect()
 
 std::optional<std::string> Client::ask(const std::string& request)
 {
-    const auto end = std::chrono::steady_clock::now() + std::max(wait_, patience);
+    const auto end = std::chrono::steady_clock::now() + std::max(wait_, timeout);
     auto answer = askOnce(request);
-    // One that has just ended leaves the connection without an answer.
-    const auto isToBeAskedAgain = [&] {
+    // An instance that is exiting closes the connection without a reply.
+    const auto shouldRetry = [&] {
         return answer ? answer->starts_with("busy ") : isClosed_ && wait_.count() > 0;
     };
-    while (isToBeAskedAgain() && std::chrono::steady_clock::now() < end) {
+    while (shouldRetry() && std::chrono::steady_clock::now() < end) {
         std::this_thread::sleep_for(pause);
         if (!connect())
             break;
@@ -77,7 +77,7 @@ std::optional<std::string> Client::ask(const std::string& request)
 
 std::optional<std::string> Client::askOnce(const std::string& request)
 {
-    // One that refuses a line before its end has said so all the same.
+    // An instance may reject a line before reading all of it; its reply counts.
     static_cast<void>(send(request + "\n"));
     while (true) {
         if (auto answer = takeLine())

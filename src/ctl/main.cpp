@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// fadeloomctl: gives a running Fadeloom a command. Without Qt, so that a held key costs next to nothing.
+// fadeloomctl: the command line client. It does not use Qt, so that key repeat costs next to nothing.
 #include "ctl/Client.h"
 #include "ctl/FocusedApp.h"
 #include "ctl/Options.h"
@@ -39,8 +39,7 @@ std::string socketFile()
         + "/fadeloom.socket";
 }
 
-/// Puts the process of the window in front in the place of "@focused". Absent when it is not known; it has been said
-/// why.
+/// Replaces "@focused" by the process of the focused window. nullopt if that is unknown; an error has been printed.
 std::optional<std::vector<std::string>> withFocusedApp(std::span<const std::string_view> words)
 {
     std::vector<std::string> result(words.begin(), words.end());

@@ -66,7 +66,7 @@ protected:
         }};
 };
 
-TEST_F(AppDelegateStory, theIconBearsTheProgramsName)
+TEST_F(AppDelegateStory, theIconHasTheProgramsName)
 {
     EXPECT_EQ(icon.name(), "Fadeloom");
 }
@@ -119,7 +119,7 @@ TEST_F(AppDelegateStory, theMenuHasItsEntriesInOrder)
     EXPECT_EQ(entry("Quit Fadeloom")->key, "q");
 }
 
-TEST_F(AppDelegateStory, theMenuTellsWhichEntryDoesWhatAClickDoes)
+TEST_F(AppDelegateStory, theMenuMarksTheEntryEquivalentToAClick)
 {
     for (const auto& each : icon.openMenu())
         EXPECT_EQ(each.isClick, each.title == "Open Mixer") << each.title;
@@ -145,7 +145,7 @@ TEST_F(AppDelegateStory, theMenuOpensThePagesOfThePopover)
     EXPECT_TRUE(popover.isShown());
 }
 
-TEST_F(AppDelegateStory, theMenuTellsWhetherItLaunchesAtLoginAtThatMoment)
+TEST_F(AppDelegateStory, theMenuShowsTheCurrentLoginState)
 {
     EXPECT_FALSE(entry("Launch at Login")->isChecked);
 
@@ -157,7 +157,7 @@ TEST_F(AppDelegateStory, theMenuTellsWhetherItLaunchesAtLoginAtThatMoment)
     EXPECT_FALSE(entry("Launch at Login")->isChecked);
 }
 
-TEST_F(AppDelegateStory, theOtherEntriesDoWhatTheySay)
+TEST_F(AppDelegateStory, theOtherEntriesWork)
 {
     icon.choose("About Fadeloom");
     icon.choose("Check for Updates…");
@@ -167,7 +167,7 @@ TEST_F(AppDelegateStory, theOtherEntriesDoWhatTheySay)
     EXPECT_FALSE(popover.isShown());
 }
 
-TEST_F(AppDelegateStory, anEntryClosesThePopoverAlsoWhenTheMenuIsOld)
+TEST_F(AppDelegateStory, anEntryClosesThePopoverEvenIfTheMenuIsStale)
 {
     const auto about = entry("About Fadeloom");
     const auto updates = entry("Check for Updates…");
@@ -182,7 +182,7 @@ TEST_F(AppDelegateStory, anEntryClosesThePopoverAlsoWhenTheMenuIsOld)
     EXPECT_THAT(done, ElementsAre("about", "updates"));
 }
 
-TEST_F(AppDelegateStory, whereNobodyLooksForUpdatesTheMenuOffersNone)
+TEST_F(AppDelegateStory, withoutAnUpdateCheckTheMenuDoesNotOfferOne)
 {
     SimulatedStatusItem silentIcon;
     const AppDelegate silent{controller, silentIcon, popover, world.application(),
@@ -192,7 +192,7 @@ TEST_F(AppDelegateStory, whereNobodyLooksForUpdatesTheMenuOffersNone)
         EXPECT_NE(each.title, "Check for Updates…");
 }
 
-TEST_F(AppDelegateStory, itsTextsAreLookedUp)
+TEST_F(AppDelegateStory, itsTextsAreTranslated)
 {
     SimulatedStatusItem foreignIcon;
     const AppDelegate foreign{controller, foreignIcon, popover, world.application(),

@@ -110,7 +110,7 @@ void RunningProgram::signalProgram(int number) const
 bool RunningProgram::readMore(int descriptor, std::string& text)
 {
     pollfd waited = {.fd = descriptor, .events = POLLIN, .revents = 0};
-    if (poll(&waited, 1, static_cast<int>(std::chrono::milliseconds(patience).count())) != 1)
+    if (poll(&waited, 1, static_cast<int>(std::chrono::milliseconds(timeout).count())) != 1)
         return false;
     std::array<char, 4096> bytes{};
     const auto count = read(descriptor, bytes.data(), bytes.size());
@@ -147,7 +147,7 @@ int RunningProgram::exitStatus()
 
 bool RunningProgram::endsUnread()
 {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
     while (std::chrono::steady_clock::now() < deadline) {
         if (waitpid(pid_, &status_, WNOHANG) == pid_) {
             pid_ = -1;

@@ -17,7 +17,7 @@ namespace fadeloom {
 /// Killed when this object ends, if it has not ended by then.
 class RunningProgram {
 public:
-    static constexpr std::chrono::seconds patience{20};  // Before a wait is given up.
+    static constexpr std::chrono::seconds timeout{20};  // Before a wait is given up.
 
     /// `environment`: variables that differ from our own.
     explicit RunningProgram(const std::vector<std::string>& arguments,
@@ -33,11 +33,11 @@ public:
     /// Signals the process that does the work, not the one that was started, which is its guardian.
     void signalProgram(int number) const;
     /// Reads standard output until a line begins with `beginning`, and returns that line; absent when the output
-    /// ends, or our patience does, before.
+    /// ends, or our timeout does, before.
     std::optional<std::string> lineWith(std::string_view beginning);
-    /// The exit status, once the program ends; −1 when a signal ended it or our patience did.
+    /// The exit status, once the program ends; −1 when a signal ended it or our timeout did.
     int exitStatus();
-    /// Waits for the end and reads nothing meanwhile; false when our patience ends before.
+    /// Waits for the end and reads nothing meanwhile; false when our timeout ends before.
     bool endsUnread();
     /// Everything on standard output, or standard error, that was not read before; waits for the program's end.
     std::string restOfOutput();

@@ -27,7 +27,7 @@ TEST(ScreenshotProgram, drawsItsScreenshotsWithoutADisplay)
         EXPECT_GT(std::filesystem::file_size(folder.path() / name), 20000) << name;
 }
 
-TEST(ScreenshotProgram, drawsItsScreenshotsInTheLanguageThatWasChosen)
+TEST(ScreenshotProgram, rendersItsScreenshotsInTheSelectedLanguage)
 {
     const auto settingsPicture = [](const std::string& language) {
         const TemporaryFolder folder;

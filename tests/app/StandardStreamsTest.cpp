@@ -12,7 +12,7 @@
 namespace fadeloom {
 namespace {
 
-TEST(StandardStreams, areThereEvenWhenTheyWereClosed)
+TEST(StandardStreams, areOpenEvenIfTheyWereClosed)
 {
     const auto isOpen = [](int stream) { return fcntl(stream, F_GETFD) != -1; };
 
@@ -26,7 +26,7 @@ TEST(StandardStreams, areThereEvenWhenTheyWereClosed)
         testing::ExitedWithCode(7), "");
 }
 
-TEST(StandardStreams, errorsThatNobodyReadHoldNobodyUp)
+TEST(StandardStreams, unreadErrorsDoNotBlock)
 {
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);

@@ -24,7 +24,7 @@ std::vector<float> countingFrom(float first, std::size_t count)
     return samples;
 }
 
-TEST(SpscRing, givesWhatItGotInItsOrder)
+TEST(SpscRing, preservesOrder)
 {
     SpscRing<float> ring{8};
     EXPECT_THAT(ring.oldest(), IsEmpty());
@@ -39,7 +39,7 @@ TEST(SpscRing, givesWhatItGotInItsOrder)
     EXPECT_THAT(ring.oldest(), IsEmpty());
 }
 
-TEST(SpscRing, holdsAsMuchAsWasAskedForOrMore)
+TEST(SpscRing, holdsAtLeastTheRequestedCapacity)
 {
     EXPECT_EQ(SpscRing<float>{8}.capacity(), 8U);
     EXPECT_EQ(SpscRing<float>{9}.capacity(), 16U);
@@ -62,7 +62,7 @@ TEST(SpscRing, takesAllOrNothing)
     EXPECT_THAT(ring.oldest(), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8));
 }
 
-TEST(SpscRing, refusesMoreThanItEverHolds)
+TEST(SpscRing, refusesMoreThanItsCapacity)
 {
     SpscRing<float> ring{8};
 
@@ -70,7 +70,7 @@ TEST(SpscRing, refusesMoreThanItEverHolds)
     EXPECT_THAT(ring.oldest(), IsEmpty());
 }
 
-TEST(SpscRing, samplesGoOnAtItsBeginning)
+TEST(SpscRing, wrapsAroundToItsBeginning)
 {
     SpscRing<float> ring{8};
     EXPECT_TRUE(ring.push(countingFrom(1, 6)));
@@ -83,7 +83,7 @@ TEST(SpscRing, samplesGoOnAtItsBeginning)
     EXPECT_THAT(ring.oldest(), ElementsAre(9, 10, 11, 12, 13));
 }
 
-TEST(SpscRing, popsWhatThereIsAcrossItsEnd)
+TEST(SpscRing, popsAcrossTheWraparound)
 {
     SpscRing<float> ring{8};
     EXPECT_TRUE(ring.push(countingFrom(1, 6)));
@@ -107,7 +107,7 @@ long pageFaultsOfThisThread()
     return usage.ru_minflt;
 }
 
-TEST(SpscRing, itsMemoryIsThereBeforeTheFirstSample)
+TEST(SpscRing, itsMemoryIsAllocatedBeforeTheFirstSample)
 {
     constexpr std::size_t size = std::size_t{1} << 20;  // 1024 pages of 4096 bytes.
     SpscRing<float> ring{size};

@@ -57,7 +57,7 @@ TEST_F(TextWriterTest, writesEverythingInOrder)
     EXPECT_THAT(reader->texts, ElementsAre("one", "two", "three"));
 }
 
-TEST_F(TextWriterTest, dropsAndCountsWhatFindsNoRoom)
+TEST_F(TextWriterTest, dropsAndCountsOverflow)
 {
     const std::string block(TextWriter::room / 4, 'x');
     {
@@ -81,7 +81,7 @@ TEST_F(TextWriterTest, dropsAndCountsWhatFindsNoRoom)
     EXPECT_EQ(written + dropped, 1000);
 }
 
-TEST_F(TextWriterTest, tellsOfDroppedTextsInTheirPlace)
+TEST_F(TextWriterTest, reportsDroppedTextsInTheirPlace)
 {
     {
         const std::scoped_lock nobodyReads(reader->door);
@@ -94,7 +94,7 @@ TEST_F(TextWriterTest, tellsOfDroppedTextsInTheirPlace)
     EXPECT_THAT(reader->texts, ElementsAre("before", "dropped 1", "later"));
 }
 
-TEST_F(TextWriterTest, endsAlsoWhenNobodyEverReads)
+TEST_F(TextWriterTest, endsEvenIfNobodyEverReads)
 {
     reader->door.lock();
     writer.write("one");
@@ -129,7 +129,7 @@ TEST(WriteToDescriptor, writesAllOfATextAlsoWhereWritingDoesNotWait)
     ::close(pipe[1]);
 }
 
-TEST(WriteToDescriptor, passesOverWhatIsRefused)
+TEST(WriteToDescriptor, skipsWhatIsRefused)
 {
     TextWriter writer(writeToDescriptor(-1), &notice);
 

@@ -62,7 +62,7 @@ TEST(VolumeWord, aStepStopsAtTheEnds)
     EXPECT_GT(meant("+3dB", 0), 0) << "a step up leaves silence";
 }
 
-TEST(VolumeWord, stepsUpAndDownMeetAgain)
+TEST(VolumeWord, stepsUpAndDownCancelOut)
 {
     float volume = 0.5F;
     for (int i = 0; i < 300; ++i)

@@ -39,7 +39,7 @@ protected:
     Watchers watchers{controller, world.platform().mainLoop, world.platform().text};
 };
 
-TEST_F(WatchStory, beginsWithHowThingsStandAndGoesOnWithWhatChanges)
+TEST_F(WatchStory, beginsWithTheStateAndContinuesWithChanges)
 {
     const auto told = watch("text");
     EXPECT_THAT(next(*told),
@@ -101,7 +101,7 @@ TEST_F(WatchStory, forABarIsOneObjectForEachChange)
     EXPECT_THAT(next(*later), Contains(HasSubstr(R"("tooltip":"Radio → Desk Speakers")")));
 }
 
-TEST_F(WatchStory, measuresLevelsWhileSomebodyWantsThem)
+TEST_F(WatchStory, measuresLevelsWhileWatched)
 {
     EXPECT_FALSE(controller.levels().isRunning());
     auto told = watch("text levels");

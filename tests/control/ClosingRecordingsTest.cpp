@@ -76,7 +76,7 @@ TEST_F(ClosingRecordingsTest, areClosedOnceNoCycleReachesThem)
     EXPECT_EQ(closed.size(), 50U);
 }
 
-TEST_F(ClosingRecordingsTest, areClosedAtOnceAtTheEnd)
+TEST_F(ClosingRecordingsTest, areClosedImmediatelyAtTheEnd)
 {
     closing.add("player", recording(), parameters);
     closing.add("chat", recording(), nullptr);

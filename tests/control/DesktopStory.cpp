@@ -50,7 +50,7 @@ TEST_F(DesktopStory, launchAtLoginIsSwitchedOnAndOff)
     EXPECT_EQ(message(), "");
 }
 
-TEST_F(DesktopStory, aSwitchThatStaysWhereItIsAsksNobody)
+TEST_F(DesktopStory, anUnchangedSwitchCallsNobody)
 {
     start();
 
@@ -70,7 +70,7 @@ TEST_F(DesktopStory, aRefusedLaunchAtLoginFallsBackWithTheReason)
     EXPECT_EQ(message(), "Launch at login: The folder is not writable.");
 }
 
-TEST_F(DesktopStory, aRefusedEndOfLaunchAtLoginStaysOn)
+TEST_F(DesktopStory, aRefusedUnregistrationStaysOn)
 {
     world.loginItem().set(LoginItem::Status::enabled);
     start();
@@ -136,7 +136,7 @@ TEST_F(DesktopStory, metersRunWhileTheyAreWatchedAndSwitchedOn)
     EXPECT_FALSE(controller->levels().levels()->empty());
 }
 
-TEST_F(DesktopStory, metersThatNobodyWatchesNeverRun)
+TEST_F(DesktopStory, unwatchedMetersNeverRun)
 {
     start();
     launchPlaying("Player");

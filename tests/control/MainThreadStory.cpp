@@ -42,7 +42,7 @@ TEST_F(MainThreadStory, anAnnouncementOfProcesses)
     EXPECT_DEATH(runElsewhere(), reason);
 }
 
-TEST_F(MainThreadStory, aPollThatWasPutOff)
+TEST_F(MainThreadStory, aDeferredPoll)
 {
     world.openAudio(world.launchApp("Player"));
     world.mainLoop().runTurn();

@@ -16,7 +16,7 @@ using testing::StartsWith;
 
 using RecordingFileStory = RecordingStory;
 
-TEST_F(RecordingFileStory, bearsTheAppsNameAndTheTime)
+TEST_F(RecordingFileStory, hasTheAppsNameAndTheTime)
 {
     using namespace std::chrono;
     world.setDate(sys_days{2025y / 3 / 2} + 14h + 5min + 9s);

@@ -14,7 +14,7 @@ protected:
     const std::string player = "com.example.player";
 };
 
-TEST_F(RecordingFolderStory, makesItsFolderWhenThereIsNone)
+TEST_F(RecordingFolderStory, createsItsFolderIfMissing)
 {
     launchPlaying("Player");
     const auto recordings = controller->recordingsFolder();

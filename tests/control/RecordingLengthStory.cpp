@@ -16,7 +16,7 @@ protected:
     const std::string player = "com.example.player";
 };
 
-TEST_F(RecordingLengthStory, isAsLongAsTheClockSaysWhateverItsAppDoes)
+TEST_F(RecordingLengthStory, isAsLongAsTheElapsedTimeWhateverItsAppDoes)
 {
     const auto pid = launchPlaying("Player");
     controller->startRecording(player);

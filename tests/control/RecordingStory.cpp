@@ -27,7 +27,7 @@ TEST_F(RecordingStory, writesWhatTheAppPlays)
     EXPECT_THAT(lastFile().samples, Each(source));
 }
 
-TEST_F(RecordingStory, writesTheSoundBeforeEverythingThatIsDoneToIt)
+TEST_F(RecordingStory, writesTheUnprocessedAudio)
 {
     launchPlaying("Player");
     change(player, [](auto& app) {
@@ -98,7 +98,7 @@ TEST_F(RecordingStory, ofSeveralAppsGoOnSideBySide)
     EXPECT_THAT(lastFile().samples, Each(0.5F));
 }
 
-TEST_F(RecordingStory, goesOnWhenTheAppMovesToAnotherOutput)
+TEST_F(RecordingStory, continuesWhenTheAppMovesToAnotherOutput)
 {
     launchPlaying("Player");
     record(player);

@@ -15,7 +15,7 @@ protected:
     }
 };
 
-TEST_F(SettingsSaveStory, aSaveThatFailsAfterTheControllerIsGoneIsReportedToNobody)
+TEST_F(SettingsSaveStory, aSaveThatFailsAfterTheControllerIsGoneIsNotReported)
 {
     start();
     std::filesystem::create_directories(settingsFile());

@@ -43,7 +43,7 @@ def test_theSliderAtTheMiddleHalvesTheSound(openDesk):
     waitUntil(lambda: openDesk.savedApp("Player").get("volume") == pytest.approx(0.5, abs=0.004), "the settings file")
 
 
-def test_muteSilencesAndGivesBack(openDesk):
+def test_muteAndUnmute(openDesk):
     person = openDesk.person
     openDesk.waitForLevel(0.2)
 

@@ -72,7 +72,7 @@ def test_aNewerVersionIsOfferedInThePanelAndInAMessage(desk):
         assert len(asked) == 2
 
 
-def test_whenNobodyAnswersOnlyTheUsersQuestionIsAnswered(desk):
+def test_withoutAServerOnlyTheUsersCheckIsReported(desk):
     desk.start(FADELOOM_UPDATE_ENDPOINT="http://127.0.0.1:9")
     desk.open()
     assert not any(control.name.startswith("Update") for control in desk.person.controls())

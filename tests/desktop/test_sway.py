@@ -186,7 +186,7 @@ def test_itIsSharpAtAFractionalScale():
         assert steps.max() > 0.85 * (title.max() - title.min())
 
 
-def test_fromTheSecondTimeItIsThereAtOnce():
+def test_fromTheSecondTimeItOpensImmediately():
     with SwaySession() as session:
         _, *later = openings(session, program(), 8)
 

@@ -114,7 +114,7 @@ TEST_F(RecordingTimelineTest, addsUpWhatTheAppPlaysOnSeveralDevices)
     EXPECT_EQ(runs(timeline.takeRest(1s + 60ms)), "20x1 20x3 20x2");
 }
 
-TEST_F(RecordingTimelineTest, goesOnWhenTheAppMovesToAnotherDevice)
+TEST_F(RecordingTimelineTest, continuesWhenTheAppMovesToAnotherDevice)
 {
     play(timeline, 1s, 3, 1, 500, 1);
     play(timeline, 1s + 50ms, 3, 2, 9000, 2);

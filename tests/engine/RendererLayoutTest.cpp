@@ -215,7 +215,7 @@ TEST_F(RendererLayoutTest, stereoPairOfADeviceWithoutThoseChannelsIsHeardNowhere
     EXPECT_EQ(parameters->takePeak(), 0.5F) << "it was rendered all the same";
 }
 
-TEST_F(RendererLayoutTest, emptyOutputIsNoHarm)
+TEST_F(RendererLayoutTest, emptyOutputIsHarmless)
 {
     input.add(2, 16, 0.5F);
 

@@ -20,7 +20,7 @@
 namespace fadeloom {
 namespace {
 
-TEST(RealTimeGuard, noticesWhatIsForbidden)
+TEST(RealTimeGuard, detectsForbiddenCalls)
 {
     std::mutex mutex;
     const int before = realTimeViolations();

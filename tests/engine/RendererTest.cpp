@@ -57,7 +57,7 @@ TEST_F(RendererTest, atFullVolumeSoundPassesUntouched)
     EXPECT_EQ(parameters->takePeak(), 1.0F);
 }
 
-TEST_F(RendererTest, duckingLowersWhatIsHeard)
+TEST_F(RendererTest, duckingLowersTheOutput)
 {
     change([](auto& values) { values.duck = 0.25F; });
     Renderer renderer(parameters, {});

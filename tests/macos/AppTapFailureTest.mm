@@ -16,7 +16,7 @@ class MacOSAppTapInputs : public AppTapStage { };
 
 class MacOSAppTapFailure : public AppTapStage, public ::testing::WithParamInterface<Refusal> { };
 
-TEST_P(MacOSAppTapFailure, undoesWhatWasBuilt)
+TEST_P(MacOSAppTapFailure, tearsDownWhatWasBuilt)
 {
     const Refusal& refusal = GetParam();
     world.failNext(refusal.call, refusal.status);

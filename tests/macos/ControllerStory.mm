@@ -112,7 +112,7 @@ protected:
     std::optional<AudioController> controller;
 };
 
-TEST_F(MacOSController, takesAnAppWhoseHelperPlays)
+TEST_F(MacOSController, tapsAnAppWhoseHelperPlays)
 {
     ASSERT_EQ(controller->state().apps->size(), 1U);
     EXPECT_EQ(controller->state().apps->front().name, "Music");
@@ -129,7 +129,7 @@ TEST_F(MacOSController, takesAnAppWhoseHelperPlays)
             HasSubstr("tap ready: com.example.Music")));
 }
 
-TEST_F(MacOSController, showsAPictureWhenItIsDrawn)
+TEST_F(MacOSController, showsAnIconOnceItIsRendered)
 {
     EXPECT_TRUE(controller->state().apps->front().icon.file.empty());
     pass(0ms);
@@ -160,7 +160,7 @@ TEST_F(MacOSController, followsTheDefaultOutput)
     EXPECT_THAT(world.aggregates.begin()->second.procs.begin()->second.inputIsOn, ElementsAre(0, 1));
 }
 
-TEST_F(MacOSController, takesItsAppsAgainWhenTheAudioServiceHasRestarted)
+TEST_F(MacOSController, tapsItsAppsAgainAfterAnAudioServiceRestart)
 {
     world.restartService();
     pass(10ms);
@@ -170,7 +170,7 @@ TEST_F(MacOSController, takesItsAppsAgainWhenTheAudioServiceHasRestarted)
     EXPECT_TRUE(controller->parametersOf("com.example.Music")->audioSeen);
 }
 
-TEST_F(MacOSController, givesEverythingBackWithinAPollWhenThePermissionIsWithdrawn)
+TEST_F(MacOSController, releasesEverythingWithinAPollWhenThePermissionIsRevoked)
 {
     tcc.preflightAnswer = 1;
     pass(AudioController::pollInterval);
@@ -183,7 +183,7 @@ TEST_F(MacOSController, givesEverythingBackWithinAPollWhenThePermissionIsWithdra
     EXPECT_EQ(world.taps.size(), 1U);
 }
 
-TEST_F(MacOSController, asksForThePermissionAndTakesTheAppOnceItIsGranted)
+TEST_F(MacOSController, requestsThePermissionAndTapsTheAppOnceItIsGranted)
 {
     tcc.preflightAnswer = 2;
     pass(AudioController::pollInterval);
@@ -197,7 +197,7 @@ TEST_F(MacOSController, asksForThePermissionAndTakesTheAppOnceItIsGranted)
     EXPECT_EQ(world.taps.size(), 1U);
 }
 
-TEST_F(MacOSController, tellsWhatTheAudioSystemRefused)
+TEST_F(MacOSController, reportsWhatTheAudioSystemRefused)
 {
     world.setDefaultOutput("speakers");
     tcc.preflightAnswer = 1;
@@ -209,7 +209,7 @@ TEST_F(MacOSController, tellsWhatTheAudioSystemRefused)
     EXPECT_EQ(errors.at("com.example.Music").step, TapStep("Create aggregate device"));
 }
 
-TEST_F(MacOSController, recordsIntoAWholeFile)
+TEST_F(MacOSController, recordsToACompleteFile)
 {
     controller->startRecording("com.example.Music");
     world.runCycle();
@@ -223,7 +223,7 @@ TEST_F(MacOSController, recordsIntoAWholeFile)
     EXPECT_THAT(done(), Contains(AllOf(HasSubstr("reveal"), HasSubstr("/Music/Fadeloom Recordings/Music"))));
 }
 
-TEST_F(MacOSController, savesAndClosesEverythingAtItsEnd)
+TEST_F(MacOSController, savesAndClosesEverythingOnShutdown)
 {
     controller->startRecording("com.example.Music");
     change([](SettingsData& settings) { settings.volumeLimit = 1.5F; });
@@ -235,7 +235,7 @@ TEST_F(MacOSController, savesAndClosesEverythingAtItsEnd)
     EXPECT_THAT(fileNamed("settings.json"), HasSubstr("\"volumeLimit\""));
 }
 
-TEST_F(MacOSController, startsAtLoginOnlyWhenTheSystemSaysSo)
+TEST_F(MacOSController, startsAtLoginOnlyIfTheSystemSaysSo)
 {
     controller->setLaunchAtLogin(true);
     EXPECT_TRUE(*controller->state().launchAtLogin);

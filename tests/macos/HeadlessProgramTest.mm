@@ -66,7 +66,7 @@ protected:
     doubles::AudioWorld& world = doubles::AudioWorld::current();
 };
 
-TEST_F(MacOSHeadlessProgram, takesAnAppThatBeginsToPlayAfterItsStart)
+TEST_F(MacOSHeadlessProgram, tapsAnAppThatStartsPlayingLater)
 {
     bool isTaken = false;
     doubles::whenProgramRuns() = [&] {
@@ -82,7 +82,7 @@ TEST_F(MacOSHeadlessProgram, takesAnAppThatBeginsToPlayAfterItsStart)
     EXPECT_TRUE(std::filesystem::exists(folder.path() / "Library/Application Support/Fadeloom/engine.log"));
 }
 
-TEST_F(MacOSHeadlessProgram, startsBesideNoOther)
+TEST_F(MacOSHeadlessProgram, doesNotStartTwice)
 {
     OneInstance other(folder.path() / "Library/Application Support/Fadeloom");
     ASSERT_EQ(other.claim(true), OneInstance::Start::first);
@@ -93,7 +93,7 @@ TEST_F(MacOSHeadlessProgram, startsBesideNoOther)
     EXPECT_THAT(::testing::internal::GetCapturedStderr(), HasSubstr("it is running already"));
 }
 
-TEST_F(MacOSHeadlessProgram, saysThatItHasNoFolderForItsSettings)
+TEST_F(MacOSHeadlessProgram, reportsAMissingSettingsFolder)
 {
     desktop.folders.clear();
 

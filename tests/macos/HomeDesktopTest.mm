@@ -90,19 +90,20 @@ TEST_F(MacOSHomeDesktop, closesItsPanelWithEscape)
     panel.reset();
 }
 
-TEST_F(MacOSHomeDesktop, tellsOfTheLookAndOfTheEndOfTheSession)
+TEST_F(MacOSHomeDesktop, reportsTheAppearanceAndTheEndOfTheSession)
 {
     std::vector<std::string> told;
-    home->whenLookChanges(
-        [&](const DesktopLook& look) { told.emplace_back(look.isDark ? "dark" : "light"); });
+    home->whenAppearanceChanges([&](const DesktopAppearance& appearance) {
+        told.emplace_back(appearance.isDark ? "dark" : "light");
+    });
     home->whenSessionEnds([&] { told.emplace_back("session ends"); });
-    EXPECT_FALSE(home->look().isDark);
+    EXPECT_FALSE(home->appearance().isDark);
 
     DesktopStage::application().systemAppearance = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
     doubles::post("workspace", NSWorkspaceWillPowerOffNotification);
 
     EXPECT_THAT(told, ElementsAre("dark", "session ends"));
-    EXPECT_TRUE(home->look().isDark);
+    EXPECT_TRUE(home->appearance().isDark);
     home.reset();
     EXPECT_TRUE(desktop.observers.empty());
 }

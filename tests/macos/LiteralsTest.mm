@@ -112,7 +112,7 @@ const std::vector<Number> numbers = {
     {NUMBER(NSCachesDirectory), 13},
 };
 
-TEST(MacOSLiterals, numbersAreWhatTheyAre)
+TEST(MacOSLiterals, constantsHaveTheirValues)
 {
     for (const Number& each : numbers) {
         EXPECT_EQ(each.declared, each.number) << each.name;

@@ -43,7 +43,7 @@ TEST_F(MacOSMenuBar, showsATintedPictureUnderItsName)
     EXPECT_STREQ(button().accessibilityLabel.UTF8String, "Fadeloom");
 }
 
-TEST_F(MacOSMenuBar, tellsOfALeftClick)
+TEST_F(MacOSMenuBar, reportsALeftClick)
 {
     [button() click:NSEventTypeLeftMouseUp modifiers:0];
 
@@ -103,7 +103,7 @@ TEST_F(MacOSMenuBar, opensNoMenuAfterItsEnd)
     action = nil;
 }
 
-TEST_F(MacOSMenuBar, hasTheEntriesOfTheMomentInItsMenu)
+TEST_F(MacOSMenuBar, hasTheCurrentEntriesInItsMenu)
 {
     std::vector<std::string> titles;
     desktop.whenMenuOpens = [&](NSMenu* menu) {
@@ -121,7 +121,7 @@ TEST_F(MacOSMenuBar, hasTheEntriesOfTheMomentInItsMenu)
     EXPECT_THAT(happened, ElementsAre("menu will open", "settings"));
 }
 
-TEST_F(MacOSMenuBar, letsAChoiceBeMadeAfterTheMenuHasClosed)
+TEST_F(MacOSMenuBar, appliesAChoiceAfterTheMenuHasClosed)
 {
     NSMenuItem* chosen = nil;
     desktop.whenMenuOpens = [&](NSMenu* menu) { chosen = menu.itemArray[0]; };

@@ -36,7 +36,7 @@ protected:
     std::vector<std::string> happened;
 };
 
-TEST_F(MacOSPopover, opensBelowTheItemWithTheKeyboard)
+TEST_F(MacOSPopover, opensBelowTheItemWithTheFocus)
 {
     content().subviews = @[ [[NSView alloc] initWithFrame:NSZeroRect] ];
     popover->setAnimated(false);
@@ -51,7 +51,7 @@ TEST_F(MacOSPopover, opensBelowTheItemWithTheKeyboard)
     EXPECT_EQ(doubles::lastPopover().anchor, (__bridge NSView*)item.button());
 }
 
-TEST_F(MacOSPopover, isAnimatedWhenThatIsWanted)
+TEST_F(MacOSPopover, isAnimatedIfEnabled)
 {
     popover->setAnimated(true);
 
@@ -60,7 +60,7 @@ TEST_F(MacOSPopover, isAnimatedWhenThatIsWanted)
     EXPECT_THAT(done(), ElementsAre("popover opens slowly", "make key", "keys to nobody"));
 }
 
-TEST_F(MacOSPopover, takesTheKeyboardOnceMoreWhenItHasAppearedAndWhenTheProgramIsActive)
+TEST_F(MacOSPopover, takesTheFocusAgainWhenItHasAppearedAndWhenTheProgramIsActive)
 {
     popover->show();
     done();
@@ -76,9 +76,9 @@ TEST_F(MacOSPopover, takesTheKeyboardOnceMoreWhenItHasAppearedAndWhenTheProgramI
     EXPECT_THAT(done(), IsEmpty());
 }
 
-TEST_F(MacOSPopover, makesItsContentWhenItOpensForTheFirstTime)
+TEST_F(MacOSPopover, createsItsContentWhenFirstOpened)
 {
-    popover->whenFirstNeeded([this] { happened.emplace_back("make content"); });
+    popover->whenFirstShown([this] { happened.emplace_back("make content"); });
     EXPECT_THAT(happened, IsEmpty());
 
     for (int i = 0; i < 2; ++i) {
@@ -122,7 +122,7 @@ TEST_F(MacOSPopover, isOpenedByAClickLongAfterThePressThatHasClosedIt)
     EXPECT_FALSE(popover->isShown());
 }
 
-TEST_F(MacOSPopover, tellsWhenItHasClosed)
+TEST_F(MacOSPopover, reportsWhenItHasClosed)
 {
     popover->show();
 
@@ -133,14 +133,14 @@ TEST_F(MacOSPopover, tellsWhenItHasClosed)
     EXPECT_THAT(happened, ElementsAre("will show", "did close"));
 }
 
-TEST_F(MacOSPopover, handsOutAViewWhoseContentStaysAtItsUpperEdge)
+TEST_F(MacOSPopover, providesAViewWhoseContentStaysAtItsUpperEdge)
 {
     EXPECT_NE(popover->contentView(), nullptr);
     EXPECT_EQ(popover->contentView(), popover->contentView());
     EXPECT_TRUE(content().isFlipped);
 }
 
-TEST_F(MacOSPopover, growsAtOnceAlsoWhenItOpensSlowly)
+TEST_F(MacOSPopover, resizesImmediatelyEvenWhileAnimating)
 {
     popover->setAnimated(true);
     popover->show();
@@ -154,7 +154,7 @@ TEST_F(MacOSPopover, growsAtOnceAlsoWhenItOpensSlowly)
     EXPECT_TRUE(doubles::lastPopover().animates);
 }
 
-TEST_F(MacOSPopover, endsWithoutTellingItsOwnerWhoMayBeGone)
+TEST_F(MacOSPopover, isDestroyedWithoutCallingItsOwner)
 {
     popover->show();
     done();

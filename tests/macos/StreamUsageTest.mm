@@ -37,7 +37,7 @@ protected:
     PropertyTable table;
 };
 
-TEST_F(StreamUsageTest, tellsWhichStreamsAreOn)
+TEST_F(StreamUsageTest, reportsWhichStreamsAreEnabled)
 {
     table.setBytes(aggregate, usageOf, recordOf(3, {1, 0, 1}));
 
@@ -61,7 +61,7 @@ TEST_F(StreamUsageTest, isAskedForOneProcedure)
     EXPECT_EQ(asked, &procedure);
 }
 
-TEST_F(StreamUsageTest, switchesStreamsOffAndLeavesTheRestOfTheRecord)
+TEST_F(StreamUsageTest, disablesStreamsAndKeepsTheRestOfTheRecord)
 {
     table.setBytes(
         aggregate, usageOf, recordOf(2, {1, 1, 77}));  // One flag more than streams, as padding would be.

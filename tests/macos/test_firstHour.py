@@ -122,13 +122,13 @@ def test_aStepThatFailsEndsNothing(mac):
     assert any(line.endswith(" steps have failed.") for line in report)
 
 
-def test_aQtForOneProcessorIsTold(mac):
+def test_aQtForOneArchitectureIsReported(mac):
     (mac.qt / "lib" / "QtGui").write_bytes(machO.thin("arm64"))
     report = mac(0)
     assert "only arm64" in linesOf(report, "processors")[0]
 
 
-def test_elsewhereItSaysThatThisIsNoMac(mac):
+def test_elsewhereItSaysThatThisIsNotAMac(mac):
     report = mac(2, SYSTEM="Linux")
     assert "This is no Mac." in report
 

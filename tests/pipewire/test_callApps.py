@@ -77,7 +77,7 @@ def test_aCallLowersTheOthersOutOfTheBox(callApps, kind):
         assert callApps.loudnessOf(1000) == pytest.approx(0.5 * 0.2, rel=0.01)
 
 
-def test_aListThatNobodyEditedIsBroughtOver(callApps):
+def test_anUneditedListIsMigrated(callApps):
     callApps.install("Zoom", "Exec={program} %U")
     with callApps.stage.fadeloom(settings({}, focus={"callApps": FORMER_LIST})) as fadeloom:
         callApps.call([])
@@ -96,7 +96,7 @@ def test_anEditedListIsLeftAlone(callApps):
     assert stored["focus"]["callApps"] == FORMER_LIST[1:]
 
 
-def test_aMeetingInABrowserIsOfferedAndTakenWithOneWord(callApps):
+def test_aMeetingInABrowserIsSuggestedAndAcceptedWithOneCommand(callApps):
     with callApps.stage.fadeloom() as fadeloom:
         callApps.stage.play("pw-play", callApps.music)
         callApps.stage.waitForTap(fadeloom, "pw-cat")

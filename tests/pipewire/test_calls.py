@@ -114,7 +114,7 @@ def test_anotherCallAppIsNotLowered(calls):
     assert signals.amplitude(heard, 1000)[0] == pytest.approx(0.5 * DUCK, rel=0.01)
 
 
-def test_recordingWhatADevicePlaysIsNoCall(calls):
+def test_recordingADevicesOutputIsNotACall(calls):
     with calls.fadeloom() as fadeloom:
         calls.stage.play("pw-play", calls.music)
         calls.open("talk")

@@ -87,7 +87,7 @@ def playing(sharedStage):
     ("fadeloomctl output pw-cat head", ["headphones"]), ("fadeloomctl --json watch le", ["levels"]),
     ("fadeloomctl --q", ["--quiet"]), ("fadeloomctl wat", ["watch"]), ("fadeloomctl louder x", []),
 ])
-def test_whatMayFollow(playing, complete, line, candidates):
+def test_completions(playing, complete, line, candidates):
     assert [word for word in complete(playing, line) if word] == candidates
 
 
@@ -96,7 +96,7 @@ def test_allAppsAreOfferedBehindABlank(playing):
     assert "pw-cat" in inFish(playing, "fadeloomctl volume ")
 
 
-def test_bashGetsWordsAsItWouldReadThem(playing):
+def test_bashGetsProperlyQuotedWords(playing):
     assert inBash(playing, "fadeloomctl delete-preset My") == ["My\\ Mix"]
     assert inBash(playing, "fadeloomctl volume @pl") == ["playing"]  # The rest stands there already.
 

@@ -22,7 +22,7 @@ def ctl(stage, *words, text="", wrapper=()):
     return done.returncode, done.stdout, done.stderr
 
 
-def test_noFadeloomHasAStatusOfItsOwn(stage):
+def test_noRunningFadeloomHasADistinctStatus(stage):
     assert ctl(stage, "volume", "pw-cat") == (4, "", "fadeloomctl: Fadeloom is not running\n")
 
 
@@ -47,7 +47,7 @@ def test_aCommandIsHeardAndRead(stage):
     (["volume", "nobody", "0.5"], 5), (["default", "nowhere"], 5), (["limit", "3"], 1), (["open"], 1),
     (["volume", "a\nb"], 2), (["x" * 10000], 2),
 ])
-def test_aStatusTellsWhatIsWrong(stage, words, status):
+def test_theExitStatusIdentifiesTheError(stage, words, status):
     with stage.fadeloom(settings({"pw-cat": app()})) as fadeloom:
         fadeloom.waitFor("default speakers")
 

@@ -53,7 +53,7 @@ def test_answersAreJsonToo(stage):
         assert ctl(stage, "list", "apps")[1].splitlines()[1].startswith("app pw-cat pw-cat playing volume 0.4 ")
 
 
-def test_whoeverWatchesIsToldUntilTheEnd(stage):
+def test_watchersReceiveEventsUntilTheEnd(stage):
     fadeloom = stage.fadeloom(settings({"pw-cat": app()}))
     with fadeloom:
         fadeloom.waitFor("default speakers")
@@ -128,7 +128,7 @@ def test_allSettingsAreExportedAndRestored(stage):
         assert ctl(stage, "volume", "pw-cat")[1] == "0.25\n"
 
 
-def test_whatMayFollowIsWhatIsThere(stage):
+def test_completionsAreTheCurrentObjects(stage):
     with stage.fadeloom(settings({"pw-cat": app()})) as fadeloom:
         stage.play("pw-play", sineFile(stage))
         stage.waitForTap(fadeloom, "pw-cat")

@@ -106,7 +106,7 @@ def test_whateverADesktopAnswersNothingBreaks(stage, reply):
         assert (status, said) == (5, "") and "in front" in sentence
 
 
-def test_niriIsAskedInItsWords(stage):
+def test_niriIsQueriedWithItsProtocol(stage):
     """By its documented protocol; niri itself is not in these tests."""
     with stage.fadeloom(settings({"pw-cat": app(volume=0.5)})) as fadeloom, socket.socket(socket.AF_UNIX) as desktop:
         stage.play("pw-play", sineFile(stage))

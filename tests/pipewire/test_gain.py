@@ -117,7 +117,7 @@ def test_aChangeOfVolumeGlidesWithoutAClick(stage):
     assert numpy.abs(sounding[-4800:]).max() == pytest.approx(0.05, rel=0.01)
 
 
-def test_aToneOfMinus20DecibelsStandsAtTwoThirds(stage):
+def test_aToneOfMinus20DecibelsShowsAtTwoThirds(stage):
     file = stage.folder / "tone.wav"
     signals.write(file, signals.sine(1000, 0.1, 20))
     with stage.fadeloom(settings({"pw-cat": app()})) as fadeloom:

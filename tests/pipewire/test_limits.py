@@ -26,7 +26,7 @@ def test_theSoftLimitOfOpenFilesIsRaised(stage):
             fadeloom.waitFor(f"tap ready: {name} ", seconds=20)
 
 
-def test_whatIsMissingIsNamedAndNothingElseSuffers(stage):
+def test_aMissingCapabilityIsNamedWithoutSideEffects(stage):
     with stage.fadeloom(settings(), wrapper=["prlimit", "--nofile=128:128"]) as fadeloom:
         fadeloom.waitFor("default speakers")
         apps = startApps(stage, 14)

@@ -53,7 +53,7 @@ def assertHeardThroughTheEffect(stage, fadeloom, bundleID, gain):
 
 
 @pytest.mark.parametrize("effect", neighbours.EFFECTS)
-def test_anEffectThatIsThereFirstIsHeardBehindTheTap(stage, effect):
+def test_anExistingEffectIsAppliedAfterTheTap(stage, effect):
     gain = neighbours.start(stage.session, effect)
     stage.session.setDefault("effect")
     with stage.fadeloom(settings({"pw-cat": app(volume=VOLUME)})) as fadeloom:
@@ -77,7 +77,7 @@ def test_anEffectThatIsMadeTheDefaultLaterTakesTheAppsAlong(stage, effect):
 
 
 @pytest.mark.parametrize("module", [neighbours.FILTER, neighbours.LOOPBACK], ids=["filterChain", "loopback"])
-def test_anEffectOfTheServersOwnConfigurationIsNoApp(module):
+def test_anEffectInTheServersConfigurationIsNotAnApp(module):
     session = AudioSession()
     neighbours.configureServer(session, module)
     with session:

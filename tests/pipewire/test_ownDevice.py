@@ -55,7 +55,7 @@ def test_theNextRunAfterAKillReturnsAStreamToItsOwnDevice(stage, how):
     assert not stage.isLinked("pw-play:", "speakers:")
 
 
-def test_aMoveIsTakenBackOnceWithoutAFight(stage):
+def test_aSingleMoveIsReverted(stage):
     """With an output chosen for the app, a single move by somebody else does not last."""
     with stage.fadeloom(settings({"pw-cat": app(volume=0.5, outputUID="speakers")})) as fadeloom:
         file = stage.folder / "sine.wav"

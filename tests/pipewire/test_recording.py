@@ -64,7 +64,7 @@ def assertIsPartOf(recorded, written):
 
 
 @pytest.mark.parametrize("rate", [44100, 48000, 96000])
-def test_recordingsAreExactWhateverIsHeard(stage, rate):
+def test_recordingsAreExactRegardlessOfTheSettings(stage, rate):
     """Three apps at once, each muted, equalized and lowered, at each rate of the graph."""
     seconds = 20
     players = {"pw-play": "pw-cat", "paplay": "pacat", "ffmpeg": "ffmpeg"}

@@ -162,7 +162,7 @@ def test_theGuardianSleepsAndIsLean(stage):
         assert len(os.listdir(f"/proc/{guardian}/task")) == 1
 
 
-def test_aKilledProgramIsKilledAsAWhole(stage):
+def test_killingTheGuardianKillsTheProgram(stage):
     with stage.fadeloom() as fadeloom:
         fadeloom.waitFor("default speakers")
         program = fadeloom.programID()

@@ -58,7 +58,7 @@ def rampFile(stage, seconds):
 
 @pytest.mark.parametrize("player", ["pw-play", "paplay"])
 @pytest.mark.parametrize("quantum", [128, 1024])
-def test_aPlayingAppIsTakenOverAndGivenBackWithoutAGap(stage, player, quantum):
+def test_aPlayingAppIsCapturedAndReleasedWithoutAGap(stage, player, quantum):
     bundleID = PLAYERS[player][0]
     stage.session.setQuantum(quantum)
     process, _ = stage.play(player, rampFile(stage, 6))

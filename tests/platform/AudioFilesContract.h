@@ -64,7 +64,7 @@ protected:
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(AudioFilesContract);
 
-TEST_P(AudioFilesContract, whatIsHandedOverIsInTheFile)
+TEST_P(AudioFilesContract, whatIsWrittenIsInTheFile)
 {
     for (const double rate : {8000, 44100, 48000, 96000, 192000}) {
         const Steps steps = noise(static_cast<std::size_t>(rate * 1.3), 1);
@@ -103,7 +103,7 @@ TEST_P(AudioFilesContract, whatIsBeyondFullScaleIsClipped)
         WrittenSound(48000, {highest, lowest, highest, lowest, highest, lowest, 1 << 22, -(1 << 22)}));
 }
 
-TEST_P(AudioFilesContract, whatIsNoNumberIsSilence)
+TEST_P(AudioFilesContract, nanIsSilence)
 {
     AudioFile& file = open(at("nan.wav"), 48000);
     const float none = std::numeric_limits<float>::quiet_NaN();
@@ -114,7 +114,7 @@ TEST_P(AudioFilesContract, whatIsNoNumberIsSilence)
     EXPECT_EQ(world->read(at("nan.wav")), WrittenSound(48000, {0, 1 << 22, 0, -(1 << 22)}));
 }
 
-TEST_P(AudioFilesContract, aFileWithoutSamplesIsWhole)
+TEST_P(AudioFilesContract, aFileWithoutSamplesIsComplete)
 {
     AudioFile& file = open(at("empty.wav"), 44100);
 
@@ -161,7 +161,7 @@ TEST_P(AudioFilesContract, aFileOfThatNameIsReplaced)
     EXPECT_EQ(world->read(at("same.wav")), WrittenSound(48000, shorter));
 }
 
-TEST_P(AudioFilesContract, openFilesKeepToThemselves)
+TEST_P(AudioFilesContract, openFilesAreIndependent)
 {
     const std::array rates{44100.0, 48000.0, 96000.0};
     std::array<AudioFile*, 3> opened{};
@@ -183,7 +183,7 @@ TEST_P(AudioFilesContract, openFilesKeepToThemselves)
         EXPECT_TRUE(world->read(at(std::to_string(i) + ".wav")) == WrittenSound(rates[i], steps[i])) << i;
 }
 
-TEST_P(AudioFilesContract, aFileIsWellWhileItsSamplesAreTaken)
+TEST_P(AudioFilesContract, aFileHasNoErrorWhileItAcceptsSamples)
 {
     AudioFile& file = open(at("well.wav"), 48000);
     EXPECT_EQ(file.failure(), std::nullopt);
@@ -206,7 +206,7 @@ TEST_P(AudioFilesContract, anImpossibleRateIsRefusedAndMakesNoFile)
     }
 }
 
-TEST_P(AudioFilesContract, anErrorHasWords)
+TEST_P(AudioFilesContract, anErrorHasADescription)
 {
     const std::string words = files.describe({28});
 

@@ -66,7 +66,7 @@ TEST_P(BackgroundQueueContract, workRunsAfterItsDelay)
     EXPECT_TRUE(world->waitUntil([this] { return doneSoFar() == std::vector{1}; }));
 }
 
-TEST_P(BackgroundQueueContract, workDueAtOnceRunsInTheOrderGiven)
+TEST_P(BackgroundQueueContract, workDueImmediatelyRunsInOrder)
 {
     std::vector<int> expected;
     for (int i = 0; i < 500; ++i) {
@@ -97,7 +97,7 @@ TEST_P(BackgroundQueueContract, cancelledWorkDoesNotRun)
     EXPECT_THAT(doneSoFar(), ::testing::IsEmpty());
 }
 
-TEST_P(BackgroundQueueContract, runNowDoesTheWorkOnceAndAtOnce)
+TEST_P(BackgroundQueueContract, runNowRunsTheWorkOnceAndImmediately)
 {
     const auto work = queue.submit(20ms, noting(1));
 
@@ -109,7 +109,7 @@ TEST_P(BackgroundQueueContract, runNowDoesTheWorkOnceAndAtOnce)
     EXPECT_THAT(doneSoFar(), ::testing::ElementsAre(1));
 }
 
-TEST_P(BackgroundQueueContract, cancellingWorkThatIsDoneChangesNothing)
+TEST_P(BackgroundQueueContract, cancellingCompletedWorkHasNoEffect)
 {
     const auto work = queue.submit(0ms, noting(1));
     EXPECT_TRUE(world->waitUntil([this] { return doneSoFar().size() == 1; }));
@@ -120,7 +120,7 @@ TEST_P(BackgroundQueueContract, cancellingWorkThatIsDoneChangesNothing)
     EXPECT_THAT(doneSoFar(), ::testing::ElementsAre(1));
 }
 
-TEST_P(BackgroundQueueContract, workGoesOnWithoutItsHandle)
+TEST_P(BackgroundQueueContract, workContinuesWithoutItsHandle)
 {
     queue.submit(5ms, noting(1)).reset();
 
@@ -151,7 +151,7 @@ TEST_P(BackgroundQueueContract, workMayCancelItself)
     EXPECT_TRUE(world->waitUntil([this] { return doneSoFar().size() == 1; }));
 }
 
-TEST_P(BackgroundQueueContract, whatTheTaskHoldsIsReleasedWhenItIsDoneOrCancelled)
+TEST_P(BackgroundQueueContract, capturesAreReleasedWhenTheTaskIsDoneOrCancelled)
 {
     const auto held = std::make_shared<int>(1);
 

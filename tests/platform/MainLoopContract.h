@@ -148,7 +148,7 @@ TEST_P(MainLoopContract, aTaskMayEndItsOwnSubscription)
     EXPECT_EQ(kept.use_count(), 1);
 }
 
-TEST_P(MainLoopContract, aTaskMayPutANewTimerInThePlaceOfItsOwn)
+TEST_P(MainLoopContract, aTaskMayReplaceItsOwnTimer)
 {
     Subscription timer;
     timer = loop.after(5ms, [&] {

@@ -18,7 +18,7 @@ TEST_P(PlatformContract, aPlayerAppearsAsAProcessThatPlays)
     EXPECT_THAT(audio.processes(ReadMic::yes), ::testing::Contains(process).Times(1));
 }
 
-TEST_P(PlatformContract, everyPlayerHasAnIdOfItsOwnThatNeverComesAgain)
+TEST_P(PlatformContract, everyPlayerHasAUniqueIdThatIsNeverReused)
 {
     plugged("contract.a");
     makeDefault("contract.a");
@@ -52,7 +52,7 @@ TEST_P(PlatformContract, processesAreAnnouncedOnTheMainLoop)
     EXPECT_TRUE(isAlwaysCurrent);
 }
 
-TEST_P(PlatformContract, pausingAndPlayingOnAreAnnounced)
+TEST_P(PlatformContract, pausingAndResumingAreAnnounced)
 {
     plugged("contract.a");
     makeDefault("contract.a");

@@ -78,7 +78,7 @@ TEST_P(TapContract, theProcedureGetsTheTapAndTheDevice)
     EXPECT_EQ(tap.proc->inputFrames, tap.proc->outputFrames);
 }
 
-TEST_P(TapContract, aTapThatEndedIsNotCalledAnyMore)
+TEST_P(TapContract, anEndedTapIsNoLongerCalled)
 {
     ContractTap tap{audio, {player.id}, device};
     EXPECT_TRUE(world->waitUntil([&] { return tap.proc->cycles > 0; }));
@@ -121,7 +121,7 @@ TEST_P(TapContract, aTapFollowsAnotherListOfProcesses)
 }
 
 // Some systems go on with silent cycles, others have none while nothing plays.
-TEST_P(TapContract, aTappedProcessThatEndsIsNotHeardAnyMore)
+TEST_P(TapContract, aTappedProcessThatExitsIsNoLongerAudible)
 {
     const ContractTap tap{audio, {player.id}, device};
     EXPECT_TRUE(hearsAbout(tap, 0.5F));
@@ -165,7 +165,7 @@ TEST_P(TapContract, aTapOnADeviceThatIsNotThereIsRefused)
     EXPECT_EQ(tap.proc->cycles, 0);
 }
 
-TEST_P(TapContract, aTapOnADeviceThatWasUnpluggedIsRefused)
+TEST_P(TapContract, aTapOnAnUnpluggedDeviceIsRefused)
 {
     const OutputDevice gone = plugged("contract.b");
     unplugged("contract.b");

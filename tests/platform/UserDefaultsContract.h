@@ -67,7 +67,7 @@ TEST_P(UserDefaultsContract, anyTextIsKept)
     EXPECT_EQ(defaults.stringList("Colours"), texts);
 }
 
-TEST_P(UserDefaultsContract, aNewListTakesThePlaceOfTheOld)
+TEST_P(UserDefaultsContract, aNewListReplacesTheOld)
 {
     defaults.setStringList("Colours", {"red", "blue"});
     defaults.setStringList("Colours", {"green"});

@@ -16,7 +16,7 @@ using testing::Key;
 
 class DamagedApp : public testing::TestWithParam<const char*> { };
 
-TEST_P(DamagedApp, isDroppedAndTheOthersStay)
+TEST_P(DamagedApp, isDroppedAndTheOthersAreKept)
 {
     const auto settings = decodeSettings(R"({"apps": {"before": {"volume": 0.5}, "damaged": )"
         + std::string(GetParam()) + R"(, "later": {}}, "eqAutoHeadroom": false})");
@@ -86,7 +86,7 @@ TEST(SettingsDamage, isDescribedByWhereItIs)
         << "the first one in the record's order";
 }
 
-TEST(SettingsDamage, nestingWithoutEndIsNoCrash)
+TEST(SettingsDamage, endlessNestingDoesNotCrash)
 {
     constexpr std::size_t depth = 200'000;
     const std::string opening(depth, '[');

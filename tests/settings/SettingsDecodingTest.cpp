@@ -37,7 +37,7 @@ TEST(SettingsDecoding, emptyObjectIsTheDefault)
     EXPECT_EQ(decoded("\xEF\xBB\xBF {\n}\r\n\t"), SettingsData()) << "byte order mark and white space";
 }
 
-TEST(SettingsDecoding, nullStandsForADefault)
+TEST(SettingsDecoding, nullMeansTheDefault)
 {
     EXPECT_EQ(decoded(R"({"apps": null, "focus": null, "recordingsFolder": null, "knownAppNames": null,
         "userPresets": null, "appearance": null, "volumeLimit": null, "eqAutoHeadroom": null})"),
@@ -50,7 +50,7 @@ TEST(SettingsDecoding, nullStandsForADefault)
         AppAudioSettings());
 }
 
-TEST(SettingsDecoding, callAppsThatNobodyEditedAreTheDefaults)
+TEST(SettingsDecoding, uneditedCallAppsAreTheDefaults)
 {
     const DefaultCallApps defaults{.current = {"new", "newer"}, .former = {"old", "older"}};
     const auto callApps = [&](std::string_view text) {

@@ -9,7 +9,7 @@ namespace {
 
 class CallOfferViewTest : public PanelStage { };
 
-TEST_F(CallOfferViewTest, anOfferedCallAppIsTakenWithOneClick)
+TEST_F(CallOfferViewTest, anOfferedCallAppIsAcceptedWithOneClick)
 {
     auto contents = demoContents(Theme::dark);
     contents.callOffers = {contents.apps[1].bundleID};

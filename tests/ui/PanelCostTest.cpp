@@ -54,7 +54,7 @@ TEST_F(PanelCostTest, oneVolumeStepTouchesOneRow)
     std::vector<std::unique_ptr<QSignalSpy>> rows;
     for (int i = 0; i < rowCount; ++i)
         rows.push_back(std::make_unique<QSignalSpy>(&row(i), &AppRowModel::changed));
-    const QSignalSpy look(&*panel, &PanelModel::lookChanged);
+    const QSignalSpy look(&*panel, &PanelModel::appearanceChanged);
     const QSignalSpy outputs(&*panel, &PanelModel::outputsChanged);
     const QSignalSpy banner(&*panel, &PanelModel::bannerChanged);
     const QSignalSpy page(panel->settings(), &SettingsModel::changed);
@@ -67,7 +67,7 @@ TEST_F(PanelCostTest, oneVolumeStepTouchesOneRow)
     EXPECT_EQ(look.count() + outputs.count() + banner.count() + page.count(), 0);
 }
 
-TEST_F(PanelCostTest, menusAreBuiltForThoseWhoAsk)
+TEST_F(PanelCostTest, menusAreBuiltOnDemand)
 {
     CountingTranslator texts;
 
@@ -82,7 +82,7 @@ TEST_F(PanelCostTest, menusAreBuiltForThoseWhoAsk)
     EXPECT_GT(texts.take("PresetEntries"), 0);
 }
 
-TEST_F(PanelCostTest, aLimitOfAllIsHeardByAll)
+TEST_F(PanelCostTest, theGlobalLimitAffectsAllRows)
 {
     CountingTranslator texts;
 

@@ -43,14 +43,14 @@ protected:
     }
 };
 
-TEST_F(PanelPlacesTest, aHintOfOneLineHoldsItsWords)
+TEST_F(PanelPlacesTest, aSingleLineTooltipFitsItsText)
 {
     show(demoContents(Theme::dark));
 
     expectTheHintToHoldItsWords(button("Settings"));
 }
 
-TEST_F(PanelPlacesTest, aHintOfTwoLinesHoldsItsWords)
+TEST_F(PanelPlacesTest, aTwoLineTooltipFitsItsText)
 {
     show(demoContents(Theme::dark), musicID);
 
@@ -109,7 +109,7 @@ TEST_F(PanelPlacesTest, theFieldForAPresetsNameComesIntoSightInEveryRow)
     }
 }
 
-TEST_F(PanelPlacesTest, aLongVersionLeavesRoomForTheOtherButtons)
+TEST_F(PanelPlacesTest, aLongVersionLeavesSpaceForTheOtherButtons)
 {
     show(demoContents(Theme::dark));
     const std::string version(80, '9');

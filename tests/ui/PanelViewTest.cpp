@@ -57,7 +57,7 @@ TEST_F(PanelViewTest, aFaderNearTheFullLevelSnaps)
     EXPECT_EQ(values->currentValue().toDouble(), 100);
 }
 
-TEST_F(PanelViewTest, aVolumeSetByAnAssistiveProgramDoesNotCutTheFaderOff)
+TEST_F(PanelViewTest, aVolumeSetByAssistiveTechnologyKeepsTheBinding)
 {
     show(demoContents(Theme::dark));
     auto* const fader = slider("Music volume");
@@ -96,7 +96,7 @@ TEST_F(PanelViewTest, oneRowIsOpenAtATime)
     EXPECT_FALSE(button("Collapse"));
 }
 
-TEST_F(PanelViewTest, aBandFollowsTheHandInWholeDecibels)
+TEST_F(PanelViewTest, aBandIsDraggedInIntegerDecibels)
 {
     show(demoContents(Theme::dark), musicID);
     auto* const band = slider("1k hertz");

@@ -24,8 +24,8 @@ struct SectionPass {
     int sections;
     int halves;  // 1 or 2.
     int vectors;
-    int bands
-        [maximumSlots];  // Of each slot that has a section; what is left over at the end changes nothing.
+    // Of each slot that has a section; what is left over at the end changes nothing.
+    int bands[maximumSlots];
     /// Vector after vector b0, b1, b2, a1, a2; of each the halves, and of these left and right, which are the same.
     alignas(32) double coefficients[maximumSlots * 5 * 2];
 };

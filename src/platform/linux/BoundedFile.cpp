@@ -27,7 +27,7 @@ std::optional<std::string> readBoundedFile(const std::filesystem::path& file, st
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
-            return std::nullopt;  // A process that has just ended, as a rule.
+            return std::nullopt;  // Usually a process that has just exited.
         if (count == 0)
             break;
         content.append(piece.data(), static_cast<std::size_t>(count));

@@ -13,7 +13,7 @@ namespace {
 
 GraphID idOf(const GraphProperties& properties, std::string_view key)
 {
-    constexpr GraphID none = 0xffffffff;  // PipeWire's own word for it.
+    constexpr GraphID none = 0xffffffff;  // PipeWire's invalid id.
     return static_cast<GraphID>(numberOf(properties, key).value_or(none));
 }
 
@@ -148,7 +148,7 @@ std::string Graph::defaultSinkName() const
     if (spa_json_enter_object(&outer, &object) <= 0)
         return {};
 
-    // A text is never longer decoded than written.
+    // Decoding never makes a text longer.
     std::string text(json.size() + 1, '\0');
     const auto capacity = static_cast<int>(text.size());
     while (spa_json_get_string(&object, text.data(), capacity) > 0) {

@@ -107,7 +107,7 @@ void SimulatedAudioWorld::startPlaying(AudioProcessID process, SimulatedSignal s
     found->second.position = 0;
     if (!std::exchange(found->second.isPlaying, true))
         processesChanged.post();
-    keepCycling();
+    scheduleCycles();
 }
 
 void SimulatedAudioWorld::stopPlaying(AudioProcessID process)
@@ -166,7 +166,7 @@ bool SimulatedAudioWorld::isActive() const
         || std::ranges::any_of(state_.processes, [](const auto& entry) { return entry.second.isPlaying; });
 }
 
-void SimulatedAudioWorld::keepCycling()
+void SimulatedAudioWorld::scheduleCycles()
 {
     if (isCycleScheduled_ || cycleInterval_ <= std::chrono::milliseconds{0} || !isActive())
         return;
@@ -178,7 +178,7 @@ void SimulatedAudioWorld::keepCycling()
         const auto interval = std::chrono::duration<double>{cycleInterval_};
         if (isActive() && interval.count() > 0)
             runCycle(static_cast<std::uint32_t>(rate * interval.count()));
-        keepCycling();
+        scheduleCycles();
     });
 }
 

@@ -37,7 +37,7 @@ protected:
     OffscreenApplication application;
 };
 
-TEST_F(TrayPictureTest, isSeenOnEveryBarWhateverTheDesktopsLook)
+TEST_F(TrayPictureTest, isVisibleOnEveryBarWhateverTheColourScheme)
 {
     for (const bool isDark : {true, false}) {
         const auto icon = trayDrawing(isDark);

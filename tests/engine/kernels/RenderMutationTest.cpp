@@ -33,7 +33,7 @@ TEST(RenderMutation, kernelsMadeHereAgreeWithThePlainForm)
     EXPECT_EQ(RenderWalk(asItIs, 1).walk(frames), std::nullopt);
 }
 
-TEST(RenderMutation, anotherOrderOfTheSameAdditionsIsToldApart)
+TEST(RenderMutation, anotherOrderOfTheSameAdditionsIsDetected)
 {
     EXPECT_NE(RenderWalk(reassociated, 1).walk(frames), std::nullopt);
 }

@@ -147,8 +147,8 @@ public:
     std::map<std::string, OSStatus> failures;
     AudioStreamBasicDescription tapFormat{};
     AudioObjectID lastID = 100;
-    std::optional<std::uint32_t>
-        inputsOfAggregates{};  // In place of those that their devices and taps give them.
+    // In place of those that their devices and taps give them.
+    std::optional<std::uint32_t> inputsOfAggregates{};
     std::chrono::nanoseconds hostTime = std::chrono::hours(1);
     PropertyAnswers* answers = nullptr;
 

@@ -49,7 +49,7 @@ TEST_F(CallerSandboxTest, aSnapIs)
     EXPECT_TRUE(isInSandbox());
 }
 
-TEST_F(CallerSandboxTest, whatCannotBeLookedAtIs)
+TEST_F(CallerSandboxTest, aProcessThatCannotBeInspectedIs)
 {
     EXPECT_TRUE(isInSandbox()) << "no such process";
     EXPECT_TRUE(isSandboxed(0));

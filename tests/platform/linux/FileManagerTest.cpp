@@ -138,7 +138,7 @@ TEST_F(FileManagerTest, opensAnAddress)
     EXPECT_EQ(openerArguments(), "1\nhttps://fadeloom.example/download.php?a=1&b=%20\n");
 }
 
-TEST_F(FileManagerTest, opensNothingThatIsNoAddress)
+TEST_F(FileManagerTest, opensOnlyAddresses)
 {
     installOpener();
 
@@ -150,7 +150,7 @@ TEST_F(FileManagerTest, opensNothingThatIsNoAddress)
     EXPECT_EQ(openerArguments(), "1\nhttps://fadeloom.example\n");
 }
 
-TEST_F(FileManagerTest, saysWhenNobodyOpensAddresses)
+TEST_F(FileManagerTest, reportsWhenNoProgramOpensAddresses)
 {
     files.open("https://fadeloom.example");
 
@@ -198,7 +198,7 @@ TEST_F(FileManagerTest, withoutASessionTheFolderIsOpened)
     EXPECT_EXIT(revealWithoutSession(), ::testing::ExitedWithCode(0), "");
 }
 
-TEST_F(FileManagerTest, busThatCameAgainIsUsed)
+TEST_F(FileManagerTest, aRestartedBusIsUsed)
 {
     for (int life = 0; life < 2; ++life) {
         const PrivateBus bus{busFolder};
@@ -210,7 +210,7 @@ TEST_F(FileManagerTest, busThatCameAgainIsUsed)
     }
 }
 
-TEST_F(FileManagerTest, whatCanBeShownInNoWayIsLogged)
+TEST_F(FileManagerTest, whatCannotBeShownIsLogged)
 {
     files.reveal("/music/recording.wav");
 
@@ -219,7 +219,7 @@ TEST_F(FileManagerTest, whatCanBeShownInNoWayIsLogged)
         ElementsAre(AllOf(HasSubstr("Cannot show /music/recording.wav: "), HasSubstr("xdg-open"))));
 }
 
-TEST_F(FileManagerTest, missingAnswerHoldsNobodyUp)
+TEST_F(FileManagerTest, aMissingReplyDoesNotBlock)
 {
     const auto begin = std::chrono::steady_clock::now();
     const PrivateBus bus{busFolder};
@@ -235,7 +235,7 @@ TEST_F(FileManagerTest, missingAnswerHoldsNobodyUp)
     EXPECT_LT(std::chrono::steady_clock::now() - begin, 10s) << "an answer is waited for 25 seconds";
 }
 
-TEST_F(FileManagerTest, stuckBusHoldsNobodyUp)
+TEST_F(FileManagerTest, aStuckBusDoesNotBlock)
 {
     installOpener();
     auto bus = std::make_unique<StuckBus>(sessionBusFolder());
@@ -250,7 +250,7 @@ TEST_F(FileManagerTest, stuckBusHoldsNobodyUp)
     EXPECT_TRUE(waitUntil([&] { return !openerArguments().empty(); }));
 }
 
-TEST_F(FileManagerTest, withoutAFileThereIsNoThread)
+TEST_F(FileManagerTest, noThreadRunsWithoutARequest)
 {
     const auto threads = [] {
         return std::distance(fs::directory_iterator{"/proc/self/task"}, fs::directory_iterator{});

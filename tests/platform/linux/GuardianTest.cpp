@@ -24,8 +24,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::uint64_t heldThing = 0x1234'5678'9ABC'DEF0;
-std::string
-    releaseFile;  // What the guardian released, in text. The release reaches nothing but what is global.
+// What the guardian released, in text. The release reaches nothing but what is global.
+std::string releaseFile;
 
 void noteRelease(std::uint64_t held, pid_t program)
 {
@@ -80,10 +80,10 @@ protected:
         return status;
     }
     /// Whether the program is gone, for it keeps a pipe open as long as it lives.
-    bool isProgramGone(std::chrono::milliseconds patience)
+    bool isProgramGone(std::chrono::milliseconds timeout)
     {
         pollfd waited{.fd = life[0], .events = POLLIN, .revents = 0};
-        return ::poll(&waited, 1, static_cast<int>(patience.count())) == 1;
+        return ::poll(&waited, 1, static_cast<int>(timeout.count())) == 1;
     }
     static std::string released()
     {
@@ -135,7 +135,7 @@ TEST_F(GuardianTest, aSignalThatEndsTheProgramEndsItToo)
     EXPECT_EQ(WTERMSIG(ended), SIGSEGV);
 }
 
-TEST_F(GuardianTest, whatAStoppedProgramHoldsIsReleased)
+TEST_F(GuardianTest, aStoppedProgramsClientIsReleased)
 {
     runForEver();
     const auto begin = std::chrono::steady_clock::now();
@@ -148,7 +148,7 @@ TEST_F(GuardianTest, whatAStoppedProgramHoldsIsReleased)
     EXPECT_EQ(stateOf(parent), 'S') << "it guards on";
 }
 
-TEST_F(GuardianTest, nothingIsReleasedForAProgramThatHoldsNothing)
+TEST_F(GuardianTest, nothingIsReleasedForAProgramWithoutAnyClient)
 {
     runForEver(0);
 
@@ -159,7 +159,7 @@ TEST_F(GuardianTest, nothingIsReleasedForAProgramThatHoldsNothing)
     EXPECT_EQ(released(), "");
 }
 
-TEST_F(GuardianTest, theTerminalsStopStopsBothAfterTheRelease)
+TEST_F(GuardianTest, aTerminalStopStopsBothAfterTheRelease)
 {
     runForEver();
 
@@ -173,7 +173,7 @@ TEST_F(GuardianTest, theTerminalsStopStopsBothAfterTheRelease)
     EXPECT_TRUE(becomes([&] { return stateOf(parent) == 'S'; }));
 }
 
-TEST_F(GuardianTest, aRequestToEndIsPassedOnOnceHoweverManyCopiesOfItCome)
+TEST_F(GuardianTest, aRequestToQuitIsForwardedOnceForAllItsCopies)
 {
     run([](Guardian&) {
         static volatile std::sig_atomic_t asked = 0;
@@ -192,7 +192,7 @@ TEST_F(GuardianTest, aRequestToEndIsPassedOnOnceHoweverManyCopiesOfItCome)
     EXPECT_EQ(WEXITSTATUS(status()), 5);
 }
 
-TEST_F(GuardianTest, aProgramThatCannotHandleTheRequestYetEndsByTheSignalItself)
+TEST_F(GuardianTest, aProgramThatCannotHandleTheRequestYetIsEndedByTheSignal)
 {
     runForEver();
 
@@ -203,7 +203,7 @@ TEST_F(GuardianTest, aProgramThatCannotHandleTheRequestYetEndsByTheSignalItself)
     EXPECT_EQ(WTERMSIG(ended), SIGTERM);
 }
 
-TEST_F(GuardianTest, aSecondRequestEndsTheProgramAtOnce)
+TEST_F(GuardianTest, aSecondRequestEndsTheProgramImmediately)
 {
     run([](Guardian&) {
         std::signal(SIGUSR1, SIG_IGN);
@@ -230,7 +230,7 @@ TEST_F(GuardianTest, theProgramDoesNotOutliveIt)
     EXPECT_TRUE(isProgramGone(10s));
 }
 
-TEST_F(GuardianTest, holdsNoFileOfTheProgramOpen)
+TEST_F(GuardianTest, hasNoneOfTheProgramsFilesOpen)
 {
     run([this](Guardian&) {
         ::close(life[1]);

@@ -96,7 +96,7 @@ TEST_F(InstanceCommandTest, thatAreTooLongEndTheConnection)
     EXPECT_THAT(lines, IsEmpty());
 }
 
-TEST_F(InstanceCommandTest, thatNeverEndAreGivenUpAfterAWhile)
+TEST_F(InstanceCommandTest, thatNeverEndTimeOut)
 {
     const auto socket = connection();
     socket->write("Run vol");
@@ -107,7 +107,7 @@ TEST_F(InstanceCommandTest, thatNeverEndAreGivenUpAfterAWhile)
     EXPECT_EQ(socket->state(), QLocalSocket::UnconnectedState);
 }
 
-TEST_F(InstanceCommandTest, ofAThousandConnectionsAreAnsweredOrTurnedAway)
+TEST_F(InstanceCommandTest, ofAThousandConnectionsAreAnsweredOrRejected)
 {
     std::vector<std::unique_ptr<QLocalSocket>> sockets;
     for (int i = 0; i < 200; ++i) {
@@ -160,7 +160,7 @@ TEST_F(InstanceCommandTest, toWatchThatAreRefusedEndTheConnection)
     EXPECT_THAT(watches, IsEmpty());
 }
 
-TEST_F(InstanceCommandTest, aWatcherThatDoesNotReadIsDroppedAndNobodyWaits)
+TEST_F(InstanceCommandTest, aWatcherThatDoesNotReadIsDroppedWithoutBlocking)
 {
     const int silent = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);  // Qt's would read by itself.
     sockaddr_un address{};
@@ -182,7 +182,7 @@ TEST_F(InstanceCommandTest, aWatcherThatDoesNotReadIsDroppedAndNobodyWaits)
     close(silent);
 }
 
-TEST_F(InstanceCommandTest, fiftyMayWatchAndLeaveRoomForCommands)
+TEST_F(InstanceCommandTest, fiftyWatchersLeaveCapacityForCommands)
 {
     std::vector<std::unique_ptr<QLocalSocket>> sockets;
     for (int i = 0; i < 70; ++i) {
@@ -222,7 +222,7 @@ TEST_F(InstanceCommandTest, areRefusedAtTheEnd)
     EXPECT_EQ(answer(*connection(), "Run volume player\n"), "busy error it is ending\n");
 }
 
-TEST_F(InstanceCommandTest, areToBeTriedAgainDuringTheStart)
+TEST_F(InstanceCommandTest, areToBeRetriedDuringStartup)
 {
     instance.serve({});
 

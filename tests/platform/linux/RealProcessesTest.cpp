@@ -133,7 +133,7 @@ TEST_F(RealProcessesTest, aShellScriptIsKnownByItsName)
     std::filesystem::remove(script);
 }
 
-TEST_F(RealProcessesTest, processesThatComeAndGoMeanwhileDoNoHarm)
+TEST_F(RealProcessesTest, processesThatComeAndGoMeanwhileAreHarmless)
 {
     for (int i = 0; i < 40; ++i) {
         const Sleeper brief{{"true"}};

@@ -33,7 +33,7 @@ TEST(XdgFolders, settingsFolderIsBelowHomeOtherwise)
         "/home/anna/.config");
 }
 
-TEST(XdgFolders, withoutHomeTheAccountTellsIt)
+TEST(XdgFolders, withoutHomeItComesFromTheUserDatabase)
 {
     const std::filesystem::path accountHome = getpwuid(getuid())->pw_dir;
 
@@ -55,7 +55,7 @@ TEST(XdgFolders, musicFolderIsTheOneTheUserChose)
     EXPECT_EQ(folders.music(), "/home/anna/Music");
 }
 
-TEST(XdgFolders, musicFolderOfAVariableIsNone)
+TEST(XdgFolders, musicFolderIsNotTakenFromAVariable)
 {
     // The file alone decides: what a session inherits of it may be older.
     const XdgFolders folders{
@@ -89,7 +89,7 @@ TEST(SyslogSystemLog, messagesCarryTheProgramAndAreNeverFormats)
     EXPECT_THAT(written, ::testing::HasSubstr("cut off\n"));
 }
 
-TEST(AlwaysGrantedPermission, answersAtOnceWithoutAsking)
+TEST(AlwaysGrantedPermission, repliesImmediatelyWithoutAPrompt)
 {
     AlwaysGrantedPermission permission;
     int granted = 0;

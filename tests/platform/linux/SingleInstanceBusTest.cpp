@@ -72,7 +72,7 @@ TEST_F(SingleInstanceBusTest, itsMethodsAreForEverybody)
     EXPECT_THAT(asked, ElementsAre("open", "toggle", "quit"));
 }
 
-TEST_F(SingleInstanceBusTest, itsMethodsCanBeLookedUp)
+TEST_F(SingleInstanceBusTest, itsMethodsCanBeIntrospected)
 {
     const auto text = call("Introspect", QStringLiteral("org.freedesktop.DBus.Introspectable"));
 
@@ -98,7 +98,7 @@ TEST_F(SingleInstanceBusTest, anInstanceWithoutAPanelSaysSo)
     EXPECT_EQ(call("Toggle").errorName().toStdString(), "com.fadeloom.app.Error.NoPanel");
 }
 
-TEST_F(SingleInstanceBusTest, oneThatIsEndingIsWaitedForAndFollowed)
+TEST_F(SingleInstanceBusTest, oneThatIsExitingIsWaitedForAndSucceeded)
 {
     serve(*instance);
     instance->beginEnding();
@@ -112,7 +112,7 @@ TEST_F(SingleInstanceBusTest, oneThatIsEndingIsWaitedForAndFollowed)
     EXPECT_EQ(outcomeOf(std::move(second)), Start::first);
 }
 
-TEST_F(SingleInstanceBusTest, oneThatSaysNothingIsGivenUpAfterTwoSeconds)
+TEST_F(SingleInstanceBusTest, oneThatDoesNotReplyTimesOutAfterTwoSeconds)
 {
     const auto begin = std::chrono::steady_clock::now();
 
@@ -121,7 +121,7 @@ TEST_F(SingleInstanceBusTest, oneThatSaysNothingIsGivenUpAfterTwoSeconds)
     EXPECT_GE(std::chrono::steady_clock::now() - begin, 1900ms);
 }
 
-TEST_F(SingleInstanceBusTest, theNameGoesWithTheInstance)
+TEST_F(SingleInstanceBusTest, theNameIsReleasedWithTheInstance)
 {
     EXPECT_TRUE(isNameTaken());
 
@@ -130,7 +130,7 @@ TEST_F(SingleInstanceBusTest, theNameGoesWithTheInstance)
     EXPECT_FALSE(isNameTaken());
 }
 
-TEST_F(SingleInstanceBusTest, theNameIsOneAlsoWithAnotherRuntimeFolder)
+TEST_F(SingleInstanceBusTest, theNameIsUniqueAcrossRuntimeFolders)
 {
     serve(*instance);
 

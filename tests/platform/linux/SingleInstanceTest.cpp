@@ -31,7 +31,7 @@ protected:
     std::optional<SingleInstance> instance;
 };
 
-TEST_F(SingleInstanceTest, theFirstIsAskedForNothing)
+TEST_F(SingleInstanceTest, theFirstReceivesNoRequest)
 {
     serve(first());
     runFor(20ms);
@@ -48,7 +48,7 @@ TEST_F(SingleInstanceTest, aSecondStartOpensThePanelOfTheFirst)
     EXPECT_THAT(asked, ElementsAre("open"));
 }
 
-TEST_F(SingleInstanceTest, itMayAskForEverythingElse)
+TEST_F(SingleInstanceTest, everyOtherRequestWorks)
 {
     serve(first());
 
@@ -79,7 +79,7 @@ TEST_F(SingleInstanceTest, anInstanceWithoutAPanelSaysSo)
     EXPECT_EQ(outcomeOf(startAnother(InstanceRequest::ping)), Start::answered);
 }
 
-TEST_F(SingleInstanceTest, onceItHasEndedTheNextIsTheFirst)
+TEST_F(SingleInstanceTest, onceItHasExitedTheNextIsTheFirst)
 {
     serve(first());
     instance.reset();
@@ -87,7 +87,7 @@ TEST_F(SingleInstanceTest, onceItHasEndedTheNextIsTheFirst)
     EXPECT_EQ(outcomeOf(startAnother()), Start::first);
 }
 
-TEST_F(SingleInstanceTest, oneThatIsEndingIsWaitedForAndFollowed)
+TEST_F(SingleInstanceTest, oneThatIsExitingIsWaitedForAndSucceeded)
 {
     serve(first());
     instance->beginEnding();
@@ -101,7 +101,7 @@ TEST_F(SingleInstanceTest, oneThatIsEndingIsWaitedForAndFollowed)
     EXPECT_THAT(asked, IsEmpty());
 }
 
-TEST_F(SingleInstanceTest, oneThatSaysNothingIsGivenUpAfterTwoSeconds)
+TEST_F(SingleInstanceTest, oneThatDoesNotReplyTimesOutAfterTwoSeconds)
 {
     serve(first());
     const auto begin = std::chrono::steady_clock::now();
@@ -113,7 +113,7 @@ TEST_F(SingleInstanceTest, oneThatSaysNothingIsGivenUpAfterTwoSeconds)
     EXPECT_LE(waited, 5s);
 }
 
-TEST_F(SingleInstanceTest, whatACrashLeftBehindIsNobody)
+TEST_F(SingleInstanceTest, whatACrashLeftBehindIsIgnored)
 {
     // The process of this number has long ended, and nobody listens.
     std::ofstream{folder.path() / "fadeloom.lock"} << "999999999\nfadeloom\n"
@@ -125,7 +125,7 @@ TEST_F(SingleInstanceTest, whatACrashLeftBehindIsNobody)
     EXPECT_EQ(outcomeOf(startAnother()), Start::answered);
 }
 
-TEST_F(SingleInstanceTest, whateverHasTheLocksNameKeepsNobodyFromStarting)
+TEST_F(SingleInstanceTest, anyFileInTheLocksPlaceDoesNotPreventStartup)
 {
     const auto lock = folder.path() / "fadeloom.lock";
     const auto makePipe = [&] { ASSERT_EQ(::mkfifo(lock.c_str(), 0600), 0); };
@@ -144,7 +144,7 @@ TEST_F(SingleInstanceTest, whateverHasTheLocksNameKeepsNobodyFromStarting)
     }
 }
 
-TEST_F(SingleInstanceTest, whateverHasTheSocketsNameKeepsNobodyFromStarting)
+TEST_F(SingleInstanceTest, anyFileInTheSocketsPlaceDoesNotPreventStartup)
 {
     const auto socket = folder.path() / "fadeloom.socket";
     ASSERT_EQ(::mkfifo(socket.c_str(), 0600), 0);
@@ -164,7 +164,7 @@ TEST_F(SingleInstanceTest, nothingIsLeftInTheFolder)
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
 }
 
-TEST_F(SingleInstanceTest, strangersAtTheSocketDoNoHarm)
+TEST_F(SingleInstanceTest, strangersAtTheSocketAreHarmless)
 {
     serve(first());
     QLocalSocket silent;
@@ -193,7 +193,7 @@ TEST_F(SingleInstanceTest, onlyTheUserReachesTheSocket)
         std::filesystem::perms::none);
 }
 
-TEST_F(SingleInstanceTest, whereNothingCanBeLockedItRunsAllTheSame)
+TEST_F(SingleInstanceTest, itRunsEvenIfLockingIsImpossible)
 {
     SingleInstance nowhere{folder.path() / "none"};
 

@@ -61,7 +61,7 @@ TEST(SystemClock, aZoneHasSummerAndWinter)
         systemClock.localTime(sys_days{2025y / 7 / 15} + 22h + 30min), local_days{2025y / 7 / 16} + 30min);
 }
 
-TEST(SystemClock, anHourIsLeftOutInSpringAndComesTwiceInAutumn)
+TEST(SystemClock, anHourIsSkippedInSpringAndRepeatedInAutumn)
 {
     const Zone zone{"Europe/Warsaw"};
 
@@ -113,7 +113,7 @@ TEST(SystemClock, partsOfASecondAreRoundedDownAlsoBefore1970)
         systemClock.localTime(sys_days{1930y / 1 / 1} + 1ms), local_days{1929y / 12 / 31} + 20h + 29min + 8s);
 }
 
-TEST(SystemClock, manyThreadsMayAsk)
+TEST(SystemClock, isThreadSafe)
 {
     const Zone zone{"Europe/Warsaw"};
     std::array<int, 4> wrong{};

@@ -19,7 +19,7 @@ TEST(SafeText, leavesTextAlone)
     EXPECT_EQ(safeText(""), "");
 }
 
-TEST(SafeText, replacesControlsAndWhatIsNotText)
+TEST(SafeText, replacesControlsAndInvalidText)
 {
     EXPECT_EQ(safeText("a\nb\x1b[0m\x7f"), "a b [0m ");
     EXPECT_EQ(safeText("\xc2\x85"), " ");
@@ -37,7 +37,7 @@ TEST(SafeText, cutsBetweenCharacters)
     EXPECT_EQ(safeText(std::string(10'000, 'x')).size(), 255U);
 }
 
-TEST(ApplicationUnit, isTheInnermostOneThatSaysSo)
+TEST(ApplicationUnit, isTheInnermostMatch)
 {
     EXPECT_EQ(applicationUnit("0::/user.slice/user-1000.slice/user@1000.service/app.slice/"
                               "app-gnome-firefox-2345.scope\n"),
@@ -52,7 +52,7 @@ TEST(ApplicationUnit, isTheInnermostOneThatSaysSo)
     EXPECT_EQ(applicationUnit(""), "");
 }
 
-TEST(DesktopIDsOfUnit, knowTheFormsOfLaunchers)
+TEST(DesktopIDsOfUnit, supportTheFormatsOfLaunchers)
 {
     EXPECT_THAT(desktopIDsOfUnit("app-firefox-2345.scope"), ElementsAre("firefox"));
     EXPECT_THAT(desktopIDsOfUnit("app-gnome-org.example.Player-2345.scope"),
@@ -69,13 +69,13 @@ TEST(DesktopIDsOfUnit, undoEscapedDashes)
     EXPECT_THAT(desktopIDsOfUnit(R"(app-a\xzz-1.scope)"), ElementsAre(R"(a\xzz)"));
 }
 
-TEST(DesktopIDsOfUnit, knowSnaps)
+TEST(DesktopIDsOfUnit, supportSnaps)
 {
     EXPECT_THAT(desktopIDsOfUnit("snap.spotify.spotify-0b1c-2d.scope"), Contains("spotify_spotify"));
     EXPECT_THAT(desktopIDsOfUnit("snap.firefox.firefox.0b1c.scope"), Contains("firefox_firefox"));
 }
 
-TEST(DesktopIDsOfUnit, areNoneForOtherUnits)
+TEST(DesktopIDsOfUnit, areEmptyForOtherUnits)
 {
     EXPECT_THAT(desktopIDsOfUnit("session-2.scope"), IsEmpty());
     EXPECT_THAT(desktopIDsOfUnit(""), IsEmpty());

@@ -92,7 +92,7 @@ TEST_F(WebAppTest, isKnownAlsoWhereTheBrowserWroteItsArgumentsAsOneText)
     EXPECT_EQ(found(10), "webapp-Meet1 10");
 }
 
-TEST_F(WebAppTest, aProgramInAUnitOfItsOwnIsNoHelper)
+TEST_F(WebAppTest, aProgramInItsOwnUnitIsNotAHelper)
 {
     tree.entry("browser", "Exec=browser\n");
     tree.entry("web", "Exec=browser --app-id=abc\n");

@@ -8,7 +8,7 @@
 namespace fadeloom {
 namespace {
 
-TEST(Graph, propertiesThatAreNoWholeNumbersAreAbsent)
+TEST(Graph, nonIntegerPropertiesAreAbsent)
 {
     const GraphProperties properties{
         {"good", "42"}, {"empty", ""}, {"tail", "42x"}, {"huge", "99999999999999999999"}};
@@ -20,7 +20,7 @@ TEST(Graph, propertiesThatAreNoWholeNumbersAreAbsent)
     EXPECT_EQ(numberOf(properties, "missing"), std::nullopt);
 }
 
-TEST(Graph, aReusedIdIsAnotherNode)
+TEST(Graph, aReusedIdIsADifferentNode)
 {
     GraphOf world;
     const auto id = world.sink("speakers", {"FL", "FR"});
@@ -67,7 +67,7 @@ TEST(Graph, theDefaultSinkIsReadFromJson)
     EXPECT_EQ(Graph{}.defaultSinkName(), "");
 }
 
-TEST(Graph, aForcedRateComesBeforeTheUsualOne)
+TEST(Graph, aForcedRateOverridesTheDefault)
 {
     Graph graph;
     EXPECT_EQ(graph.graphRate(), 48000.0);

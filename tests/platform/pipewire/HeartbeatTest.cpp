@@ -92,7 +92,7 @@ protected:
     std::unique_ptr<Heartbeat> heartbeat;
 };
 
-TEST_F(HeartbeatTest, isSilentWhileTheThreadAnswers)
+TEST_F(HeartbeatTest, isSilentWhileTheThreadReplies)
 {
     heartbeat->setActive(true);
     runFor(1s);
@@ -101,7 +101,7 @@ TEST_F(HeartbeatTest, isSilentWhileTheThreadAnswers)
     EXPECT_FALSE(heartbeat->isStalled());
 }
 
-TEST_F(HeartbeatTest, tellsOfAThreadThatStandsStillAndOfItsRecovery)
+TEST_F(HeartbeatTest, reportsAStalledThreadAndItsRecovery)
 {
     heartbeat->setActive(true);
     runFor(200ms);
@@ -126,7 +126,7 @@ TEST_F(HeartbeatTest, tellsOfAThreadThatStandsStillAndOfItsRecovery)
     EXPECT_FALSE(heartbeat->isStalled());
 }
 
-TEST_F(HeartbeatTest, tellsOfAThreadThatWorksWithoutEnd)
+TEST_F(HeartbeatTest, reportsABusyThread)
 {
     heartbeat->setActive(true);
     runFor(200ms);
@@ -141,7 +141,7 @@ TEST_F(HeartbeatTest, tellsOfAThreadThatWorksWithoutEnd)
     EXPECT_EQ(stalls, 1);
 }
 
-TEST_F(HeartbeatTest, waitsLongerForAThreadThatIsGivenNoProcessor)
+TEST_F(HeartbeatTest, toleratesAStarvedThreadForLonger)
 {
     heartbeat->setActive(true);
     runFor(200ms);
@@ -169,7 +169,7 @@ TEST_F(HeartbeatTest, waitsLongerForAThreadThatIsGivenNoProcessor)
             > (Heartbeat::missesAllowedWhenStarved - 1) * Heartbeat::interval);
 }
 
-TEST_F(HeartbeatTest, asksNothingWhileItIsNotNeeded)
+TEST_F(HeartbeatTest, doesNotPingWhileInactive)
 {
     freeze();
 
@@ -182,7 +182,7 @@ TEST_F(HeartbeatTest, asksNothingWhileItIsNotNeeded)
     EXPECT_EQ(stalls, 0);
 }
 
-TEST_F(HeartbeatTest, followsAStallToItsEndAlsoWhenItIsNotNeededAnyMore)
+TEST_F(HeartbeatTest, tracksAStallToItsEndEvenWhenDeactivated)
 {
     heartbeat->setActive(true);
     freeze();

@@ -16,7 +16,7 @@ TEST(OpenFiles, roomForATapIsLeftWhileTheReserveIsNotTouched)
 {
     rlimit former{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &former), 0);
-    FilesOfTaps files;
+    DescriptorBudget files;
     EXPECT_EQ(files.limitWithoutRoom(1), std::nullopt);
 
     const rlimit low{100, former.rlim_max};
@@ -45,7 +45,7 @@ TEST(OpenFiles, tapsWhoseFilesAreStillToComeCount)
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &former), 0);
     const rlimit low{128, former.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &low), 0);
-    FilesOfTaps files;
+    DescriptorBudget files;
     const auto first = files.limitWithoutRoom(0);
     const auto ninth = files.limitWithoutRoom(8);
     ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &former), 0);

@@ -41,11 +41,11 @@ protected:
             });
     }
     template <typename Condition>
-    static bool waitUntil(Condition condition, std::chrono::milliseconds patience = 20s)
+    static bool waitUntil(Condition condition, std::chrono::milliseconds timeout = 20s)
     {
         QElapsedTimer time;
         time.start();
-        while (!condition() && !time.hasExpired(patience.count()))
+        while (!condition() && !time.hasExpired(timeout.count()))
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
         return condition();
     }

@@ -112,7 +112,7 @@ TEST_F(LineReaderTest, anEmptyFileEndsAtOnce)
     close(nothing);
 }
 
-TEST_F(LineReaderTest, leavesTheModeOfTheDescriptorAlone)
+TEST_F(LineReaderTest, doesNotChangeTheFlagsOfTheDescriptor)
 {
     const int before = fcntl(ends[0], F_GETFL);
 

@@ -36,7 +36,7 @@ std::vector<std::string> sorted(const Text& text, std::vector<std::string> words
     return words;
 }
 
-TEST(QtText, lowersEveryScript)
+TEST(QtText, lowercasesEveryScript)
 {
     const QtText text;
 
@@ -96,7 +96,7 @@ TEST(QtText, comparesWithoutRegardToLetterCase)
     EXPECT_FALSE(text.equalIgnoringCase(std::string_view{"a\0b", 3}, std::string_view{"a\0c", 3}));
 }
 
-TEST(QtText, lettersThatFoldToManyAreEqualToThese)
+TEST(QtText, lettersThatFoldToSeveralEqualThem)
 {
     const QtText text;
 
@@ -109,7 +109,7 @@ TEST(QtText, lettersThatFoldToManyAreEqualToThese)
     EXPECT_TRUE(text.equalIgnoringCase("և", "ԵՒ"));
 }
 
-TEST(QtText, lettersThatAreWrittenInPartsAreEqualToWholeOnes)
+TEST(QtText, decomposedLettersEqualPrecomposedOnes)
 {
     const QtText text;
 
@@ -133,7 +133,7 @@ TEST(QtText, caseIsTheSameInEveryLanguage)
     }
 }
 
-TEST(QtText, whatIsNotTextIsEqualToReplacementCharacters)
+TEST(QtText, invalidTextEqualsReplacementCharacters)
 {
     const QtText text;
 
@@ -192,7 +192,7 @@ TEST(QtText, orderFollowsAChangeOfLanguage)
     }
 }
 
-TEST(QtText, orderIsOneInEveryLanguage)
+TEST(QtText, orderIsConsistentInEveryLanguage)
 {
     const QtText text;
     const std::string large(100'000, 'x');

@@ -52,7 +52,7 @@ TEST_P(QuitSignalsTest, aSecondSignalEndsTheProcess)
     EXPECT_EXIT(signalTwice(), ::testing::KilledBySignal(GetParam()), "");
 }
 
-TEST_P(QuitSignalsTest, theFormerMeaningComesBack)
+TEST_P(QuitSignalsTest, thePreviousActionIsRestored)
 {
     std::signal(GetParam(), SIG_IGN);
 

@@ -41,7 +41,7 @@ TEST_F(SimulatedAudioTest, callsAreCountedByWhatTheyAsk)
     EXPECT_EQ(world.audio().callCount(), 2);
 }
 
-TEST_F(SimulatedAudioTest, aMicrophoneIsNoOutputDevice)
+TEST_F(SimulatedAudioTest, aMicrophoneIsNotAnOutputDevice)
 {
     world.plug({.uid = "microphone", .name = "Microphone", .outputStreams = {}, .inputStreams = 1});
 

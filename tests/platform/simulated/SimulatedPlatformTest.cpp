@@ -69,7 +69,7 @@ TEST_F(SimulatedPlatformTest, tappedAppIsHeardThroughTheProcedureAlone)
     EXPECT_EQ(world.heard("speakers").at(10, 1), 0.25F + 0.125F);
 }
 
-TEST_F(SimulatedPlatformTest, endedTapGivesTheAppItsOwnSoundBack)
+TEST_F(SimulatedPlatformTest, endingATapRestoresTheAppsOwnOutput)
 {
     world.plug({.uid = "speakers", .name = "Speakers"});
     const auto music = world.launchApp("Music");

@@ -25,7 +25,7 @@ protected:
     const fs::path location = folder.path() / "file";
 };
 
-TEST_F(DiskFileTest, holdsWhatWasWrittenWhereItWasWritten)
+TEST_F(DiskFileTest, storesWritesAtTheirPositions)
 {
     const auto file = *DiskFile::create(location);
 
@@ -39,7 +39,7 @@ TEST_F(DiskFileTest, holdsWhatWasWrittenWhereItWasWritten)
     EXPECT_EQ(bytesOf(location), "hello Wo");
 }
 
-TEST_F(DiskFileTest, whoHasTheReplacedOneOpenKeepsIt)
+TEST_F(DiskFileTest, anOpenHandleKeepsTheReplacedFile)
 {
     put(location, "old");
     std::ifstream reader{location};
@@ -79,7 +79,7 @@ TEST_F(DiskFileTest, permissionsAreTheUsersChoice)
     }
 }
 
-TEST_F(DiskFileTest, sayWhyThereIsNone)
+TEST_F(DiskFileTest, reportsWhyAFileCannotBeCreated)
 {
     put(folder.path() / "document", "");
     fs::create_directory(folder.path() / "folder");

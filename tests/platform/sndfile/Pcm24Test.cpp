@@ -64,7 +64,7 @@ TEST(Pcm24, whatIsBeyondFullScaleIsClipped)
     EXPECT_THAT(converted({-1, -1.0001F, -2, -largest, -infinity}), ::testing::Each(lowestStep));
 }
 
-TEST(Pcm24, whatIsNoNumberIsSilence)
+TEST(Pcm24, nanIsSilence)
 {
     const float quiet = std::numeric_limits<float>::quiet_NaN();
     const auto signalling = std::bit_cast<float>(0x7F800001U);
@@ -72,7 +72,7 @@ TEST(Pcm24, whatIsNoNumberIsSilence)
     EXPECT_THAT(converted({quiet, -quiet, signalling}), ::testing::Each(0));
 }
 
-TEST(Pcm24, everyStepComesBackAsItself)
+TEST(Pcm24, everyStepRoundTrips)
 {
     std::vector<float> samples;
     std::vector<std::int32_t> expected;
@@ -84,7 +84,7 @@ TEST(Pcm24, everyStepComesBackAsItself)
     EXPECT_TRUE(converted(samples) == expected);
 }
 
-TEST(Pcm24, anyBitsAreConvertedAsTheRulesSay)
+TEST(Pcm24, anyBitsAreConvertedByTheRules)
 {
     std::mt19937 random{1};
     std::vector<float> samples(1'000'003);  // No multiple of what a vector holds.

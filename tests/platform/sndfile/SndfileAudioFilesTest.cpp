@@ -47,7 +47,7 @@ TEST_F(SndfileAudioFilesTest, aNameMayBeAnyBytes)
     EXPECT_EQ(readWave(strange), WrittenSound(rate, steps(0, 100)));
 }
 
-TEST_F(SndfileAudioFilesTest, aRefusalHasTheSystemsNumberAndWords)
+TEST_F(SndfileAudioFilesTest, aRefusalHasTheSystemsCodeAndMessage)
 {
     std::ofstream{folder.path() / "document"};
 

@@ -85,7 +85,7 @@ TEST_F(SndfileFailureTest, atTheLimitOfFileSizesTheFileKeepsWhatFits)
     EXPECT_EQ(fs::file_size(location), 80 + 6 * ((100'000U - 80) / 6));
 }
 
-TEST_F(SndfileFailureTest, noFileIsMadeThatMayHoldNothing)
+TEST_F(SndfileFailureTest, noFileIsCreatedIfNothingMayBeWritten)
 {
     const auto end = endOfChild([&] {
         limitFileSizes(0);

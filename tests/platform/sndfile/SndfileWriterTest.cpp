@@ -40,7 +40,7 @@ TEST_F(SndfileWriterTest, eachFileHasAThreadOfTheProgramsOwnPriority)
     EXPECT_EQ(writers().size(), 0U);
 }
 
-TEST_F(SndfileWriterTest, handingOverNeitherAllocatesNorWaitsNorCallsTheSystem)
+TEST_F(SndfileWriterTest, pushingSamplesIsRealTimeSafe)
 {
     AudioFile& file = *open(location);
     const auto cycle = samples(0, 8192);
@@ -58,7 +58,7 @@ TEST_F(SndfileWriterTest, handingOverNeitherAllocatesNorWaitsNorCallsTheSystem)
     files.dispose(file);
 }
 
-TEST_F(SndfileWriterTest, fourSecondsWaitForABusyDisk)
+TEST_F(SndfileWriterTest, fourSecondsAreBufferedForABusyDisk)
 {
     AudioFile& file = *open(location);
 
@@ -68,7 +68,7 @@ TEST_F(SndfileWriterTest, fourSecondsWaitForABusyDisk)
     EXPECT_TRUE(readWave(location) == WrittenSound(rate, steps(0, 4 * rate)));
 }
 
-TEST_F(SndfileWriterTest, aWriteBeyondAllRoomIsRefusedWhole)
+TEST_F(SndfileWriterTest, aWriteBeyondTheCapacityIsRefusedEntirely)
 {
     AudioFile& file = *open(location);
     EXPECT_TRUE(file.write(samples(0, 100)));
@@ -83,7 +83,7 @@ TEST_F(SndfileWriterTest, aWriteBeyondAllRoomIsRefusedWhole)
     EXPECT_EQ(readWave(location), WrittenSound(rate, expected));
 }
 
-TEST_F(SndfileWriterTest, writesThatComeTooFastAreRefusedWhole)
+TEST_F(SndfileWriterTest, writesThatAreTooFastAreRefusedEntirely)
 {
     AudioFile& file = *open(location);
     std::vector<std::vector<float>> cycles;

@@ -43,7 +43,7 @@ protected:
     const std::string format = "fmt \x10\0\0\0\x01\0\x02\0\x80\xBB\0\0\0\x65\x04\0\x06\0\x18\0"s;
 };
 
-TEST_F(WaveFileTest, isPlainPCMWithRoomForLargeSizes)
+TEST_F(WaveFileTest, isPlainPCMWithSpaceReservedForLargeSizes)
 {
     const auto room = "JUNK\x1C\0\0\0"s + std::string(28, '\0');
     const auto file = create();

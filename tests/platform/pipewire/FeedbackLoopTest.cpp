@@ -247,7 +247,7 @@ private:
     std::list<TapRoute> taps_;
 };
 
-TEST(StreamCircles, thereAreNoneInAnyGraph)
+TEST(FeedbackLoop, noGraphContainsAFeedbackLoop)
 {
     const auto* given = std::getenv("FADELOOM_SEED");  // Repeats one.
     const unsigned first = given ? static_cast<unsigned>(std::stoul(given)) : 1;
