@@ -18,7 +18,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
 SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
 SPECIAL = ("pipewire", "week", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks",
-           "trixie")
+           "trixie", "mutations")
 OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdesktop", "src/platform/sndfile",
             "src/app/linux", "src/ctl")
 # What the suites with real players start.
@@ -257,6 +257,7 @@ def runChecks(tally, isLong):
     for name, tool in (("layers", "checkLayers"), ("sizes", "checkSizes"), ("views", "checkQml"),
                        ("manual pages", "checkManPages")):
         tally.add(f"checks: {name}", run("/usr/bin/python3", f"tools/{tool}.py", quiet=True) == 0)
+    runPyTest(tally, "tools", "tests/tools")
     if not isLong:
         return
     # The plain build's commands: one for each source that it has.
@@ -269,6 +270,13 @@ def runChecks(tally, isLong):
 def runTrixie(tally):
     """The suites with real players on Debian 13, whose session manager is another one."""
     tally.add("trixie: pipewire", run("tools/onTrixie", "platform/pipewire", "pipewire") == 0)
+
+
+def runMutations(tally, isLong):
+    """Small faults, planted one at a time: the tests of a folder notice 95 in 100. The same ones each time."""
+    for folder in ("engine", "settings", "control", "shell", "ui"):
+        tally.add(f"mutations: {folder}", run("tools/mutate", "--folder", folder, "--count", 100 if isLong else 20,
+                                              "--seed", 1, quiet=True) == 0)
 
 
 def runWithoutPlayers(tally, isLong):
@@ -304,7 +312,7 @@ def runEverything(tally, isLong):
 
 def runSome(tally, suites, folders, isLong):
     """The suites that were named; `folders` are those among them that are folders of src/."""
-    if not set(suites) <= {"macos", "trixie"}:  # They have builds of their own.
+    if not set(suites) <= {"macos", "trixie", "mutations"}:  # They have builds of their own.
         build("test")
     if folders:
         runUnits(tally, folders)
@@ -327,6 +335,8 @@ def runSome(tally, suites, folders, isLong):
         runFuzz(tally, isLong)
     if "trixie" in suites:
         runTrixie(tally)
+    if "mutations" in suites:
+        runMutations(tally, isLong)
 
 
 def main():
