@@ -40,7 +40,8 @@ INTEGER = re.compile(r"(?P<digits>\d[\d']*)(?P<suffix>[A-Za-z_]\w*|)")
 
 @dataclasses.dataclass(frozen=True)
 class Mutation:
-    """`text[start:end]` becomes `replacement`; `before` and `after` are the lines of it, to be read."""
+    """`text[start:end]` becomes `replacement`; `before` and `after` are the lines of it, to be read, `below` the one above
+    them."""
     path: str
     line: int
     start: int
@@ -48,6 +49,13 @@ class Mutation:
     replacement: str
     before: str
     after: str
+    below: str
+
+    def isOneOf(self, entries):
+        """Whether an entry of a file with such faults means this one. One that says no more than its line means each
+        such line of the file."""
+        return any(entry["file"] == self.path and entry["line"] == self.before and entry["mutated"] == self.after
+                   and entry.get("below", self.below) == self.below for entry in entries)
 
     def applied(self, text):
         lost = text.count("\n", self.start, self.end) - self.replacement.count("\n")
@@ -129,7 +137,8 @@ class Source:
         last = self.text.find("\n", end)
         last = len(self.text) if last < 0 else last
         return Mutation(self.path, line, start, end, replacement, " ".join(self.text[first:last].split()),
-                        " ".join((self.text[first:start] + replacement + self.text[end:last]).split()))
+                        " ".join((self.text[first:start] + replacement + self.text[end:last]).split()),
+                        " ".join(self.text[:first].rstrip().rpartition("\n")[2].split()))
 
     def isStatementStart(self, index):
         before = self.at(index - 1)
