@@ -140,6 +140,8 @@ protected:
     }
     /// How often a tap was asked for since the world began.
     [[nodiscard]] long tapAttempts() { return callCount(AudioOperation::createTap); }
+    /// The taps that exist, where none was refused.
+    [[nodiscard]] long tapCount() { return tapAttempts() - callCount(AudioOperation::destroyTap); }
 
     [[nodiscard]] std::filesystem::path settingsFile()
     {
