@@ -3,10 +3,10 @@
 #pragma once
 
 #include "base/RealTime.h"
-#include "engine/kernels/FastRender.h"
-#include "engine/kernels/RenderChoice.h"
 #include "engine/RenderState.h"
 #include "engine/TapParameters.h"
+#include "engine/kernels/FastRender.h"
+#include "engine/kernels/RenderChoice.h"
 #include "platform/ProcessTap.h"
 
 #include <array>

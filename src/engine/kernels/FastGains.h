@@ -3,8 +3,8 @@
 #pragma once
 
 #include "base/RealTime.h"
-#include "engine/kernels/RenderKernels.h"
 #include "engine/RenderState.h"
+#include "engine/kernels/RenderKernels.h"
 
 #include <span>
 

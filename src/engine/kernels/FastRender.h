@@ -7,8 +7,8 @@
 
 #include "base/RealTime.h"
 #include "engine/EqualizerDesign.h"
-#include "engine/kernels/RenderKernels.h"
 #include "engine/RenderState.h"
+#include "engine/kernels/RenderKernels.h"
 #include "engine/kernels/SectionPacking.h"
 
 #include <span>

@@ -3,8 +3,8 @@
 //
 // Everything that goes in is written down here. The design of coefficients is left out, for it uses sines and powers
 // that libraries round differently.
-#include "engine/kernels/FastRender.h"
 #include "engine/PlainRender.h"
+#include "engine/kernels/FastRender.h"
 #include "tests/engine/kernels/KernelTest.h"
 
 #include <gtest/gtest.h>

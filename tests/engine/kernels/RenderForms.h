@@ -2,8 +2,8 @@
 // The plain and the fast form of the render path on the same sound, held against each other bit for bit.
 #pragma once
 
-#include "engine/kernels/FastRender.h"
 #include "engine/PlainRender.h"
+#include "engine/kernels/FastRender.h"
 
 #include <bit>
 #include <cstddef>
