@@ -254,8 +254,8 @@ def runChecks(tally, isLong):
     """Static checks of the sources."""
     tally.add("checks: formatting",
               run("clang-format-19", "--dry-run", "-Werror", *sources(".cpp", ".h", ".mm"), quiet=True) == 0)
-    for name, tool in (("layers", "checkLayers"), ("sizes", "checkSizes"), ("views", "checkQml"),
-                       ("manual pages", "checkManPages")):
+    for name, tool in (("layers", "checkLayers"), ("conventions", "checkConventions"), ("commits", "checkCommits"),
+                       ("sizes", "checkSizes"), ("views", "checkQml"), ("manual pages", "checkManPages")):
         tally.add(f"checks: {name}", run("/usr/bin/python3", f"tools/{tool}.py", quiet=True) == 0)
     if not isLong:
         return

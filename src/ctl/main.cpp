@@ -6,6 +6,8 @@
 #include "ctl/Status.h"
 #include "ctl/Verbs.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
@@ -14,8 +16,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include <unistd.h>
 
 namespace {
 

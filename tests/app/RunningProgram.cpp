@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/RunningProgram.h"
 
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -9,11 +14,6 @@
 #include <stdexcept>
 #include <thread>
 #include <utility>
-
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

@@ -2,6 +2,8 @@
 // The real program as a process of its own, with its standard streams in our hands.
 #pragma once
 
+#include <sys/types.h>
+
 #include <chrono>
 #include <filesystem>
 #include <map>
@@ -9,8 +11,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include <sys/types.h>
 
 namespace fadeloom {
 

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "base/SpscRing.h"
-
 #include "tests/support/RealTimeGuard.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <numeric>
 #include <thread>
-
-#include <sys/resource.h>
 
 namespace fadeloom {
 namespace {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "base/TextWriter.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <array>
 #include <chrono>
@@ -10,9 +12,6 @@
 #include <mutex>
 #include <string>
 #include <vector>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

@@ -11,9 +11,9 @@
 #include "tests/support/RealTimeGuard.h"
 #include "tests/support/TemporaryFolder.h"
 
+#include <QCoreApplication>
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <chrono>
 #include <filesystem>
 #include <mutex>

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
 // The unfair lock, the unified log, and the system's word on who answers for a process.
 #include "tests/macos/doubles/Services.h"
-
 #include "tests/macos/doubles/Journal.h"
 #include "tests/macos/doubles/Runtime.h"
 
 #include <os/lock.h>
 #include <os/log.h>
+#include <sys/types.h>
 
 #include <atomic>
 #include <cstdarg>
 #include <cstring>
 #include <mutex>
-#include <sys/types.h>
 #include <thread>
 
 struct os_log_s {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Addresses, identifiers and moments.
-#import <Foundation/Foundation.h>
-
-#include "tests/macos/doubles/UrlText.h"
 #include "tests/macos/doubles/Values.h"
+#include "tests/macos/doubles/UrlText.h"
+
+#import <Foundation/Foundation.h>
 
 #include <algorithm>
 #include <cctype>

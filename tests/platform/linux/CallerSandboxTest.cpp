@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/CallerSandbox.h"
-
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <fstream>
-
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

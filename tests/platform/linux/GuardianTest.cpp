@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // A guarded program, as whoever started it sees it, and as it is treated.
 #include "platform/linux/Guardian.h"
-
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <array>
 #include <chrono>
@@ -13,10 +15,6 @@
 #include <functional>
 #include <string>
 #include <thread>
-
-#include <poll.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

@@ -1,21 +1,19 @@
 // SPDX-License-Identifier: MIT
 // Commands that other programs give through the socket.
-#include "tests/platform/linux/InstanceStage.h"
-
 #include "base/Subscription.h"
 #include "platform/linux/InstanceSocket.h"
+#include "tests/platform/linux/InstanceStage.h"
 
 #include <QLocalSocket>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

@@ -5,12 +5,12 @@
 #include "platform/linux/LinuxEnvironment.h"
 #include "platform/linux/LinuxWorkspace.h"
 
+#include <stdlib.h>
+
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
-
-#include <stdlib.h>
 
 namespace fadeloom {
 

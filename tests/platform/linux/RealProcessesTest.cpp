@@ -1,23 +1,21 @@
 // SPDX-License-Identifier: MIT
 // The workspace over the real process file system, with real children.
-#include "platform/linux/LinuxWorkspace.h"
-
 #include "platform/linux/FileManager.h"
+#include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/ProcessTable.h"
 #include "tests/platform/linux/RememberedLog.h"
 #include "tests/platform/linux/TestVariables.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <algorithm>
-#include <chrono>
-#include <thread>
-
 #include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
 
 namespace fadeloom {
 namespace {

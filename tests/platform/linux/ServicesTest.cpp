@@ -8,11 +8,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <fstream>
-
 #include <pwd.h>
 #include <unistd.h>
+
+#include <fstream>
 
 namespace fadeloom {
 namespace {

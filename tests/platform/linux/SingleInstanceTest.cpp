@@ -4,12 +4,11 @@
 
 #include <QLocalSocket>
 #include <QSysInfo>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <functional>
 #include <initializer_list>
-
-#include <sys/stat.h>
 
 namespace fadeloom {
 namespace {

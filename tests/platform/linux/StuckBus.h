@@ -3,13 +3,12 @@
 #pragma once
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
-
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
+
+#include <filesystem>
 
 namespace fadeloom {
 

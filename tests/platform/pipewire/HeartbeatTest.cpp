@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pipewire/Heartbeat.h"
 
+#include <gtest/gtest.h>
 #include <pipewire/data-loop.h>
 #include <pipewire/loop.h>
 #include <pipewire/pipewire.h>
-
-#include <gtest/gtest.h>
+#include <sched.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <chrono>
 #include <memory>
 #include <thread>
 #include <vector>
-
-#include <sched.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pipewire/OpenFiles.h"
 
-#include <gtest/gtest.h>
-
-#include <vector>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <unistd.h>
+
+#include <vector>
 
 namespace fadeloom {
 namespace {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
-
+#include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -15,8 +15,6 @@
 #include <fstream>
 #include <functional>
 #include <string>
-
-#include <sched.h>
 
 namespace fadeloom {
 

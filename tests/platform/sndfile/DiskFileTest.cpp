@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sndfile/DiskFile.h"
-
 #include "tests/platform/sndfile/ChildProcess.h"
 #include "tests/platform/sndfile/WaveReading.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <csignal>
-
-#include <sys/stat.h>
 
 namespace fadeloom {
 namespace {

@@ -4,9 +4,9 @@
 #include "tests/platform/sndfile/SndfileStage.h"
 #include "tests/support/RealTimeGuard.h"
 
-#include <set>
-
 #include <sched.h>
+
+#include <set>
 
 namespace fadeloom {
 namespace {
