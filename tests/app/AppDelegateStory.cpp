@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What clicks on the status icon and its menu do.
+// Clicks on the status icon, and its menu.
 #include "app/AppDelegate.h"
 
 #include "control/AudioController.h"

@@ -102,7 +102,7 @@ void RunningProgram::signal(int number) const
 void RunningProgram::signalProgram(int number) const
 {
     const auto process = std::to_string(pid_);
-    pid_t program = pid_;  // Without a guardian it is the same.
+    pid_t program = pid_;  // Without a guardian they are the same.
     std::ifstream("/proc/" + process + "/task/" + process + "/children") >> program;
     kill(program == 0 ? pid_ : program, number);
 }
@@ -136,7 +136,7 @@ std::optional<std::string> RunningProgram::lineWith(std::string_view beginning)
 
 int RunningProgram::exitStatus()
 {
-    // Its output ends when it does.
+    // End of its output.
     if (output_ != -1)
         unread_ += restOfOutput();
     if (pid_ != -1 && waitpid(pid_, &status_, 0) != pid_)

@@ -115,7 +115,7 @@ TEST(SpscRing, itsMemoryIsAllocatedBeforeTheFirstSample)
     for (int i = 0; i < 8; ++i)
         EXPECT_TRUE(ring.push(samples));
 
-    // Code that runs for the first time; what is read of `samples`; what a sanitizer remembers of both.
+    // Code that runs for the first time; reading `samples`; a sanitizer's shadow memory of both.
     const long ofOthers = isGuarding() ? 50 : 400;
     EXPECT_LT(pageFaultsOfThisThread() - before, ofOthers);
 }
@@ -123,7 +123,7 @@ TEST(SpscRing, itsMemoryIsAllocatedBeforeTheFirstSample)
 TEST(SpscRing, twoThreadsPassEverySampleOnce)
 {
     SpscRing<float> ring{1024};
-    constexpr int last = 4'000'000;  // Every whole number up to 2^24 is a float.
+    constexpr int last = 4'000'000;  // All integers up to 2^24 are exact as floats.
     int wrong = 0;
 
     std::jthread consumer{[&] {

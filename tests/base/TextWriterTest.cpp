@@ -19,7 +19,7 @@ namespace {
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 
-/// Somebody who reads when he is told to; shared with the writer's thread, which may outlive a test.
+/// A reader that reads on request; shared with the writer's thread, which may outlive a test.
 struct Reader {
     std::mutex door;  // Held while nobody reads.
     std::mutex mutex;
@@ -76,7 +76,7 @@ TEST_F(TextWriterTest, dropsAndCountsOverflow)
         else
             dropped += std::stoi(text.substr(std::string("dropped ").size()));
     }
-    EXPECT_THAT(written, testing::AnyOf(4, 5));  // The first may have been under way already.
+    EXPECT_THAT(written, testing::AnyOf(4, 5));  // The first may have been in progress.
     EXPECT_EQ(written + dropped, 1000);
 }
 

@@ -35,7 +35,7 @@ CoreAudioWorld::~CoreAudioWorld()
 
 std::optional<std::string> CoreAudioWorld::originalOutput()
 {
-    static const auto uid = OutputDevices::defaultOutputUID();  // As it was when the program began.
+    static const auto uid = OutputDevices::defaultOutputUID();  // As it was at startup.
     return uid;
 }
 

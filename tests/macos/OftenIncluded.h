@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the sources include most often of libraries: read once for each processor.
+// The library headers included most often: precompiled once per architecture.
 #pragma once
 
 #include <QColor>

@@ -12,7 +12,7 @@ namespace {
 
 class CallerSandboxTest : public ::testing::Test {
 protected:
-    /// A process as the system would show it.
+    /// A process directory as in the process file system.
     std::filesystem::path process(const std::string& groups)
     {
         const auto shown = folder.path() / "77";

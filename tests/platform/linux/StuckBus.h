@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A message bus that takes connections and says nothing.
+// A message bus that accepts connections and never replies.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// The calling thread runs on the first processor alone.
+/// Pins the calling thread to the first processor.
 void useOneProcessor()
 {
     cpu_set_t first;
@@ -51,7 +51,7 @@ protected:
         pw_loop_destroy(loop);
     }
 
-    /// Until then, what the data loop is asked to do is done at once by whoever asks.
+    /// Until then, calls to the data loop run immediately on the caller.
     void waitForItsThread() const
     {
         std::atomic<pid_t> thread = gettid();
@@ -70,7 +70,7 @@ protected:
         while (std::chrono::steady_clock::now() < end)
             pw_loop_iterate(loop, 10);
     }
-    /// The data loop's thread does nothing until `isFrozen` is false.
+    /// Blocks the data loop's thread until `isFrozen` is false.
     void freeze()
     {
         isFrozen = true;

@@ -98,7 +98,7 @@ TEST_F(DiskFileTest, keepsWhatFitsAndTheFirstFailure)
         EXPECT_EQ(file->write(0, bytes("hello world")), 5U);
         EXPECT_EQ(file->failure(), EFBIG);
         EXPECT_EQ(file->size(), 5U);
-        file->truncate(~std::uint64_t{0});  // Refused for another reason.
+        file->truncate(~std::uint64_t{0});  // Fails for another reason.
 
         EXPECT_EQ(file->failure(), EFBIG);
         return 0;
