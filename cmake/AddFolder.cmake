@@ -9,6 +9,7 @@
 #       OPTIONS      -ffp-contract=off           compile options of this folder only
 #       TESTS        RendererTest.cpp            files of the same folder below tests/
 #       TESTS_USE    platform/simulated          further folders that only the tests include
+#       LONG_TESTS                               the tests compute a lot, and are worth optimizing
 #   )
 #
 # A folder is named by its path below src/ ("platform/pipewire"); its target has underscores ("platform_pipewire"). Its
@@ -25,7 +26,7 @@ endfunction()
 # with the same compile options; Qt adds some of its own.
 function(precompileTestHeaders tests settings)
     get_property(owner GLOBAL PROPERTY fadeloomTestHeaders)
-    if(settings MATCHES "Qt6::|-f")
+    if(settings MATCHES "Qt6::|-f|TRUE")
         target_precompile_headers(${tests} PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
     elseif(owner)
         target_precompile_headers(${tests} REUSE_FROM ${owner})
@@ -36,7 +37,7 @@ function(precompileTestHeaders tests settings)
 endfunction()
 
 function(addFolder)
-    cmake_parse_arguments(PARSE_ARGV 0 folder "" "" "SOURCES;USES;USES_INSIDE;LIBRARIES;OPTIONS;TESTS;TESTS_USE")
+    cmake_parse_arguments(PARSE_ARGV 0 folder "LONG_TESTS" "" "SOURCES;USES;USES_INSIDE;LIBRARIES;OPTIONS;TESTS;TESTS_USE")
     if(folder_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "addFolder does not know ${folder_UNPARSED_ARGUMENTS}")
     endif()
@@ -73,11 +74,13 @@ function(addFolder)
         target_include_directories(${tests} PRIVATE ${CMAKE_SOURCE_DIR})  # for "tests/support/..."
         target_link_libraries(${tests} PRIVATE ${target} GTest::gtest GTest::gmock GTest::gtest_main ${folder_LIBRARIES})
         target_compile_options(${tests} PRIVATE ${folder_OPTIONS})
-        # A test usually runs only once per compilation; with sanitizers compiling takes long enough already.
-        if(NOT FADELOOM_SANITIZE)
+        # A test usually runs only once per compilation, so optimizing it rarely pays.
+        if(NOT folder_LONG_TESTS)
+            target_compile_options(${tests} PRIVATE -O0)
+        elseif(NOT FADELOOM_SANITIZE)
             target_compile_options(${tests} PRIVATE -O1)
         endif()
-        precompileTestHeaders(${tests} "${folder_OPTIONS};${folder_LIBRARIES}")
+        precompileTestHeaders(${tests} "${folder_OPTIONS};${folder_LIBRARIES};${folder_LONG_TESTS}")
         foreach(used IN LISTS folder_TESTS_USE)
             folderTarget(${used} usedTarget)
             target_link_libraries(${tests} PRIVATE ${usedTarget})

@@ -24,6 +24,11 @@ OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdeskt
 # The programs used by the suites with real players.
 PLAYED = ("fadeloom", "fadeloomctl", "pipewireContractTests", "pipewireRealTimeTests")
 SHORT_SANITIZERS = {"asan": ("engine", "settings", "platform/sndfile"), "tsan": ("engine", "platform/sndfile")}
+SANITIZER_OPTIONS = {
+    "ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
+    "UBSAN_OPTIONS": "halt_on_error=1:print_stacktrace=1",
+    "TSAN_OPTIONS": "halt_on_error=1",
+}
 # The suites with real players, with their arguments for pytest.
 PLAYERS = {
     "pipewire": ("tests/pipewire", "--ignore=tests/pipewire/test_week.py"),
@@ -87,6 +92,22 @@ def run(*command, quiet=False, **options):
     return done.returncode
 
 
+def testsOf(folder):
+    """The name of the test program of a folder of src/."""
+    return folder.replace("/", "_") + "Tests"
+
+
+def programOf(preset, folder):
+    return ROOT / "build" / preset / "src" / folder / testsOf(folder)
+
+
+def testedFolders():
+    """The folders of src/ that have tests, for Linux."""
+    tests = ROOT / "tests"
+    return [str(made.parent.relative_to(ROOT / "src")) for made in sorted((ROOT / "src").rglob("CMakeLists.txt"))
+            if "TESTS" in made.read_text(encoding="utf-8") and (tests / made.parent.relative_to(ROOT / "src")).is_dir()]
+
+
 def build(preset, *targets):
     """Configures and builds a preset, or only these targets; exits if that fails."""
     started = time.monotonic()
@@ -117,25 +138,28 @@ def runUnits(tally, labels):
     tally.addJUnit("units", file, status)
 
 
+def runProgram(tally, name, program, *options, under=(), **environment):
+    """Runs a test program, with all its tests in one process; `under` is a command to run it with."""
+    file = results(name)
+    status = run(*under, program, f"--gtest_output=xml:{file}", *options, quiet=True,
+                 env={**os.environ, "QT_QPA_PLATFORM": "offscreen", **environment})
+    tally.addJUnit(name, file, status)
+
+
 def runLongForms(tally, labels):
     """The unit tests that take minutes and gigabytes, in a temporary folder that is not in memory."""
     for folder in LONG_FORMS:
         if labels and folder not in labels:
             continue
-        name = folder.replace("/", "_") + "Tests"
-        file = results(name + "LongForm")
-        status = run(ROOT / "build/test/src" / folder / name, "--gtest_filter=*LongForm.*",
-                     f"--gtest_output=xml:{file}", quiet=True, env={"TMPDIR": "/var/tmp", **os.environ})
-        tally.addJUnit(name, file, status)
+        runProgram(tally, testsOf(folder) + "LongForm", programOf("test", folder), "--gtest_filter=*LongForm.*",
+                   TMPDIR=os.environ.get("TMPDIR", "/var/tmp"))
 
 
 def runPipeWire(tally):
     """The contract and the callback, in private audio sessions."""
     for name in ("pipewireContractTests", "pipewireRealTimeTests"):
-        file = results(name)
-        status = run("/usr/bin/python3", "tools/audioSession.py", "run", "--",
-                     ROOT / "build/test/tests/pipewire" / name, f"--gtest_output=xml:{file}", quiet=True)
-        tally.addJUnit(name, file, status)
+        runProgram(tally, name, ROOT / "build/test/tests/pipewire" / name,
+                   under=("/usr/bin/python3", "tools/audioSession.py", "run", "--"))
 
 
 def runPlayers(tally, suite):
@@ -187,12 +211,11 @@ def runInstructions(tally):
 def runSanitizers(tally, isLong):
     """The unit tests under the sanitizers; in the short form only the folders where memory and threads matter."""
     for preset, short in SHORT_SANITIZERS.items():
-        folders = () if isLong else short
-        build(preset, *(folder.replace("/", "_") + "Tests" for folder in folders))
-        file = results(preset)
-        pattern = "^(" + "|".join(folders) + ")$" if folders else "."
-        status = run("ctest", "--preset", preset, "--output-junit", file, "-L", pattern, quiet=True)
-        tally.addJUnit(preset, file, status)
+        folders = testedFolders() if isLong else short
+        build(preset, *(testsOf(folder) for folder in folders))
+        for folder in folders:
+            runProgram(tally, f"{preset}-{testsOf(folder)}", programOf(preset, folder), "--gtest_filter=-*LongForm.*",
+                       **SANITIZER_OPTIONS)
 
 
 def runMacOS(tally):
@@ -203,11 +226,8 @@ def runMacOS(tally):
         return
     build("macos", "macosTests", "macosHomeTests")
     for name in ("macosTests", "macosHomeTests"):
-        file = results(name)
-        status = run(ROOT / "build/macos/tests/macos" / name, f"--gtest_output=xml:{file}", quiet=True,
-                     env={**os.environ, "ASAN_OPTIONS": "detect_leaks=1", "UBSAN_OPTIONS": "halt_on_error=1",
-                          "LSAN_OPTIONS": f"suppressions={ROOT / 'tests/macos/leaksOfQt.txt'}"})
-        tally.addJUnit(name, file, status)
+        runProgram(tally, name, ROOT / "build/macos/tests/macos" / name, **SANITIZER_OPTIONS,
+                   LSAN_OPTIONS=f"suppressions={ROOT / 'tests/macos/leaksOfQt.txt'}")
 
     tally.add("macos: bundle", run("/usr/bin/python3", "tools/checkBundle.py", quiet=True) == 0)
     runPyTest(tally, "macosScripts", "tests/macos")
@@ -235,7 +255,7 @@ def runFuzz(tally, isLong):
     folder = ROOT / "build" / "fuzz"
     isBuilt = run("cmake", "-G", "Ninja", "-B", folder, "-DCMAKE_CXX_COMPILER=clang++-19", "-DFADELOOM_FUZZ=ON",
                   "-DFADELOOM_SANITIZE=fuzzer-no-link,address,undefined", "-DCMAKE_BUILD_TYPE=RelWithDebInfo",
-                  quiet=True) == 0
+                  "-DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O1 -g1", quiet=True) == 0
     for name, corpus in corpora.items():
         found = folder / "found" / name
         found.mkdir(parents=True, exist_ok=True)

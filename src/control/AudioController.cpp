@@ -105,7 +105,8 @@ void AudioController::shutdown()
     life_.end();
 
     recordings_.stopAll();
-    taps_.clear();
+    for (auto& [id, app] : tracked_)
+        app.taps.clear();
     recordings_.closeNow();
     saver_.finish();
 }

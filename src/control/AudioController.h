@@ -12,16 +12,13 @@
 
 #include "base/LifeToken.h"
 #include "control/AppGroups.h"
-#include "control/AppTraits.h"
 #include "control/AudioPermission.h"
 #include "control/ControllerState.h"
 #include "control/DemoContents.h"
-#include "control/FailedTap.h"
 #include "control/LevelStore.h"
 #include "control/Recordings.h"
 #include "control/SettingsSaver.h"
-#include "engine/AppTap.h"
-#include "engine/TapParameters.h"
+#include "control/TrackedApp.h"
 #include "log/EngineLog.h"
 #include "platform/Platform.h"
 #include "settings/SettingsFile.h"
@@ -32,7 +29,6 @@
 #include <map>
 #include <memory>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -87,8 +83,6 @@ public:
     [[nodiscard]] const TapParameters* parametersOf(const std::string& bundleID) const;
     /// The app's tap on the first of its outputs, or null.
     [[nodiscard]] const AppTap* tapOf(const std::string& bundleID) const;
-    /// All of its taps, one for each output.
-    [[nodiscard]] std::vector<const AppTap*> tapsOf(const std::string& bundleID) const;
     /// The meters; whoever shows them says when.
     [[nodiscard]] LevelStore& levels() { return levels_; }
 
@@ -141,9 +135,10 @@ private:
     [[nodiscard]] std::vector<std::string> callIDsOf(const std::string& bundleID) const;
 
     void updatePermission();
-    void updateSeen(const AppGroups& groups);
+    void trackPlayingApps(const AppGroups& groups);
     void updateApps(const AppGroups& groups);
-    [[nodiscard]] AppEntry makeEntry(const std::string& bundleID, const AppGroup& group);
+    [[nodiscard]] AppEntry makeEntry(const std::string& bundleID, const AppGroup& group) const;
+    void findIcon(const std::string& bundleID, const AppGroup& group);
     void rememberNames(const std::vector<AppEntry>& entries);
     void forgetQuitApps(const AppGroups& groups);
     void confirmAudio();
@@ -152,13 +147,11 @@ private:
     void ensureTap(const AppEntry& entry);
     [[nodiscard]] bool adaptTap(
         AppTap& tap, const AppEntry& entry, const OutputDevice& device, TapScope scope);
-    void createTap(const AppEntry& entry, const OutputDevice& device, TapScope scope, double formerRate);
-    void tapFailed(const AppEntry& entry, const OutputDevice& device, const TapError& error);
-    void tapMade(const AppEntry& entry, const AppTap& tap, double formerRate);
-    [[nodiscard]] const AppTap* tapOn(const std::string& bundleID, const std::string& outputUID) const;
-    [[nodiscard]] FailedTap failureOf(const AppEntry& entry, const OutputDevice& device) const;
-    [[nodiscard]] bool wasRefused(const AppEntry& entry, const OutputDevice& device) const;
-    void removeTapsOfQuitApps(const AppGroups& groups);
+    void createTap(TrackedApp& app, const AppEntry& entry, const OutputDevice& device, TapScope scope,
+        double formerRate);
+    void tapFailed(TrackedApp& app, const AppEntry& entry, const OutputDevice& device, const TapError& error);
+    void tapMade(TrackedApp& app, const AppEntry& entry, const AppTap& tap, double formerRate);
+    [[nodiscard]] FailedTap attemptOf(const AppEntry& entry, const OutputDevice& device) const;
 
     [[nodiscard]] std::map<std::string, float> takePeaks();
 
@@ -185,17 +178,9 @@ private:
     SettingsSaver saver_;
     LevelStore levels_{platform_.mainLoop, [this] { return takePeaks(); }};
 
-    // A block is shared with the renderer of the app's tap and outlives it, so that the next tap sounds the same.
-    std::map<std::string, std::shared_ptr<TapParameters>> params_;
-    // By the output's unique id; never empty.
-    using OutputTaps = std::map<std::string, std::unique_ptr<AppTap>>;
-    std::map<std::string, OutputTaps> taps_;
+    std::map<std::string, TrackedApp> tracked_;  // Apps that have played since they were started.
     Recordings recordings_{platform_.mainLoop, platform_.audio, platform_.audioFiles, engineLog_,
         [this](const std::string& bundleID, AudioFileError error) { recordingBroken(bundleID, error); }};
-    std::map<std::string, std::map<std::string, FailedTap>> failed_;  // By app and its output.
-    std::set<std::string> audioConfirmed_;  // Taps through which audio was seen to flow.
-    std::set<std::string> seen_;  // Apps that have played while they were there.
-    std::map<std::string, AppTraits> traits_;
     bool isPollScheduled_ = false;
     bool isShutDown_ = false;
 

@@ -18,8 +18,8 @@ void AudioController::updateFocus()
 
 std::vector<std::string> AudioController::callIDsOf(const std::string& bundleID) const
 {
-    const auto traits = traits_.find(bundleID);
-    return traits == traits_.end() ? platform_.callApps.identifiersOf(bundleID) : traits->second.callIDs;
+    const auto app = tracked_.find(bundleID);
+    return app == tracked_.end() ? platform_.callApps.identifiersOf(bundleID) : app->second.callIDs;
 }
 
 void AudioController::addCallApp(const std::string& bundleID)

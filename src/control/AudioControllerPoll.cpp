@@ -40,9 +40,8 @@ void AudioController::poll()
         platform_.audio.processes(state_.settings->focus.enabled ? ReadMic::yes : ReadMic::no);
     const auto groups = grouper_.group(processes);
 
-    updateSeen(groups);
+    trackPlayingApps(groups);
     updateApps(groups);
-    removeTapsOfQuitApps(groups);
     forgetQuitApps(groups);
     updateMissingOutput();
     confirmAudio();
@@ -56,24 +55,42 @@ void AudioController::updatePermission()
     if (state == *state_.permission)
         return;
     engineLog_.notice("permission: " + std::string(AudioPermission::name(state)));
-    failed_.clear();  // Another permission, another answer.
+    for (auto& [id, app] : tracked_)
+        app.failures.clear();  // Another permission, another answer.
     state_.permission.assign(state);
 }
 
-void AudioController::updateSeen(const AppGroups& groups)
+void AudioController::trackPlayingApps(const AppGroups& groups)
 {
     for (const auto& [id, group] : groups) {
-        if (group.isPlaying())
-            seen_.insert(id);
+        if (!group.isPlaying())
+            continue;
+        const auto [app, isNew] = tracked_.try_emplace(id);
+        if (!isNew)
+            continue;
+        app->second.callIDs = platform_.callApps.identifiersOf(id);
+        findIcon(id, group);
     }
-    std::erase_if(seen_, [&](const auto& id) { return !groups.contains(id) && !recordings_.contains(id); });
+}
+
+void AudioController::findIcon(const std::string& bundleID, const AppGroup& group)
+{
+    platform_.workspace.findIcon(group.owner, life_.whileAlive([this, bundleID](const AppIcon& found) {
+        if (const auto app = tracked_.find(bundleID); app != tracked_.end())
+            app->second.icon = found;
+        auto entries = *state_.apps;
+        for (auto& entry : entries)
+            if (entry.bundleID == bundleID)
+                entry.icon = found;
+        state_.apps.assignIfDifferent(std::move(entries));
+    }));
 }
 
 void AudioController::updateApps(const AppGroups& groups)
 {
     std::vector<AppEntry> entries;
     for (const auto& [id, group] : groups) {
-        if (seen_.contains(id))
+        if (tracked_.contains(id))
             entries.push_back(makeEntry(id, group));
     }
     if (const auto lost = describeOutOfReach(entries, *state_.apps); !lost.empty())
@@ -83,28 +100,16 @@ void AudioController::updateApps(const AppGroups& groups)
         engineLog_.notice("apps: " + describe(*state_.apps));
 }
 
-AppEntry AudioController::makeEntry(const std::string& bundleID, const AppGroup& group)
+AppEntry AudioController::makeEntry(const std::string& bundleID, const AppGroup& group) const
 {
-    const auto [traits, isNew] = traits_.try_emplace(bundleID);
-    if (isNew) {
-        traits->second.callIDs = platform_.callApps.identifiersOf(bundleID);
-        platform_.workspace.findIcon(group.owner, life_.whileAlive([this, bundleID](const AppIcon& found) {
-            if (const auto known = traits_.find(bundleID); known != traits_.end())
-                known->second.icon = found;
-            auto entries = *state_.apps;
-            for (auto& entry : entries)
-                if (entry.bundleID == bundleID)
-                    entry.icon = found;
-            state_.apps.assignIfDifferent(std::move(entries));
-        }));
-    }
+    const auto& app = tracked_.at(bundleID);
     return {
         .bundleID = bundleID,
         .name = group.owner.localizedName.value_or(bundleID),
-        .icon = traits->second.icon,
+        .icon = app.icon,
         .isPlaying = group.isPlaying(),
         .isUsingMic = group.isUsingMic(),
-        .callIDs = traits->second.callIDs,
+        .callIDs = app.callIDs,
         .processIDs = group.processIDs(),
         .ownOutputs = group.ownOutputs(),
         .outOfReach = group.outOfReach(),
@@ -130,10 +135,26 @@ void AudioController::rememberNames(const std::vector<AppEntry>& entries)
 void AudioController::forgetQuitApps(const AppGroups& groups)
 {
     const auto hasQuit = [&](const auto& item) { return !groups.contains(item.first); };
-    std::erase_if(params_, [&](const auto& item) { return hasQuit(item) && !taps_.contains(item.first); });
-    std::erase_if(traits_, hasQuit);
-    std::erase_if(failed_, hasQuit);
-    std::erase_if(audioConfirmed_, [&](const auto& id) { return !groups.contains(id); });
+    for (auto tracked = tracked_.begin(); tracked != tracked_.end();) {
+        auto& [id, app] = *tracked;
+        if (!hasQuit(*tracked)) {
+            ++tracked;
+            continue;
+        }
+        const bool wasRecorded = recordings_.contains(id);
+        stopRecording(id);
+        const bool wasTapped = !app.taps.empty();
+        app.taps.clear();
+        if (wasTapped)
+            engineLog_.notice("tap removed (app quit): " + id);
+        if (wasRecorded) {
+            // It counts as having played until the next poll.
+            app = {.icon = app.icon, .callIDs = app.callIDs};
+            ++tracked;
+        } else {
+            tracked = tracked_.erase(tracked);
+        }
+    }
 
     auto errors = *state_.tapErrors;
     if (std::erase_if(errors, hasQuit) > 0)
@@ -142,10 +163,10 @@ void AudioController::forgetQuitApps(const AppGroups& groups)
 
 void AudioController::confirmAudio()
 {
-    for (const auto& [id, block] : params_) {
-        if (taps_.contains(id) && !audioConfirmed_.contains(id)
-            && block->audioSeen.load(std::memory_order_relaxed)) {
-            audioConfirmed_.insert(id);
+    for (auto& [id, app] : tracked_) {
+        if (!app.taps.empty() && !app.isAudioConfirmed
+            && app.parameters->audioSeen.load(std::memory_order_relaxed)) {
+            app.isAudioConfirmed = true;
             engineLog_.notice("audio flowing through tap: " + id);
         }
     }

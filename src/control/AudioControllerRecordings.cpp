@@ -18,8 +18,7 @@ Outcome AudioController::startRecording(const std::string& bundleID)
     if (recordings_.contains(bundleID))
         return {};
     const auto* const tap = tapOf(bundleID);
-    const auto block = params_.find(bundleID);
-    if (!tap || block == params_.end())
+    if (!tap)
         return failed(NothingToRecord{});
 
     const auto startedAt = platform_.clock.now();
@@ -29,7 +28,8 @@ Outcome AudioController::startRecording(const std::string& bundleID)
     if (error)
         return failed(RecordingNotStarted{FileError{
             .step = FileError::Step::createFolder, .file = location.parent_path(), .reason = error}});
-    const auto started = recordings_.start(bundleID, location, tap->sampleRate(), startedAt, block->second);
+    const auto started =
+        recordings_.start(bundleID, location, tap->sampleRate(), startedAt, tracked_.at(bundleID).parameters);
     if (!started)
         return failed(RecordingNotStarted{started.error()});
     state_.recordings.modify([&](auto& recordings) { recordings.emplace(bundleID, startedAt); });

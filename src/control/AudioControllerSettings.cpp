@@ -37,9 +37,11 @@ void AudioController::editApp(
 
 void AudioController::settingsChanged(const SettingsData& old)
 {
-    std::vector<std::string> ids;  // Of their own: whoever observes what follows may change the blocks.
-    for (const auto& [id, block] : params_)
-        ids.push_back(id);
+    std::vector<std::string> ids;  // Copied: whoever observes what follows may change what is tracked.
+    for (const auto& [id, app] : tracked_) {
+        if (app.parameters)
+            ids.push_back(id);
+    }
     for (const auto& id : ids)
         appSettingsChanged(id, old);
 
@@ -73,7 +75,8 @@ void AudioController::appSettingsChanged(const std::string& bundleID, const Sett
         return;
 
     // Routed elsewhere: a tap that failed on the old output deserves another attempt.
-    failed_.erase(bundleID);
+    if (const auto app = tracked_.find(bundleID); app != tracked_.end())
+        app->second.failures.clear();
     const auto entry = std::ranges::find(*state_.apps, bundleID, &AppEntry::bundleID);
     if (entry != state_.apps->end())
         ensureTap(AppEntry(*entry));
@@ -91,18 +94,19 @@ void AudioController::lowerVolumesToLimit()
 
 void AudioController::pushSettings(const std::string& bundleID, std::optional<double> sampleRate)
 {
-    const auto block = params_.find(bundleID);
-    if (block == params_.end())
+    const auto tracked = tracked_.find(bundleID);
+    if (tracked == tracked_.end() || !tracked->second.parameters)
         return;
+    auto& parameters = *tracked->second.parameters;
     const auto app = appSettings(*state_.settings, bundleID);
     const float duck = duckFactor(state_.settings->focus, *state_.callApp, callIDsOf(bundleID));
-    store(tapValues(*state_.settings, app, isOutputMissing(bundleID), duck), *block->second);
+    store(tapValues(*state_.settings, app, isOutputMissing(bundleID), duck), parameters);
 
-    if (const auto* const tap = tapOf(bundleID); !sampleRate && tap)
+    if (const auto* const tap = tracked->second.firstTap(); !sampleRate && tap)
         sampleRate = tap->sampleRate();
     // Also while the equalizer is off, so that switching it on is a matter of one flag.
     if (sampleRate)
-        block->second->setEQ(eqCoefficients(app.eqGains, *sampleRate));
+        parameters.setEQ(eqCoefficients(app.eqGains, *sampleRate));
 }
 
 void AudioController::holdNewStreams()
@@ -113,7 +117,7 @@ void AudioController::holdNewStreams()
 
 void AudioController::pushAllSettings()
 {
-    for (const auto& [id, block] : params_)
+    for (const auto& [id, app] : tracked_)
         pushSettings(id);
 }
 

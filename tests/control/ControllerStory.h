@@ -140,6 +140,8 @@ protected:
     }
     /// The number of taps requested so far.
     [[nodiscard]] long tapAttempts() { return callCount(AudioOperation::createTap); }
+    /// The taps that exist, where none was refused.
+    [[nodiscard]] long tapCount() { return tapAttempts() - callCount(AudioOperation::destroyTap); }
 
     [[nodiscard]] std::filesystem::path settingsFile()
     {

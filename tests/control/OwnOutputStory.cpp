@@ -33,7 +33,7 @@ TEST_F(OwnOutputStory, anAppOnTwoDevicesPlaysOnBothWithTheSameSettings)
     world.chooseOutputs(pid, {"headphones", "speakers"});
     world.runPosted();
 
-    EXPECT_EQ(controller->tapsOf(player).size(), 2U);
+    EXPECT_EQ(tapCount(), 2);
     EXPECT_NEAR(heardAt("headphones"), source / 2, tolerance);
     EXPECT_NEAR(heardAt("speakers"), source / 2, tolerance);
 }
@@ -89,7 +89,7 @@ TEST_F(OwnOutputStory, fromTwoDevicesToOneNothingIsDoubled)
     world.chooseOutputs(pid, {"speakers"});
     world.runPosted();
 
-    EXPECT_EQ(controller->tapsOf(player).size(), 1U);
+    EXPECT_EQ(tapCount(), 1);
     EXPECT_NEAR(heardAt("speakers"), source, tolerance);
     EXPECT_TRUE(world.heard("headphones").isSilent());
 }

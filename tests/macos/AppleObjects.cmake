@@ -138,7 +138,7 @@ foreach(processor IN ITEMS arm64 x86_64)
         endif()
         # Code is generated only for what depends on the architecture, or is specific to the platform.
         set(depth -fsyntax-only)
-        if(batch MATCHES "base|engine|RenderKernels|platform_macos|coreaudio")
+        if(batch MATCHES "base|engine|RenderKernels|platform_macos")
             set(depth -c)
         endif()
         file(CONFIGURE OUTPUT ${file} CONTENT "${unit}" @ONLY)
