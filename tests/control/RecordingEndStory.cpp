@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What ends a recording, or keeps it from starting.
+// What ends a recording, or prevents it from starting.
 #include "tests/control/RecordingStory.h"
 
 #include <fstream>

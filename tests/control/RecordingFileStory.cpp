@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where a recording goes, what its file is called, and when it is complete.
+// A recording's folder and file name, and when the file is complete.
 #include "tests/control/RecordingStory.h"
 
 namespace fadeloom {
