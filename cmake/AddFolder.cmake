@@ -74,7 +74,7 @@ function(addFolder)
         target_include_directories(${tests} PRIVATE ${CMAKE_SOURCE_DIR})  # for "tests/support/..."
         target_link_libraries(${tests} PRIVATE ${target} GTest::gtest GTest::gmock GTest::gtest_main ${folder_LIBRARIES})
         target_compile_options(${tests} PRIVATE ${folder_OPTIONS})
-        # A test usually runs only once per compilation.
+        # A test usually runs only once per compilation, so optimizing it rarely pays.
         if(NOT folder_LONG_TESTS)
             target_compile_options(${tests} PRIVATE -O0)
         elseif(NOT FADELOOM_SANITIZE)

@@ -93,7 +93,7 @@ def run(*command, quiet=False, **options):
 
 
 def testsOf(folder):
-    """The name of the program with the tests of a folder of src/."""
+    """The name of the test program of a folder of src/."""
     return folder.replace("/", "_") + "Tests"
 
 
@@ -139,7 +139,7 @@ def runUnits(tally, labels):
 
 
 def runProgram(tally, name, program, *options, under=(), **environment):
-    """One test program, all its tests in one process; `under` is a command that runs it."""
+    """Runs a test program, with all its tests in one process; `under` is a command to run it with."""
     file = results(name)
     status = run(*under, program, f"--gtest_output=xml:{file}", *options, quiet=True,
                  env={**os.environ, "QT_QPA_PLATFORM": "offscreen", **environment})
@@ -274,8 +274,8 @@ def runChecks(tally, isLong):
     """Static checks of the sources."""
     tally.add("checks: formatting",
               run("clang-format-19", "--dry-run", "-Werror", *sources(".cpp", ".h", ".mm"), quiet=True) == 0)
-    for name, tool in (("layers", "checkLayers"), ("sizes", "checkSizes"), ("views", "checkQml"),
-                       ("manual pages", "checkManPages")):
+    for name, tool in (("layers", "checkLayers"), ("conventions", "checkConventions"), ("commits", "checkCommits"),
+                       ("sizes", "checkSizes"), ("views", "checkQml"), ("manual pages", "checkManPages")):
         tally.add(f"checks: {name}", run("/usr/bin/python3", f"tools/{tool}.py", quiet=True) == 0)
     runPyTest(tally, "tools", "tests/tools")
     if not isLong:

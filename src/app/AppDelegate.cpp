@@ -43,13 +43,13 @@ void AppDelegate::showPopover()
 
 void AppDelegate::openMixer()
 {
-    actions_.showPage(false);
+    actions_.showPage(Page::mixer);
     showPopover();
 }
 
 void AppDelegate::openSettings()
 {
-    actions_.showPage(true);
+    actions_.showPage(Page::settings);
     showPopover();
 }
 

@@ -17,9 +17,11 @@ class Popover;
 /// Thread: main.
 class AppDelegate {
 public:
+    /// The pages of the popover.
+    enum class Page { mixer, settings };
     /// Actions outside of the icon and the popover.
     struct Actions {
-        std::function<void(bool isSettings)> showPage;  // In the popover: the settings, or the mixer.
+        std::function<void(Page page)> showPage;
         std::function<void()> checkForUpdates = nullptr;  // If null, the menu does not offer it.
         std::function<void()> showAbout;
         std::function<void()> quit;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/ControlProgram.h"
 
+#include <unistd.h>
+
 #include <filesystem>
 #include <iostream>
 #include <system_error>
-
-#include <unistd.h>
 
 namespace fadeloom {
 

@@ -7,6 +7,9 @@
 
 namespace fadeloom {
 
+/// Whether a start wants the panel of a running instance to open.
+enum class OpenPanel { no, yes };
+
 struct EarlyEnd {
     std::string message;
     int exitStatus = 0;

@@ -16,6 +16,7 @@
 #include "platform/qt/QuitSignals.h"
 
 #include <QCoreApplication>
+#include <unistd.h>
 
 #include <cstdint>
 #include <functional>
@@ -23,8 +24,6 @@
 #include <optional>
 #include <string>
 #include <utility>
-
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {
@@ -66,7 +65,7 @@ void runOn(const Platform& platform, QtMainLoop& mainLoop, Console& console, Hom
 int runOnThisMachine(QtMainLoop& mainLoop, Console& console, HomeGuardian& guardian)
 {
     HomeInstance instance;
-    if (const auto end = instance.claim(false))
+    if (const auto end = instance.claim(OpenPanel::no))
         return endEarly(*end);
     const auto quit = [&] {
         instance.beginEnding();

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/StandardStreams.h"
 
-#include <cerrno>
-#include <csignal>
-#include <initializer_list>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <initializer_list>
 
 namespace fadeloom {
 

@@ -167,7 +167,7 @@ PanelParts TrayRun::panelParts()
 AppDelegate::Actions TrayRun::actions()
 {
     AppDelegate::Actions actions{
-        .showPage = [this](bool isSettings) { panel_.setShowsSettings(isSettings); },
+        .showPage = [this](auto page) { panel_.setShowsSettings(page == AppDelegate::Page::settings); },
         .showAbout =
             [this] { AboutPanel::show(desktop_.application(), InterfaceLanguage::texts(), webPage()); },
         .quit = [this] { quit(); },
@@ -188,7 +188,7 @@ void TrayRun::quit()
 int runOnThisMachine(QtMainLoop& mainLoop, HomeGuardian& guardian, bool isInBackground)
 {
     HomeInstance instance;
-    if (const auto end = instance.claim(!isInBackground))
+    if (const auto end = instance.claim(isInBackground ? OpenPanel::no : OpenPanel::yes))
         return endEarly(*end);
     HomeLog systemLog;
     HomePlatform home(mainLoop, systemLog, guardian);

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "base/TextWriter.h"
 
+#include <poll.h>
+#include <unistd.h>
+
 #include <cerrno>
 #include <condition_variable>
 #include <deque>
@@ -8,9 +11,6 @@
 #include <system_error>
 #include <thread>
 #include <utility>
-
-#include <poll.h>
-#include <unistd.h>
 
 namespace fadeloom {
 

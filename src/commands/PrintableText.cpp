@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "commands/PrintableText.h"
 
-#include <cstddef>
 #include <locale.h>
-#include <optional>
 #include <wchar.h>
+
+#include <cstddef>
+#include <optional>
 
 namespace fadeloom {
 namespace {

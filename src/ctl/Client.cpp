@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "ctl/Client.h"
 
-#include <algorithm>
-#include <array>
-#include <cerrno>
-#include <string_view>
-#include <thread>
-
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/time.h>
 #include <sys/un.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <string_view>
+#include <thread>
 
 namespace fadeloom::ctl {
 

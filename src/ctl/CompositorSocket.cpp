@@ -2,6 +2,10 @@
 #include "ctl/CompositorSocket.h"
 
 #include <nlohmann/json.hpp>
+#include <sys/socket.h>
+#include <sys/time.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -9,11 +13,6 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
-
-#include <sys/socket.h>
-#include <sys/time.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 namespace fadeloom::ctl {
 namespace {

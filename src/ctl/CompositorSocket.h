@@ -2,10 +2,10 @@
 // Wayland compositors that report the focused window through an IPC socket.
 #pragma once
 
+#include <sys/types.h>
+
 #include <optional>
 #include <string>
-
-#include <sys/types.h>
 
 namespace fadeloom::ctl {
 

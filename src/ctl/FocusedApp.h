@@ -5,10 +5,10 @@
 // root window. KWin and GNOME on Wayland expose only X11 windows.
 #pragma once
 
+#include <sys/types.h>
+
 #include <expected>
 #include <string>
-
-#include <sys/types.h>
 
 namespace fadeloom::ctl {
 

@@ -3,6 +3,8 @@
 
 #include "ctl/AnswerText.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -12,8 +14,6 @@
 #include <iostream>
 #include <iterator>
 #include <vector>
-
-#include <sys/stat.h>
 
 namespace fadeloom::ctl {
 namespace {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ctl/XFocus.h"
 
+#include <dlfcn.h>
+#include <xcb/xcb.h>
+
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <string_view>
-
-#include <dlfcn.h>
-#include <xcb/xcb.h>
 
 namespace fadeloom::ctl {
 namespace {

@@ -6,6 +6,8 @@
 #include "ctl/Status.h"
 #include "ctl/Verbs.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
@@ -15,8 +17,6 @@
 #include <string_view>
 #include <vector>
 
-#include <unistd.h>
-
 namespace {
 
 using namespace fadeloom::ctl;
@@ -24,9 +24,9 @@ using namespace fadeloom::ctl;
 constexpr std::string_view usageText =
     R"(usage: fadeloomctl [--json] [--quiet] [--wait[=SECONDS]] VERB [WORD...]
        fadeloomctl [--json|--waybar] [--wait[=SECONDS]] watch [apps|levels] [APP]
-       fadeloomctl [--quiet] [--wait[=SECONDS]] -      commands from standard input, one a line
+       fadeloomctl [--quiet] [--wait[=SECONDS]] -      commands from standard input, one per line
 
-Gives a running Fadeloom a command; "fadeloomctl help" lists them. For instance:
+Sends a command to a running Fadeloom; "fadeloomctl help" lists them. For instance:
   fadeloomctl volume firefox +5%
   fadeloomctl mute @playing toggle
   fadeloomctl output firefox next

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What clicks on the status icon and its menu do.
+// Clicks on the status icon, and its menu.
 #include "app/AppDelegate.h"
 
 #include "control/AudioController.h"
@@ -59,7 +59,8 @@ protected:
     std::vector<std::string> done;
     AppDelegate delegate{controller, icon, popover, world.application(),
         {
-            .showPage = [this](bool isSettings) { page = isSettings ? "settings" : "mixer"; },
+            .showPage =
+                [this](auto shown) { page = shown == AppDelegate::Page::settings ? "settings" : "mixer"; },
             .checkForUpdates = [this] { done.emplace_back("updates"); },
             .showAbout = [this] { done.emplace_back("about"); },
             .quit = [this] { done.emplace_back("quit"); },
@@ -186,7 +187,7 @@ TEST_F(AppDelegateStory, withoutAnUpdateCheckTheMenuDoesNotOfferOne)
 {
     SimulatedStatusItem silentIcon;
     const AppDelegate silent{controller, silentIcon, popover, world.application(),
-        {.showPage = [](bool) { }, .showAbout = [] { }, .quit = [] { }}};
+        {.showPage = [](auto) { }, .showAbout = [] { }, .quit = [] { }}};
 
     for (const auto& each : silentIcon.openMenu())
         EXPECT_NE(each.title, "Check for Updates…");
@@ -196,7 +197,7 @@ TEST_F(AppDelegateStory, itsTextsAreTranslated)
 {
     SimulatedStatusItem foreignIcon;
     const AppDelegate foreign{controller, foreignIcon, popover, world.application(),
-        {.showPage = [](bool) {},
+        {.showPage = [](auto) {},
             .showAbout = [] {},
             .quit = [] {},
             .translate = [](const char* context, const char* text) { return std::string(context) + text; }}};

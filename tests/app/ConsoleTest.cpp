@@ -10,7 +10,7 @@ namespace {
 
 class ConsoleTest : public testing::Test {
 protected:
-    /// What was written since the last call.
+    /// The output since the last call.
     std::string written()
     {
         auto text = out.str();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a headless run tells, and how it ends.
+// The output of a headless run, and its shutdown.
 #include "tests/app/HeadlessStory.h"
 
 #include <thread>

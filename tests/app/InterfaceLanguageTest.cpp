@@ -13,7 +13,7 @@ namespace {
 
 class InterfaceLanguageTest : public testing::Test {
 protected:
-    InterfaceLanguageTest() { QLocale::setDefault(QLocale(QLocale::German)); }  // The user's own.
+    InterfaceLanguageTest() { QLocale::setDefault(QLocale(QLocale::German)); }  // The user's language.
 
     static std::string later() { return InterfaceLanguage::texts()("UpdateChecker", "Later"); }
     static std::string about()
@@ -26,7 +26,7 @@ protected:
     char name[5] = "test";
     char* arguments[2] = {name, nullptr};
     QCoreApplication application{argumentCount, arguments};
-    // Keeps the linker from leaving the string tables out.
+    // Keeps the linker from dropping the string tables.
     void (*const resources)() = [] { static_cast<void>(PanelEngine{}); };
 };
 
@@ -68,7 +68,7 @@ TEST_F(InterfaceLanguageTest, aLanguageWithoutTextsIsEnglish)
     const InterfaceLanguage language({"fr"});
 
     EXPECT_EQ(about(), "Free per-app volume, output routing, equalizer and recording for Linux.");
-    EXPECT_EQ(QLocale().language(), QLocale::French);  // Of names in their order, and the like.
+    EXPECT_EQ(QLocale().language(), QLocale::French);  // For sorting names, and the like.
 }
 
 TEST_F(InterfaceLanguageTest, anInvalidLanguageChangesNothing)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program as a user starts it: twice, and beside a server that knows of updates.
+// The program as started by a user: twice, and with an update server.
 #include "app/ProductPages.h"
 #include "app/Version.h"
 #include "platform/linux/InstanceSocket.h"
@@ -32,7 +32,7 @@ using ::testing::Each;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-/// On this machine, with folders of its own, no audio server, and a screen that nobody sees.
+/// On this machine, with private folders, no audio server, and a virtual screen.
 class ProgramServicesTest : public testing::Test {
 protected:
     using Program = std::unique_ptr<RunningProgram>;
@@ -53,7 +53,7 @@ protected:
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
         return server.requests().size() >= count;
     }
-    /// One that answers.
+    /// A server that responds.
     Program startFirst() const
     {
         auto program = start();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program as a user starts it.
+// The program as started by a user.
 #include "platform/simulated/SimulatedSystemLog.h"
 #include "settings/SettingsFile.h"
 #include "tests/app/RunningProgram.h"
@@ -70,7 +70,7 @@ TEST(Program, runsItsPanelUntilAskedToQuit)
 
     for (int i = 0; i < 200 && std::filesystem::is_empty(folder.path()); ++i)
         std::this_thread::sleep_for(50ms);
-    std::this_thread::sleep_for(1s);  // Long enough for a fault in a view.
+    std::this_thread::sleep_for(1s);  // Long enough for an error in a view.
     program.signal(SIGTERM);
 
     EXPECT_EQ(program.exitStatus(), 0);
@@ -81,7 +81,7 @@ TEST(Program, runsItsPanelUntilAskedToQuit)
 
 class SimulatedProgram : public testing::Test {
 protected:
-    /// Commands whose replies are more than a pipe and the program together can hold.
+    /// Commands whose replies exceed what a pipe and the program together can buffer.
     static std::string manyQuestions()
     {
         std::string commands;
@@ -201,7 +201,7 @@ TEST_F(SimulatedProgram, leavesNoFileBehind)
     EXPECT_TRUE(std::filesystem::is_empty(temporary.path()));
 }
 
-/// On this machine, with folders of its own and no audio server to be found.
+/// On this machine, with private folders and no audio server.
 class RealProgram : public testing::Test {
 protected:
     RealProgram()

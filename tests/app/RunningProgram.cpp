@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/RunningProgram.h"
 
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -9,11 +14,6 @@
 #include <stdexcept>
 #include <thread>
 #include <utility>
-
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {
@@ -102,7 +102,7 @@ void RunningProgram::signal(int number) const
 void RunningProgram::signalProgram(int number) const
 {
     const auto process = std::to_string(pid_);
-    pid_t program = pid_;  // Without a guardian it is the same.
+    pid_t program = pid_;  // Without a guardian they are the same.
     std::ifstream("/proc/" + process + "/task/" + process + "/children") >> program;
     kill(program == 0 ? pid_ : program, number);
 }
@@ -136,7 +136,7 @@ std::optional<std::string> RunningProgram::lineWith(std::string_view beginning)
 
 int RunningProgram::exitStatus()
 {
-    // Its output ends when it does.
+    // End of its output.
     if (output_ != -1)
         unread_ += restOfOutput();
     if (pid_ != -1 && waitpid(pid_, &status_, 0) != pid_)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program as it draws its pictures.
+// The program in its screenshot mode.
 #include "tests/app/RunningProgram.h"
 #include "tests/support/TemporaryFolder.h"
 

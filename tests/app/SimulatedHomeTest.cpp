@@ -19,7 +19,7 @@ using testing::HasSubstr;
 
 class SimulatedHomeTest : public testing::Test {
 protected:
-    /// What is printed while the real time moves on.
+    /// The output while real time passes.
     std::string printedIn(std::chrono::seconds time)
     {
         out.str("");

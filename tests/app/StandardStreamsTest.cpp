@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/StandardStreams.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <iostream>
 #include <string>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

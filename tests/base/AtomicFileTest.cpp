@@ -25,7 +25,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using Reason = ReadError::Reason;
 
-/// While one lives, no file of this process can grow beyond `bytes`: the system refuses as it does on a full disk.
+/// While an instance exists, no file of this process can grow beyond `bytes`: writes fail as on a full disk.
 class FullDisk {
 public:
     explicit FullDisk(rlim_t bytes)
@@ -147,7 +147,7 @@ TEST_F(AtomicFileTest, aFileInAnInaccessibleFolderIsUnreadable)
 TEST_F(AtomicFileTest, aFileThatFailsWhileItIsReadIsUnreadable)
 {
     const auto content =
-        AtomicFile::read("/proc/self/mem", 100);  // Opens; nothing is mapped at its beginning.
+        AtomicFile::read("/proc/self/mem", 100);  // Opens, but nothing is mapped at its start.
 
     ASSERT_FALSE(content);
     EXPECT_EQ(content.error().reason, Reason::unreadable);
@@ -158,7 +158,7 @@ TEST_F(AtomicFileTest, replacedOneKeepsItsOwner)
 {
     put(file, "old");
     constexpr uid_t nobody = 65534;
-    const uid_t owner = ::geteuid() == 0 ? nobody : ::geteuid();  // Root could take it away.
+    const uid_t owner = ::geteuid() == 0 ? nobody : ::geteuid();  // Root could take ownership.
     ASSERT_EQ(::chown(file.c_str(), owner, static_cast<gid_t>(-1)), 0);
 
     ASSERT_TRUE(AtomicFile::replace(file, "new"));

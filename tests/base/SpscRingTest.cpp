@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "base/SpscRing.h"
-
 #include "tests/support/RealTimeGuard.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <numeric>
 #include <thread>
-
-#include <sys/resource.h>
 
 namespace fadeloom {
 namespace {
@@ -117,7 +115,7 @@ TEST(SpscRing, itsMemoryIsAllocatedBeforeTheFirstSample)
     for (int i = 0; i < 8; ++i)
         EXPECT_TRUE(ring.push(samples));
 
-    // Code that runs for the first time; what is read of `samples`; what a sanitizer remembers of both.
+    // Code that runs for the first time; reading `samples`; a sanitizer's shadow memory of both.
     const long ofOthers = isGuarding() ? 50 : 400;
     EXPECT_LT(pageFaultsOfThisThread() - before, ofOthers);
 }
@@ -125,7 +123,7 @@ TEST(SpscRing, itsMemoryIsAllocatedBeforeTheFirstSample)
 TEST(SpscRing, twoThreadsPassEverySampleOnce)
 {
     SpscRing<float> ring{1024};
-    constexpr int last = 4'000'000;  // Every whole number up to 2^24 is a float.
+    constexpr int last = 4'000'000;  // All integers up to 2^24 are exact as floats.
     int wrong = 0;
 
     std::jthread consumer{[&] {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "base/TextWriter.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <array>
 #include <chrono>
@@ -11,16 +13,13 @@
 #include <string>
 #include <vector>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 namespace fadeloom {
 namespace {
 
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 
-/// Somebody who reads when he is told to; shared with the writer's thread, which may outlive a test.
+/// A reader that reads on request; shared with the writer's thread, which may outlive a test.
 struct Reader {
     std::mutex door;  // Held while nobody reads.
     std::mutex mutex;
@@ -77,7 +76,7 @@ TEST_F(TextWriterTest, dropsAndCountsOverflow)
         else
             dropped += std::stoi(text.substr(std::string("dropped ").size()));
     }
-    EXPECT_THAT(written, testing::AnyOf(4, 5));  // The first may have been under way already.
+    EXPECT_THAT(written, testing::AnyOf(4, 5));  // The first may have been in progress.
     EXPECT_EQ(written + dropped, 1000);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The commands about one app.
+// The commands about a single app.
 #include "tests/commands/CommandStory.h"
 
 namespace fadeloom {
@@ -90,7 +90,7 @@ TEST_F(AppCommandsStory, recordWritesAFileAndReportsItsPath)
 
     const auto file = folder.path() / "Music" / "Fadeloom Recordings" / "Player 2030-01-02 12.00.01.wav";
     EXPECT_EQ(*controller.state().lastRecording, file);
-    world.advance(1s);  // What was played last is written after the stop.
+    world.advance(1s);  // The last audio is written after the stop.
     ASSERT_NE(world.audioFiles().at(file), nullptr);
     EXPECT_GT(world.audioFiles().at(file)->frameCount(), 40000);
     EXPECT_EQ(answer("reveal"), "ok reveal");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The table of commands, and what is answered to a mistake.
+// The command table, and error replies.
 #include "tests/commands/CommandStory.h"
 
 namespace fadeloom {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What may follow the words that are typed already.
+// Completion of partially typed commands.
 #include "tests/commands/CommandStory.h"
 
 namespace fadeloom {

@@ -36,7 +36,7 @@ TEST(Printable, replacesEachInvalidByte)
     EXPECT_EQ(printable("\xC0\xAF"), "\uFFFD\uFFFD");  // An overlong "/".
     EXPECT_EQ(printable("\xED\xA0\x80"), "\uFFFD\uFFFD\uFFFD");  // Half of a surrogate pair.
     EXPECT_EQ(printable("\xF4\x90\x80\x80"), "\uFFFD\uFFFD\uFFFD\uFFFD");  // Beyond the last code point.
-    EXPECT_EQ(printable("\xE2\x82"), "\uFFFD\uFFFD");  // Cut off.
+    EXPECT_EQ(printable("\xE2\x82"), "\uFFFD\uFFFD");  // Truncated.
 }
 
 TEST(DisplayWidth, countsColumns)

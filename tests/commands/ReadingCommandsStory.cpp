@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Commands that read, that change step by step, and that mean several apps.
+// Commands that query, that change in steps, and that address several apps.
 #include "tests/commands/CommandStory.h"
 
 namespace fadeloom {

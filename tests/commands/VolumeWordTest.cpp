@@ -9,7 +9,7 @@
 namespace fadeloom {
 namespace {
 
-/// The volume that a word means to an app at 0.5 with a limit of 1.5; -1 for a word that is refused.
+/// The result of a word for an app at 0.5 with a limit of 1.5; -1 for a word that is rejected.
 float meant(std::string_view word, float present = 0.5F)
 {
     const auto volume = VolumeWord::parse(word);

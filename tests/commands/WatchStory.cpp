@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Programs that are told what happens, and answers as JSON.
+// Programs that receive events, and replies as JSON.
 #include "commands/Watchers.h"
 #include "tests/commands/CommandStory.h"
 
@@ -21,7 +21,7 @@ protected:
         std::shared_ptr<void> watch;
     };
 
-    /// What is told from now on.
+    /// The events from now on.
     std::unique_ptr<Told> watch(const std::string& line, bool isSandboxed = false)
     {
         auto told = std::make_unique<Told>();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An app off the list that may be on a call: it is offered, and the user says what it is.
+// An unlisted app that may be on a call: it is suggested, and the user decides.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {

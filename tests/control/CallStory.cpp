@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a call does to the other apps.
+// The effect of a call on the other apps.
 #include "tests/control/ControllerStory.h"
 
 #include <cmath>
@@ -116,7 +116,7 @@ TEST_F(CallStory, ofTwoAppsIsTheFirstsInTheMixer)
     startCall(meetPid);
     EXPECT_EQ(*state().callApp, meet);
 
-    world.stopPlaying(meetPid);  // A playing app comes before a silent one.
+    world.stopPlaying(meetPid);  // A playing app precedes a silent one.
     world.runPosted();
 
     EXPECT_EQ(*state().callApp, talk);

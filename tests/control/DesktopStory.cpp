@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The start at login, and how the windows look.
+// Start at login, and the windows' appearance.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -92,7 +92,7 @@ TEST_F(DesktopStory, launchAtLoginThatWaitsForApprovalShowsOff)
     controller->setLaunchAtLogin(true);
 
     EXPECT_FALSE(launchesAtLogin());
-    EXPECT_EQ(assignments, 1);  // A switch in the panel has to move back.
+    EXPECT_EQ(assignments, 1);  // A switch in the panel must move back.
 }
 
 TEST_F(DesktopStory, theThemeIsAppliedFromTheStart)

@@ -45,7 +45,7 @@ TEST(MeterPosition, reportsItsLevel)
 
 class LevelStoreTest : public testing::Test {
 protected:
-    // What an app left since the last look, taken once.
+    // An app's peak since the last poll, taken once.
     LevelStore::Levels take()
     {
         lookCount += 1;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Apps that chose a device for themselves.
+// Apps that have chosen a device themselves.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the user's consent, and its withdrawal, do.
+// The effects of granting and revoking the permission.
 #include "tests/control/ControllerStory.h"
 
 #include <thread>

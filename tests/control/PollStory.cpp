@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which applications stand in the mixer, and in which order.
+// Which applications are in the mixer, and in which order.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {

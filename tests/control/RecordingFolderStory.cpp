@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where recordings go, and how the user says so.
+// The recordings folder, and how the user selects it.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {

@@ -81,7 +81,7 @@ TEST_F(RecordingStory, stoppedTwiceOrNeverStartedIsNothing)
     EXPECT_EQ(message(), "");
 }
 
-TEST_F(RecordingStory, ofSeveralAppsGoOnSideBySide)
+TEST_F(RecordingStory, ofSeveralAppsRunConcurrently)
 {
     launchPlaying("Player");
     world.startPlaying(world.launchApp("Radio"), SimulatedSignal::constant(0.5F));
@@ -113,7 +113,7 @@ TEST_F(RecordingStory, continuesWhenTheAppMovesToAnotherOutput)
     EXPECT_NEAR(static_cast<double>(lastFile().frameCount()), 96000, 1440);
 }
 
-TEST_F(RecordingStory, nothingLooksAfterRecordingsWhileThereAreNone)
+TEST_F(RecordingStory, noTimerRunsWithoutRecordings)
 {
     launchPlaying("Player");
     const auto idle = world.mainLoop().timerCount();

@@ -9,7 +9,7 @@ class RoutingStory : public ControllerStory {
 protected:
     RoutingStory() { start(); }
 
-    // Makes "headphones" the output of the player alone.
+    // Makes "headphones" the output of only the player.
     void startWithPlayerOnHeadphones()
     {
         launchPlaying("Player");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What happens when the settings change.
+// The effects of settings changes.
 #include "tests/control/ControllerStory.h"
 
 #include "engine/EqualizerDesign.h"
@@ -17,7 +17,7 @@ protected:
         launchPlaying("Player");
         start();
         world.advance(1s);
-        std::filesystem::remove(settingsFile());  // The player's name was remembered.
+        std::filesystem::remove(settingsFile());  // It contains the player's name already.
     }
 
     const std::string player = "com.example.player";
@@ -142,7 +142,7 @@ TEST_F(SettingsStory, changesInQuickSuccessionAreWrittenOnce)
 TEST_F(SettingsStory, aFailedSaveIsReportedAndTheNextChangeRetries)
 {
     startWithPlayer();
-    std::filesystem::create_directories(settingsFile());  // A folder where the file should be.
+    std::filesystem::create_directories(settingsFile());  // A folder in place of the file.
 
     setVolumeLimit(2);
     world.advance(600ms);

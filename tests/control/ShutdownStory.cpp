@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The end of the program's work: nothing is left behind, and nothing is lost.
+// Shutdown: nothing is left behind, and nothing is lost.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the controller starts, is called, and ends.
+// The controller's start, requests and shutdown.
 #include "tests/control/ControllerStory.h"
 
 #include <memory>
@@ -73,7 +73,7 @@ TEST_F(StartStory, learnsTheNewNameOfAnAppThatIsKnown)
 
 TEST_F(StartStory, startsWithTheDefaultsWhenTheSettingsAreUnreadable)
 {
-    std::filesystem::create_directories(settingsFile());  // A folder where the file should be.
+    std::filesystem::create_directories(settingsFile());  // A folder in place of the file.
 
     start();
 
@@ -101,7 +101,7 @@ TEST_F(StartStory, migratesAnUneditedList)
 TEST_F(StartStory, pollsEveryFiveSeconds)
 {
     start();
-    world.setPermission(SimulatedCapturePermission::denied);  // Nothing announces this.
+    world.setPermission(SimulatedCapturePermission::denied);  // Not announced.
 
     world.advance(4900ms);
     EXPECT_EQ(*state().permission, AudioPermission::State::granted);

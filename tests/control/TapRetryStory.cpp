@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// When a tap that was refused is tried again, and when none is made at all.
+// When a refused tap is retried, and when none is created at all.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// When a tap is made, adapted, made anew, given up, and confirmed.
+// When a tap is created, adapted, rebuilt, given up, and confirmed.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -11,7 +11,7 @@ class TapStory : public ControllerStory {
 protected:
     TapStory() { start(); }
 
-    // A tap that cannot be made, for whichever reason the audio system has.
+    // Refuses taps, for any reason the audio system may have.
     void refuseTaps() { world.refuse(AudioOperation::createTap, HowOften::always, -50); }
 
     const std::string player = "com.example.player";

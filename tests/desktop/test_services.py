@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What the program does around the panel: a second start, updates, the language, the About panel."""
+"""Services around the panel: a second start, updates, the language, the About panel."""
 
 import contextlib
 import http.server
@@ -13,7 +13,7 @@ from conftest import program
 
 @contextlib.contextmanager
 def feed(**answer):
-    """A web server on this machine with this record of the newest version; gives its address and what was asked."""
+    """A local web server with this version record; yields its URL and the requests."""
     asked = []
 
     class Handler(http.server.BaseHTTPRequestHandler):

@@ -65,7 +65,7 @@ TEST_F(CycleClocksTest, placeACycleConsistentlyForAllCallersAtAnyTime)
 
 TEST_F(CycleClocksTest, tolerateADriftingDevice)
 {
-    // 150 millionths slower than the host says, for three hours: 1.6 s.
+    // 150 ppm slower than the host's clock, for three hours: 1.6 s.
     const auto first = place(0, 0s);
     std::int64_t counted = 0;
     for (; counted < std::int64_t{3} * 3600 * 48000; counted += 480) {
@@ -77,7 +77,7 @@ TEST_F(CycleClocksTest, tolerateADriftingDevice)
 
 TEST_F(CycleClocksTest, detectGradualLossOfFrames)
 {
-    // Every second 5 ms are lost: the count goes on as if nothing were.
+    // 5 ms are lost per second: the count continues as if nothing had happened.
     const auto first = place(0, 0s);
     std::int64_t last = 0;
     for (int second = 1; second <= 60; ++second) {

@@ -75,7 +75,7 @@ TEST(Equalizer, withoutASampleRateEveryBandIsFlat)
 
 TEST(Equalizer, aSectionHasTheTextbookCoefficients)
 {
-    // One kilohertz, +6 dB, at 48 kHz, worked out apart: A = 10^0.15, ω = π/24, α = sin ω / 2.82.
+    // 1 kHz, +6 dB, at 48 kHz, computed independently: A = 10^0.15, ω = π/24, α = sin ω / 2.82.
     constexpr double tolerance = 1e-12;
     const std::vector<float> gains{0, 0, 0, 0, 0, 6};
 

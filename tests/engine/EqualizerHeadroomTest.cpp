@@ -10,7 +10,7 @@
 namespace fadeloom {
 namespace {
 
-// Narrow enough that a scan of other frequencies or at another rate does not fit.
+// Tight enough to fail with other frequencies or another rate.
 constexpr float loudnessTolerance = 0.002F;
 
 float loudnessOf(const std::vector<float>& gains)

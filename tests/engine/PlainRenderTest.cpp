@@ -87,7 +87,7 @@ TEST(PlainRender, tinyOutputIsFlushedButTheStateIsKept)
 
 TEST(PlainRender, productsAreRoundedBeforeTheyAreAdded)
 {
-    // 1 + 2^-20 times 1 + 2^-40 is 1 + 2^-20 + 2^-40 and a rest of 2^-60 that only a fused operation keeps.
+    // 1 + 2^-20 times 1 + 2^-40 is 1 + 2^-20 + 2^-40 and a remainder of 2^-60 that only a fused operation keeps.
     constexpr double small = 0x1p-20;
     constexpr double smaller = 0x1p-40;
     EQCoefficients sections{};

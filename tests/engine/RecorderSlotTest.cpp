@@ -69,8 +69,8 @@ TEST(RecorderSlot, aDestroyedRendererFreesItsLane)
     EXPECT_EQ(lanes->lostFrames(), 0U);
 }
 
-// An IO thread writes all the time; every recording is destroyed as soon as the slot has let go of it. The address and
-// thread sanitizers see a write that comes later.
+// An IO thread writes continuously; every recording is destroyed as soon as the slot has released it. The address and
+// thread sanitizers would detect a later write.
 TEST(RecorderSlot, aReleasedRecordingIsNeverReachedAgain)
 {
     RecorderSlot slot;

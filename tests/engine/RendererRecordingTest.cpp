@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a renderer writes to a recording: the sound as it was captured, every frame of it.
+// What a renderer writes to a recording: the audio as captured, every frame of it.
 #include "engine/Renderer.h"
 
 #include "engine/RecordingLanes.h"

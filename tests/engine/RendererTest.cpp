@@ -29,7 +29,7 @@ protected:
         changes(parameters->values);
     }
 
-    /// Renders frames of one value on both sides and returns the left side of the output.
+    /// Renders frames of one value on both channels and returns the left channel of the output.
     std::vector<float> play(Renderer& renderer, float value, std::size_t frames)
     {
         CycleBuffers input;

@@ -27,7 +27,7 @@ using testing::ElementsAre;
 
 class EngineLogTest : public testing::Test {
 protected:
-    /// Lets the queue do what waits in it.
+    /// Runs the queue's pending tasks.
     void writeAll() { world.advance(0s); }
 
     static std::string contentOf(const fs::path& path)
@@ -36,7 +36,7 @@ protected:
         content << std::ifstream(path, std::ios::binary).rdbuf();
         return content.str();
     }
-    /// Makes a log file of this size.
+    /// Creates a log file of this size.
     void fill(std::size_t size)
     {
         fs::create_directories(folder);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A tap that ends from outside: its device dies, the audio service restarts, or it delivers nothing but zeros.
+// External events that end a tap: its device dies, the audio service restarts, or it delivers only zeros.
 #include "tests/macos/AppTapStage.h"
 
 namespace fadeloom {
@@ -19,7 +19,7 @@ protected:
         auto tap = create();
         return tap ? std::move(*tap) : nullptr;
     }
-    /// The device runs for so long, and the processes are looked at every five seconds.
+    /// Runs the device for this long, and polls the processes every five seconds.
     void run(seconds duration)
     {
         const auto cycles =
@@ -150,7 +150,7 @@ TEST_F(MacOSAppTapEnd, doublesItsDelayEachTimeANewTapDoesNotHelp)
     play(0);
     for (const auto tolerance : {seconds(10), seconds(20), seconds(40)}) {
         const auto tap = made();
-        (void)audio.processes(ReadMic::no);  // Before it has had a cycle.
+        (void)audio.processes(ReadMic::no);  // Before its first cycle.
         run(tolerance - seconds(1));
         EXPECT_TRUE(tap->isRunning()) << tolerance.count();
         run(seconds(2));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the engine's tap asks of CoreAudio, in which order, and in which words.
+// The CoreAudio calls of the engine's tap, in order, with their arguments.
 #include "tests/macos/AppTapStage.h"
 
 #include <set>

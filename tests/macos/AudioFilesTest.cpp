@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The audio files of macOS keep the contract of audio files, and a recording makes its calls in order.
+// The contract of audio files for those of macOS, and the order of a recording's calls.
 #include "engine/Recording.h"
 #include "platform/macos/ExtendedAudioFiles.h"
 #include "platform/macos/WaveFormats.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Devices, processes and listeners as the rest of the program reads them.
+// Devices, processes and listeners through the audio system interface.
 #include "platform/macos/CoreAudioSystem.h"
 #include "platform/macos/HAL.h"
 #include "platform/macos/OutputDevices.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The whole controller on the adapters of macOS, from an application that begins to play to the end of the program.
+// The complete controller on the adapters of macOS, from an app that starts playing to shutdown.
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
 #include "platform/HttpClient.h"
@@ -53,7 +53,7 @@ protected:
         world.reset();
         world.plug({.uid = "speakers", .name = "Speakers"});
         doubles::launch("Music", 501, "/Applications/Music.app");
-        // A helper without an application of its own plays for it.
+        // A helper that is not an application plays for it.
         doubles::responsiblePids() = {{601, 501}};
         world.addProcess({.pid = 601, .isRunningOutput = true, .amplitude = 0.5F});
         controller.emplace(platform, engineLog, "1.2.3");
@@ -142,7 +142,7 @@ TEST_F(MacOSController, retargetsTheTapWhenAnotherHelperPlays)
     doubles::responsiblePids()[602] = 501;
 
     world.addProcess({.pid = 602, .isRunningOutput = true, .amplitude = 0.5F});
-    pass(10ms);  // The listener to the list of processes has it polled.
+    pass(10ms);  // The listener for the process list triggers a poll.
     world.settleProperties();
 
     ASSERT_TRUE(world.taps.contains(tap));

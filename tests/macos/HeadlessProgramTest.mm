@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program without a window as it starts on macOS, on Qt's own main loop.
+// The program without a window, started on macOS with Qt's own main loop.
 #include "app/HeadlessProgram.h"
 #include "platform/macos/OneInstance.h"
 #include "tests/macos/DesktopStage.h"
@@ -46,8 +46,8 @@ protected:
         char* arguments[] = {name, nullptr};
         return runHeadless(1, arguments, false);
     }
-    /// Looks every few milliseconds, and ends the program once it holds or three seconds are over: before the program
-    /// would look by itself.
+    /// Checks every few milliseconds, and ends the program once the condition holds or after three seconds: before the
+    /// program would poll.
     static void endOnce(const std::function<bool()>& condition)
     {
         auto* const looks = new QTimer(QCoreApplication::instance());

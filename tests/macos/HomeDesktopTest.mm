@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's desktop and panel on macOS, put together as in the program, with Qt's windows on a display that nobody
-// sees.
+// The program's desktop and panel on macOS, assembled as in the program, with Qt's windows on an offscreen display.
 #include "app/macos/HomeDesktop.h"
 #include "app/macos/HomePanel.h"
 #include "tests/macos/DesktopStage.h"
@@ -22,7 +21,7 @@ class MacOSHomeDesktop : public DesktopStage {
 protected:
     MacOSHomeDesktop() { home.emplace(); }
 
-    /// A panel with content of this size, made when it is asked for.
+    /// A panel with content of this size, created on demand.
     void makePanel()
     {
         panel.emplace(*home);
@@ -68,7 +67,7 @@ TEST_F(MacOSHomeDesktop, givesThePopoverTheSizeOfItsContent)
     EXPECT_EQ(popoverSize().width, 380);
     EXPECT_EQ(popoverSize().height, 520);
 
-    content->setHeight(600);  // A row has opened.
+    content->setHeight(600);  // A row has expanded.
     for (int turn = 0; turn < 1000 && popoverSize().height != 600; ++turn)
         QCoreApplication::processEvents();
 

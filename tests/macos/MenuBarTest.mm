@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The item in the menu bar and its menu.
+// The menu bar item and its menu.
 #include "platform/macos/MenuBarItem.h"
 #include "tests/macos/DesktopStage.h"
 
@@ -58,7 +58,8 @@ TEST_F(MacOSMenuBar, opensItsMenuOnARightClickAndWithControl)
 
     EXPECT_THAT(std::exchange(happened, {}), ElementsAre("menu will open", "menu will open"));
     EXPECT_THAT(done(), ElementsAre("menu opens", "menu opens"));
-    EXPECT_EQ(NSStatusBar.systemStatusBar.onlyItem.menu, nil);  // Or the next left click would open it.
+    // Otherwise the next left click would open it.
+    EXPECT_EQ(NSStatusBar.systemStatusBar.onlyItem.menu, nil);
     [button() click:NSEventTypeLeftMouseUp modifiers:0];
     EXPECT_THAT(happened, ElementsAre("clicked"));
 }
@@ -70,7 +71,7 @@ TEST_F(MacOSMenuBar, opensItsMenuByControlOrOptionWhereClicksAreGestures)
     EXPECT_THAT(std::exchange(happened, {}), ElementsAre("menu will open", "menu will open"));
 
     [button() clickByGesture:0];
-    // Which is what VoiceOver holds while it presses.
+    // VoiceOver holds these while it presses.
     [button() clickByGesture:NSEventModifierFlagControl | NSEventModifierFlagOption];
     EXPECT_THAT(std::exchange(happened, {}), ElementsAre("clicked", "clicked"));
 

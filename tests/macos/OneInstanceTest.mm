@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program beside another instance of itself.
+// The program alongside another instance.
 #include "platform/macos/OneInstance.h"
 #include "tests/macos/DesktopStage.h"
 #include "tests/support/TemporaryFolder.h"

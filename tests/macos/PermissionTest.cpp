@@ -15,7 +15,7 @@ namespace {
 
 using State = AudioPermission::State;
 
-/// Keeps what is posted until the test runs it.
+/// Holds posted tasks until the test runs them.
 class KeptLoop final : public MainLoop {
 public:
     void post(Task task) override { posted.push_back(std::move(task)); }

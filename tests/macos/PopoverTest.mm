@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The popover below the item in the menu bar.
+// The popover below the menu bar item.
 #include "platform/macos/AppKitPopover.h"
 #include "platform/macos/MenuBarItem.h"
 #include "tests/macos/DesktopStage.h"
@@ -24,7 +24,7 @@ protected:
         done();
     }
     NSView* content() { return (__bridge NSView*)popover->contentView(); }
-    /// As a user presses and lets go of the button on the item, whose action then asks what is to be done.
+    /// Presses and releases the mouse button on the item, like a user, and then runs its action.
     void pressItem()
     {
         desktop.mouse = {1010, 910};

@@ -76,7 +76,7 @@ TEST_F(MacOSServices, elevenCallAppsAreKnown)
         {"Signal", {"org.whispersystems.signal-desktop"}},
         {"Google Meet", {"com.google.Chrome.app.kjgfgldnnfoeklkmfkjfagphfepbbdan"}}};
 
-    EXPECT_EQ(callApps.wellKnown(), all);
+    EXPECT_EQ(callApps.knownApps(), all);
     EXPECT_TRUE(callApps.formerDefaults().empty());
     EXPECT_EQ(callApps.identifiersOf("us.zoom.xos"), std::vector<std::string>{"us.zoom.xos"});
 }

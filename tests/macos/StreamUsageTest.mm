@@ -33,7 +33,7 @@ protected:
 
     AudioDeviceIOProcID procedureID() { return reinterpret_cast<AudioDeviceIOProcID>(&procedure); }
 
-    int procedure = 0;  // Its address stands for an IO procedure.
+    int procedure = 0;  // Its address is used as an IO procedure.
     PropertyTable table;
 };
 
@@ -63,8 +63,7 @@ TEST_F(StreamUsageTest, isAskedForOneProcedure)
 
 TEST_F(StreamUsageTest, disablesStreamsAndKeepsTheRestOfTheRecord)
 {
-    table.setBytes(
-        aggregate, usageOf, recordOf(2, {1, 1, 77}));  // One flag more than streams, as padding would be.
+    table.setBytes(aggregate, usageOf, recordOf(2, {1, 1, 77}));  // One flag more than streams, like padding.
     auto usage = read();
     ASSERT_TRUE(usage);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Applications as AppKit tells of them, and who owns a process.
+// Applications as reported by AppKit, and the owner of a process.
 #include "control/AppResolver.h"
 #include "control/AudioPermission.h"
 #include "platform/macos/AppKitWorkspace.h"

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What would keep a bundle from running on another Mac is found."""
+"""Detection of what would keep a bundle from running on another Mac."""
 
 import pathlib
 import subprocess

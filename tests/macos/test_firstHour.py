@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The first hour, gone through without a Mac: its tools are small scripts that do what the real ones would leave."""
+"""The first hour without a Mac: its tools are replaced by small scripts that leave the same results."""
 
 import os
 import pathlib
@@ -56,7 +56,7 @@ esac""",
 
 @pytest.fixture
 def mac(tmp_path):
-    """A copy of what the script needs, and tools for it to find."""
+    """A copy of what the script needs, and fake tools."""
     root = tmp_path / "fadeloom"
     for name in ("packaging/macos", "docs"):
         shutil.copytree(ROOT / name, root / name)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Programs that follow what happens, answers as JSON, settings as a whole, and what may follow a word."""
+"""Programs that watch events, replies as JSON, export and restore, and completions."""
 
 import json
 import os
@@ -15,7 +15,7 @@ from test_control import CTL, ctl
 
 
 class Watcher:
-    """A fadeloomctl that follows what happens."""
+    """A fadeloomctl that watches events."""
 
     def __init__(self, stage, *words):
         self.process = subprocess.Popen([str(CTL), *words], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""An app that chose its own device keeps it, as long as the user chooses none for it here."""
+"""An app that has chosen its own device keeps it, as long as the user selects none for it here."""
 
 import pytest
 

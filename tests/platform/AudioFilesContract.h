@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What all audio files promise, as tests over files of their kind.
+// The contract of audio files, as tests over an implementation.
 //
 //      INSTANTIATE_TEST_SUITE_P(Sndfile, AudioFilesContract, ::testing::Values(&makeSndfileFilesWorld));
 #pragma once
@@ -26,14 +26,14 @@
 
 namespace fadeloom {
 
-/// Audio files, and the means to look into them.
+/// Audio files, with access to their contents.
 class ContractFilesWorld {
 public:
     virtual ~ContractFilesWorld() = default;
     virtual AudioFiles& files() = 0;
-    /// A folder in which files can be made.
+    /// A folder in which files can be created.
     virtual std::filesystem::path folder() = 0;
-    /// What a file holds that was disposed of; absent when there is none.
+    /// The contents of a closed file; nullopt if there is none.
     [[nodiscard]] virtual std::optional<WrittenSound> read(const std::filesystem::path& location) = 0;
 };
 
@@ -49,7 +49,7 @@ protected:
             throw std::runtime_error(file.error().description() + ": " + location.string());
         return **file;
     }
-    /// Hands samples over as a device does, in cycles of a size that comes out even with nothing.
+    /// Writes samples as a device does, in cycles of an odd size.
     static void write(AudioFile& file, const std::vector<float>& samples, std::size_t cycle = 479)
     {
         for (std::size_t begin = 0; begin < samples.size(); begin += 2 * cycle) {

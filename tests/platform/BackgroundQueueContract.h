@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What every background queue promises, as tests over a queue of its kind.
+// The contract of background queues, as tests over an implementation.
 //
 //      INSTANTIATE_TEST_SUITE_P(Simulated, BackgroundQueueContract, ::testing::Values(&makeSimulatedQueueWorld));
 #pragma once
@@ -18,12 +18,12 @@
 
 namespace fadeloom {
 
-/// A queue, and the means to let its time pass.
+/// A queue, with control over time.
 class ContractQueueWorld {
 public:
     virtual ~ContractQueueWorld() = default;
     virtual BackgroundQueue& queue() = 0;
-    /// Lets time pass until `condition` holds; false when that takes too long.
+    /// Lets time pass until `condition` holds; false if that takes too long.
     [[nodiscard]] virtual bool waitUntil(const std::function<bool()>& condition) = 0;
     virtual void letPass(std::chrono::milliseconds duration) = 0;
 };
@@ -47,7 +47,8 @@ protected:
 
     std::mutex mutex;
     std::vector<int> done;
-    std::unique_ptr<ContractQueueWorld> world = GetParam()();  // Goes first: its work notes in the above.
+    // Destroyed first: its tasks refer to the above.
+    std::unique_ptr<ContractQueueWorld> world = GetParam()();
     BackgroundQueue& queue = world->queue();
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The contract of devices: what is listed, when it changes, and who is told.
+// The contract of devices: the list, its changes, and notifications.
 #pragma once
 
 #include "tests/platform/ContractFixture.h"
@@ -75,7 +75,7 @@ TEST_P(PlatformContract, anEndedSubscriptionIsNoLongerNotified)
 
 TEST_P(PlatformContract, aSubscriptionThatEndsBeforeDeliveryIsNotNotified)
 {
-    // Both are told of the same change; whoever is told first ends the other one.
+    // Both observe the same change; whichever is called first ends the other one.
     std::set<char> told;
     Subscription first;
     Subscription second;

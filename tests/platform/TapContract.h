@@ -19,7 +19,7 @@ protected:
 
     bool hearsAbout(const ContractTap& tap, float amplitude)
     {
-        // A cycle of a sine may miss its top by a little, and a real one may be measured while it fades in.
+        // A cycle of a sine may just miss its peak, and a real one may be measured while it fades in.
         return world->waitUntil([&] { return std::abs(tap.proc->lastPeak - amplitude) < amplitude / 10; });
     }
 
@@ -120,7 +120,7 @@ TEST_P(TapContract, aTapFollowsAnotherListOfProcesses)
     EXPECT_TRUE(hearsAbout(tap, 0.125F));
 }
 
-// Some systems go on with silent cycles, others have none while nothing plays.
+// Some systems continue with silent cycles, others stop cycling while nothing plays.
 TEST_P(TapContract, aTappedProcessThatExitsIsNoLongerAudible)
 {
     const ContractTap tap{audio, {player.id}, device};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What all preferences promise, as tests over preferences of their kind.
+// The contract of preferences, as tests over an implementation.
 //
 //      INSTANTIATE_TEST_SUITE_P(Qt, UserDefaultsContract, ::testing::Values(&makeQtDefaultsWorld));
 #pragma once

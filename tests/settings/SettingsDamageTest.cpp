@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What reading does not repair: which damage costs one app, and which costs the file.
+// What reading does not repair: which damage affects one app, and which the whole file.
 #include "settings/SettingsJson.h"
 
 #include <gmock/gmock.h>

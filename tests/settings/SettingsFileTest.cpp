@@ -156,7 +156,7 @@ TEST_F(SettingsFileTest, folderInTheBackupsPlaceIsReplaced)
 
 TEST_F(SettingsFileTest, isReportedEvenWhenTheBackupCannotBeMade)
 {
-    // A file that everyone can read, that is not JSON, and beside which nobody can make another.
+    // A file that everyone can read, that is not JSON, and beside which nobody can create another.
     const fs::path status = "/proc/self/status";
 
     EXPECT_EQ(SettingsFile::load(status, log).settings, SettingsData());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the user is told who asks for updates.
+// The result of a check requested by the user.
 #include "tests/shell/UpdateStage.h"
 
 namespace fadeloom {

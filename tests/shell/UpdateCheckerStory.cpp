@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How a newer version is found, without a word to the user.
+// Silent checks for a newer version.
 #include "tests/shell/UpdateStage.h"
 
 #include <vector>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The line of a row that offers its app as a call app.
+// The line of a row that suggests its app as a call app.
 #include "tests/ui/PanelStage.h"
 
 #include <vector>

@@ -16,7 +16,7 @@ const FileError full{.step = FileError::Step::write,
     .file = "/disk/file",
     .reason = make_error_code(std::errc::no_space_on_device)};
 
-/// One of each kind, and each reason that it can have.
+/// One of each kind, with each possible reason.
 std::vector<ControllerError> examples()
 {
     return {BuiltInPresetName{"Rock"}, NothingToRecord{}, RecordingNotStarted{full},
@@ -87,7 +87,7 @@ TEST_F(MessageTextTest, aHeadlessRunSaysTheSameInEnglish)
             messageText(SettingsNotRead{error}), QString::fromStdString(englishText(SettingsNotRead{error})));
 }
 
-/// Which of the texts that an adapter can give have no translation.
+/// The texts of an adapter without a translation.
 template <typename Texts>
 QStringList untranslated(const Texts& texts)
 {

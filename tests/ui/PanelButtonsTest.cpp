@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Buttons and links that are pressed seldom, and what each of them changes.
+// Rarely used buttons and links, and their effects.
 #include "tests/ui/PanelStage.h"
 
 #include <algorithm>

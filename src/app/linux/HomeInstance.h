@@ -29,11 +29,11 @@ public:
     HomeInstance(const HomeInstance&) = delete;
     HomeInstance& operator=(const HomeInstance&) = delete;
 
-    /// Becomes the only instance; otherwise asks the other one, to show its panel if `wantsPanel`, and returns the
+    /// Becomes the only instance; otherwise asks the other one, to show its panel if wanted, and returns the
     /// outcome.
-    [[nodiscard]] std::optional<EarlyEnd> claim(bool wantsPanel)
+    [[nodiscard]] std::optional<EarlyEnd> claim(OpenPanel openPanel)
     {
-        const auto request = wantsPanel ? InstanceRequest::open : InstanceRequest::ping;
+        const auto request = openPanel == OpenPanel::yes ? InstanceRequest::open : InstanceRequest::ping;
         return secondStart(instance_.claim(request), request);
     }
     /// Sets how requests are handled from now on.

@@ -26,14 +26,14 @@ public:
         std::optional<ServedControl> control = std::nullopt;
     };
 
-    /// Becomes the only instance; otherwise asks the other one, to show its panel if `wantsPanel`, and returns the
+    /// Becomes the only instance; otherwise asks the other one, to show its panel if wanted, and returns the
     /// outcome.
-    [[nodiscard]] std::optional<EarlyEnd> claim(bool wantsPanel)
+    [[nodiscard]] std::optional<EarlyEnd> claim(OpenPanel openPanel)
     {
-        const auto start = instance_.claim(wantsPanel);
+        const auto start = instance_.claim(openPanel == OpenPanel::yes);
         if (start == OneInstance::Start::first)
             return std::nullopt;
-        if (!wantsPanel)
+        if (openPanel == OpenPanel::no)
             return runningAlready::wouldCompete();
         if (start == OneInstance::Start::besideHeadless)
             return runningAlready::withoutPanel();

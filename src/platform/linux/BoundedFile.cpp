@@ -3,13 +3,13 @@
 
 #include "base/FileDescriptor.h"
 
-#include <algorithm>
-#include <array>
-#include <cerrno>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
 
 namespace fadeloom {
 

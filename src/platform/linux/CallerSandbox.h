@@ -2,9 +2,9 @@
 // Whether a calling process is sandboxed.
 #pragma once
 
-#include <filesystem>
-
 #include <sys/types.h>
+
+#include <filesystem>
 
 namespace fadeloom {
 

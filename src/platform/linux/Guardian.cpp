@@ -3,15 +3,15 @@
 
 #include "platform/linux/GuardianWatch.h"
 
-#include <csignal>
-#include <fstream>
-#include <new>
-#include <string>
-
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <unistd.h>
+
+#include <csignal>
+#include <fstream>
+#include <new>
+#include <string>
 
 namespace fadeloom {
 namespace {

@@ -7,10 +7,10 @@
 // continues together with it.
 #pragma once
 
+#include <sys/types.h>
+
 #include <atomic>
 #include <cstdint>
-
-#include <sys/types.h>
 
 namespace fadeloom {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/GuardianWatch.h"
 
-#include <cerrno>
-#include <thread>
-
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <thread>
 
 namespace fadeloom {
 namespace {

@@ -2,13 +2,13 @@
 // The parent of a guarded program: sleeps until a signal arrives.
 #pragma once
 
+#include <sys/types.h>
+
 #include <atomic>
 #include <chrono>
 #include <csignal>
 #include <cstdint>
 #include <optional>
-
-#include <sys/types.h>
 
 namespace fadeloom {
 

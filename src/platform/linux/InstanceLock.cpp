@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/InstanceLock.h"
 
-#include <cerrno>
-#include <utility>
-
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <utility>
 
 namespace fadeloom {
 namespace {

@@ -2,14 +2,14 @@
 // Requests between instances of the program, and their replies.
 #pragma once
 
+#include <sys/types.h>
+
 #include <array>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include <sys/types.h>
 
 namespace fadeloom {
 

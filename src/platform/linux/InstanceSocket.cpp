@@ -9,11 +9,10 @@
 #include <QPointer>
 #include <QTimer>
 #include <QVariant>
+#include <sys/socket.h>
 
 #include <string>
 #include <utility>
-
-#include <sys/socket.h>
 
 namespace fadeloom {
 

@@ -4,11 +4,11 @@
 
 #include "platform/linux/Variables.h"
 
+#include <sys/types.h>
+
 #include <filesystem>
 #include <string>
 #include <vector>
-
-#include <sys/types.h>
 
 namespace fadeloom {
 

@@ -10,11 +10,10 @@
 
 #include <QFile>
 #include <QProcess>
+#include <unistd.h>
 
 #include <set>
 #include <utility>
-
-#include <unistd.h>
 
 namespace fadeloom {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/ProgramFiles.h"
 
+#include <unistd.h>
+
 #include <fstream>
 #include <utility>
-
-#include <unistd.h>
 
 namespace fadeloom {
 

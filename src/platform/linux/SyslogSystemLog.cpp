@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/SyslogSystemLog.h"
 
+#include <syslog.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <string>
 #include <utility>
-
-#include <syslog.h>
 
 namespace fadeloom {
 

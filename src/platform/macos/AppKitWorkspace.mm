@@ -6,11 +6,10 @@
 #include "platform/macos/OneInstance.h"
 
 #import <AppKit/AppKit.h>
+#include <unistd.h>
 
 #include <bit>
 #include <utility>
-
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

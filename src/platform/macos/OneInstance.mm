@@ -2,16 +2,15 @@
 #include "platform/macos/OneInstance.h"
 
 #import <Foundation/Foundation.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <system_error>
 #include <thread>
 #include <utility>
-
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

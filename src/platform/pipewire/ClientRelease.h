@@ -8,9 +8,9 @@
 
 #include "platform/pipewire/Graph.h"
 
-#include <cstdint>
-
 #include <sys/types.h>
+
+#include <cstdint>
 
 namespace fadeloom {
 

@@ -17,8 +17,11 @@ GraphID idOf(const GraphProperties& properties, std::string_view key)
     return static_cast<GraphID>(numberOf(properties, key).value_or(none));
 }
 
-std::vector<GraphPort> portsOf(const Graph& graph, GraphID nodeID, bool isOutput)
+enum class Direction { input, output };
+
+std::vector<GraphPort> portsOf(const Graph& graph, GraphID nodeID, Direction direction)
 {
+    const bool isOutput = direction == Direction::output;
     std::vector<GraphPort> ports;
     for (const auto& [id, port] : graph.ports) {
         if (port.nodeID == nodeID && port.isOutput == isOutput && !port.isMonitor && port.isAudio)
@@ -113,12 +116,12 @@ const GraphNode* Graph::nodeWithSerial(GraphSerial serial) const
 
 std::vector<GraphPort> Graph::outputPorts(GraphID nodeID) const
 {
-    return portsOf(*this, nodeID, true);
+    return portsOf(*this, nodeID, Direction::output);
 }
 
 std::vector<GraphPort> Graph::inputPorts(GraphID nodeID) const
 {
-    return portsOf(*this, nodeID, false);
+    return portsOf(*this, nodeID, Direction::input);
 }
 
 const GraphLink* Graph::link(GraphID outputPort, GraphID inputPort) const

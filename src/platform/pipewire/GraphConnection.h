@@ -10,13 +10,13 @@
 #include "platform/pipewire/Heartbeat.h"
 #include "platform/pipewire/LoopTimer.h"
 
+#include <spa/utils/hook.h>
+
 #include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
-
-#include <spa/utils/hook.h>
 
 struct pw_context;
 struct pw_core;

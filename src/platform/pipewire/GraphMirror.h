@@ -7,6 +7,8 @@
 #include "platform/pipewire/LoopTimer.h"
 #include "platform/pipewire/MetadataBinding.h"
 
+#include <spa/utils/hook.h>
+
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -14,8 +16,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include <spa/utils/hook.h>
 
 struct pw_core;
 struct pw_loop;

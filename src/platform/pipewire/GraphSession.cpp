@@ -2,13 +2,12 @@
 #include "platform/pipewire/GraphSession.h"
 
 #include <pipewire/thread-loop.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <thread>
-
-#include <unistd.h>
 
 namespace fadeloom {
 

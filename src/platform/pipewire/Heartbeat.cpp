@@ -3,14 +3,13 @@
 
 #include <pipewire/data-loop.h>
 #include <pipewire/loop.h>
+#include <pthread.h>
+#include <unistd.h>
 
 #include <ctime>
 #include <fstream>
 #include <string>
 #include <utility>
-
-#include <pthread.h>
-#include <unistd.h>
 
 namespace fadeloom {
 

@@ -2,13 +2,13 @@
 // Detects when the thread that all audio runs through stalls.
 #pragma once
 
+#include <sys/types.h>
+
 #include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <ctime>
 #include <functional>
-
-#include <sys/types.h>
 
 struct pw_data_loop;
 struct pw_loop;

@@ -2,6 +2,8 @@
 #include "platform/qt/QuitSignals.h"
 
 #include <QSocketNotifier>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <array>
 #include <atomic>
@@ -10,9 +12,6 @@
 #include <csignal>
 #include <cstdlib>
 #include <utility>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace fadeloom {
 

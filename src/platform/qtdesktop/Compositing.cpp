@@ -2,12 +2,11 @@
 #include "platform/qtdesktop/Compositing.h"
 
 #include <QGuiApplication>
+#include <xcb/xcb.h>
 
 #include <cstdlib>
 #include <memory>
 #include <string_view>
-
-#include <xcb/xcb.h>
 
 namespace fadeloom {
 namespace {

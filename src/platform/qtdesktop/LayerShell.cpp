@@ -7,12 +7,11 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <qpa/qplatformnativeinterface.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <string_view>
-
-#include <sys/mman.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

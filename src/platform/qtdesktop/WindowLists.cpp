@@ -3,13 +3,12 @@
 
 #include <QGuiApplication>
 #include <QWindow>
+#include <xcb/xcb.h>
 
 #include <array>
 #include <cstdlib>
 #include <memory>
 #include <string_view>
-
-#include <xcb/xcb.h>
 
 namespace fadeloom {
 namespace {

@@ -133,9 +133,10 @@ void SimulatedAudioWorld::setOutOfReach(AudioProcessID process, std::optional<Ou
         processesChanged.post();
 }
 
-void SimulatedAudioWorld::setUsingMic(AudioProcessID process, bool isUsingMic)
+void SimulatedAudioWorld::setUsingMic(AudioProcessID process, UsesMic usesMic)
 {
     const auto found = state_.processes.find(process);
+    const bool isUsingMic = usesMic == UsesMic::yes;
     if (found != state_.processes.end() && std::exchange(found->second.isUsingMic, isUsingMic) != isUsingMic)
         processesChanged.post();
 }

@@ -43,6 +43,8 @@ private:
     bool isSilent_ = false;
 };
 
+enum class UsesMic { no, yes };
+
 /// Thread: main.
 class SimulatedAudioWorld {
 public:
@@ -66,7 +68,7 @@ public:
     /// The same audio on each of these devices, which it has chosen itself; empty for the default output.
     void chooseOutputs(AudioProcessID process, std::vector<std::string> uids);
     void setOutOfReach(AudioProcessID process, std::optional<OutOfReach> reason);
-    void setUsingMic(AudioProcessID process, bool isUsingMic);
+    void setUsingMic(AudioProcessID process, UsesMic usesMic);
     /// The first audio process with this pid; 0 if there is none.
     [[nodiscard]] AudioProcessID audioProcessOf(ProcessID pid) const;
 

@@ -3,6 +3,8 @@
 
 #include "platform/sndfile/Pcm24.h"
 
+#include <pthread.h>
+
 #include <algorithm>
 #include <chrono>
 #include <condition_variable>
@@ -11,8 +13,6 @@
 #include <span>
 #include <system_error>
 #include <utility>
-
-#include <pthread.h>
 
 namespace fadeloom {
 

@@ -4,6 +4,8 @@
 #include "platform/sndfile/SignalBlock.h"
 #include "platform/sndfile/SndfileAudioFile.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
 #include <cassert>
@@ -11,8 +13,6 @@
 #include <cmath>
 #include <cstring>
 #include <system_error>
-
-#include <unistd.h>
 
 namespace fadeloom {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is delicate about the fast form, held against the plain one.
+// Corner cases of the fast implementation, compared with the plain one.
 #include "engine/kernels/FastRender.h"
 
 #include "tests/engine/kernels/KernelTest.h"
@@ -36,7 +36,7 @@ protected:
     {
         return {std::vector(frames, left), std::vector(frames, right)};
     }
-    /// With so many bands that are not flat.
+    /// With this many bands that are not flat.
     static EQCoefficients bands(std::size_t count)
     {
         std::vector<float> gains(10);
@@ -133,7 +133,7 @@ TEST_P(FastRenderOf, silenceRemainsSilence)
     for (int second = 0; second < 8; ++second)
         ASSERT_EQ(render(equalized(tenBands), constant(48000, 0, 0)), same);
 
-    // The plain form ends in numbers that processors are slow with.
+    // The plain implementation ends in denormals.
     EXPECT_EQ(forms->fastState().left, EQChannelState{});
     EXPECT_EQ(forms->fastState().right, EQChannelState{});
     EXPECT_EQ(render(equalized(tenBands), constant(512, -0.0F, 0)), same);
@@ -184,7 +184,7 @@ TEST_P(FastRenderOf, sectionsThatOverflowStaySilent)
 
 TEST_P(FastRenderOf, aRampThatStopsShortOfItsTargetIsExact)
 {
-    // In single precision these steps come to nothing a little below the target.
+    // In single precision these steps vanish slightly below the target.
     const float slow = onePoleCoefficient(192000, 0.05);
     startFrom({.gain = {.current = 0.5F, .coefficient = slow}, .limiter = {.release = 0.001F}});
     for (int call = 0; call < 40; ++call)

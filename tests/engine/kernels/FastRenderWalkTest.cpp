@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Long random walks, on which the fast form has to give every bit of the plain one.
+// Long random walks, on which the fast implementation must give every bit of the plain one.
 #include "engine/kernels/FastRender.h"
 
 #include "tests/engine/kernels/KernelTest.h"

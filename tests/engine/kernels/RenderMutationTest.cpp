@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The walk tells apart what differs in nothing but the order of two additions: whoever rewrites a section sees it fail.
+// The walk detects a mere change in the order of two additions, as an accidental rewrite of a section would make.
 #include "engine/kernels/VectorKernels.h"
 
 #include "tests/engine/kernels/RenderWalk.h"

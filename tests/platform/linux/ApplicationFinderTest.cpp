@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The traces by which a process is known, and which of them wins.
+// The evidence that identifies a process's application, and its precedence.
 #include "tests/platform/linux/ApplicationFinderStage.h"
 
 #include <gmock/gmock.h>

@@ -38,7 +38,7 @@ protected:
         content << std::ifstream{entry, std::ios::binary}.rdbuf();
         return content.str();
     }
-    /// An entry that someone else wrote.
+    /// An entry written by another program.
     void putEntry(const std::string& keys) const
     {
         put(entry, "[Desktop Entry]\nType=Application\nExec=" + program.string() + "\n" + keys);

@@ -118,7 +118,7 @@ TEST(ParseExec, skipsTheEnvironment)
 TEST(ExecValue, isQuotedAndThenEscaped)
 {
     EXPECT_EQ(execValue("/usr/bin/player"), R"("/usr/bin/player")");
-    // As the format says: four backslashes for one, and two before what the quotes would give a meaning to.
+    // As specified: four backslashes for one, and two before a character that is special in quotes.
     EXPECT_EQ(execValue(R"(/a b/"$`\%U)"), R"("/a b/\\"\\$\\`\\\\%%U")");
     EXPECT_EQ(execValue("a\nb\tc\rd"), R"("a\nb\tc\rd")");
 }

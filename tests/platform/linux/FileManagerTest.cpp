@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Files are shown over a real message bus, by a file manager of the test's own.
+// Showing files over a real message bus, with the test's own file manager.
 #include "platform/linux/FileManager.h"
 
 #include "platform/linux/FileUri.h"
@@ -21,8 +21,7 @@
 #include <fstream>
 #include <sstream>
 
-// Qt and what it stands on are built without the thread sanitizer, which therefore does not see that what they hand
-// from thread to thread is handed over.
+// Qt and its dependencies are built without the thread sanitizer, which therefore does not see their synchronization.
 extern "C" const char* __tsan_default_suppressions();
 extern "C" const char* __tsan_default_options();
 extern "C" const char* __tsan_default_suppressions()
@@ -49,7 +48,7 @@ using ::testing::IsEmpty;
 
 class FileManagerTest : public ::testing::Test {
 protected:
-    /// Installs an "xdg-open" that writes down what it was given.
+    /// Installs an "xdg-open" that records its arguments.
     void installOpener() const
     {
         const auto program = programs() / "xdg-open";
@@ -61,7 +60,7 @@ protected:
     }
     fs::path programs() const { return folder.path() / "bin"; }
     fs::path opened() const { return folder.path() / "opened"; }
-    /// Its arguments as it got them, with their count; empty until it has run.
+    /// Its arguments, with their count; empty until it has run.
     std::string openerArguments() const
     {
         std::ostringstream content;
@@ -182,7 +181,7 @@ TEST_F(FileManagerTest, withoutABusTheFolderIsOpened)
 
 TEST_F(FileManagerTest, withoutASessionTheFolderIsOpened)
 {
-    // In a process of its own: where the bus is, is looked up once.
+    // In a separate process: the address of the bus is looked up once.
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const auto revealWithoutSession = [this] {
         for (const auto* const variable : {"DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "DISPLAY"})

@@ -1,21 +1,19 @@
 // SPDX-License-Identifier: MIT
-// Commands that other programs give through the socket.
-#include "tests/platform/linux/InstanceStage.h"
-
+// Commands from other programs through the socket.
 #include "base/Subscription.h"
 #include "platform/linux/InstanceSocket.h"
+#include "tests/platform/linux/InstanceStage.h"
 
 #include <QLocalSocket>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {
@@ -50,7 +48,7 @@ protected:
         EXPECT_TRUE(made->waitForConnected(2000));
         return made;
     }
-    /// What comes back for the bytes within a moment.
+    /// The replies to the bytes within a moment.
     static std::string answer(QLocalSocket& socket, const QByteArray& bytes)
     {
         socket.write(bytes);
@@ -162,7 +160,8 @@ TEST_F(InstanceCommandTest, toWatchThatAreRefusedEndTheConnection)
 
 TEST_F(InstanceCommandTest, aWatcherThatDoesNotReadIsDroppedWithoutBlocking)
 {
-    const int silent = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);  // Qt's would read by itself.
+    // Qt's socket would read on its own.
+    const int silent = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     std::ranges::copy((folder.path() / "fadeloom.socket").native(), address.sun_path);

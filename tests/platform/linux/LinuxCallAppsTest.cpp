@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The well-known call apps of Linux, all of them, and the web apps that count as one of them.
+// All known call apps of Linux, and the web apps that count as one of them.
 #include "platform/linux/LinuxCallApps.h"
 
 #include "platform/linux/CallAppCatalogue.h"
@@ -16,10 +16,10 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// The catalogue as it is told to the user, who has some of it installed.
+/// The documented catalogue, some of which is installed.
 class LinuxCallAppsTest : public ::testing::Test {
 protected:
-    /// Which app a desktop entry belongs to; empty for none.
+    /// The app that a desktop entry belongs to; empty if there is none.
     std::string appOf(const std::string& id, const std::string& keys)
     {
         auto entry = parseDesktopEntry("[Desktop Entry]\nType=Application\n" + keys, {});

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Applications as the workspace tells them, over a tree of its own.
+// Applications as reported by the workspace, over a fake tree.
 #include "platform/linux/LinuxWorkspace.h"
 
 #include "platform/linux/FileManager.h"

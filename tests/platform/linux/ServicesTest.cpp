@@ -8,11 +8,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <fstream>
-
 #include <pwd.h>
 #include <unistd.h>
+
+#include <fstream>
 
 namespace fadeloom {
 namespace {
@@ -27,7 +26,7 @@ TEST(XdgFolders, settingsFolderIsTheOneTheVariableNames)
 TEST(XdgFolders, settingsFolderIsBelowHomeOtherwise)
 {
     EXPECT_EQ(XdgFolders{variables({{"HOME", "/home/anna"}})}.applicationSupport(), "/home/anna/.config");
-    // A relative path means nothing, by the rules of these variables.
+    // A relative path is ignored, according to the specification.
     EXPECT_EQ(
         XdgFolders{variables({{"HOME", "/home/anna"}, {"XDG_CONFIG_HOME", "settings"}})}.applicationSupport(),
         "/home/anna/.config");
@@ -57,7 +56,7 @@ TEST(XdgFolders, musicFolderIsTheOneTheUserChose)
 
 TEST(XdgFolders, musicFolderIsNotTakenFromAVariable)
 {
-    // The file alone decides: what a session inherits of it may be older.
+    // Only the file counts: inherited variables may be out of date.
     const XdgFolders folders{
         variables({{"HOME", "/home/anna"}, {"XDG_CONFIG_HOME", "/none"}, {"XDG_MUSIC_DIR", "/music"}})};
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Instances that meet on a real message bus.
+// Instances that communicate over a real message bus.
 #include "tests/platform/linux/InstanceStage.h"
 
 #include <QDBusConnection>
@@ -19,7 +19,7 @@ class SingleInstanceBusTest : public InstanceStage {
 protected:
     SingleInstanceBusTest() { EXPECT_EQ(instance->claim(InstanceRequest::open), Start::first); }
 
-    /// Anybody else on the bus calls a method of ours.
+    /// Another bus client calls one of our methods.
     static QDBusMessage call(
         const std::string& method, const QString& interface = QStringLiteral("com.fadeloom.app"))
     {
@@ -44,7 +44,7 @@ protected:
         QDBusConnection::disconnectFromBus(QStringLiteral("looker"));
         return isTaken;
     }
-    /// Takes the other way to our instance away.
+    /// Removes the other way to reach our instance.
     void removeSocket() const { std::filesystem::remove(folder.path() / "fadeloom.socket"); }
 
     PrivateBus bus{busFolder};
@@ -116,7 +116,7 @@ TEST_F(SingleInstanceBusTest, oneThatDoesNotReplyTimesOutAfterTwoSeconds)
 {
     const auto begin = std::chrono::steady_clock::now();
 
-    EXPECT_EQ(startAnother().get(), Start::unanswered);  // While our event loop stands still.
+    EXPECT_EQ(startAnother().get(), Start::unanswered);  // While our event loop is blocked.
 
     EXPECT_GE(std::chrono::steady_clock::now() - begin, 1900ms);
 }
@@ -140,7 +140,7 @@ TEST_F(SingleInstanceBusTest, theNameIsUniqueAcrossRuntimeFolders)
     EXPECT_FALSE(std::filesystem::exists(elsewhere.path() / "fadeloom.lock"));
 }
 
-/// A program that has nothing to do with us has our name on the bus.
+/// An unrelated program owns our name on the bus.
 class StrangerOnTheBusTest : public InstanceStage {
 protected:
     StrangerOnTheBusTest()

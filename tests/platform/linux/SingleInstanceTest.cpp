@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Instances that meet without a session bus.
+// Instances that communicate without a session bus.
 #include "tests/platform/linux/InstanceStage.h"
 
 #include <QLocalSocket>
 #include <QSysInfo>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <functional>
 #include <initializer_list>
-
-#include <sys/stat.h>
 
 namespace fadeloom {
 namespace {
@@ -106,7 +105,7 @@ TEST_F(SingleInstanceTest, oneThatDoesNotReplyTimesOutAfterTwoSeconds)
     serve(first());
     const auto begin = std::chrono::steady_clock::now();
 
-    EXPECT_EQ(startAnother().get(), Start::unanswered);  // While our event loop stands still.
+    EXPECT_EQ(startAnother().get(), Start::unanswered);  // While our event loop is blocked.
 
     const auto waited = std::chrono::steady_clock::now() - begin;
     EXPECT_GE(waited, 1900ms);
@@ -115,7 +114,7 @@ TEST_F(SingleInstanceTest, oneThatDoesNotReplyTimesOutAfterTwoSeconds)
 
 TEST_F(SingleInstanceTest, whatACrashLeftBehindIsIgnored)
 {
-    // The process of this number has long ended, and nobody listens.
+    // The process with this pid has long exited, and nobody listens.
     std::ofstream{folder.path() / "fadeloom.lock"} << "999999999\nfadeloom\n"
                                                    << QSysInfo::machineHostName().toStdString() << "\n";
     std::ofstream{folder.path() / "fadeloom.socket"} << "";

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Safe texts, and what names of systemd units tell.
+// Sanitized texts, and parsing the names of systemd units.
 #include "platform/linux/SafeText.h"
 #include "platform/linux/UnitNames.h"
 
@@ -24,9 +24,9 @@ TEST(SafeText, replacesControlsAndInvalidText)
     EXPECT_EQ(safeText("a\nb\x1b[0m\x7f"), "a b [0m ");
     EXPECT_EQ(safeText("\xc2\x85"), " ");
     EXPECT_EQ(safeText("a\xff\xc3"), "a??");
-    EXPECT_EQ(safeText("\xc0\xaf"), "??");  // A slash in two bytes.
-    EXPECT_EQ(safeText("\xed\xa0\x80"), "???");  // Half of a pair.
-    EXPECT_EQ(safeText("\xf4\x90\x80\x80"), "????");  // Beyond the last character.
+    EXPECT_EQ(safeText("\xc0\xaf"), "??");  // An overlong slash.
+    EXPECT_EQ(safeText("\xed\xa0\x80"), "???");  // Half of a surrogate pair.
+    EXPECT_EQ(safeText("\xf4\x90\x80\x80"), "????");  // Beyond the last code point.
     EXPECT_EQ(safeText("\xe0\x80\xaf\xf0\x80\x80\xaf"), "???????");
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Web apps: which page they show, and how their processes are told from those of their browser.
+// Web apps: the page they show, and how their processes are distinguished from those of their browser.
 #include "platform/linux/WebPage.h"
 
 #include "tests/platform/linux/ApplicationFinderStage.h"

@@ -77,7 +77,7 @@ TEST_F(CarriersTest, theOutputOfAnEffectThatOwnsASinkIsOne)
     nodeOf(one, "Audio/Sink");
 
     EXPECT_TRUE(isCarrier(output));
-    EXPECT_FALSE(isCarrier(others));  // Of the same process, as all virtual sinks of pipewire-pulse are.
+    EXPECT_FALSE(isCarrier(others));  // Of the same process, like all virtual sinks of pipewire-pulse.
 }
 
 TEST_F(CarriersTest, aHalfWhoseOtherHalfHasNotAppearedIsOne)
@@ -86,7 +86,7 @@ TEST_F(CarriersTest, aHalfWhoseOtherHalfHasNotAppearedIsOne)
     EXPECT_TRUE(isCarrier(playback));
 
     nodeOf(one, "Stream/Output/Audio", "loopback-1-1");
-    EXPECT_FALSE(isCarrier(playback));  // Two that play are no way through.
+    EXPECT_FALSE(isCarrier(playback));  // Two output streams forward nothing.
 }
 
 TEST_F(CarriersTest, devicesAreNotCarriers)

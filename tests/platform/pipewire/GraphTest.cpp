@@ -39,7 +39,7 @@ TEST(Graph, portsComeInTheirOrderWithoutMonitorsAndOtherMedia)
     world.port(sink, "FL", true, true);
     const auto midi = world.port(sink, "MIDI");
     world.graph.ports[midi].isAudio = false;
-    world.graph.ports.begin()->second.index = 99;  // FL, the first to appear, has the highest number.
+    world.graph.ports.begin()->second.index = 99;  // FL, the first to appear, has the highest index.
 
     const auto ports = world.graph.inputPorts(sink);
 

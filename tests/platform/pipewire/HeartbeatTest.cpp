@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pipewire/Heartbeat.h"
 
+#include <gtest/gtest.h>
 #include <pipewire/data-loop.h>
 #include <pipewire/loop.h>
 #include <pipewire/pipewire.h>
-
-#include <gtest/gtest.h>
+#include <sched.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <chrono>
@@ -13,15 +14,12 @@
 #include <thread>
 #include <vector>
 
-#include <sched.h>
-#include <unistd.h>
-
 namespace fadeloom {
 namespace {
 
 using namespace std::chrono_literals;
 
-/// The calling thread runs on the first processor alone.
+/// Pins the calling thread to the first processor.
 void useOneProcessor()
 {
     cpu_set_t first;
@@ -53,7 +51,7 @@ protected:
         pw_loop_destroy(loop);
     }
 
-    /// Until then, what the data loop is asked to do is done at once by whoever asks.
+    /// Until then, calls to the data loop run immediately on the caller.
     void waitForItsThread() const
     {
         std::atomic<pid_t> thread = gettid();
@@ -72,7 +70,7 @@ protected:
         while (std::chrono::steady_clock::now() < end)
             pw_loop_iterate(loop, 10);
     }
-    /// The data loop's thread does nothing until `isFrozen` is false.
+    /// Blocks the data loop's thread until `isFrozen` is false.
     void freeze()
     {
         isFrozen = true;

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pipewire/OpenFiles.h"
 
-#include <gtest/gtest.h>
-
-#include <vector>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <unistd.h>
+
+#include <vector>
 
 namespace fadeloom {
 namespace {
@@ -26,7 +25,7 @@ TEST(OpenFiles, roomForATapIsLeftWhileTheReserveIsNotTouched)
         opened.push_back(open("/dev/null", O_RDONLY | O_CLOEXEC));
     const auto atTheEdge = files.limitWithoutRoom(1);
     const int next = opened.empty() ? 0 : opened.back();
-    for (int file = 0; file >= 0;)  // All that there are.
+    for (int file = 0; file >= 0;)  // Until none are left.
         opened.push_back(file = open("/dev/null", O_RDONLY | O_CLOEXEC));
     const auto withNoneLeft = files.limitWithoutRoom(1);
     for (const int file : opened)

@@ -21,7 +21,7 @@ protected:
                 .isHeld = [](const GraphNode&) { return false; },
                 .isLeftAlone = [](const GraphNode&) { return false; }});
     }
-    // A process of its own with one stream.
+    // A separate process with one stream.
     GraphID player(const std::string& target = {}, int pid = 0)
     {
         const auto client = world.nativeClient(pid ? pid : nextPid++);
@@ -30,7 +30,7 @@ protected:
             properties.insert({"target.object", target});
         return world.stream(client, GraphNode::State::running, std::move(properties));
     }
-    // One more stream of the process, which captures what a device plays.
+    // Another stream of the process, which captures a device's output.
     void capture(GraphID player, GraphID device)
     {
         const auto client = *world.graph.node(player)->clientID();
@@ -139,7 +139,7 @@ TEST_F(StreamRoutingTest, aStreamThatCapturesADeviceIsNotRoutedBackToIt)
 
 TEST_F(StreamRoutingTest, aStreamAlreadyPlayingToTheDeviceItCapturesKeepsItsTap)
 {
-    // A call that shares the sound of its own device.
+    // A call that shares the audio of its own device.
     const auto stream = player();
     capture(stream, speakers);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Answers that are none.
+// Failed and invalid responses.
 #include "tests/platform/qt/HttpClientStage.h"
 
 namespace fadeloom {
@@ -59,7 +59,7 @@ TEST_F(HttpClientFailureTest, aLargerOneIsRefusedWhileItArrives)
     EXPECT_EQ(statusOf(server.url("/flood")), nothing);
 
     EXPECT_TRUE(waitUntil([&] { return server.disconnections() == 1; }));
-    EXPECT_LT(flooded, 32 * 1024 * 1024);  // What the system holds on the way.
+    EXPECT_LT(flooded, 32 * 1024 * 1024);  // The amount buffered by the system.
 }
 
 }  // namespace

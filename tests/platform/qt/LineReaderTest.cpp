@@ -3,16 +3,14 @@
 #include "platform/qt/QtMainLoop.h"
 
 #include <QCoreApplication>
-
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <array>
 #include <string>
 #include <vector>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

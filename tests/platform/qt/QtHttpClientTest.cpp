@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Requests to a real server, over the loopback device.
+// Requests to a real server over the loopback interface.
 #include "tests/platform/qt/HttpClientStage.h"
 
 #include <QLocale>

@@ -15,7 +15,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// While one lives, the user speaks this language.
+/// While an instance exists, this is the user's language.
 class Language {
 public:
     explicit Language(const char* locale) { QLocale::setDefault(QLocale{QString{locale}}); }
@@ -50,7 +50,7 @@ TEST(QtText, doesNotFollowTheLanguageOfTheInterface)
 {
     const QtText text;
 
-    EXPECT_EQ(text.lowercased("TITLE"), "title");  // A Turkish interface would make another letter of the I.
+    EXPECT_EQ(text.lowercased("TITLE"), "title");  // A Turkish interface would convert the I differently.
     EXPECT_EQ(text.lowercased("İ").substr(0, 1), "i");
 }
 

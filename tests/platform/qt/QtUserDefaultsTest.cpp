@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/QtUserDefaults.h"
-
 #include "tests/platform/UserDefaultsContract.h"
 #include "tests/support/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"
 
+#include <sys/stat.h>
+
 #include <fstream>
 #include <sstream>
-
-#include <sys/stat.h>
 
 namespace fadeloom {
 namespace {

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/QuitSignals.h"
-
 #include "platform/qt/QtMainLoop.h"
 
 #include <QCoreApplication>
-
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <csignal>
-
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {

@@ -18,7 +18,7 @@ const ScreenArea barAtBottom{whole, {0, 0, 1280, 776}};
 const ScreenArea barAtLeft{whole, {24, 0, 1256, 800}};
 const ScreenArea barAtRight{whole, {0, 0, 1256, 800}};
 const ScreenArea barsUnknown{whole, whole};
-// To its right: at scale 1.5, with a bar of its own at the bottom.
+// To its right: at scale 1.5, with a separate bar at the bottom.
 const ScreenArea second{{1280, 0, 1280, 720}, {1280, 0, 1280, 690}, 1.5};
 
 struct Case {

@@ -28,7 +28,7 @@ class QtDialogsTest : public ::testing::Test {
 protected:
     QtDialogsTest() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
-    /// The window of this kind that is open; null for none.
+    /// The open window of this kind; null if there is none.
     template <typename Window>
     static Window* open()
     {

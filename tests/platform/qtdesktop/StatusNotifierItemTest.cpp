@@ -29,7 +29,7 @@ QIcon picture(const QColor& color, const QList<int>& sizes)
     return icon;
 }
 
-/// Hears the signals of an icon.
+/// Receives the signals of an icon.
 class Ear : public QObject {
     Q_OBJECT
 

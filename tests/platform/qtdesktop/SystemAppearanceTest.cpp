@@ -43,7 +43,7 @@ const QDBusArgument& operator>>(const QDBusArgument& from, Color& color)
     return from;
 }
 
-/// The settings of a desktop, as its portal has them.
+/// A desktop's settings, as provided by its portal.
 class Portal : public QDBusVirtualObject {
 public:
     explicit Portal(const QDBusConnection& bus)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Audio files in memory keep the contract of audio files, and fail when they are told to.
+// The contract of audio files for those in memory, and fault injection.
 #include "platform/simulated/SimulatedAudioFiles.h"
 
 #include "tests/platform/AudioFilesContract.h"
@@ -10,7 +10,7 @@
 namespace fadeloom {
 namespace {
 
-// What 24 bits leave of a sample.
+// A sample rounded to 24 bits.
 std::int32_t stepOf(float sample)
 {
     if (std::isnan(sample))

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Details of the simulated audio system that the common contract does not reach.
+// Details of the simulated audio system beyond the common contract.
 #include "platform/simulated/SimulatedPlatform.h"
 #include "tests/platform/AudioReading.h"
 #include "tests/platform/ContractTap.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Applications, consent and the smaller parts of the simulated world.
+// Applications, permission and the smaller parts of the simulation.
 #include "platform/simulated/SimulatedPlatform.h"
 #include "tests/platform/AudioReading.h"
 

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sndfile/DiskFile.h"
-
 #include "tests/platform/sndfile/ChildProcess.h"
 #include "tests/platform/sndfile/WaveReading.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <csignal>
-
-#include <sys/stat.h>
 
 namespace fadeloom {
 namespace {
@@ -100,7 +98,7 @@ TEST_F(DiskFileTest, keepsWhatFitsAndTheFirstFailure)
         EXPECT_EQ(file->write(0, bytes("hello world")), 5U);
         EXPECT_EQ(file->failure(), EFBIG);
         EXPECT_EQ(file->size(), 5U);
-        file->truncate(~std::uint64_t{0});  // Refused for another reason.
+        file->truncate(~std::uint64_t{0});  // Fails for another reason.
 
         EXPECT_EQ(file->failure(), EFBIG);
         return 0;

@@ -17,7 +17,7 @@ namespace {
 constexpr std::int32_t highestStep = 0x7FFFFF;
 constexpr std::int32_t lowestStep = -0x800000;
 
-/// A number of steps as a sample; any that a float can hold.
+/// A number of steps as a sample; any that is representable as a float.
 float steps(double count)
 {
     return static_cast<float>(std::ldexp(count, -23));
@@ -87,10 +87,10 @@ TEST(Pcm24, everyStepRoundTrips)
 TEST(Pcm24, anyBitsAreConvertedByTheRules)
 {
     std::mt19937 random{1};
-    std::vector<float> samples(1'000'003);  // No multiple of what a vector holds.
+    std::vector<float> samples(1'000'003);  // Not a multiple of a vector's size.
     std::ranges::generate(
         samples, [&] { return std::bit_cast<float>(static_cast<std::uint32_t>(random())); });
-    // Most of the bits above are tiny or huge; these are what sound is made of.
+    // Most of the bit patterns above are tiny or huge; these are typical of audio.
     for (std::size_t i = 0; i < samples.size(); i += 2)
         samples[i] = std::uniform_real_distribution<float>{-1.1F, 1.1F}(random);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Making files and closing them.
+// Creating and closing files.
 #include "tests/platform/sndfile/SndfileStage.h"
 
 #include <cerrno>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Handing samples over, and the thread that writes them.
+// Writing samples, and the thread that writes them to disk.
 #include "base/RealTime.h"
 #include "tests/platform/sndfile/SndfileStage.h"
 #include "tests/support/RealTimeGuard.h"
 
-#include <set>
-
 #include <sched.h>
+
+#include <set>
 
 namespace fadeloom {
 namespace {
@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 using SndfileWriterTest = SndfileTest;
 
-/// Ids of this program's threads that write files.
+/// Ids of this program's writer threads.
 std::set<pid_t> writers()
 {
     std::set<pid_t> found;
@@ -122,7 +122,7 @@ TEST_F(SndfileWriterTest, threadsWriteTheirFilesAtTheSameTime)
                 for (std::uint64_t cycle = 0; cycle < cycles; ++cycle) {
                     EXPECT_TRUE(opened[i]->write(samples(1'000'000 * i + 480 * cycle, 480)));
                     std::this_thread::sleep_for(
-                        std::chrono::milliseconds{2});  // Through several rounds of writing.
+                        std::chrono::milliseconds{2});  // Across several wakeups of the writer.
                 }
             });
     }
