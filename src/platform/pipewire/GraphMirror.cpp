@@ -3,9 +3,14 @@
 
 #include "platform/pipewire/ClientRelease.h"
 
+#include <pipewire/client.h>
 #include <pipewire/core.h>
 #include <pipewire/extensions/metadata.h>
+#include <pipewire/link.h>
+#include <pipewire/node.h>
+#include <pipewire/port.h>
 #include <pipewire/proxy.h>
+#include <pipewire/type.h>
 
 #include <chrono>
 #include <cstring>
