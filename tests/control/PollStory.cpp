@@ -162,6 +162,17 @@ TEST_F(PollStory, rowsCarryTheAppsIcon)
     EXPECT_EQ(state().apps->at(1).icon, icon);
 }
 
+TEST_F(PollStory, anIconIsLookedUpOnceWhileItsAppRuns)
+{
+    launchPlaying("Player");
+    launchPlaying("Browser");
+    EXPECT_EQ(world.workspace().iconCount(), 2);
+
+    world.advance(3 * AudioController::pollInterval);
+
+    EXPECT_EQ(world.workspace().iconCount(), 2);
+}
+
 TEST_F(PollStory, aNewIconIsShownWhenTheAppReturns)
 {
     const auto player = launchPlaying("Player");

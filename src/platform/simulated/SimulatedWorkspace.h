@@ -28,6 +28,7 @@ public:
     std::string ownBundleID() const override { return "com.fadeloom.app"; }
     std::vector<RunningApplication> runningApplications() const override;
     std::optional<RunningApplication> runningApplication(ProcessID pid) const override;
+    void findIcon(const RunningApplication& application, std::function<void(const AppIcon&)> found) override;
     bool isTerminated(const RunningApplication& application) const override;
     std::optional<ProcessID> responsiblePid(ProcessID pid) const override;
     /// True for locations that end in ".app".
@@ -57,6 +58,8 @@ public:
 
     /// The number of queries for running applications.
     [[nodiscard]] int listCount() const { return listCount_; }
+    /// The number of icons asked for.
+    [[nodiscard]] int iconCount() const { return iconCount_; }
     /// All files shown, in order.
     [[nodiscard]] const std::vector<std::filesystem::path>& revealed() const { return revealed_; }
     /// All URLs opened, in order.
@@ -75,6 +78,7 @@ private:
     std::uint64_t launchCount_ = 0;
     std::map<ProcessID, Process> processes_;
     mutable int listCount_ = 0;
+    int iconCount_ = 0;
     std::vector<std::filesystem::path> revealed_;
     std::vector<std::string> opened_;
     std::map<std::string, std::string> installed_;
