@@ -167,7 +167,8 @@ void dropEnvironment(std::vector<std::string>& command)
         return;
     const auto program = std::find_if(command.begin() + 1, command.end(),
         [](const std::string& argument) { return argument.find('=') == std::string::npos; });
-    command.erase(command.begin(), program);
+    if (program != command.end())  // Else "env" is the program.
+        command.erase(command.begin(), program);
 }
 
 }  // namespace
