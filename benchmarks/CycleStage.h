@@ -2,9 +2,9 @@
 // A renderer driven in its own cycles: buffers, settings, and a recording that nobody reads.
 #pragma once
 
-#include "engine/kernels/RenderChoice.h"
 #include "engine/Renderer.h"
 #include "engine/TapParameters.h"
+#include "engine/kernels/RenderChoice.h"
 
 #include <array>
 #include <cmath>

@@ -2,8 +2,8 @@
 // The cases that the render path is measured with.
 #pragma once
 
-#include "engine/kernels/FastRender.h"
 #include "engine/PlainRender.h"
+#include "engine/kernels/FastRender.h"
 #include "engine/kernels/RenderKernels.h"
 
 #include <algorithm>

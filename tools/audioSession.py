@@ -170,8 +170,17 @@ class AudioSession:
         for name in reversed(list(self.processes)):
             with contextlib.suppress(ProcessLookupError):
                 self.end(name, seconds=3.0)
+        self._endOrphans()
         if self.ownsFolder:
             shutil.rmtree(self.folder, ignore_errors=True)
+
+    def _endOrphans(self):
+        """Kills what the session's processes have left behind: everything with this session's runtime folder."""
+        mark = f"XDG_RUNTIME_DIR={self.environment['XDG_RUNTIME_DIR']}".encode()
+        for folder in pathlib.Path("/proc").glob("[0-9]*"):
+            with contextlib.suppress(OSError):
+                if mark in (folder / "environ").read_bytes().split(b"\0"):
+                    os.kill(int(folder.name), signal.SIGKILL)
 
     # Devices
 

@@ -18,7 +18,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
 SOME_FAILED = 1  # pytest's exit status; it has another one if no test ran.
 SPECIAL = ("pipewire", "week", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks",
-           "trixie")
+           "trixie", "mutations")
 OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdesktop", "src/platform/sndfile",
             "src/app/linux", "src/ctl")
 # The programs used by the suites with real players.
@@ -277,6 +277,7 @@ def runChecks(tally, isLong):
     for name, tool in (("layers", "checkLayers"), ("conventions", "checkConventions"), ("commits", "checkCommits"),
                        ("sizes", "checkSizes"), ("views", "checkQml"), ("manual pages", "checkManPages")):
         tally.add(f"checks: {name}", run("/usr/bin/python3", f"tools/{tool}.py", quiet=True) == 0)
+    runPyTest(tally, "tools", "tests/tools")
     if not isLong:
         return
     # Needs the compile commands of the non-unity build, one per source.
@@ -289,6 +290,13 @@ def runChecks(tally, isLong):
 def runTrixie(tally):
     """The suites with real players on Debian 13, with its newer session manager."""
     tally.add("trixie: pipewire", run("tools/onTrixie", "platform/pipewire", "pipewire") == 0)
+
+
+def runMutations(tally, isLong):
+    """Small faults, planted one at a time: the tests of a folder notice 95 in 100. The same ones each time."""
+    for folder in ("engine", "settings", "control", "shell", "ui"):
+        tally.add(f"mutations: {folder}", run("tools/mutate", "--folder", folder, "--count", 100 if isLong else 20,
+                                              "--seed", 1, quiet=True) == 0)
 
 
 def runWithoutPlayers(tally, isLong):
@@ -324,7 +332,7 @@ def runEverything(tally, isLong):
 
 def runSome(tally, suites, folders, isLong):
     """The named suites; `folders` are those among them that are folders of src/."""
-    if not set(suites) <= {"macos", "trixie"}:  # They have separate builds.
+    if not set(suites) <= {"macos", "trixie", "mutations"}:  # They have separate builds.
         build("test")
     if folders:
         runUnits(tally, folders)
@@ -347,6 +355,8 @@ def runSome(tally, suites, folders, isLong):
         runFuzz(tally, isLong)
     if "trixie" in suites:
         runTrixie(tally)
+    if "mutations" in suites:
+        runMutations(tally, isLong)
 
 
 def main():

@@ -19,6 +19,13 @@ namespace {
 
 constexpr std::chrono::milliseconds pause{50};
 
+/// Whether standard output is a pipe that nobody reads any more: a bar that exits leaves its commands behind.
+bool isOutputUnread()
+{
+    pollfd output{.fd = STDOUT_FILENO, .events = 0, .revents = 0};
+    return poll(&output, 1, 0) > 0 && (output.revents & POLLERR) != 0;
+}
+
 }  // namespace
 
 Client::~Client()
@@ -31,7 +38,7 @@ bool Client::connect()
 {
     const auto end = std::chrono::steady_clock::now() + wait_;
     while (!tryToConnect()) {
-        if (std::chrono::steady_clock::now() >= end)
+        if (std::chrono::steady_clock::now() >= end || isOutputUnread())
             return false;
         std::this_thread::sleep_for(pause);
     }

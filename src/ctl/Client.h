@@ -27,7 +27,8 @@ public:
     Client(const Client&) = delete;
     Client& operator=(const Client&) = delete;
 
-    /// Whether an instance is listening, immediately or within the wait.
+    /// Whether an instance is listening, immediately or within the wait, which ends early once nobody reads our
+    /// standard output any more.
     [[nodiscard]] bool connect();
     /// The one-line reply, without the line feed; nullopt if there is none in time. `request`: in the socket's
     /// protocol, such as "Run" and a command.

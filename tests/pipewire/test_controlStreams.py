@@ -6,6 +6,7 @@ import os
 import socket
 import subprocess
 import threading
+import time
 
 from audioSession import waitUntil
 from fadeloomProcess import app, settings
@@ -87,6 +88,17 @@ def test_aWatcherOutlivesTheProgramIfItIsToWait(stage):
         watcher.lines.clear()
     assert watcher.process.poll() is None
     watcher.end()
+
+
+def test_aWatcherThatNobodyReadsEndsAlsoWhileItWaits(stage):
+    process = subprocess.Popen([str(CTL), "--wait", "watch"], stdout=subprocess.PIPE, env=stage.session.environment)
+    try:
+        time.sleep(0.2)
+        assert process.poll() is None
+        process.stdout.close()
+        assert process.wait(2) == 4
+    finally:
+        process.kill()
 
 
 def test_fiftyWatchAndTheOneThatDoesNotReadIsDropped(stage):

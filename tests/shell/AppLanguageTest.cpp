@@ -81,6 +81,15 @@ TEST_F(AppLanguageTest, aListWithoutALanguageIsNotAChoice)
     EXPECT_THAT(AppLanguage::preferred(defaults), IsEmpty());
 }
 
+TEST_F(AppLanguageTest, theSystemsLanguageIsPreferredWhereItComesFirst)
+{
+    store({"system", "pl"});
+    EXPECT_THAT(AppLanguage::preferred(defaults), IsEmpty());
+
+    store({"pl", "system"});
+    EXPECT_THAT(AppLanguage::preferred(defaults), ElementsAre("pl", "system"));
+}
+
 TEST_F(AppLanguageTest, theOldInstanceEndsOnceTheNewOneWasReported)
 {
     int ends = 0;

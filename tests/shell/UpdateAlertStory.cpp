@@ -114,7 +114,6 @@ TEST_F(UpdateAlertStory, aConcurrentSilentCheckDoesNotAffectItsReport)
 
 TEST_F(UpdateAlertStory, itsTextsAreTranslated)
 {
-    std::vector<std::string> asked;
     checker.emplace(
         UpdateChecker::Product{.version = "1.3", .build = "42", .endpoint = "https://updates.example"},
         UpdateChecker::Parts{.mainLoop = world.mainLoop(),
@@ -122,13 +121,23 @@ TEST_F(UpdateAlertStory, itsTextsAreTranslated)
             .workspace = world.workspace(),
             .application = world.application(),
             .dialogs = world.dialogs(),
-            .translate = [&](const char* context, const char*) { return std::string(context) + " %1!"; }});
+            .translate = [](const char* context, const char*) { return std::string(context) + " %1!"; }});
+
+    checker->checkInteractively();
+    world.http().cutOff();
+    EXPECT_EQ(lastAlert().title, "UpdateChecker %1!");
+    EXPECT_EQ(lastAlert().text, "UpdateChecker %1!");
+
+    checker->checkInteractively();
+    feed("1.3", "42");
+    EXPECT_EQ(lastAlert().title, "UpdateChecker %1!");
+    EXPECT_EQ(lastAlert().text, "UpdateChecker %1!");
 
     checker->checkInteractively();
     feed("1.4", "43");
-
     EXPECT_EQ(lastAlert().title, "UpdateChecker 1.4!");
     EXPECT_EQ(lastAlert().text, "PlatformTexts 1.3!");
+    EXPECT_THAT(lastAlert().buttons, ElementsAre("UpdateChecker %1!", "UpdateChecker %1!"));
 }
 
 TEST_F(UpdateAlertStory, anAnswerAfterItsDestructionOpensNothing)
