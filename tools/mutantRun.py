@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Runs a test program that has a fault in it, and judges whether the tests notice."""
 
+import ctypes
 import dataclasses
 import os
 import pathlib
@@ -8,13 +9,24 @@ import re
 import resource
 import signal
 import subprocess
-import time
 
 import mutantBuild
 
 FAILED = re.compile(r"^\[  FAILED  \] ([\w/]+\.[\w/]+)", re.MULTILINE)
 RUNS = re.compile(r"^\[ RUN      \] (\S+)", re.MULTILINE)
+TIMES = re.compile(r"^\[       OK \] ([^\s,]+).*\((\d+) ms\)", re.MULTILINE)
+PATIENCE = 900  # Seconds for a program that waits: a machine that is busy with something else is no fault.
 LIMITS = {resource.RLIMIT_CORE: 0, resource.RLIMIT_FSIZE: 2 << 30, resource.RLIMIT_AS: 16 << 30}
+
+DIE_WITH_PARENT = 1  # PR_SET_PDEATHSIG
+
+
+def confine(seconds):
+    """Before a test program starts: a fault may take time and memory without end, also when we have gone."""
+    for each, most in LIMITS.items():
+        resource.setrlimit(each, (most, most))
+    resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds + 5))  # A signal that says why, then the end.
+    ctypes.CDLL(None).prctl(DIE_WITH_PARENT, signal.SIGKILL)
 
 
 @dataclasses.dataclass
@@ -29,23 +41,24 @@ class Result:
         return f"{lead}: {each.path}:{each.line}\n    {each.before}\n    {each.after}"
 
 
-def runTests(program, folder, wanted, limit):
-    """What the program prints, its status, and the seconds that it takes; no status when it takes too long."""
+def runTests(program, folder, wanted, seconds):
+    """What the program prints and its status; none when it takes more than these seconds of a processor's time."""
     folder.mkdir(parents=True, exist_ok=True)
-    started = time.monotonic()
     process = subprocess.Popen(
         [program, "--gtest_fail_fast", f"--gtest_filter={wanted}"], cwd=folder, text=True, errors="replace",
         stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, start_new_session=True,
-        env={**os.environ, "QT_QPA_PLATFORM": "offscreen"},
-        preexec_fn=lambda: [resource.setrlimit(each, (most, most)) for each, most in LIMITS.items()])
+        env={**os.environ, "QT_QPA_PLATFORM": "offscreen"}, preexec_fn=lambda: confine(seconds))
     try:
-        printed, _ = process.communicate(timeout=limit)
-        status = process.returncode
+        printed, _ = process.communicate(timeout=PATIENCE)
+        return printed, None if process.returncode == -signal.SIGXCPU else process.returncode
     except subprocess.TimeoutExpired:
         os.killpg(process.pid, signal.SIGKILL)
-        printed, _ = process.communicate()
-        status = None
-    return printed, status, time.monotonic() - started
+        return process.communicate()[0], None
+
+
+def secondsUsed():
+    use = resource.getrusage(resource.RUSAGE_CHILDREN)
+    return use.ru_utime + use.ru_stime
 
 
 class Tests:
@@ -53,23 +66,29 @@ class Tests:
 
     def __init__(self, program):
         self.program = program
-        self.limit = None
-        printed, status, self.seconds = runTests(program.path, mutantBuild.HOME / "work" / program.folder,
-                                                 "-*LongForm.*", 600)
+        before = secondsUsed()
+        printed, status = runTests(program.path, mutantBuild.HOME / "work" / program.folder, "-*LongForm.*", PATIENCE)
+        self.seconds = secondsUsed() - before
         self.names = RUNS.findall(printed)
         self.failures = sorted(set(FAILED.findall(printed))) or ([] if status == 0 else [printed[-2000:]])
+        times = {name: int(time) for name, time in TIMES.findall(printed)}
+        self.slow = [name for name, time in times.items() if time > max(200, sum(times.values()) / 20)]
         self.suites = sorted({name.split(".")[0] for name in self.names})
         self.killers = {}  # By source: the tests that noticed its last faults.
 
     def judge(self, mutation, folder):
-        """Plants the fault in `folder` and runs the tests: those first that are most likely to notice."""
+        """Plants the fault in `folder` and runs the tests: those first that are most likely to notice, the slow ones
+        last."""
         text = (mutantBuild.SOURCE / mutation.path).read_text(encoding="utf-8")
         program = self.program.make(mutation.path, mutation.applied(text), folder)
         if program is None:
             return Result(mutation, "broken")
-        likely = [*self.killers.get(mutation.path, ()), *self.suitesOf(mutation.path)]
-        parts = [":".join(likely) + "-*LongForm.*"] if likely else []
-        parts.append("-" + ":".join(["*LongForm.*", *likely]))
+        likely = ":".join([*self.killers.get(mutation.path, ()), *self.suitesOf(mutation.path)])
+        slow = ":".join(["*LongForm.*", *self.slow])
+        parts = [f"{likely}-{slow}"] if likely else []
+        parts.append(f"-{likely}:{slow}")
+        if self.slow:
+            parts.append(":".join(self.slow))
         for wanted in parts:
             by = self.notices(program, folder / "run", wanted)
             if by:
@@ -79,8 +98,8 @@ class Tests:
 
     def notices(self, program, folder, wanted):
         """The test that fails twice, for one may stumble by itself; or what else befell the program."""
-        limit = 5 * self.seconds + 20
-        printed, status, _ = runTests(program, folder, wanted, limit)
+        limit = int(5 * self.seconds) + 10
+        printed, status = runTests(program, folder, wanted, limit)
         if status == 0:
             return ""
         if status is None:
@@ -88,7 +107,7 @@ class Tests:
         failed = FAILED.findall(printed) or RUNS.findall(printed)[-1:]
         if not failed:
             return f"status {status}"
-        _, again, _ = runTests(program, folder, failed[0], limit)
+        _, again = runTests(program, folder, failed[0], limit)
         if again != 0:
             return failed[0]
         print(f"only once: {failed[0]}", flush=True)

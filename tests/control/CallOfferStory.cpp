@@ -115,5 +115,14 @@ TEST_F(CallOfferStory, isNotMadeForAKnownAppUnderAnotherIdentifier)
     EXPECT_THAT(settings().focus.callApps, ElementsAre("com.example.talk"));
 }
 
+TEST_F(CallOfferStory, anAppThatDoesNotRunIsOneUnderEachOfItsIdentifiers)
+{
+    controller->removeCallApp("com.example.meet.sandboxed");
+    EXPECT_THAT(settings().focus.callApps, ElementsAre("com.example.talk"));
+
+    controller->addCallApp("com.example.meet.sandboxed");
+    EXPECT_THAT(settings().focus.callApps, ElementsAre("com.example.talk", "com.example.meet.sandboxed"));
+}
+
 }  // namespace
 }  // namespace fadeloom

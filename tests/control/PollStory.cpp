@@ -151,41 +151,6 @@ TEST_F(PollStory, anAppWithoutANameIsCalledByItsIdentifier)
     EXPECT_EQ(state().apps->front().name, "com.example.player");
 }
 
-TEST_F(PollStory, rowsCarryTheAppsIcon)
-{
-    const auto icon = AppIcon{.themeName = "multimedia-player", .file = {}};
-    world.startPlaying(world.launchApp("Player", {.icon = icon}));
-    world.startPlaying(world.launchApp("Chat"));
-    world.runPosted();
-
-    EXPECT_EQ(state().apps->at(0).icon, AppIcon{});
-    EXPECT_EQ(state().apps->at(1).icon, icon);
-}
-
-TEST_F(PollStory, anIconIsLookedUpOnceWhileItsAppRuns)
-{
-    launchPlaying("Player");
-    launchPlaying("Browser");
-    EXPECT_EQ(world.workspace().iconCount(), 2);
-
-    world.advance(3 * AudioController::pollInterval);
-
-    EXPECT_EQ(world.workspace().iconCount(), 2);
-}
-
-TEST_F(PollStory, aNewIconIsShownWhenTheAppReturns)
-{
-    const auto player = launchPlaying("Player");
-    world.quitApp(player);
-    world.runPosted();
-
-    const auto icon = AppIcon{.themeName = "multimedia-player", .file = {}};
-    world.startPlaying(world.launchApp("Player", {.icon = icon}));
-    world.runPosted();
-
-    EXPECT_EQ(state().apps->at(0).icon, icon);
-}
-
 TEST_F(PollStory, namesAreRememberedForLaterRuns)
 {
     launchPlaying("Player");

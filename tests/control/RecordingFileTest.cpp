@@ -2,6 +2,7 @@
 #include "control/RecordingFile.h"
 
 #include "platform/simulated/SimulatedFolders.h"
+#include "tests/support/ForeignLocale.h"
 
 #include <gtest/gtest.h>
 
@@ -15,6 +16,13 @@ const LocalTime afternoon = local_days{2025y / 3 / 2} + 14h + 5min + 9s;
 
 TEST(RecordingFileName, isTheAppAndTheTime)
 {
+    EXPECT_EQ(recordingFileName("Player", afternoon), "Player 2025-03-02 14.05.09.wav");
+}
+
+TEST(RecordingFileName, isTheSameInEveryLocale)
+{
+    const ForeignLocale locale;
+
     EXPECT_EQ(recordingFileName("Player", afternoon), "Player 2025-03-02 14.05.09.wav");
 }
 

@@ -17,6 +17,31 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// A disk with one file, which stays there however often it is closed.
+class FilesOfOne final : public AudioFiles {
+public:
+    class File final : public AudioFile {
+    public:
+        bool write(std::span<const float>) noexcept override { return true; }
+        std::optional<AudioFileError> failure() const override { return std::nullopt; }
+    };
+
+    bool isTaken(const std::filesystem::path& /*location*/) const override { return false; }
+    std::expected<AudioFile*, TapError> create(const std::filesystem::path&, double) override
+    {
+        return &file;
+    }
+    std::optional<AudioFileError> dispose(AudioFile&) override
+    {
+        ++timesClosed;
+        return std::nullopt;
+    }
+    std::string describe(AudioFileError) const override { return ""; }
+
+    File file;
+    int timesClosed = 0;
+};
+
 class RecordingTest : public testing::Test {
 protected:
     std::unique_ptr<Recording> record(double sampleRate = 44100)
@@ -130,16 +155,27 @@ TEST_F(RecordingTest, knowsWhatItLostToADiskThatStallsForTooLong)
     EXPECT_EQ(recording->lostTime(), 71s) << "all of it, since the disk stalls to the end";
 }
 
-TEST_F(RecordingTest, closesItsFileOnce)
+TEST_F(RecordingTest, completesItsFile)
 {
     const auto recording = record();
 
-    recording->finish();
     recording->finish();
 
     EXPECT_TRUE(recording->isFinished());
     EXPECT_THAT(files.journal(), ElementsAre("create Player.wav", "dispose Player.wav"));
     EXPECT_TRUE(files.at(location)->isComplete);
+}
+
+TEST_F(RecordingTest, closesItsFileOnce)
+{
+    FilesOfOne own;
+    const auto recording = Recording::create(own, clocks, location, 48000, start);
+    ASSERT_TRUE(recording);
+
+    (*recording)->finish();
+    (*recording)->finish();
+
+    EXPECT_EQ(own.timesClosed, 1);
 }
 
 TEST_F(RecordingTest, itsEndClosesNothing)

@@ -6,15 +6,15 @@
 #include "tests/fuzz/Require.h"
 #include "tests/support/TemporaryFolder.h"
 
+#include <unistd.h>
+
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <string>
 #include <string_view>
-
-#include <unistd.h>
 
 using namespace fadeloom;
 

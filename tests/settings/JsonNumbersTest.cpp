@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/JsonNumbers.h"
 
+#include "tests/support/ForeignLocale.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -18,6 +20,13 @@ TEST(JsonNumbers, aNumberThatIsTooLargeBecomesTheMaximum)
         EXPECT_EQ(withFiniteNumbers("[-" + number + ",1]"), std::string("[-") + largest + ",1]");
     }
     EXPECT_EQ(withFiniteNumbers(std::string(1'000'000, '9')), largest);
+}
+
+TEST(JsonNumbers, meanTheSameInEveryLocale)
+{
+    const ForeignLocale locale;
+
+    EXPECT_EQ(withFiniteNumbers("[1.5e39, 1.5e38]"), std::string("[") + largest + ", 1.5e38]");
 }
 
 TEST(JsonNumbers, otherNumbersStay)

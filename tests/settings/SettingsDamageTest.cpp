@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace fadeloom {
 namespace {
@@ -84,6 +86,24 @@ TEST(SettingsDamage, isDescribedByWhereItIs)
     EXPECT_EQ(descriptionOf(R"({"appearance": {"theme": 1, "glass": 2}, "focus": 3})"),
         "focus: expected object, found number")
         << "the first one in the record's order";
+}
+
+TEST(SettingsDamage, isDescribedByWhatShouldHaveBeenThere)
+{
+    const std::pair<std::string_view, std::string_view> cases[] = {
+        {"[]", "expected object, found array"},
+        {R"({"apps": 1})", "apps: expected object, found number"},
+        {R"({"appearance": "dark"})", "appearance: expected object, found string"},
+        {R"({"appearance": {"theme": 1}})", "appearance: theme: expected string, found number"},
+        {R"({"eqAutoHeadroom": 1})", "eqAutoHeadroom: expected boolean, found number"},
+        {R"({"focus": {"callApps": {}}})", "focus: callApps: expected array, found object"},
+        {R"({"knownAppNames": []})", "knownAppNames: expected object, found array"},
+        {R"({"recordingsFolder": 5})", "recordingsFolder: expected string, found number"},
+        {R"({"userPresets": [1]})", "userPresets: expected object, found number"},
+        {R"({"userPresets": [{"name": "X"}]})", "userPresets: a preset needs a name and gains"},
+    };
+    for (const auto& [text, description] : cases)
+        EXPECT_EQ(decodeSettings(text).error().description, description) << text;
 }
 
 TEST(SettingsDamage, endlessNestingDoesNotCrash)
