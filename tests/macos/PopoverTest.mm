@@ -135,9 +135,14 @@ TEST_F(MacOSPopover, reportsWhenItHasClosed)
 
 TEST_F(MacOSPopover, providesAViewWhoseContentStaysAtItsUpperEdge)
 {
-    EXPECT_NE(popover->contentView(), nullptr);
-    EXPECT_EQ(popover->contentView(), popover->contentView());
-    EXPECT_TRUE(content().isFlipped);
+    NSView* const handedOut = content();
+    ASSERT_TRUE(handedOut != nil);
+
+    popover->show();
+
+    EXPECT_EQ(doubles::lastPopover().contentViewController.view, handedOut);
+    EXPECT_EQ(content(), handedOut);
+    EXPECT_TRUE(handedOut.isFlipped);
 }
 
 TEST_F(MacOSPopover, resizesImmediatelyEvenWhileAnimating)
