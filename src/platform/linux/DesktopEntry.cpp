@@ -163,12 +163,12 @@ Argument takeArgument(std::string_view& line)
 
 void dropEnvironment(std::vector<std::string>& command)
 {
-    if (command.empty() || std::filesystem::path{command.front()}.filename() != "env")
+    // Without arguments it is the program itself.
+    if (command.size() < 2 || std::filesystem::path{command.front()}.filename() != "env")
         return;
     const auto program = std::find_if(command.begin() + 1, command.end(),
         [](const std::string& argument) { return argument.find('=') == std::string::npos; });
-    if (program != command.end())  // Else "env" is the program.
-        command.erase(command.begin(), program);
+    command.erase(command.begin(), program);
 }
 
 }  // namespace

@@ -112,6 +112,7 @@ TEST(ParseExec, skipsTheEnvironment)
     EXPECT_THAT(
         parseExec("env HINT=/x/y.desktop LANG=C /snap/bin/spotify %U"), ElementsAre("/snap/bin/spotify"));
     EXPECT_THAT(parseExec("/usr/bin/env A=1"), IsEmpty());
+    EXPECT_THAT(parseExec("/opt/player/env"), ElementsAre("/opt/player/env"));
     EXPECT_THAT(parseExec("  "), IsEmpty());
 }
 
