@@ -23,7 +23,8 @@ OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdeskt
             "src/app/linux", "src/ctl")
 # What the suites with real players start.
 PLAYED = ("fadeloom", "fadeloomctl", "pipewireContractTests", "pipewireRealTimeTests")
-SHORT_SANITIZERS = {"asan": ("engine", "settings", "platform/sndfile"), "tsan": ("engine", "platform/sndfile")}
+SHORT_SANITIZERS = {"asan": ("engine", "settings", "control", "shell", "platform/sndfile"),
+                    "tsan": ("engine", "platform/sndfile")}
 # The suites with real players, and what pytest is given for each.
 PLAYERS = {
     "pipewire": ("tests/pipewire", "--ignore=tests/pipewire/test_week.py"),
