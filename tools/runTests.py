@@ -23,7 +23,8 @@ OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdeskt
             "src/app/linux", "src/ctl")
 # The programs used by the suites with real players.
 PLAYED = ("fadeloom", "fadeloomctl", "pipewireContractTests", "pipewireRealTimeTests")
-SHORT_SANITIZERS = {"asan": ("engine", "settings", "platform/sndfile"), "tsan": ("engine", "platform/sndfile")}
+SHORT_SANITIZERS = {"asan": ("engine", "settings", "control", "shell", "platform/sndfile"),
+                    "tsan": ("engine", "platform/sndfile")}
 SANITIZER_OPTIONS = {
     "ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
     "UBSAN_OPTIONS": "halt_on_error=1:print_stacktrace=1",
