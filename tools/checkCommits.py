@@ -11,7 +11,7 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-ADOPTED = "79b95d14392518a22154026200e5d7cb37726052"
+ADOPTED = "670d7b7dff1d41bc7f2cb77d31fc85f9f61ff16e"
 LONGEST = 72
 SUBJECT = re.compile(r"[\w./*-]+(, [\w./*-]+)*: \S.*[^.]$")
 
