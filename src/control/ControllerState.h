@@ -30,7 +30,7 @@ struct ControllerState {
     Published<AudioPermission::State> permission{};
     /// The app whose call ducks the others.
     Published<std::optional<std::string>> callApp{};
-    /// Apps in the mixer that are no call apps but have used the microphone while they played, until the user has
+    /// Apps in the mixer that are not call apps but have used the microphone while they played, until the user has
     /// decided.
     Published<std::set<std::string>> callOffers{};
     /// Why an app's tap could not be created.

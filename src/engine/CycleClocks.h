@@ -2,7 +2,7 @@
 // A timeline in frames for each clock that drives cycles, which places every cycle, even after a pause.
 //
 // While a device runs, its frame count places a cycle with sample accuracy. After a stop the count may have been frozen
-// or restarted; then the host's clock tells how much time has passed. Recordings share these timelines, so that a cycle
+// or restarted; then the host's clock shows how much time has passed. Recordings share these timelines, so that a cycle
 // has the same position in all of them and they stay sample-aligned.
 #pragma once
 

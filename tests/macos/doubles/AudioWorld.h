@@ -105,7 +105,7 @@ public:
     /// The audio service restarts: all its objects are gone, including listeners.
     void restartService();
     AudioObjectID addProcess(Process process);
-    /// Changes a process and tells its listeners.
+    /// Changes a process and notifies its listeners.
     void change(std::int32_t pid, const std::function<void(Process&)>& how);
     void endProcess(std::int32_t pid);
 
