@@ -29,8 +29,8 @@ inline constexpr std::array choices = {Choice{"system", ""}, Choice{"en", "Engli
 /// The choice for the next start. A value stored by other means that is not one of the options reads as "system".
 [[nodiscard]] std::string current(const UserDefaults& defaults);
 void set(UserDefaults& defaults, const std::string& code);
-/// The languages whose translations to look for at startup, in order of preference, including those that are not options;
-/// empty for the system's.
+/// The languages whose translations to look for at startup, in order of preference, including those that are not
+/// options; empty for the system's.
 [[nodiscard]] std::vector<std::string> preferred(const UserDefaults& defaults);
 /// Restarts the program: calls `terminate` once a new instance was requested, whether it started or not.
 void relaunch(Workspace& workspace, std::function<void()> terminate);
