@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// A renderer in cycles of its own: buffers, settings, and a recording whose sound nobody reads.
+// A renderer driven in its own cycles: buffers, settings, and a recording that nobody reads.
 #pragma once
 
-#include "engine/kernels/RenderChoice.h"
 #include "engine/Renderer.h"
 #include "engine/TapParameters.h"
+#include "engine/kernels/RenderChoice.h"
 
 #include <array>
 #include <cmath>
@@ -18,13 +18,13 @@ namespace fadeloom {
 class CycleStage {
 public:
     struct Setting {
-        bool isPlanar = false;  // Tap and device both; else both interleaved.
+        bool isPlanar = false;  // Both tap and device; otherwise both are interleaved.
         bool isEqualized = false;
         bool isRecorded = false;
         std::size_t frames = 512;
     };
 
-    /// `kernels`: null for the plain form.
+    /// `kernels`: null for the plain implementation.
     CycleStage(const Setting& setting, const RenderKernels* kernels)
         : setting_(setting)
         , samples_(4 * setting.frames)
@@ -45,7 +45,7 @@ public:
 
     void cycle()
     {
-        // As the main thread does, so that there is always room.
+        // Drained as on the main thread, so that there is always room.
         if (setting_.isRecorded && ++cyclesWaiting_ == 100) {
             lanes_->drain([](const CycleTime&, std::span<const float>) { });
             cyclesWaiting_ = 0;
@@ -70,7 +70,7 @@ private:
     std::shared_ptr<RecordingLanes> lanes_ = std::make_shared<RecordingLanes>(48000);
     std::size_t cyclesWaiting_ = 0;
     std::shared_ptr<TapParameters> parameters_ = std::make_shared<TapParameters>();
-    std::vector<float> samples_;  // Two sides in, two sides out.
+    std::vector<float> samples_;  // Two channels in, two channels out.
     std::unique_ptr<Renderer> renderer_;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What does the main thread pay when someone moves an equalizer slider: design, hand-over, curve, headroom?
+// What does moving an equalizer slider cost the main thread: design, hand-over, curve, headroom?
 #include "engine/EqualizerDesign.h"
 #include "engine/EqualizerHeadroom.h"
 #include "engine/TapParameters.h"

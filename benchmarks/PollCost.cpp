@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What does a poll of the controller cost, with so many processes that play? The audio system is the simulated one, so
-// this is our part of it; what the questions to a real one cost comes on top (tests/control/PollCostTest.cpp counts
-// them).
+// What does a poll of the controller cost, with a given number of playing processes? The audio system is simulated, so
+// this is our share; the cost of querying a real one comes on top (tests/control/PollCostTest.cpp counts the queries).
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
 #include "platform/simulated/SimulatedPlatform.h"

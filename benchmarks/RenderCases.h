@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// What the render path is measured with.
+// The cases that the render path is measured with.
 #pragma once
 
-#include "engine/kernels/FastRender.h"
 #include "engine/PlainRender.h"
+#include "engine/kernels/FastRender.h"
 #include "engine/kernels/RenderKernels.h"
 
 #include <algorithm>
@@ -18,13 +18,13 @@ namespace fadeloom {
 
 struct RenderCase {
     const char* name;
-    std::optional<std::size_t> bands;  // That are not flat; none at all: the equalizer is off.
-    float level;  // Of the sound that comes in; 1 is full scale.
+    std::optional<std::size_t> bands;  // Number of bands that are not flat; nullopt: the equalizer is off.
+    float level;  // Of the input; 1 is full scale.
     float gain = 1;
-    float startGain = gain;  // It glides from here.
+    float startGain = gain;  // Where its ramp starts.
 };
 
-// Quiet sound stays below the limiter; loud sound keeps it working.
+// Quiet input stays below the limiter; loud input keeps it active.
 inline constexpr std::array renderCases{
     RenderCase{.name = "off", .bands = {}, .level = 0.3F},
     RenderCase{.name = "off_full_scale", .bands = {}, .level = 1},
@@ -40,11 +40,11 @@ inline constexpr std::array renderCases{
     RenderCase{.name = "eq10_silence", .bands = 10, .level = 0},
 };
 
-/// One case in one form, again and again. The sound is as long as the nearest cache likes; what was rendered is
-/// rendered again, so a case is one whose sound bears it.
+/// One case in one implementation, run repeatedly. The signal fits into the L1 cache; the output is rendered in place
+/// again, so a case must be one whose signal allows that.
 class RenderRun {
 public:
-    /// `kernels`: null for the plain form.
+    /// `kernels`: null for the plain implementation.
     RenderRun(const RenderCase& which, std::size_t blockFrames, const RenderKernels* kernels)
         : case_(which)
         , blockFrames_(blockFrames)
@@ -59,7 +59,7 @@ public:
         rewind();
     }
 
-    /// The sound and the gain from the beginning. Filters and limiter go on.
+    /// Restores the signal and the gain. Filter and limiter state is kept.
     void rewind()
     {
         left_ = originalLeft_;
@@ -67,7 +67,7 @@ public:
         state_.gain.current = case_.startGain;
     }
 
-    /// Goes on; after some thousand frames it is time to rewind. Returns the peak.
+    /// Continues; after some thousand frames it is time to rewind. Returns the peak.
     float render(std::size_t frames)
     {
         const RenderSettings settings{
@@ -87,7 +87,7 @@ public:
         return peak;
     }
 
-    /// Whether both gave the same sound and came to the same gains.
+    /// Whether both produced the same samples and reached the same gains.
     [[nodiscard]] bool isSameAs(const RenderRun& other) const
     {
         return left_ == other.left_ && right_ == other.right_ && state_.gain == other.state_.gain

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What does a whole IO cycle cost: settings, tap, recording, render path, output? With the plain form and the best one,
-// in turns.
+// What does a whole IO cycle cost: settings, tap, recording, render path, output? Alternates between the plain
+// implementation and the best one.
 #include "engine/Renderer.h"
 
 #include "benchmarks/CycleStage.h"

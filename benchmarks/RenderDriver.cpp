@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Renders a case in one form, for tools that count what a program does.
+// Renders a case in one implementation, for tools that count what a program does.
 //
 //   renderDriver FORM CASE ROUNDS     FORM: plain, or the name of a set of kernels; a round has 16 blocks of 512 frames
 #include "benchmarks/RenderCases.h"

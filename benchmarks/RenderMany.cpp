@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What does it cost when many apps play? One cycle of all their renderers, each with ten bands.
+// What does it cost if many apps play? One cycle of all their renderers, each with ten bands.
 #include "benchmarks/CycleStage.h"
 #include "engine/kernels/RenderChoice.h"
 
@@ -25,7 +25,7 @@ void renderers(benchmark::State& state)
             stage->cycle();
     }
 
-    // Frames per second, of all of them together.
+    // Frames per second, summed over all renderers.
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(count * stages.front()->frames()));
 }
 

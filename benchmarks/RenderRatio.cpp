@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// How many times faster is the fast form of the render path than the plain one?
+// How many times faster than the plain implementation of the render path is the fast one?
 //
-// All forms take turns within each iteration, there and back again, so that a machine that is busy or throttled meets
-// them alike. What counts is each one's best time.
+// All implementations alternate within each iteration, forwards and backwards, so that load and throttling affect them
+// equally. The result is the best time of each.
 #include "benchmarks/RenderCases.h"
 #include "engine/kernels/RenderChoice.h"
 
@@ -25,7 +25,7 @@ constexpr int iterations = 150;
 struct Contestant {
     std::string name;
     RenderRun run;
-    double best = std::numeric_limits<double>::infinity();  // Nanoseconds for a frame.
+    double best = std::numeric_limits<double>::infinity();  // Nanoseconds per frame.
 
     void time()
     {
@@ -55,7 +55,7 @@ void compare(benchmark::State& state, const RenderCase& which, std::size_t block
 
     for (const auto& contestant : contestants) {
         if (!contestant.run.isSameAs(contestants.front().run))
-            state.SkipWithError((contestant.name + " does not sound like the plain form").c_str());
+            state.SkipWithError((contestant.name + " differs from the plain implementation").c_str());
         state.counters[contestant.name + "_ns"] = contestant.best;
         state.counters[contestant.name + "_ratio"] = contestants.front().best / contestant.best;
     }

@@ -2,18 +2,19 @@
 # addFolder declares one folder of src/ as a static library, together with its tests.
 #
 #   addFolder(
-#       SOURCES      Renderer.cpp Renderer.h     files of this folder, and of rooms below it ("linux/HomePanel.h")
-#       USES         platform                    folders seen in our headers (PUBLIC)
-#       USES_INSIDE  hal                         folders that only our sources include (PRIVATE)
-#       LIBRARIES    PkgConfig::PIPEWIRE         outside libraries, for our sources only
-#       OPTIONS      -ffp-contract=off           compile options of this folder alone
+#       SOURCES      Renderer.cpp Renderer.h     files of this folder and its subfolders ("linux/HomePanel.h")
+#       USES         platform                    folders whose headers ours include (PUBLIC)
+#       USES_INSIDE  engine                      folders that only our sources include (PRIVATE)
+#       LIBRARIES    PkgConfig::PIPEWIRE         external libraries, for our sources only
+#       OPTIONS      -ffp-contract=off           compile options of this folder only
 #       TESTS        RendererTest.cpp            files of the same folder below tests/
 #       TESTS_USE    platform/simulated          further folders that only the tests include
+#       LONG_TESTS                               the tests compute a lot, and are worth optimizing
 #   )
 #
-# A folder is named by its path below src/ ("platform/pipewire"); its target has underscores ("platform_pipewire").
-# Its headers are reached by that path, through an include root of its own in the build tree that holds links to them
-# and to nothing else: including a folder that is not named here does not compile.
+# A folder is named by its path below src/ ("platform/pipewire"); its target has underscores ("platform_pipewire"). Its
+# headers are reached by that path, through a separate include root in the build tree that contains links to them and
+# nothing else: including a folder that is not listed does not compile.
 #
 # Test suites whose names end in LongForm are compiled with the others, but run only by tools/runTests.py --long.
 function(folderTarget path result)
@@ -21,11 +22,11 @@ function(folderTarget path result)
     set(${result} ${target} PARENT_SCOPE)
 endfunction()
 
-# The test framework's headers are most of what a test source takes to compile. They are compiled once for all tests that
-# have the same compile options: Qt has some of its own.
+# Most of a test source's compile time goes into the test framework's headers. They are precompiled once for all tests
+# with the same compile options; Qt adds some of its own.
 function(precompileTestHeaders tests settings)
     get_property(owner GLOBAL PROPERTY fadeloomTestHeaders)
-    if(settings MATCHES "Qt6::|-f")
+    if(settings MATCHES "Qt6::|-f|TRUE")
         target_precompile_headers(${tests} PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
     elseif(owner)
         target_precompile_headers(${tests} REUSE_FROM ${owner})
@@ -36,7 +37,7 @@ function(precompileTestHeaders tests settings)
 endfunction()
 
 function(addFolder)
-    cmake_parse_arguments(PARSE_ARGV 0 folder "" "" "SOURCES;USES;USES_INSIDE;LIBRARIES;OPTIONS;TESTS;TESTS_USE")
+    cmake_parse_arguments(PARSE_ARGV 0 folder "LONG_TESTS" "" "SOURCES;USES;USES_INSIDE;LIBRARIES;OPTIONS;TESTS;TESTS_USE")
     if(folder_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "addFolder does not know ${folder_UNPARSED_ARGUMENTS}")
     endif()
@@ -73,11 +74,13 @@ function(addFolder)
         target_include_directories(${tests} PRIVATE ${CMAKE_SOURCE_DIR})  # for "tests/support/..."
         target_link_libraries(${tests} PRIVATE ${target} GTest::gtest GTest::gmock GTest::gtest_main ${folder_LIBRARIES})
         target_compile_options(${tests} PRIVATE ${folder_OPTIONS})
-        # A test is run once for each time that it is compiled; under a sanitizer that takes long enough as it is.
-        if(NOT FADELOOM_SANITIZE)
+        # A test usually runs only once per compilation, so optimizing it rarely pays.
+        if(NOT folder_LONG_TESTS)
+            target_compile_options(${tests} PRIVATE -O0)
+        elseif(NOT FADELOOM_SANITIZE)
             target_compile_options(${tests} PRIVATE -O1)
         endif()
-        precompileTestHeaders(${tests} "${folder_OPTIONS};${folder_LIBRARIES}")
+        precompileTestHeaders(${tests} "${folder_OPTIONS};${folder_LIBRARIES};${folder_LONG_TESTS}")
         foreach(used IN LISTS folder_TESTS_USE)
             folderTarget(${used} usedTarget)
             target_link_libraries(${tests} PRIVATE ${usedTarget})

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""A private audio session: PipeWire, WirePlumber and pipewire-pulse of their own, with two virtual devices.
+"""A private audio session: its own PipeWire, WirePlumber and pipewire-pulse, with two virtual devices.
 
-Nothing outside is touched: the session has its own runtime, state and home folders and its own message bus, needs no
-audio hardware, and ends every process that it started. Used by the tests on the real graph and by the demo.
+Nothing outside is touched: the session has its own runtime, state and home directories and its own message bus, needs
+no audio hardware, and terminates all its processes. Used by the tests on the real graph and by the demo.
 
-    tools/audioSession.py run -- COMMAND ...      runs one command inside a session
+    tools/audioSession.py run -- COMMAND ...      runs a command inside a session
 """
 
 import contextlib
@@ -22,11 +22,11 @@ import time
 
 
 class SessionError(RuntimeError):
-    """The session did not come up, or a process in it did not do what was waited for."""
+    """The session did not start, or a process in it did not do what was awaited."""
 
 
 def waitUntil(condition, what, seconds=10.0, interval=0.02):
-    """Returns the first truthy value of `condition`; raises SessionError after `seconds`."""
+    """Polls until `condition` returns a truthy value and returns it; raises SessionError after `seconds`."""
     deadline = time.monotonic() + seconds
     while True:
         value = condition()
@@ -38,15 +38,15 @@ def waitUntil(condition, what, seconds=10.0, interval=0.02):
 
 
 def allowRealTime():
-    """Lets this process's audio threads run in real time, as a desktop's RealtimeKit does; where that is not ours to
-    allow, they compete with everything else."""
+    """Gives this process's audio threads real-time priority, as RealtimeKit does on a desktop; without permission to do
+    so, they compete with everything else."""
     with contextlib.suppress(ValueError, OSError):
         resource.setrlimit(resource.RLIMIT_RTPRIO, (95, 95))
 
 
 class AudioSession:
-    """Use as a context manager. `folder` keeps the session's files and logs; it is removed at the end when we made it.
-    `serverLog`: what PipeWire logs, in the words of PIPEWIRE_DEBUG."""
+    """Use as a context manager. `folder` holds the session's files and logs; if none is given, a temporary one is
+    created, and removed at the end. `serverLog`: PipeWire's log level, in PIPEWIRE_DEBUG syntax."""
 
     def __init__(self, folder=None, defaultSinks=True, serverLog="2"):
         self.ownsFolder = folder is None
@@ -82,8 +82,8 @@ class AudioSession:
         self.stop()
 
     def _keepAwayFromHardware(self):
-        """Tells the session manager to look for no hardware: the machine's own session has it, and a machine without
-        systemd's seats would not even let it start."""
+        """Makes the session manager ignore hardware: the machine's own session owns it, and without systemd's seats it
+        would not even start."""
         config = pathlib.Path(self.environment["XDG_CONFIG_HOME"]) / "wireplumber"
         lua = {  # WirePlumber 0.4
             "main.lua.d": "alsa_monitor.enabled = false\nv4l2_monitor.enabled = false\n"
@@ -103,7 +103,7 @@ class AudioSession:
     # Processes
 
     def spawn(self, name, command, **options):
-        """Starts a process of the session; its output goes to `<folder>/<name>.log` unless told otherwise."""
+        """Starts a process in the session; its output goes to `<folder>/<name>.log` unless redirected."""
         if "stdout" not in options:
             log = open(self.folder / f"{name}.log", "ab")
             options.setdefault("stdout", log)
@@ -116,7 +116,7 @@ class AudioSession:
         return process
 
     def end(self, name, signalNumber=signal.SIGTERM, seconds=5.0):
-        """Ends a process by its id and returns its exit status."""
+        """Terminates a process by its id and returns its exit status."""
         process = self.processes.pop(name)
         if process.poll() is None:
             process.send_signal(signalNumber)
@@ -127,7 +127,7 @@ class AudioSession:
             return process.wait()
 
     def run(self, *command, check=True, seconds=20, **options):
-        """Runs a command to its end inside the session and returns its standard output as text."""
+        """Runs a command inside the session to completion and returns its standard output as text."""
         done = subprocess.run(command, env=self.environment, text=True, capture_output=True, timeout=seconds, **options)
         if check and done.returncode != 0:
             raise SessionError(f"{' '.join(command)} ended with {done.returncode}: {done.stderr.strip()}")
@@ -137,7 +137,7 @@ class AudioSession:
         """Runs a command inside the session and returns whether it succeeded."""
         return subprocess.run(command, env=self.environment, capture_output=True, timeout=20).returncode == 0
 
-    # Life of the session
+    # Lifecycle
 
     def start(self):
         self.spawn("dbus", ["dbus-daemon", "--session", "--nofork", "--nopidfile",
@@ -170,16 +170,25 @@ class AudioSession:
         for name in reversed(list(self.processes)):
             with contextlib.suppress(ProcessLookupError):
                 self.end(name, seconds=3.0)
+        self._endOrphans()
         if self.ownsFolder:
             shutil.rmtree(self.folder, ignore_errors=True)
+
+    def _endOrphans(self):
+        """Kills what the session's processes have left behind: everything with this session's runtime folder."""
+        mark = f"XDG_RUNTIME_DIR={self.environment['XDG_RUNTIME_DIR']}".encode()
+        for folder in pathlib.Path("/proc").glob("[0-9]*"):
+            with contextlib.suppress(OSError):
+                if mark in (folder / "environ").read_bytes().split(b"\0"):
+                    os.kill(int(folder.name), signal.SIGKILL)
 
     # Devices
 
     def plug(self, name, description=None, position="FL FR", mediaClass="Audio/Sink", suspendAfter=0):
-        """Adds a virtual device and waits until its ports are there.
+        """Adds a virtual device and waits until its ports exist.
 
-        `suspendAfter`: seconds; 0 is never, because WirePlumber 0.4 crashes when a device goes while its time to
-        suspend has not come.
+        `suspendAfter`: seconds; 0 is never, because WirePlumber 0.4 crashes if a device is removed while its suspend
+        timeout is running.
         """
         properties = (f"{{ factory.name=support.null-audio-sink node.name={json.dumps(name)} "
                       f"node.description={json.dumps(description or name)} media.class={mediaClass} "
@@ -206,14 +215,14 @@ class AudioSession:
     # Recording
 
     def record(self, name, *ports, quantum=None):
-        """Records these ports, one channel each, in 32-bit float until `endRecording`; returns the file's path.
+        """Records these ports, one channel each, as 32-bit float until `endRecording`; returns the file's path.
 
-        The session manager is left out of it: a recorder of ours is linked by hand and stays so.
+        The session manager is not involved: our recorders are linked explicitly and stay so.
         """
         channels = ",".join(f"AUX{i}" for i in range(len(ports)))
         file = self.folder / f"{name}.wav"
         latency = ["--latency", f"{quantum}/48000"] if quantum else []
-        recorder = self.folder / "recorder"  # A program of its own: not the same application as pw-play.
+        recorder = self.folder / "recorder"  # A separate program, so that it is not the same application as pw-play.
         if not recorder.exists():
             shutil.copy(shutil.which("pw-cat"), recorder)
         self.spawn(name, [str(recorder), "--record", "-P", f"{{ node.autoconnect=false node.name={name} }}", "--target", "0",
@@ -245,19 +254,19 @@ class AudioSession:
                 for thing in things.values() if thing["type"].endswith(":Link") and thing.get("info")]
 
     def setQuantum(self, frames):
-        """Forces the length of the graph's cycles; 0 gives the choice back to the server."""
+        """Forces the quantum of the graph; 0 lets the server choose again."""
         self.run("pw-metadata", "-n", "settings", "0", "clock.force-quantum", str(frames))
 
     def setRate(self, rate):
-        """Forces the graph's rate; 0 gives the choice back to the server."""
+        """Forces the sample rate of the graph; 0 lets the server choose again."""
         self.run("pw-metadata", "-n", "settings", "0", "clock.force-rate", str(rate))
 
     def dump(self):
-        """Every object of the graph: id, type, its properties as `props`, and what else pw-dump tells."""
+        """Every object of the graph: id, type, its properties as `props`, and the rest of pw-dump's output."""
         try:
             things = json.loads(self.run("pw-dump", check=False, seconds=3))
         except (json.JSONDecodeError, subprocess.TimeoutExpired):
-            return []  # The graph changed under its hands; whoever waits for something looks again.
+            return []  # The graph changed during the dump; callers that wait for something retry.
         for thing in things:
             thing["props"] = thing.get("info", {}).get("props") or thing.get("props") or {}
         return things

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Holds what the macOS bundle is made of against what it has to be: declarations, texts in each language, icons.
+"""Checks the contents of the macOS bundle: declarations, texts in each language, icons.
 
-A Mac tells of a mistake in them late or not at all: without its usage text a program is never asked about, and captures
-silence.
+A Mac reports mistakes in them late or never: without its usage description a program does not get the permission prompt,
+and captures silence.
 """
 
 import pathlib
@@ -16,13 +16,13 @@ FOLDER = pathlib.Path(__file__).resolve().parent.parent / "packaging" / "macos"
 LANGUAGES = {"en", "pl"}
 PIXELS = {"icp4": 16, "ic11": 32, "icp5": 32, "ic12": 64, "ic07": 128, "ic13": 256, "ic08": 256, "ic14": 512,
           "ic09": 512, "ic10": 1024}
-# As CMake fills them in.
+# As substituted by CMake.
 FILLED = {"MACOSX_BUNDLE_EXECUTABLE_NAME": "Fadeloom", "MACOSX_BUNDLE_SHORT_VERSION_STRING": "1.2.3",
           "MACOSX_BUNDLE_BUNDLE_VERSION": "7", "CMAKE_OSX_DEPLOYMENT_TARGET": "14.2"}
 WANTED = {"CFBundleIdentifier": "com.fadeloom.app", "CFBundleExecutable": "Fadeloom", "CFBundlePackageType": "APPL",
           "CFBundleShortVersionString": "1.2.3", "CFBundleVersion": "7", "CFBundleIconFile": "AppIcon",
           "CFBundleDevelopmentRegion": "en", "LSMinimumSystemVersion": "14.2", "LSUIElement": True}
-# Without them the system refuses without asking, or ends the program.
+# Without them the system refuses without asking, or terminates the program.
 USAGES = {"NSAudioCaptureUsageDescription", "NSMicrophoneUsageDescription"}
 
 

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Refuses kernel units that give the linker anything but their table of functions.
+"""Rejects kernel translation units that export anything but their function table.
 
     tools/checkKernels.py NM LIBRARY
 
 A unit compiled for newer processors must share no function with the others: of two copies of an inline function the
-linker keeps one for the whole program, and it could be the one that older processors cannot run.
+linker keeps one for the whole program, possibly the one that older processors cannot run.
 """
 
 import re

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Holds every include of src/ against the order of the folders, and keeps foreign headers where they belong.
+"""Checks every include of src/ against the layering, and that external headers are included only by their adapters.
 
-The build already refuses an include of a folder that is not named in addFolder. This check refuses what it cannot see:
-an arrow drawn the wrong way, "../", an adapter named outside app, and Qt, PipeWire, Wayland, libsndfile or Apple headers
-elsewhere than in their adapters.
+The build already rejects includes of folders that are not listed in addFolder. This check rejects what the build cannot
+detect: a dependency in the wrong direction, "../", an adapter used outside app, and Qt, PipeWire, Wayland, libsndfile or
+Apple headers outside their adapters.
 """
 
 import pathlib
@@ -23,12 +23,12 @@ FOREIGN = {
     "libsndfile": (re.compile(r"^sndfile\.hh?$"), ("platform/sndfile",)),
     "Apple": (re.compile(r"^((CoreAudio|AudioToolbox|CoreFoundation|Foundation|AppKit|Cocoa|ServiceManagement|"
                          r"UniformTypeIdentifiers|dispatch)/|os/(?!lock\.h$)|Block\.h$)"), ("platform/macos",)),
-    "the system lock's": (re.compile(r"^os/lock\.h$"), ("base",)),  # Tried on the IO thread, so it is inline.
+    "the system lock's": (re.compile(r"^os/lock\.h$"), ("base",)),  # Used on the IO thread, so it is inline.
 }
 
 
 def folderOf(path):
-    """The folder of src/ that a path below it belongs to."""
+    """The folder of src/ that contains a path."""
     for adapter in ADAPTERS:
         if path.startswith(adapter + "/"):
             return adapter

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Holds the manual pages against mandoc's warnings, and every command and key of the settings against its documents."""
+"""Checks the manual pages with mandoc, and that every command and settings key is documented."""
 
 import pathlib
 import re
@@ -16,7 +16,7 @@ COMMAND = re.compile(r'Command\{"([a-z-]+)"')
 
 
 def undocumented(commands):
-    """Commands that a document does not name, as sentences."""
+    """Commands missing from a document, as sentences."""
     page = (PAGES / "fadeloomctl.1").read_text()
     table = (ROOT / "docs" / "commands.md").read_text()
     for command in commands:
@@ -27,7 +27,7 @@ def undocumented(commands):
 
 
 def undocumentedKeys():
-    """Keys of the settings file that its page does not name, as sentences."""
+    """Settings keys missing from the manual page, as sentences."""
     keys = {key for match in KEY.findall(SETTINGS.read_text()) for key in match if key}
     page = (PAGES / "fadeloom-settings.5").read_text()
     assert keys, f"no keys in {SETTINGS}"

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Counts the lines of every file: one that has grown beyond its measure holds a second idea.
+"""Checks the length of every file: one that exceeds its limit contains a second concept.
 
-A file that is larger from before may keep its size, and may not grow. Once it is short enough, its entry has to go.
+A file that was longer already may keep its length, but not grow. Once it is within the limit, its entry must be removed.
 """
 
 import pathlib
@@ -10,7 +10,7 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-# What a path begins with, its endings, and the most lines; the first that fits counts.
+# Path prefix, suffixes, and maximum number of lines; the first match counts.
 MEASURES = (
     ("tests/", (".cpp", ".h", ".mm", ".py"), 250),
     ("", (".h",), 150),
@@ -25,12 +25,12 @@ LARGER = {
     "tests/macos/doubles/AudioCalls.mm": 260,
     "tests/macos/doubles/Runtime.cpp": 283,
     "tests/platform/linux/FileManagerTest.cpp": 270,
-    "tests/platform/pipewire/StreamCirclesTest.cpp": 265,
+    "tests/platform/pipewire/FeedbackLoopTest.cpp": 265,
 }
 
 
 def most(path):
-    """The most lines that a file may have; none for a kind that is not measured."""
+    """The maximum number of lines of a file; None for a kind without a limit."""
     for beginning, endings, lines in MEASURES:
         if path.startswith(beginning) and path.endswith(endings):
             return lines
@@ -40,7 +40,7 @@ def most(path):
 def main():
     listed = subprocess.run(["git", "ls-files", "src", "tests", "benchmarks"], cwd=ROOT, text=True, capture_output=True,
                             check=True)
-    failures = [f"tools/checkSizes.py: {path} is not there any more" for path in LARGER if not (ROOT / path).is_file()]
+    failures = [f"tools/checkSizes.py: {path} no longer exists" for path in LARGER if not (ROOT / path).is_file()]
     for path in listed.stdout.splitlines():
         limit = most(path)
         if limit is None or not (ROOT / path).is_file():
@@ -49,7 +49,7 @@ def main():
         if count > LARGER.get(path, limit):
             failures.append(f"{path}: {count} lines, {LARGER.get(path, limit)} at most")
         elif path in LARGER and count <= limit:
-            failures.append(f"tools/checkSizes.py: {path} is short enough now, its entry has to go")
+            failures.append(f"tools/checkSizes.py: {path} is within its limit now, remove its entry")
     print("\n".join(failures))
     return 1 if failures else 0
 

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Shows Fadeloom at work without any audio hardware.
+"""Demonstrates Fadeloom without any audio hardware.
 
-A private PipeWire session with two virtual devices; two real players, one native and one on PulseAudio; Fadeloom with
-settings that turn one down and boost, equalize and move the other; then it records an app, and an app makes a call.
-What arrives at the devices is recorded before and after, and the measured levels are printed. At last it is started
-among the status icons of a desktop that nobody sees, and its panel is opened. The recording and a picture of the panel
-are left in build/demo/.
+A private PipeWire session with two virtual devices; two real players, one native and one through PulseAudio; Fadeloom
+with settings that turn one down and boost, equalize and reroute the other; then it records an app, and an app makes a
+call. The audio at the devices is recorded before and after, and the measured levels are printed. Finally the program is
+started in the tray of a virtual desktop, and its panel is opened. The recording and a picture of the panel are left in
+build/demo/.
 
     tools/demo.py PROGRAM
 """
@@ -28,7 +28,7 @@ DEVICES = ("speakers", "headphones")
 MUSIC = 440  # Hz, played by pw-play.
 RADIO = 1000  # Hz, played by paplay.
 QUANTUM = 1024
-SILENCE = -60  # dB; what the noise and the limiter leave on a player's frequency stays below.
+SILENCE = -60  # dB; the noise and the limiter contribute less than this at a player's frequency.
 
 SETTINGS = settings({
     "pw-cat": app(volume=0.5),
@@ -44,7 +44,7 @@ PLAYERS = (
 
 
 def measure(session, name):
-    """Each player's level on each device in dB, from a second of what the devices play."""
+    """Each player's level on each device in dB, from one second of the devices' output."""
     files = {device: session.recordDevice(f"{name}-{device}", device) for device in DEVICES}
     time.sleep(1.5)
     for device in DEVICES:
@@ -59,7 +59,7 @@ def measure(session, name):
 
 
 def measureDelay(session, name, port):
-    """How many frames the device follows a player by."""
+    """The latency from a player to the device, in frames."""
     file = session.record(name, port, "speakers:monitor_FL", quantum=QUANTUM)
     time.sleep(0.8)
     session.endRecording(name)
@@ -88,12 +88,12 @@ def recordRadio(fadeloom):
     shutil.copy(shlex.split(said)[2], kept)
     rate, recorded = signals.readWave24(kept)
     level = float(signals.decibels(signals.amplitude(recorded[:rate] / 2.0**23, RADIO).max()))
-    print(f"  {kept.relative_to(RESULTS.parent.parent)}: {len(recorded) / rate:.1f} seconds, {level:.2f} dB, as paplay plays it and not as it is heard")
+    print(f"  {kept.relative_to(RESULTS.parent.parent)}: {len(recorded) / rate:.1f} seconds, {level:.2f} dB, at paplay's own level, before volume")
     return level
 
 
 def call(session, fadeloom):
-    """An app of the list plays nothing and listens to a microphone; returns by how much the music is lowered in dB."""
+    """A call app plays nothing and captures from a microphone; returns by how much the music is ducked in dB."""
     before = measure(session, "before-call")
     talk = session.folder / "talk"
     shutil.copy(shutil.which("pw-cat"), talk)
@@ -112,13 +112,13 @@ def call(session, fadeloom):
 
 
 def showPanel(session, program):
-    """Starts the program with its icon, and once more, which opens the panel; the picture of that is kept."""
+    """Starts the program with its icon, and a second time, which opens the panel; saves a picture of it."""
     session.startXfcePanel()
     session.spawn("panel", [str(program)])
     waitUntil(lambda: session.ownsName("com.fadeloom.app"), "the program")
     session.run(str(program))
     window = waitUntil(lambda: session.windows("^Fadeloom$"), "the panel")[0]
-    time.sleep(2)  # Sound has to come through the taps before a level can be seen.
+    time.sleep(2)  # The levels appear once audio has passed through the taps.
     picture = RESULTS / "panel.png"
     session.screenshot(picture, session.geometry(window))
     session.end("panel")
@@ -127,7 +127,7 @@ def showPanel(session, program):
 
 def demonstrate(session, program):
     session.setQuantum(QUANTUM)
-    music = signals.sine(MUSIC, 0.25, 60) + signals.noise(0.02, 60)  # The noise is for finding the delay.
+    music = signals.sine(MUSIC, 0.25, 60) + signals.noise(0.02, 60)  # The noise is for measuring the delay.
     signals.write(session.folder / "music.wav", music)
     signals.write(session.folder / "radio.wav", signals.sine(RADIO, 0.4, 60))
     session.spawn("music", ["pw-play", str(session.folder / "music.wav")])
@@ -147,7 +147,7 @@ def demonstrate(session, program):
         print("\nFadeloom is started with settings for both:")
         for name, _, what in PLAYERS:
             print(f"  {name:26}  {what}")
-        print("\nWhat it says:")
+        print("\nIts output:")
         for line in fadeloom.text():
             print(f"  {line}")
         print("\nWhat arrives at the devices now:")
@@ -156,18 +156,18 @@ def demonstrate(session, program):
         tapped = measureDelay(session, "tapped", "pw-play:output_FL")
         print("\nIt records paplay:")
         recorded = recordRadio(fadeloom)
-        print("\nAn app of the call list listens to a microphone:")
+        print("\nA call app captures from a microphone:")
         lowered = call(session, fadeloom)
-        print(f"  pw-play is lowered by {-lowered:.2f} dB: a fifth of the amplitude is 13.98 dB.")
+        print(f"  pw-play is ducked by {-lowered:.2f} dB: a fifth of the amplitude is 13.98 dB.")
         fadeloom.quit()
 
     change = after["speakers", MUSIC] - before["speakers", MUSIC]
     print(f"\n  pw-play is {change:+.2f} dB: half the amplitude is -6.02 dB.")
-    print("  paplay left the speakers and plays on the headphones, its peaks held at -1 dB (0.891).")
-    print(f"  Added delay: {tapped - direct} frames, at {QUANTUM} frames a cycle.")
+    print("  paplay has moved from the speakers to the headphones, its peaks limited to -1 dB (0.891).")
+    print(f"  Added delay: {tapped - direct} frames, at {QUANTUM} frames per cycle.")
 
     time.sleep(0.7)
-    print("\nFadeloom has ended; the players are on their own again:")
+    print("\nFadeloom has ended; the players play directly again:")
     end = measure(session, "end")
     show(end)
     showPanel(session, program)
@@ -175,7 +175,7 @@ def demonstrate(session, program):
                and abs(after["headphones", RADIO] + 1) < 0.1 and abs(recorded - signals.decibels(0.4)) < 0.05
                and abs(lowered + 13.98) < 0.1
                and abs(end["speakers", RADIO] - before["speakers", RADIO]) < 0.05)
-    print("\nAll as it should be." if isRight else "\nThis is not as it should be.")
+    print("\nEverything is as expected." if isRight else "\nSomething is not as expected.")
     return 0 if isRight else 1
 
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""A private desktop around a private audio session: an X server that nobody sees, a window manager, a tray.
+"""A private desktop on top of a private audio session: a virtual X server, a window manager, a tray.
 
-    tools/desktopSession.py run -- COMMAND ...      runs one command on such a desktop
+    tools/desktopSession.py run -- COMMAND ...      runs a command on such a desktop
 """
 
 import contextlib
@@ -16,7 +16,7 @@ from audioSession import AudioSession, waitUntil
 SIZE = (1280, 800)
 WATCHER = "org.kde.StatusNotifierWatcher"
 
-# A bar along the top edge whose right end shows the status icons.
+# A panel along the top edge, with the status icons at its right end.
 XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfce4-panel" version="1.0">
   <property name="configver" type="int" value="2"/>
@@ -49,7 +49,7 @@ class DesktopSession(AudioSession):
 
     def start(self):
         self._startDisplay()
-        super().start()  # Services that the message bus starts see the display.
+        super().start()  # Services activated by the message bus inherit the display.
         self.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         self.environment["LANG"] = "C.UTF-8"
         self._startAccessibility()
@@ -64,14 +64,14 @@ class DesktopSession(AudioSession):
             self.environment["DISPLAY"] = ":" + number.readline().strip()
 
     def _startAccessibility(self):
-        """Before any program: one that comes first would not see it."""
+        """Call before starting any program: one that starts earlier would not see it."""
         launcher = next(path for folder in ("/usr/libexec", "/usr/lib/at-spi2-core")
                         if (path := pathlib.Path(folder) / "at-spi-bus-launcher").exists())
         self.spawn("at-spi", [str(launcher), "--launch-immediately"])
         waitUntil(lambda: self.ownsName("org.a11y.Bus"), "the accessibility bus")
 
     def ownsName(self, name):
-        """Whether somebody on the message bus has this name."""
+        """Whether this name has an owner on the message bus."""
         answer = self.run("dbus-send", "--session", "--print-reply=literal", "--dest=org.freedesktop.DBus",
                           "/org/freedesktop/DBus", "org.freedesktop.DBus.NameHasOwner", f"string:{name}", check=False)
         return "true" in answer
@@ -79,7 +79,7 @@ class DesktopSession(AudioSession):
     # Trays
 
     def startXfcePanel(self):
-        """A tray over the message bus."""
+        """A StatusNotifier tray."""
         folder = pathlib.Path(self.environment["XDG_CONFIG_HOME"]) / "xfce4" / "xfconf" / "xfce-perchannel-xml"
         folder.mkdir(parents=True, exist_ok=True)
         (folder / "xfce4-panel.xml").write_text(XFCE_PANEL)
@@ -87,7 +87,7 @@ class DesktopSession(AudioSession):
         waitUntil(lambda: self.ownsName(WATCHER), "the tray")
 
     def startTrayer(self):
-        """A tray of the older kind: icons are windows in it."""
+        """An XEmbed tray: icons are windows in it."""
         self.spawn("tray", ["trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24"])
         waitUntil(lambda: self.windows("^panel$|^trayer$"), "the tray")
 
@@ -95,20 +95,20 @@ class DesktopSession(AudioSession):
         self.end("tray")
         waitUntil(lambda: not self.ownsName(WATCHER), "the tray to go")
 
-    # Looking and pointing
+    # Observation and input
 
     def windows(self, name):
         """The ids of the visible windows whose name matches."""
         return self.run("xdotool", "search", "--onlyvisible", "--name", name, check=False).split()
 
     def geometry(self, window):
-        """Of a window: x, y, width, height in pixels."""
+        """x, y, width, height of a window, in pixels."""
         text = self.run("xdotool", "getwindowgeometry", "--shell", window)
         values = dict(line.split("=") for line in text.split())
         return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
     def click(self, x, y, button=1, key=None):
-        """Clicks there, with `key` held."""
+        """Clicks at a position, with `key` held."""
         self.run("xdotool", "mousemove", str(x), str(y))
         held = ["keydown", key] if key else []
         released = ["keyup", key] if key else []
@@ -118,13 +118,13 @@ class DesktopSession(AudioSession):
         self.run("xdotool", "key", *keys)
 
     def screenshot(self, file, area=None):
-        """Saves what the display shows as PNG; of it only `area`: x, y, width, height."""
+        """Saves a screenshot as PNG; with `area`, only x, y, width, height."""
         crop = ["-crop", "{2}x{3}+{0}+{1}".format(*area), "+repage"] if area else []
         self.run("import", "-window", "root", *crop, str(file))
 
     def pixels(self):
-        """What the display shows, as rows of red, green and blue."""
-        import numpy  # The session itself does without it.
+        """The screen contents, as rows of red, green and blue."""
+        import numpy  # Not needed by the session itself.
         done = subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"], env=self.environment,
                               capture_output=True, timeout=20, check=True)
         return numpy.frombuffer(done.stdout, numpy.uint8).reshape(SIZE[1], SIZE[0], 3).astype(int)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The program itself in a private audio session: its settings, its lines, its commands."""
+"""The program itself in a private audio session: its settings, its output, its commands."""
 
 import json
 import subprocess
@@ -10,16 +10,16 @@ from audioSession import SessionError, waitUntil
 
 
 def programOf(pid):
-    """The program's own process, whose guardian is `pid`; `pid` itself where it has none."""
+    """The pid of the program whose guardian is `pid`; `pid` itself if there is no guardian."""
     with open(f"/proc/{pid}/task/{pid}/children") as children:
         return int((children.read().split() or [pid])[0])
 
 
 class FadeloomProcess:
-    """`fadeloom --headless` with these settings. Use as a context manager; leaving ends it in order."""
+    """`fadeloom --headless` with these settings. Use as a context manager, which quits it at the end."""
 
     def __init__(self, session, program, settings=None, name="fadeloom", wrapper=()):
-        """`wrapper`: a command that starts the program, whose words it gets as its last arguments."""
+        """`wrapper`: a command that starts the program, which is appended to its arguments."""
         self.session = session
         self.program = program
         self.wrapper = wrapper
@@ -57,7 +57,7 @@ class FadeloomProcess:
         return [line for _, line in list(self.lines)]
 
     def waitFor(self, part, seconds=8.0, after=0):
-        """Waits for a line that holds `part`, among those from number `after` on; returns its number and its time."""
+        """Waits for a line that contains `part`, starting at line number `after`; returns its number and its time."""
         def search():
             for number, (moment, line) in enumerate(list(self.lines)[after:], after):
                 if part in line:
@@ -69,7 +69,7 @@ class FadeloomProcess:
             raise SessionError(f"{error}; it said:\n" + "\n".join(self.text())) from None
 
     def command(self, line, seconds=5.0):
-        """Sends one command and returns its answer."""
+        """Sends one command and returns its reply."""
         count = len(self.lines)
         self.process.stdin.write(line + "\n")
 

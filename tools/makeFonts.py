@@ -1,11 +1,11 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Makes resources/fonts from Inter: needs the Debian packages fonts-inter and python3-fonttools.
+"""Generates resources/fonts from Inter: needs the Debian packages fonts-inter and python3-fonttools.
 
-The panel's digits have a fixed width, and Qt before 6.7 cannot ask a font for its tabular figures; so the default
-digits are the tabular ones here. Outlines are made quadratic: Qt has FreeType thicken the stems of cubic ones, which made
-every weight look like the next. Only the scripts of the interface are kept: other names use the system's fonts. The family
-has a name of its own, so that it is never mixed up with an installed Inter.
+The panel's digits need a fixed width, and Qt before 6.7 cannot select a font's tabular figures; so here the default
+digits are the tabular ones. Outlines are converted to quadratic: for cubic ones Qt enables FreeType's stem darkening,
+which made all weights look alike. Only the scripts of the interface are kept: other names use the system's fonts. The
+family is renamed, so that it never conflicts with an installed Inter.
 """
 
 import pathlib
@@ -24,7 +24,7 @@ CHARACTERS = [*range(0x20, 0x250), *range(0x2010, 0x2028), *range(0x2030, 0x2040
 
 
 def tabular(font):
-    """The glyphs that stand for others under the feature "tnum"."""
+    """The glyphs that replace others under the feature "tnum"."""
     table = font["GSUB"].table
     found = {}
     for record in table.FeatureList.FeatureRecord:
@@ -36,7 +36,7 @@ def tabular(font):
 
 
 def makeQuadratic(font):
-    """Replaces the cubic outlines by quadratic ones that are nowhere further off than half a unit."""
+    """Replaces the cubic outlines by quadratic ones that deviate by less than half a unit."""
     glyphs = font.getGlyphSet()
     outlines = {}
     for name in font.getGlyphOrder():
@@ -65,7 +65,7 @@ def make(style):
     figures = tabular(font)
     for part in font["cmap"].tables:
         for code in range(ord("0"), ord("9") + 1):
-            part.cmap[code] = figures.get(part.cmap[code], part.cmap[code])  # Some tables are one and the same.
+            part.cmap[code] = figures.get(part.cmap[code], part.cmap[code])  # Some tables are shared.
     for record in font["name"].names:
         if record.nameID in (1, 16):
             record.string = FAMILY

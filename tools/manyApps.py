@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """Many applications at once, each tapped and equalized, in a private audio session.
 
-The server tells in its log of a node that was late for a cycle. The device is recorded as well: all applications play
-the same tone in step with the cycles, so one that is missing from a cycle shows as a dip of its share.
+The server logs nodes that were late for a cycle. The device is recorded as well: all applications play the same tone in
+phase with the cycles, so one that misses a cycle shows as a dip by its share.
 
     tools/manyApps.py PROGRAM [--apps 64] [--quantum 256] [--seconds 60]
 """
@@ -27,12 +27,12 @@ from audioSession import AudioSession, SessionError  # noqa: E402
 from fadeloomProcess import FadeloomProcess, app, settings  # noqa: E402
 from processUse import cpuOfThreads  # noqa: E402
 
-TONE = 750  # Its period divides every cycle, so that all players are in step whenever each began.
+TONE = 750  # Its period divides every cycle, so that all players are in phase whenever they started.
 GAINS = [3.0, 2.0, 1.0, -1.0, -2.0, 2.0, 1.0, 3.0, -3.0, 2.0]
 
 
 class Stalls:
-    """Looks from each processor, in real time above all audio, for how long the machine gave it no time."""
+    """Measures on each processor, at a real-time priority above all audio, for how long it was not scheduled."""
 
     def __init__(self):
         self.longest = dict.fromkeys(os.sched_getaffinity(0), 0.0)  # Seconds.
@@ -51,7 +51,7 @@ class Stalls:
             self.longest[processor] = max(self.longest[processor], time.monotonic() - before - 0.001)
 
     def end(self):
-        """The longest time without the processor that any of them saw, in seconds."""
+        """The longest time without the processor that any of them observed, in seconds."""
         self.isEnding = True
         for thread in self.threads:
             thread.join()
@@ -59,7 +59,7 @@ class Stalls:
 
 
 def startApps(session, count, seconds):
-    """Each a program of its own, so that each is an application; returns their names."""
+    """Starts the players, each a separate program and thus a separate application; returns their names."""
     file = session.folder / "tone.wav"
     signals.write(file, signals.sine(TONE, 0.01, seconds))
     names = [f"app{number:02}" for number in range(count)]
@@ -67,12 +67,13 @@ def startApps(session, count, seconds):
         program = session.folder / name
         shutil.copy(shutil.which("pw-cat"), program)
         session.spawn(name, [str(program), "--playback", str(file)])
-        time.sleep(0.1)  # All at once would be a test of the session manager.
+        time.sleep(0.1)  # Starting all at once would test the session manager.
     return names
 
 
 def lateNodes(session):
-    """The nodes that missed a cycle so far, by name. After one, the server is silent about others for two seconds."""
+    """The nodes that missed a cycle so far, by name. After each report, the server suppresses others for two
+    seconds."""
     return re.findall(r"\((\S+)-\d+\) client too slow", (session.folder / "pipewire.log").read_text())
 
 
@@ -99,17 +100,18 @@ def measure(session, program, count, quantum, seconds):
 
     lost = dips(signals.read(recording)[:, 0], count)
     ours = [name for name in late if "com.fadeloom.tap" in name]
-    print(f"{count} applications with ten bands at {quantum} frames a cycle, for {elapsed:.0f} seconds:")
-    print(f"  nodes of ours that missed a cycle: {len(ours)}; others: {len(late) - len(ours)}")
-    print(f"  a cycle has {quantum / signals.RATE * 1e3:.1f} ms; the machine stood still for {stalled * 1e3:.1f} ms at most")
+    print(f"{count} applications with ten bands at {quantum} frames per cycle, for {elapsed:.0f} seconds:")
+    print(f"  our nodes that missed a cycle: {len(ours)}; others: {len(late) - len(ours)}")
+    print(f"  a cycle has {quantum / signals.RATE * 1e3:.1f} ms; the machine scheduled nobody for up to {stalled * 1e3:.1f} ms")
     print(f"  an application was missing from the device's sound in {lost} stretches of 256 frames")
-    print(f"  our callbacks, with their waking up, took {max(used.values()) / elapsed * 100:.1f} % of the cycles")
-    print(f"  the whole program took {sum(used.values()) / elapsed * 100:.1f} % of one processor")
-    return 1 if ours else 0  # What is missing without that, a player did not deliver.
+    print(f"  our callbacks, including wakeups, took {max(used.values()) / elapsed * 100:.1f} % of the cycles")
+    print(f"  the whole program took {sum(used.values()) / elapsed * 100:.1f} % of one CPU")
+    return 1 if ours else 0  # Without misses of ours, any dips come from the players.
 
 
 def dips(recorded, count, window=256):
-    """In how many stretches of so many frames the tone is weaker than usual by a quarter of one application's share."""
+    """The number of blocks of this length in which the tone is weaker than usual by a quarter of one application's
+    share."""
     sounding = recorded[numpy.flatnonzero(recorded)[0] + signals.RATE // 4:-signals.RATE // 4]
     frames = sounding[:len(sounding) // window * window].reshape(-1, window)
     carrier = numpy.exp(-2j * numpy.pi * TONE * numpy.arange(window) / signals.RATE)

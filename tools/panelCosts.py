@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""What the icon and the panel cost, on a private desktop: time to the first frame, wakeups, processor, memory.
+"""Measures the icon and the panel on a private desktop: time to the first frame, wakeups, CPU time, memory.
 
     tools/panelCosts.py PROGRAM [--rows 10] [--seconds 20]
 """
@@ -25,7 +25,7 @@ STARTS = 7
 
 
 def watch(pid, seconds):
-    """Wakeups a second of the busiest thread and of all, and the share of a processor in percent."""
+    """Wakeups per second of the busiest thread and of all, and CPU usage in percent."""
     before, used, started = wakeups(pid), cpuSeconds(f"/proc/{pid}/stat"), time.monotonic()
     time.sleep(seconds)
     elapsed = time.monotonic() - started
@@ -42,13 +42,13 @@ def tell(what, pid, seconds):
 
 
 def openPanel(session):
-    """Asks the program that runs to open its panel."""
+    """Asks the running program to open its panel."""
     return session.run("dbus-send", "--session", "--print-reply", "--dest=com.fadeloom.app", "/com/fadeloom/app",
                        "com.fadeloom.app.Open", check=False)
 
 
 class Eye:
-    """Looks at one pixel of a display, a thousand times a second if need be."""
+    """Polls one pixel of a display, up to a thousand times a second."""
 
     def __init__(self, display):
         self.x11 = ctypes.CDLL("libX11.so.6")
@@ -66,11 +66,11 @@ class Eye:
         return value
 
 
-PLACE = (SIZE[0] - 30, 120)  # The panel stands in the upper right corner.
+PLACE = (SIZE[0] - 30, 120)  # The panel is in the upper right corner.
 
 
 def firstFrame(session, eye):
-    """Milliseconds from the request to open the panel to its first picture."""
+    """Milliseconds from the request to open the panel to its first frame."""
     empty = eye.colour(*PLACE)
     started = time.monotonic()
     waitUntil(lambda: openPanel(session), "the program", interval=0)
@@ -79,7 +79,7 @@ def firstFrame(session, eye):
 
 
 def firstFrames(session, program, eye):
-    """The same for STARTS new processes: asked at once, asked after a second, asked a second time."""
+    """The same for STARTS new processes: requested immediately, after a second, and a second time."""
     empty = eye.colour(*PLACE)
     times = []
     for _ in range(STARTS):
@@ -100,7 +100,7 @@ def firstFrames(session, program, eye):
 
 
 def measure(session, program, rows, seconds):
-    del session.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"]  # Nobody reads the screen here.
+    del session.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"]  # There is no screen reader here.
     session.startXfcePanel()
     session.spawn("fadeloom", [str(program)])
     pid = programOf(session.processes["fadeloom"].pid)

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""How long it takes from a click on the icon to the panel's first picture, on a Wayland desktop that nobody sees.
+"""Measures the time from a click on the icon to the panel's first frame, on a headless Wayland desktop.
 
     tools/panelOpening.py build/release/fadeloom [times]
 """
@@ -15,7 +15,7 @@ from audioSession import waitUntil
 from swaySession import BAR, SwaySession
 
 LINE = re.compile(r"\[ *(\d+)\.(\d{3})\] +-> (\w+)@(\d+)\.(\w+)\((.*)\)")
-MICROSECONDS = 2 ** 32  # After which the compositor's library begins again.
+MICROSECONDS = 2 ** 32  # After which the compositor's timestamps wrap around.
 
 
 def now():
@@ -23,7 +23,7 @@ def now():
 
 
 def firstPicture(lines):
-    """When the last surface that got a place was first given a picture, in microseconds; None while it was not."""
+    """When the surface that was placed last got its first frame, in microseconds; None if it has not."""
     surface, hasPicture = None, False
     for line in lines:
         found = LINE.match(line)
@@ -40,10 +40,10 @@ def firstPicture(lines):
 
 
 def openings(session, program, times):
-    """Starts the program and opens its panel so often; milliseconds of each."""
+    """Starts the program and opens its panel the given number of times; the milliseconds of each."""
     session.spawn("fadeloom", [str(pathlib.Path(program).resolve()), "--simulate"], environment={"WAYLAND_DEBUG": "client"})
     log = session.folder / "fadeloom.log"
-    time.sleep(4)  # The icon.
+    time.sleep(4)  # Until the icon is there.
     taken = []
     for _ in range(times):
         seen = log.stat().st_size

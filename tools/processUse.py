@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: MIT
-"""What a process uses of the machine."""
+"""Resource usage of a process."""
 
 import os
 import pathlib
 
 
 def cpuSeconds(stat):
-    """What a process or thread has taken of the processors so far, in seconds."""
+    """CPU time of a process or thread so far, in seconds."""
     fields = pathlib.Path(stat).read_text().rsplit(")", 1)[1].split()
     return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
 
@@ -17,7 +17,7 @@ def cpuOfThreads(pid):
 
 
 def wakeups(pid):
-    """How often each thread has waited and gone on so far: name -> count."""
+    """The number of voluntary context switches of each thread so far: name -> count."""
     counts = {}
     for task in pathlib.Path(f"/proc/{pid}/task").iterdir():
         lines = dict(line.split(":\t", 1) for line in (task / "status").read_text().splitlines() if ":\t" in line)
@@ -26,7 +26,7 @@ def wakeups(pid):
 
 
 def memory(pid):
-    """Resident, and what is shared with nobody, in megabytes."""
+    """Resident and private memory, in megabytes."""
     lines = dict(line.split(":", 1) for line in pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()[1:])
     private = sum(int(lines[name].split()[0]) for name in ("Private_Clean", "Private_Dirty"))
     return int(lines["Rss"].split()[0]) / 1024, private / 1024

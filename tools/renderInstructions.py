@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Counts the instructions that the render path takes for a frame, and holds them against those that are stored.
+"""Counts the instructions per frame of the render path, and compares them with the stored counts.
 
     tools/renderInstructions.py DRIVER          prints them, and those of benchmarks/instructions.json
     tools/renderInstructions.py DRIVER --store  stores them
 
-A count is the same on a busy machine and on an idle one. It does not see everything: a recursion that goes through
-memory has no more instructions than one in registers. ./bench sees that. DRIVER: the program renderDriver.
+The count does not depend on the load of the machine. It does not show everything: a recursion through memory has no more
+instructions than one in registers, which ./bench does measure. DRIVER: the program renderDriver.
 """
 
 import json
@@ -25,7 +25,7 @@ SLACK = 1.05
 
 
 def collected(driver, form, case, rounds):
-    """All instructions of one run, or None where the processor does not have the form."""
+    """All instructions of one run, or None if the processor does not support the implementation."""
     done = subprocess.run(["valgrind", "--tool=callgrind", "--callgrind-out-file=/dev/null", driver, form, case,
                            str(rounds)], text=True, capture_output=True)
     found = re.search(r"Collected : (\d+)", done.stderr)
@@ -37,14 +37,14 @@ def collected(driver, form, case, rounds):
 
 
 def perFrame(driver, form, case):
-    """Instructions for a frame: what more rounds take more, so that starting the program does not count."""
+    """Instructions per frame, as the difference between runs of different length, so that startup does not count."""
     few = collected(driver, form, case, ROUNDS)
     many = collected(driver, form, case, 3 * ROUNDS)
     return None if few is None else (many - few) / (2 * ROUNDS * FRAMES_OF_A_ROUND)
 
 
 def counts(driver):
-    """(form, case, instructions for a frame) of all that this processor has."""
+    """(form, case, instructions per frame) of all that this processor supports."""
     for form in FORMS:
         for case in CASES:
             count = perFrame(driver, form, case)
@@ -57,7 +57,7 @@ def stored():
 
 
 def whyIncomparable(compiler):
-    """Why the stored counts say nothing here, or None. `compiler`: as `--version` names it."""
+    """Why the stored counts do not apply here, or None. `compiler`: the first line of its `--version`."""
     if platform.machine() != stored()["processor"]:
         return f"they are stored for {stored()['processor']}"
     major = re.search(r"\b(\d+)\.\d+\.\d+", compiler)

@@ -20,8 +20,8 @@ BUILD = ROOT / "build" / "bench"
 PROGRAMS = BUILD / "benchmarks"
 PARTS = ("render", "cycle", "apps", "equalizer", "poll", "peers", "instructions")
 
-# How many times faster than the plain form at least: (case, frames in a block) of the vectors' names. A busy machine
-# may cost SLACK of it.
+# The minimum speedup over the plain implementation: (case, frames per block), by kernels. SLACK is the tolerance for a
+# busy machine.
 TARGETS = {
     "AVX2": {("eq10", 512): 5, ("eq10", 64): 3.5, ("eq3", 512): 7, ("off", 512): 40, ("eq10_silence", 512): 40,
              ("eq10_limiting", 512): 3.5},
@@ -31,7 +31,7 @@ PEER_TARGETS = {"ffmpeg": 6, "sox": 15}
 SLACK = 0.85
 SHOWN_BLOCKS = (64, 512)
 
-# The peers get ten peaking filters at our frequencies, with our Q and the gains of benchmarks/CycleStage.h.
+# The other programs get ten peaking filters at our frequencies, with our Q and the gains of benchmarks/CycleStage.h.
 FREQUENCIES = (32, 64, 125, 250, 500, 1000, 2000, 4000, 8000, 16000)
 GAINS = (6, -4, 3, -2, 7, -6, 4, 2, -3, 5)
 PEER_SECONDS = 180
@@ -54,7 +54,7 @@ def build():
 
 
 def benchmark(program, *options):
-    """What a benchmark program found, as it writes it: its context and a list of runs."""
+    """The JSON output of a benchmark program: its context and a list of runs."""
     done = subprocess.run([PROGRAMS / program, "--benchmark_format=json", *options], text=True, check=True,
                           capture_output=True)
     return json.loads(done.stdout)
@@ -67,7 +67,7 @@ def names(program):
 
 
 def bestOf(runs):
-    """By benchmark the best of several runs: of each counter that ends in _ns the lowest."""
+    """The best of several runs by benchmark: the minimum of each counter that ends in _ns."""
     best = {}
     for run in runs:
         if run.get("error_occurred"):
@@ -91,12 +91,12 @@ def cell(time, ratio, target=None):
 
 
 def runRender(results):
-    """The render path: the plain form, and how many times faster the vectors are."""
+    """The render path: the plain implementation, and the speedup of the vector code."""
     found = benchmark("RenderRatio", "--benchmark_repetitions=3", "--benchmark_enable_random_interleaving=true")
     results["compiler"] = found["context"]["compiler"]
     best = bestOf(found["benchmarks"])
     forms = sorted((form for form in next(iter(best.values())) if form != "plain"), reverse=True)
-    print(f"\nRender path: ns for a stereo frame, and how many times faster than plain. In brackets the target.\n"
+    print(f"\nRender path: ns per stereo frame, and speedup over plain, with the target in brackets.\n"
           f"  {'case':18}{'block':>6}{'plain':>9}" + "".join(f"{form:>14}{'':10}" for form in forms))
     failures = 0
     for name in names("RenderRatio"):
@@ -115,7 +115,7 @@ def runRender(results):
 def runCycle(results):
     """Whole cycles of a renderer, 512 frames each."""
     best = bestOf(benchmark("RenderCycle", "--benchmark_repetitions=3")["benchmarks"])
-    print(f"\nWhole cycles of 512 frames: ns for a stereo frame\n  {'':28}{'plain':>9}{'best':>9}")
+    print(f"\nWhole cycles of 512 frames: ns per stereo frame\n  {'':28}{'plain':>9}{'best':>9}")
     for name, times in best.items():
         results["cycle"][name] = times
         print(f"  {name.removeprefix('cycle/'):28}{times['plain']:9.2f}"
@@ -135,8 +135,8 @@ def runApps(results):
 
 
 def runEqualizer(results):
-    """What the main thread does when a slider moves."""
-    print("\nA change of the equalizer: us")
+    """The cost of moving a slider on the main thread."""
+    print("\nAn equalizer change: us")
     for run in benchmark("EqualizerChange")["benchmarks"]:
         results["equalizer"][run["name"]] = run["cpu_time"]
         print(f"  {run['name']:28}{run['cpu_time'] / 1000:9.2f}")
@@ -144,7 +144,7 @@ def runEqualizer(results):
 
 
 def runPoll(results):
-    """What the controller's poll takes."""
+    """The cost of the controller's poll."""
     print("\nA poll on the simulated system: us")
     for run in benchmark("PollCost")["benchmarks"]:
         processes = run["name"].split(":")[1]
@@ -154,7 +154,7 @@ def runPoll(results):
 
 
 def cpuSeconds(command):
-    """The least user and system time of three runs."""
+    """The minimum user and system time of three runs."""
     best = None
     for _ in range(3):
         before = resource.getrusage(resource.RUSAGE_CHILDREN)
@@ -166,7 +166,7 @@ def cpuSeconds(command):
 
 
 def peerCommands(sound):
-    """(name, program, command without filters, command with them) of the peers that are installed."""
+    """(name, program, command without filters, command with them) of the installed programs to compare with."""
     if shutil.which("ffmpeg"):
         for precision, samples in (("f64", "dblp"), ("f32", "fltp")):
             filters = ",".join(f"equalizer=f={f}:t=q:w=1.41:g={g}:r={precision}" for f, g in zip(FREQUENCIES, GAINS))
@@ -195,12 +195,12 @@ def writeSound(path):
 
 
 def runPeers(results):
-    """Others with the same ten sections, less a run without them."""
+    """Other programs with the same ten sections, minus a run without them."""
     ours = bestOf(benchmark("RenderRatio", "--benchmark_filter=/eq10/512/")["benchmarks"])["render/ratio/eq10/512"]
     form = min(ours, key=ours.get)
     folder = "/dev/shm" if os.path.isdir("/dev/shm") else None
     failures = 0
-    print(f"\nOthers with the same ten bands: CPU ns for a stereo frame without what a run without filters takes,\n"
+    print(f"\nOthers with the same ten bands: CPU ns per stereo frame, minus a run without filters,\n"
           f"{PEER_SECONDS} s of sound from memory, best of 3. Ours is the whole path, blocks of 512, {form}:"
           f" {ours[form]:.2f} ns")
     with tempfile.TemporaryDirectory(dir=folder) as temporary:
@@ -217,8 +217,8 @@ def runPeers(results):
 
 
 def runInstructions(results):
-    """What the render path takes for a frame, counted."""
-    print("\nInstructions for a stereo frame, blocks of 512")
+    """Instructions per frame of the render path."""
+    print("\nInstructions per stereo frame, blocks of 512")
     for form, case, count in renderInstructions.counts(PROGRAMS / "renderDriver"):
         results["instructions"][f"{form} {case}"] = count
         print(f"  {form:10}{case:18}{count:9.1f}")

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Builds and runs the test suites that `./test` names, and ends with one line that counts them."""
+"""Builds and runs the test suites that `./test` names, and prints the totals in the last line."""
 
 import argparse
 import concurrent.futures
@@ -16,26 +16,31 @@ import renderInstructions
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 RESULTS = ROOT / "build" / "results"
-SOME_FAILED = 1  # pytest's exit status, as opposed to having run nothing.
+SOME_FAILED = 1  # pytest's exit status; it has another one if no test ran.
 SPECIAL = ("pipewire", "week", "desktop", "instructions", "sanitizers", "macos", "fuzz", "checks",
            "trixie", "mutations")
 OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdesktop", "src/platform/sndfile",
             "src/app/linux", "src/ctl")
-# What the suites with real players start.
+# The programs used by the suites with real players.
 PLAYED = ("fadeloom", "fadeloomctl", "pipewireContractTests", "pipewireRealTimeTests")
 SHORT_SANITIZERS = {"asan": ("engine", "settings", "control", "shell", "platform/sndfile"),
                     "tsan": ("engine", "platform/sndfile")}
-# The suites with real players, and what pytest is given for each.
+SANITIZER_OPTIONS = {
+    "ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
+    "UBSAN_OPTIONS": "halt_on_error=1:print_stacktrace=1",
+    "TSAN_OPTIONS": "halt_on_error=1",
+}
+# The suites with real players, with their arguments for pytest.
 PLAYERS = {
     "pipewire": ("tests/pipewire", "--ignore=tests/pipewire/test_week.py"),
     "week": ("tests/pipewire/test_week.py",),
     "desktop": ("tests/desktop",),
 }
-LONG_FORMS = ("engine", "platform/sndfile")  # Folders with test suites that are named LongForm.
+LONG_FORMS = ("engine", "platform/sndfile")  # Folders with test suites named LongForm.
 
 
 class Tally:
-    """Counts tests over suites and remembers which failed."""
+    """Accumulates the results of suites and the names of failed tests."""
 
     def __init__(self):
         self.passed = 0
@@ -43,7 +48,7 @@ class Tally:
         self.failures = []
 
     def addJUnit(self, suite, file, status):
-        """Takes the results of a suite; one that left none behind counts as one failure."""
+        """Adds the results of a suite; one without results counts as one failure."""
         try:
             cases = list(ElementTree.parse(file).iter("testcase"))
         except (OSError, ElementTree.ParseError):
@@ -78,7 +83,7 @@ class Tally:
 
 
 def run(*command, quiet=False, **options):
-    """Runs a command in the project's root; with `quiet`, its output shows only when it fails."""
+    """Runs a command in the project's root; with `quiet`, its output is printed only if it fails."""
     command = [str(word) for word in command]
     if not quiet:
         return subprocess.run(command, cwd=ROOT, **options).returncode
@@ -88,8 +93,24 @@ def run(*command, quiet=False, **options):
     return done.returncode
 
 
+def testsOf(folder):
+    """The name of the test program of a folder of src/."""
+    return folder.replace("/", "_") + "Tests"
+
+
+def programOf(preset, folder):
+    return ROOT / "build" / preset / "src" / folder / testsOf(folder)
+
+
+def testedFolders():
+    """The folders of src/ that have tests, for Linux."""
+    tests = ROOT / "tests"
+    return [str(made.parent.relative_to(ROOT / "src")) for made in sorted((ROOT / "src").rglob("CMakeLists.txt"))
+            if "TESTS" in made.read_text(encoding="utf-8") and (tests / made.parent.relative_to(ROOT / "src")).is_dir()]
+
+
 def build(preset, *targets):
-    """Configures a preset and builds it, or only these targets; ends the run when that fails."""
+    """Configures and builds a preset, or only these targets; exits if that fails."""
     started = time.monotonic()
     chosen = ["--target", *targets] if targets else []
     if run("cmake", "--preset", preset, quiet=True) or run("cmake", "--build", "--preset", preset, *chosen, quiet=True):
@@ -98,8 +119,8 @@ def build(preset, *targets):
     print(f"Built {preset} in {time.monotonic() - started:.0f} s", flush=True)
 
 
-def makeWay():
-    """Leaves this thread, and what it starts, only the processor time that nobody else wants."""
+def useIdleTimeOnly():
+    """Restricts this thread and its children to otherwise unused CPU time."""
     os.sched_setscheduler(0, os.SCHED_IDLE, os.sched_param(0))
 
 
@@ -111,37 +132,40 @@ def results(name):
 
 
 def runUnits(tally, labels):
-    """The unit tests and the ones on the simulated platform; `labels` are folders of src/, none means all."""
+    """The unit tests and the ones on the simulated platform; `labels` are folders of src/, empty for all."""
     file = results("units")
     pattern = "^(" + "|".join(labels) + ")$" if labels else "."
     status = run("ctest", "--preset", "test", "--output-junit", file, "-L", pattern, quiet=True)
     tally.addJUnit("units", file, status)
 
 
+def runProgram(tally, name, program, *options, under=(), **environment):
+    """Runs a test program, with all its tests in one process; `under` is a command to run it with."""
+    file = results(name)
+    status = run(*under, program, f"--gtest_output=xml:{file}", *options, quiet=True,
+                 env={**os.environ, "QT_QPA_PLATFORM": "offscreen", **environment})
+    tally.addJUnit(name, file, status)
+
+
 def runLongForms(tally, labels):
-    """The unit tests that take minutes and gigabytes, in a temporary folder that is no memory."""
+    """The unit tests that take minutes and gigabytes, in a temporary folder that is not in memory."""
     for folder in LONG_FORMS:
         if labels and folder not in labels:
             continue
-        name = folder.replace("/", "_") + "Tests"
-        file = results(name + "LongForm")
-        status = run(ROOT / "build/test/src" / folder / name, "--gtest_filter=*LongForm.*",
-                     f"--gtest_output=xml:{file}", quiet=True, env={"TMPDIR": "/var/tmp", **os.environ})
-        tally.addJUnit(name, file, status)
+        runProgram(tally, testsOf(folder) + "LongForm", programOf("test", folder), "--gtest_filter=*LongForm.*",
+                   TMPDIR=os.environ.get("TMPDIR", "/var/tmp"))
 
 
 def runPipeWire(tally):
     """The contract and the callback, in private audio sessions."""
     for name in ("pipewireContractTests", "pipewireRealTimeTests"):
-        file = results(name)
-        status = run("/usr/bin/python3", "tools/audioSession.py", "run", "--",
-                     ROOT / "build/test/tests/pipewire" / name, f"--gtest_output=xml:{file}", quiet=True)
-        tally.addJUnit(name, file, status)
+        runProgram(tally, name, ROOT / "build/test/tests/pipewire" / name,
+                   under=("/usr/bin/python3", "tools/audioSession.py", "run", "--"))
 
 
 def runPlayers(tally, suite):
-    """A suite with real players. One that stumbles on a busy machine is not our failure: what failed gets one
-    more attempt, and is named."""
+    """A suite with real players. Players may fail on a busy machine through no fault of ours: failed tests are retried
+    once, and named."""
     first = Tally()
     status = runPyTest(first, suite, *PLAYERS[suite])
     if first.failures and status == SOME_FAILED:
@@ -165,14 +189,14 @@ def runPyTest(tally, suite, *options, name=None):
 
 
 def compilerOf(preset):
-    """The first line of what the preset's compiler says of itself."""
+    """The first line of `--version` of the preset's compiler."""
     cache = (ROOT / "build" / preset / "CMakeCache.txt").read_text(encoding="utf-8")
     path = next(line.split("=", 1)[1] for line in cache.splitlines() if line.startswith("CMAKE_CXX_COMPILER:"))
     return subprocess.run([path, "--version"], text=True, capture_output=True).stdout.splitlines()[0]
 
 
 def runInstructions(tally):
-    """How many instructions the render path takes: no more than are stored, and a few in a hundred."""
+    """Instructions per frame of the render path: at most those stored, plus a tolerance of a few percent."""
     why = renderInstructions.whyIncomparable(compilerOf("test"))
     if why:
         print(f"instructions: not compared, {why}")
@@ -181,39 +205,35 @@ def runInstructions(tally):
     for form, case, count in renderInstructions.counts(ROOT / "build/test/benchmarks/renderDriver"):
         isPassed = count <= expected[form][case] * renderInstructions.SLACK
         if not isPassed:
-            print(f"{form} {case}: {count:.1f} instructions a frame, stored are {expected[form][case]}")
+            print(f"{form} {case}: {count:.1f} instructions per frame, stored: {expected[form][case]}")
         tally.add(f"instructions: {form} {case}", isPassed)
 
 
 def runSanitizers(tally, isLong):
-    """The unit tests under the sanitizers; in the short form those of the folders where memory and threads matter."""
+    """The unit tests under the sanitizers; in the short form only the folders where memory and threads matter."""
     for preset, short in SHORT_SANITIZERS.items():
-        folders = () if isLong else short
-        build(preset, *(folder.replace("/", "_") + "Tests" for folder in folders))
-        file = results(preset)
-        pattern = "^(" + "|".join(folders) + ")$" if folders else "."
-        status = run("ctest", "--preset", preset, "--output-junit", file, "-L", pattern, quiet=True)
-        tally.addJUnit(preset, file, status)
+        folders = testedFolders() if isLong else short
+        build(preset, *(testsOf(folder) for folder in folders))
+        for folder in folders:
+            runProgram(tally, f"{preset}-{testsOf(folder)}", programOf(preset, folder), "--gtest_filter=-*LongForm.*",
+                       **SANITIZER_OPTIONS)
 
 
 def runMacOS(tally):
-    """The program for macOS on doubles of the platform, its scripts, and its compilation for the processors of a Mac."""
+    """The program for macOS on doubles of the platform, its scripts, and its compilation for both Mac architectures."""
     if platform.machine() != "x86_64":
-        print(f"macos: the doubles send messages on x86_64 and not on {platform.machine()}")
+        print(f"macos: the doubles implement message dispatch for x86_64, not for {platform.machine()}")
         tally.add(f"macos: cannot be run on {platform.machine()}", False)
         return
     build("macos", "macosTests", "macosHomeTests")
     for name in ("macosTests", "macosHomeTests"):
-        file = results(name)
-        status = run(ROOT / "build/macos/tests/macos" / name, f"--gtest_output=xml:{file}", quiet=True,
-                     env={**os.environ, "ASAN_OPTIONS": "detect_leaks=1", "UBSAN_OPTIONS": "halt_on_error=1",
-                          "LSAN_OPTIONS": f"suppressions={ROOT / 'tests/macos/leaksOfQt.txt'}"})
-        tally.addJUnit(name, file, status)
+        runProgram(tally, name, ROOT / "build/macos/tests/macos" / name, **SANITIZER_OPTIONS,
+                   LSAN_OPTIONS=f"suppressions={ROOT / 'tests/macos/leaksOfQt.txt'}")
 
     tally.add("macos: bundle", run("/usr/bin/python3", "tools/checkBundle.py", quiet=True) == 0)
     runPyTest(tally, "macosScripts", "tests/macos")
 
-    # What does not compile leaves no object behind.
+    # What does not compile leaves no object file.
     started = time.monotonic()
     run("cmake", "--build", "--preset", "macos", "--target", "macosObjects", "--", "-k", "0", quiet=True)
     print(f"Compiled for a Mac in {time.monotonic() - started:.0f} s", flush=True)
@@ -230,13 +250,16 @@ def runMacOS(tally):
 
 
 def runFuzz(tally, isLong):
-    """Looks for inputs that what reads them does not survive: for half a minute altogether, or ten."""
-    corpora = {"settings": "settings", "words": "words", "command": "commands", "socket": "lines"}
-    seconds = (600 if isLong else 30) // len(corpora)
+    """Fuzzes the parsers: for half a minute in total, or ten minutes each."""
+    corpora = {"settings": "settings", "feed": "feed", "words": "words", "command": "commands",
+               "desktopEntry": "entries", "processFiles": "processes", "socket": "lines"}
+    if isLong:
+        corpora["graph"] = "graphs"  # Takes a minute to build; its corpus is replayed by the unit tests.
+    seconds = 600 if isLong else 30 // len(corpora)
     folder = ROOT / "build" / "fuzz"
     isBuilt = run("cmake", "-G", "Ninja", "-B", folder, "-DCMAKE_CXX_COMPILER=clang++-19", "-DFADELOOM_FUZZ=ON",
                   "-DFADELOOM_SANITIZE=fuzzer-no-link,address,undefined", "-DCMAKE_BUILD_TYPE=RelWithDebInfo",
-                  quiet=True) == 0
+                  "-DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O1 -g1", quiet=True) == 0
     for name, corpus in corpora.items():
         found = folder / "found" / name
         found.mkdir(parents=True, exist_ok=True)
@@ -252,16 +275,16 @@ def sources(*suffixes, below=("src", "tests", "benchmarks")):
 
 
 def runChecks(tally, isLong):
-    """What tools can say of the sources without running them."""
+    """Static checks of the sources."""
     tally.add("checks: formatting",
               run("clang-format-19", "--dry-run", "-Werror", *sources(".cpp", ".h", ".mm"), quiet=True) == 0)
-    for name, tool in (("layers", "checkLayers"), ("sizes", "checkSizes"), ("views", "checkQml"),
-                       ("manual pages", "checkManPages")):
+    for name, tool in (("layers", "checkLayers"), ("conventions", "checkConventions"), ("commits", "checkCommits"),
+                       ("sizes", "checkSizes"), ("views", "checkQml"), ("manual pages", "checkManPages")):
         tally.add(f"checks: {name}", run("/usr/bin/python3", f"tools/{tool}.py", quiet=True) == 0)
     runPyTest(tally, "tools", "tests/tools")
     if not isLong:
         return
-    # The plain build's commands: one for each source that it has.
+    # Needs the compile commands of the non-unity build, one per source.
     looked = [name for name in sources(".cpp", below=["src"]) if "macos" not in name.lower()]
     tally.add("checks: static analysis", run("cmake", "--preset", "dev", quiet=True) == 0 and
               run("xargs", "-P", "2", "-n", "4", "clang-tidy-19", "--quiet", "--extra-arg=-Wno-unknown-warning-option",
@@ -269,7 +292,7 @@ def runChecks(tally, isLong):
 
 
 def runTrixie(tally):
-    """The suites with real players on Debian 13, whose session manager is another one."""
+    """The suites with real players on Debian 13, with its newer session manager."""
     tally.add("trixie: pipewire", run("tools/onTrixie", "platform/pipewire", "pipewire") == 0)
 
 
@@ -281,7 +304,7 @@ def runMutations(tally, isLong):
 
 
 def runWithoutPlayers(tally, isLong):
-    """The suites that hear nothing and can wait."""
+    """The suites without audio, which can wait."""
     build("test")
     runSanitizers(tally, isLong)
     runMacOS(tally)
@@ -291,16 +314,16 @@ def runWithoutPlayers(tally, isLong):
 
 
 def runEverything(tally, isLong):
-    """Every suite. Real players leave most of the processors' time to others, and do not mind when it is taken by what
-    makes way for them."""
+    """Every suite. Real players leave most of the CPU time to others, and are not disturbed by processes with idle
+    priority."""
     build("test", *PLAYED)
     beside, week = Tally(), Tally()
-    with concurrent.futures.ThreadPoolExecutor(1, initializer=makeWay) as idle, \
+    with concurrent.futures.ThreadPoolExecutor(1, initializer=useIdleTimeOnly) as idle, \
             concurrent.futures.ThreadPoolExecutor(1) as second:
         rest = idle.submit(runWithoutPlayers, beside, isLong)
         runPipeWire(tally)
         runPlayers(tally, "pipewire")
-        days = second.submit(runPlayers, week, "week")  # It waits for sound more than it works.
+        days = second.submit(runPlayers, week, "week")  # It mostly waits for audio.
         runPlayers(tally, "desktop")
         days.result()
         rest.result()
@@ -312,8 +335,8 @@ def runEverything(tally, isLong):
 
 
 def runSome(tally, suites, folders, isLong):
-    """The suites that were named; `folders` are those among them that are folders of src/."""
-    if not set(suites) <= {"macos", "trixie", "mutations"}:  # They have builds of their own.
+    """The named suites; `folders` are those among them that are folders of src/."""
+    if not set(suites) <= {"macos", "trixie", "mutations"}:  # They have separate builds.
         build("test")
     if folders:
         runUnits(tally, folders)
@@ -352,7 +375,7 @@ def main():
 
     tally = Tally()
     if arguments.long:
-        os.environ["FADELOOM_LONG"] = "1"  # For what is not started with an option of its own.
+        os.environ["FADELOOM_LONG"] = "1"  # For child processes that take no such option.
     if not arguments.suites:
         runEverything(tally, arguments.long)
     else:

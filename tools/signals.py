@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Test signals and measurements: what is played in the private sessions, and what arrives at the devices."""
+"""Test signals, and measurements of the audio that arrives at the devices."""
 
 import struct
 import wave
@@ -16,7 +16,7 @@ def sine(frequency, amplitude, seconds, rate=RATE, channels=2):
 
 
 def ramp(seconds, first=0.4, last=0.6, rate=RATE, channels=2):
-    """Rises steadily and never changes its sign: a sample's value tells its place in the file."""
+    """Rises steadily without a change of sign: a sample's value identifies its position in the file."""
     return numpy.repeat(numpy.linspace(first, last, int(seconds * rate))[:, None], channels, axis=1)
 
 
@@ -25,7 +25,7 @@ def noise(amplitude, seconds, rate=RATE, channels=2, seed=1):
 
 
 def write(path, samples, rate=RATE):
-    """Writes 16-bit PCM; returns the samples as they stand in the file, in float32 as a player reads them."""
+    """Writes 16-bit PCM; returns the samples as a player reads them, in float32."""
     pcm = numpy.round(samples * 32767).astype("<i2")
     with wave.open(str(path), "wb") as file:
         file.setnchannels(pcm.shape[1])
@@ -36,7 +36,7 @@ def write(path, samples, rate=RATE):
 
 
 def read(path, channels=2):
-    """Reads a recording in 32-bit float, also one whose header was not finished."""
+    """Reads a recording of 32-bit floats, even if its header was not finished."""
     data = path.read_bytes()
     start = data.find(b"data")
     if start < 0:
@@ -47,7 +47,7 @@ def read(path, channels=2):
 
 
 def readWave24(path):
-    """A 24-bit stereo WAVE file in good order: its rate in hertz and its samples as integers, frames x 2."""
+    """A valid 24-bit stereo WAVE file: its rate in hertz and its samples as integers, frames x 2."""
     data = path.read_bytes()
     if data[:4] != b"RIFF" or data[8:12] != b"WAVE":
         raise ValueError(f"{path} is no WAVE file")
@@ -70,7 +70,7 @@ def readWave24(path):
 
 
 def steady(samples, frequency, rate=RATE):
-    """The longest stretch of whole periods in the middle half of what is not silence."""
+    """The longest run of whole periods in the middle half of the non-silent part."""
     loud = numpy.flatnonzero(numpy.abs(samples).max(axis=1) > 0)
     if not len(loud):
         return samples[:0]
@@ -90,7 +90,7 @@ def amplitude(samples, frequency, rate=RATE):
 
 
 def typicalAmplitude(samples, frequency, rate=RATE, window=0.02):
-    """The median of the amplitudes of many short windows: a player that stumbles once does not count.
+    """The median of the amplitudes of many short windows, so that a single glitch of a player does not count.
 
     `window`: seconds, whole periods of the frequency.
     """
@@ -104,7 +104,7 @@ def decibels(value):
 
 
 def delay(reference, delayed):
-    """By how many frames `delayed` follows `reference`, by correlation."""
+    """By how many frames `delayed` lags behind `reference`, by correlation."""
     size = 1 << (len(reference) + len(delayed)).bit_length()
     spectrum = numpy.fft.rfft(delayed, size) * numpy.conj(numpy.fft.rfft(reference, size))
     place = int(numpy.argmax(numpy.fft.irfft(spectrum, size)))
@@ -112,9 +112,9 @@ def delay(reference, delayed):
 
 
 def stretches(samples):
-    """The recording of a ramp from 0.40 to 0.45, tapped at a quarter of its volume, by the way in which it came.
+    """Segments of a recording of a ramp from 0.40 to 0.45, tapped at a quarter of its volume, by signal path.
 
-    As (kind, first frame, frames, first value, last value). The level tells the kind: "tapped" is 0.10 to 0.11,
+    As (kind, first frame, frames, first value, last value). The level identifies the kind: "tapped" is 0.10 to 0.11,
     "direct" past the tap 0.40 to 0.45, "both" at once 0.50 and more, and "silent" nothing.
     """
     level = numpy.abs(samples)

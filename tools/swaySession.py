@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""A private Wayland desktop around a private audio session: sway without a display, a bar, a pointer and a keyboard.
+"""A private Wayland desktop on top of a private audio session: headless sway, a bar, a pointer and a keyboard.
 
-    tools/swaySession.py run -- COMMAND ...      runs one command on such a desktop
+    tools/swaySession.py run -- COMMAND ...      runs a command on such a desktop
 """
 
 import contextlib
@@ -20,13 +20,13 @@ BAR = 30
 
 
 def notAsRoot():
-    """sway refuses to run where it could become root: for root, a name space of its own where that is somebody else."""
+    """sway refuses to run where it could become root: root gets a user namespace in which it is another user."""
     return ["unshare", "--user", "--map-user=1000", "--map-group=1000"] if os.geteuid() == 0 else []
 
 
 class SwaySession(AudioSession):
-    """Use as a context manager. `scales`: of the outputs, from left to right; `bar`: waybar or swaybar; `edge`: where
-    it is; `x11`: whether there is an X server for older programs."""
+    """Use as a context manager. `scales`: of the outputs, from left to right; `bar`: waybar or swaybar; `edge`: its
+    position; `x11`: whether to start XWayland."""
 
     def __init__(self, scales=(1,), bar="waybar", edge="top", x11=True, **options):
         super().__init__(**options)
@@ -41,7 +41,7 @@ class SwaySession(AudioSession):
         self._startSway()
         self._startBar()
         self.pointer = WaylandPointer(self.folder / "run" / self.environment["WAYLAND_DISPLAY"], self.extent)
-        self.spawn("keyboard", ["wtype", "-s", "3600000", "-k", "F20"])  # Keeps the seat one between the keys.
+        self.spawn("keyboard", ["wtype", "-s", "3600000", "-k", "F20"])  # Keeps the seat's keyboard between the keys.
 
     def stop(self):
         if self.pointer is not None:
@@ -50,11 +50,11 @@ class SwaySession(AudioSession):
 
     @property
     def extent(self):
-        """Of all outputs together, in the desktop's own pixels."""
+        """Of all outputs together, in logical pixels."""
         return sum(width for _, _, width, _ in self.outputs()), max(height for _, _, _, height in self.outputs())
 
     def outputs(self):
-        """x, y, width, height of each, in the desktop's own pixels."""
+        """x, y, width, height of each, in logical pixels."""
         places, x = [], 0
         for scale in self.scales:
             width, height = round(SIZE[0] / scale), round(SIZE[1] / scale)
@@ -85,12 +85,12 @@ class SwaySession(AudioSession):
         waitUntil(lambda: self.ownsName(WATCHER), "the bar's tray", 15)
 
     def ownsName(self, name):
-        """Whether somebody on the message bus has this name."""
+        """Whether this name has an owner on the message bus."""
         answer = self.run("dbus-send", "--session", "--print-reply=literal", "--dest=org.freedesktop.DBus",
                           "/org/freedesktop/DBus", "org.freedesktop.DBus.NameHasOwner", f"string:{name}", check=False)
         return "true" in answer
 
-    # Looking and pointing, in the desktop's own pixels
+    # Observation and input, in logical pixels
 
     def click(self, x, y, button=LEFT):
         self.pointer.click(x, y, button)
@@ -99,7 +99,7 @@ class SwaySession(AudioSession):
         self.run("wtype", "-k", key)
 
     def windows(self):
-        """Every window that sway manages, with its name and place: the panel is none of them."""
+        """Every window that sway manages, with its name and position; the panel is not one of them."""
         found, nodes = [], [json.loads(self.run("swaymsg", "-t", "get_tree", "-r"))]
         while nodes:
             node = nodes.pop()
@@ -109,18 +109,18 @@ class SwaySession(AudioSession):
         return found
 
     def layers(self):
-        """The surfaces of the layer shell: namespace, layer, and place on their output."""
+        """The layer-shell surfaces: namespace, layer, and position on their output."""
         return [layer for output in json.loads(self.run("swaymsg", "-t", "get_outputs", "-r"))
                 for layer in output.get("layer_shell_surfaces", [])]
 
     def screenshot(self, file, area=None):
-        """Saves what is shown as PNG, in the pixels of the display; of it only `area`: x, y, width, height."""
+        """Saves a screenshot as PNG, in physical pixels; with `area`, only x, y, width, height."""
         cut = ["-g", "{0},{1} {2}x{3}".format(*area)] if area else []
         self.run("grim", *cut, str(file))
 
     def pixels(self, output=0):
-        """What an output shows, as rows of red, green and blue, in the pixels of the display."""
-        import numpy  # The session itself does without it.
+        """The contents of an output, as rows of red, green and blue, in physical pixels."""
+        import numpy  # Not needed by the session itself.
         done = subprocess.run(["grim", "-t", "ppm", "-o", f"HEADLESS-{output + 1}", "-"], env=self.environment,
                               capture_output=True, timeout=20, check=True)
         magic, size, depth, rows = done.stdout.split(b"\n", 3)

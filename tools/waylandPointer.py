@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A pointer for a Wayland desktop of wlroots, spoken on the wire: it needs no library and no compiler."""
+"""A virtual pointer for wlroots compositors, implemented on the wire protocol: it needs no library and no compiler."""
 
 import socket
 import struct
@@ -8,11 +8,11 @@ import time
 LEFT, RIGHT, MIDDLE = 0x110, 0x111, 0x112
 MANAGER = "zwlr_virtual_pointer_manager_v1"
 
-DISPLAY = 1  # The one object that is there from the start.
+DISPLAY = 1  # The only object that exists from the start.
 
 
 class WaylandPointer:
-    """`extent`: width and height of the whole desktop, in whose pixels places are."""
+    """`extent`: width and height of the whole desktop, which positions refer to."""
 
     def __init__(self, path, extent):
         self.extent = extent
@@ -52,7 +52,7 @@ class WaylandPointer:
         self.release(button)
 
     def scroll(self, amount):
-        """By the wheel, down for positive amounts."""
+        """With the wheel, down for positive amounts."""
         self._send(self.pointer, 5, "u", 0)  # axis_source: a wheel
         self._send(self.pointer, 3, "uui", self._now(), 0, round(amount * 256))  # axis
         self._finish()
@@ -73,7 +73,7 @@ class WaylandPointer:
         self.objects += 1
         return self.objects
 
-    # The wire: object, opcode and length, then the arguments in words of 32 bits.
+    # The wire format: object, opcode and length, then the arguments in 32-bit words.
 
     def _send(self, target, opcode, types, *arguments):
         body = b"".join(self._packed(kind, value) for kind, value in zip(types, arguments))
@@ -87,7 +87,7 @@ class WaylandPointer:
         return struct.pack("=I", len(text)) + text + b"\0" * (-len(text) % 4)
 
     def _roundtrip(self):
-        """Waits until the compositor has done everything so far."""
+        """Waits until the compositor has processed everything so far."""
         callback = self._newObject()
         self._send(DISPLAY, 0, "u", callback)  # sync
         while True:

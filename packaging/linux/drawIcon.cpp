@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Draws an icon's square picture of a size in pixels, at build time:
+// Renders a square icon at the given size in pixels, at build time:
 //
 //   drawIcon DRAWING.svg SIZE PICTURE.png
 #include <QImage>

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Makes a bundle of the program: its name, what it declares, its icons and texts.
+# Turns the program into a bundle: its name, declarations, icons and texts.
 set(resources
     ${CMAKE_CURRENT_LIST_DIR}/AppIcon.icns
     ${CMAKE_CURRENT_LIST_DIR}/MenuBarIcon.png

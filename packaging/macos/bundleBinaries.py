@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Reads the Mach-O files of a bundle, and says what would keep them from running on another Mac.
+"""Reads the Mach-O files of a bundle, and reports what would keep them from running on another Mac.
 
     bundleBinaries.py check BUNDLE [--architectures arm64,x86_64] [--minimum 14.2]
-    bundleBinaries.py rpaths FILE          the run paths of a file that are no places inside of the bundle
+    bundleBinaries.py rpaths FILE          the run paths of a file that lead outside the bundle
 """
 
 import argparse
@@ -14,7 +14,7 @@ import sys
 MAGIC_64, CIGAM_64 = b"\xcf\xfa\xed\xfe", b"\xfe\xed\xfa\xcf"
 FAT, FAT_64 = 0xCAFEBABE, 0xCAFEBABF
 PROCESSORS = {0x0100000C: "arm64", 0x01000007: "x86_64"}
-JAVA_CLASS_FROM = 0x2D  # Java classes begin like fat files; their version stands where the count would.
+JAVA_CLASS_FROM = 0x2D  # Java classes have the magic number of fat files; their version is where the count would be.
 
 LOAD_DYLIB, ID_DYLIB, LOAD_WEAK_DYLIB, RPATH, REEXPORT_DYLIB = 0xC, 0xD, 0x80000018, 0x8000001C, 0x8000001F
 VERSION_MIN_MACOS, BUILD_VERSION = 0x24, 0x32
@@ -24,11 +24,11 @@ INSIDE = ("@rpath/", "@executable_path/", "@loader_path/")
 
 
 class NotMachO(Exception):
-    """The file is of another kind, or ends too early."""
+    """Not a Mach-O file, or truncated."""
 
 
 class Slice:
-    """What one processor gets."""
+    """The slice for one architecture."""
 
     def __init__(self, content):
         self.libraries, self.rpaths, self.minimum, self.isForMacOS = [], [], None, True
@@ -123,7 +123,7 @@ def filesOf(bundle):
 
 
 def check(bundle, architectures, minimum):
-    """What is wrong with each Mach-O file of the bundle; a bundle without any is wrong, too."""
+    """The problems of each Mach-O file of the bundle; a bundle without any is a problem too."""
     complaints, count = [], 0
     for file in filesOf(bundle):
         content = file.read_bytes()

@@ -17,11 +17,11 @@ AppDelegate::AppDelegate(AudioController& controller, StatusItem& statusItem, Po
     , actions_(std::move(actions))
     , iconVolume_(controller, statusItem, actions_.translate)
 {
-    // Nothing is measured while nobody can see it.
+    // Levels are measured only while they are visible.
     popover_.whenShown([this] { controller_.levels().setWanted(true); });
     popover_.whenClosed([this] { controller_.levels().setWanted(false); });
     statusItem.whenClicked([this] { togglePopover(); });
-    statusItem.whenMenuOpens([this] { popover_.close(); });  // The menu would take the keyboard from it.
+    statusItem.whenMenuOpens([this] { popover_.close(); });  // The menu would take the focus from it.
     statusItem.setMenu([this] { return menu(); });
     statusItem.show("Fadeloom");
 }
@@ -43,13 +43,13 @@ void AppDelegate::showPopover()
 
 void AppDelegate::openMixer()
 {
-    actions_.showPage(false);
+    actions_.showPage(Page::mixer);
     showPopover();
 }
 
 void AppDelegate::openSettings()
 {
-    actions_.showPage(true);
+    actions_.showPage(Page::settings);
     showPopover();
 }
 
@@ -75,7 +75,7 @@ StatusMenu AppDelegate::menu()
     return entries;
 }
 
-// Some desktops show a menu that they asked for long before, when the popover was not open yet.
+// Some desktops show a menu fetched earlier, before the popover was open.
 std::function<void()> AppDelegate::afterClosing(std::function<void()> action)
 {
     return [this, action = std::move(action)] {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the status icon, its menu and the popover do.
+// The behaviour of the status icon, its menu and the popover.
 #pragma once
 
 #include "app/IconVolume.h"
@@ -17,22 +17,24 @@ class Popover;
 /// Thread: main.
 class AppDelegate {
 public:
-    /// What lies beyond the icon and the popover.
+    /// The pages of the popover.
+    enum class Page { mixer, settings };
+    /// Actions outside of the icon and the popover.
     struct Actions {
-        std::function<void(bool isSettings)> showPage;  // In the popover: the settings, or the mixer.
-        std::function<void()> checkForUpdates = nullptr;  // Without it the menu does not offer that.
+        std::function<void(Page page)> showPage;
+        std::function<void()> checkForUpdates = nullptr;  // If null, the menu does not offer it.
         std::function<void()> showAbout;
         std::function<void()> quit;
         Translate translate = [](const char*, const char* text) { return std::string(text); };
     };
 
-    /// Shows the icon. All must outlive this.
+    /// Shows the icon. All arguments must outlive this.
     AppDelegate(AudioController& controller, StatusItem& statusItem, Popover& popover,
         Application& application, Actions actions);
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
 
-    /// Opens the popover as it is, with the keyboard in it.
+    /// Opens the popover on its current page, and gives it the keyboard focus.
     void showPopover();
     void togglePopover();
     void openMixer();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Answers to commands from other programs.
+// Replies to commands from other programs.
 #pragma once
 
 #include "commands/CommandInterpreter.h"
@@ -9,12 +9,11 @@
 
 namespace fadeloom {
 
-/// How an answer is worded.
+/// The format of a reply.
 enum class AnswerForm { text, json };
 
-/// Does what the line says. The answer is one line: its kind ("ok", "usage", "unknown", "refused" or "denied"), a blank,
-/// and what the interpreter answers, as JSON if so wanted and it is no error. `quit` is called when the command asks for
-/// the end.
+/// Executes a line. The reply is one line: its kind ("ok", "usage", "unknown", "refused" or "denied"), a space, and the
+/// interpreter's reply, as JSON if requested and not an error. `quit` is called if the command requests it.
 [[nodiscard]] std::string answerCommand(CommandInterpreter& commands, const std::string& line,
     AnswerForm form, Caller caller, const std::function<void()>& quit);
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view screenshotsArgument = "--render-screenshots";
 
-// The folder, then perhaps a suffix, then perhaps the look. Whatever else is there does not count.
+// The folder, optionally a suffix, optionally the appearance. Anything else is ignored.
 std::optional<CommandLine> screenshotsIn(std::span<const std::string_view> arguments)
 {
     const auto found = std::ranges::find(arguments, screenshotsArgument);
@@ -32,7 +32,7 @@ std::optional<CommandLine> screenshotsIn(std::span<const std::string_view> argum
 
 std::expected<CommandLine, std::string> parseCommandLine(std::span<const std::string_view> arguments)
 {
-    // A verb: fadeloomctl knows which there are.
+    // A verb: validated by fadeloomctl.
     const char first = arguments.empty() || arguments.front().empty() ? '-' : arguments.front().front();
     if (first >= 'a' && first <= 'z')
         return CommandLine{.action = CommandLine::Action::giveCommand};
@@ -55,7 +55,7 @@ std::expected<CommandLine, std::string> parseCommandLine(std::span<const std::st
             wantsHelp = true;
         else if (argument == "--version")
             wantsVersion = true;
-        else if (argument != screenshotsArgument)  // As the last one it asks for nothing.
+        else if (argument != screenshotsArgument)  // As the last argument it has no folder and is ignored.
             return std::unexpected("unknown argument: " + printable(argument));
     }
 
@@ -76,16 +76,16 @@ std::string_view usageText()
            "       fadeloom --help | --version\n"
            "\n"
            "Gives every application that plays sound its own volume, mute, output, equalizer and recorder.\n"
-           "Shows an icon among the status icons of the desktop; a click on it opens the panel.\n"
+           "Shows an icon in the system tray; click it to open the panel.\n"
            "\n"
-           "  --headless   run without a window: tell on standard output what happens, take commands on\n"
-           "               standard input (\"help\" lists them), end on SIGINT or SIGTERM\n"
-           "  --background run with the icon alone: when it runs already, do not open its panel\n"
-           "  VERB         give the running Fadeloom a command, as fadeloomctl does (\"fadeloom help\" lists "
-           "them)\n"
-           "  --simulate   run on a small world in memory, without any audio system\n"
+           "  --headless   run without a window: print events on standard output, read commands\n"
+           "               from standard input (\"help\" lists them), quit on SIGINT or SIGTERM\n"
+           "  --background show only the icon: if an instance is already running, do not open its panel\n"
+           "  VERB         send a command to the running Fadeloom, like fadeloomctl; \"fadeloom help\" lists "
+           "them\n"
+           "  --simulate   run on simulated audio in memory, without any audio system\n"
            "  --render-screenshots\n"
-           "               draw the panel with fixed contents into picture files, dark or light, and end\n"
+           "               render the panel with fixed contents to image files, dark or light, and exit\n"
            "  --help       show this text\n"
            "  --version    show the version\n";
 }

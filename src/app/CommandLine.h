@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the program was asked to do when it was started.
+// The parsed command line.
 #pragma once
 
 #include <expected>
@@ -13,9 +13,9 @@ struct CommandLine {
     enum class Action { runTray, runHeadless, giveCommand, renderScreenshots, showHelp, showVersion };
 
     Action action = Action::runTray;
-    bool isSimulated = false;  // On a world in memory instead of this machine's audio system.
+    bool isSimulated = false;  // On a simulation instead of this machine's audio system.
     bool isInBackground = false;  // A second start does not open the panel.
-    // Of `renderScreenshots`.
+    // For `renderScreenshots`.
     std::string outputFolder{};
     std::string languageSuffix{};
     bool isLight = false;
@@ -27,7 +27,7 @@ struct CommandLine {
 [[nodiscard]] std::expected<CommandLine, std::string> parseCommandLine(
     std::span<const std::string_view> arguments);
 
-/// What can be asked, in several lines.
+/// The usage message, in several lines.
 [[nodiscard]] std::string_view usageText();
 
 }  // namespace fadeloom

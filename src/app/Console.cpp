@@ -8,7 +8,7 @@
 namespace fadeloom {
 namespace {
 
-// Of the terminal's language, as every terminal since the VT100 speaks it.
+// Escape sequences supported by every terminal since the VT100.
 constexpr std::string_view eraseToEndOfScreen = "\x1b[J";
 constexpr std::string_view eraseToEndOfLine = "\x1b[K";
 constexpr std::string_view saveCursor = "\x1b"

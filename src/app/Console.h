@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Where the program's lines go; on a terminal with a table below them that is kept up to date.
+// The program's output; on a terminal with a live table below the lines.
 //
-// The table stands right above the line on which the user types. It is taken away for each new line and put back
-// below it; while its height stays the same, it is renewed without touching what is being typed.
+// The table is right above the line on which the user types. It is removed for each new line and redrawn below it;
+// while its height is unchanged, it is updated without touching the line being typed.
 #pragma once
 
 #include <functional>
@@ -16,7 +16,7 @@ namespace fadeloom {
 /// Thread: main.
 class Console {
 public:
-    /// Takes what is to be written, a whole number of lines with a table's commands, without waiting for anybody.
+    /// Receives output, always whole lines with the table's escape sequences; must not block.
     using Write = std::function<void(std::string text)>;
 
     explicit Console(Write write)
@@ -26,12 +26,12 @@ public:
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
 
-    /// Writes one line, made harmless, at once.
+    /// Prints one line, sanitized, immediately.
     void print(std::string_view line);
-    /// Puts a table in place of the last one. Only for a terminal. `table`: printable lines, each narrower than the
-    /// terminal, all together less than its height.
+    /// Replaces the table. Only on a terminal. `table`: printable lines, each narrower than the terminal, fewer than
+    /// its height.
     void showTable(std::vector<std::string> table);
-    /// The user has ended a line on the same terminal, which moves the cursor down by one.
+    /// The user has pressed Return on the same terminal, which moves the cursor down by one line.
     void noteEnteredLine();
 
 private:
@@ -40,9 +40,9 @@ private:
     void finish();
 
     const Write write_;
-    std::string text_;  // Not yet written.
+    std::string text_;  // Pending output.
     std::vector<std::string> table_;
-    std::size_t cursorDistance_ = 0;  // Lines from the table's first one down to the cursor.
+    std::size_t cursorDistance_ = 0;  // Lines from the top of the table down to the cursor.
 };
 
 }  // namespace fadeloom

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "app/ControlProgram.h"
 
+#include <unistd.h>
+
 #include <filesystem>
 #include <iostream>
 #include <system_error>
 
-#include <unistd.h>
-
 namespace fadeloom {
 
-int becomeControl(char** arguments)
+int execControl(char** arguments)
 {
     std::error_code error;
     const auto program = std::filesystem::read_symlink("/proc/self/exe", error);

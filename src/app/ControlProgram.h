@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The program that gives a running one commands.
+// Runs the command line client.
 #pragma once
 
 namespace fadeloom {
 
-/// Becomes fadeloomctl with the same words: the one beside this program, else the one of the search path. Returns an exit
-/// status only when there is none. `arguments`: of the program, its name first.
-[[nodiscard]] int becomeControl(char** arguments);
+/// Replaces this process by fadeloomctl with the same arguments: the one beside this program, else from the search
+/// path. Returns an exit status only if there is none. `arguments`: of the program, its name first.
+[[nodiscard]] int execControl(char** arguments);
 
 }  // namespace fadeloom

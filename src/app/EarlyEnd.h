@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A start that is over before it has begun.
+// Why the program exits without starting.
 #pragma once
 
 #include <iostream>
@@ -7,12 +7,15 @@
 
 namespace fadeloom {
 
+/// Whether a start wants the panel of a running instance to open.
+enum class OpenPanel { no, yes };
+
 struct EarlyEnd {
     std::string message;
     int exitStatus = 0;
 };
 
-/// Says on standard error why; returns the exit status.
+/// Prints the reason to standard error; returns the exit status.
 inline int endEarly(const EarlyEnd& end)
 {
     std::cerr << "fadeloom: " << end.message << '\n';

@@ -16,6 +16,7 @@
 #include "platform/qt/QuitSignals.h"
 
 #include <QCoreApplication>
+#include <unistd.h>
 
 #include <cstdint>
 #include <functional>
@@ -24,16 +25,14 @@
 #include <string>
 #include <utility>
 
-#include <unistd.h>
-
 namespace fadeloom {
 namespace {
 
-/// `instance`: null for one of many, which other programs do not reach.
+/// `instance`: null for a simulation, which other programs cannot reach.
 void runOn(const Platform& platform, QtMainLoop& mainLoop, Console& console, HomeInstance* instance,
     const std::function<void()>& quit)
 {
-    // First, so that a signal during the start ends in good order, too.
+    // First, so that a signal during startup also leads to a clean exit.
     const QuitSignals quitSignals(quit);
     HeadlessRun run(platform, console,
         {
@@ -52,7 +51,7 @@ void runOn(const Platform& platform, QtMainLoop& mainLoop, Console& console, Hom
             else
                 run.takeLine(line.text);
         },
-        [] {});  // The end of the input is not the end of the program.
+        [] {});  // End of file on standard input does not end the program.
 
     if (instance != nullptr)
         instance->serve({.quit = quit, .control = run.served(mainLoop)});
@@ -66,7 +65,7 @@ void runOn(const Platform& platform, QtMainLoop& mainLoop, Console& console, Hom
 int runOnThisMachine(QtMainLoop& mainLoop, Console& console, HomeGuardian& guardian)
 {
     HomeInstance instance;
-    if (const auto end = instance.claim(false))
+    if (const auto end = instance.claim(OpenPanel::no))
         return endEarly(*end);
     const auto quit = [&] {
         instance.beginEnding();

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The headless run as a program: standard streams, signals, and the platform it runs on.
+// The headless mode as a program: standard streams, signals, and its platform.
 #pragma once
 
 namespace fadeloom {
 
-/// Runs until a command or a signal asks for the end; returns the program's exit status. `isSimulated`: on a world in
-/// memory instead of this machine's audio system.
+/// Runs until a command or a signal ends it; returns the exit status. `isSimulated`: on a simulation instead of this
+/// machine's audio system.
 [[nodiscard]] int runHeadless(int argumentCount, char** arguments, bool isSimulated);
 
 }  // namespace fadeloom

@@ -54,7 +54,7 @@ void HeadlessRun::shutdown()
     controller_.shutdown();
 }
 
-// The answer to a command says what it changed.
+// Events caused by the command precede its reply.
 void HeadlessRun::print(const Event& event)
 {
     if (!std::holds_alternative<event::AppChanged>(event))
@@ -66,7 +66,7 @@ void HeadlessRun::showTable()
     const auto size = options_.terminalSize();
     if (!size)
         return;
-    // One column is left free, for the last one would wrap on some terminals; two lines, for what is typed below.
+    // One column is left free because some terminals wrap on the last one; two lines, for the user's input below.
     console_.showTable(statusTable(statusRows(), size->columns - 1, size->lines - 2));
 }
 

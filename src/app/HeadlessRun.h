@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program without a window: a controller, what it does told on a console, and commands taken from it.
+// The program without a window: a controller, its events printed to a console, and a command interpreter.
 #pragma once
 
 #include "app/ServedControl.h"
@@ -27,9 +27,9 @@ class HeadlessRun {
 public:
     struct Options {
         std::string version{};
-        /// Called when a command asks for the end.
+        /// Called when a command requests the end.
         std::function<void()> quit = [] { };
-        /// The size of the terminal that the console is; asked before each status table. Absent: no table is shown.
+        /// The size of the console's terminal, queried before each table. nullopt: no table is shown.
         std::function<std::optional<TerminalSize>()> terminalSize = [] { return std::nullopt; };
     };
 
@@ -38,13 +38,13 @@ public:
     HeadlessRun(const HeadlessRun&) = delete;
     HeadlessRun& operator=(const HeadlessRun&) = delete;
 
-    /// Does what one line of input says, and prints one line in answer; none for a line without any word.
+    /// Executes one line of input and prints one line of reply; none for a blank line.
     void takeLine(std::string_view line);
-    /// What other programs reach.
+    /// The part that other programs can reach.
     [[nodiscard]] ServedControl served(MainLoop& mainLoop);
-    /// Tells those that are told what happens that it is over.
+    /// Sends watchers the end event.
     void endWatches() { watchers_.end(); }
-    /// Ends in good order: no tap is left, and a save that waits is done when this returns.
+    /// Shuts down: removes all taps, and completes a pending save before it returns.
     void shutdown();
 
 private:

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// This machine, as the program needs it: a folder for each home, which declares the same types in files of the same
-// names.
+// Platform-specific classes: one folder per platform, which declares the same types in files of the same names.
 #pragma once
 
 #if defined(__APPLE__) || defined(FADELOOM_AT_HOME_ON_MACOS)

@@ -68,7 +68,7 @@ void IconVolume::scroll(int notches)
         return;
     const float limit = controller_.state().settings->volumeLimit;
     controller_.editApp(*id, [&](AppAudioSettings& app) {
-        // In whole steps, so that up and down lead back to where it was.
+        // In whole steps, so that scrolling up and down cancels out.
         const float steps = std::round(app.volume / step) + static_cast<float>(notches);
         app.volume = std::clamp(steps * step, 0.0F, limit);
     });
@@ -90,7 +90,7 @@ void IconVolume::settingsChanged()
         if (now != (former == known_.end() ? AppAudioSettings{} : former->second))
             changed.push_back(entry.bundleID);
     }
-    if (changed.size() == 1)  // What is changed for all is no choice of one.
+    if (changed.size() == 1)  // A change of all apps does not select one.
         changedLast_ = changed.front();
     known_ = settings.apps;
     describe();

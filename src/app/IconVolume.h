@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The wheel over the status icon, and its middle click: the volume of one app without opening anything.
+// Scrolling over the status icon, and its middle click: changes one app's volume without opening the panel.
 #pragma once
 
 #include "base/Subscription.h"
@@ -15,13 +15,13 @@ namespace fadeloom {
 class AudioController;
 class StatusItem;
 
-/// Of the apps that play it is the one whose settings were changed last, else the loudest since levels were looked at.
+/// Of the playing apps it is the one whose settings were changed last, else the loudest since levels were last read.
 /// Thread: main.
 class IconVolume {
 public:
-    static constexpr float step = 0.05F;  // Of the full volume, for a notch of the wheel.
+    static constexpr float step = 0.05F;  // Of full volume, per notch of the wheel.
 
-    /// All must outlive this.
+    /// All arguments must outlive this.
     IconVolume(AudioController& controller, StatusItem& icon, Translate translate);
     IconVolume(const IconVolume&) = delete;
     IconVolume& operator=(const IconVolume&) = delete;

@@ -16,17 +16,17 @@ InterfaceLanguage::InterfaceLanguage(const std::vector<std::string>& preferred, 
     for (const auto& code : preferred) {
         const QLocale locale(QString::fromStdString(code));
         if (isLoaded || locale.language() == QLocale::C)
-            continue;  // Found, or no language.
+            continue;  // Found, or not a language.
         isLoaded = load(locale);
         if (isLoaded || !chosen)
             chosen = locale;
     }
     if (chosen)
         QLocale::setDefault(*chosen);
-    // English has texts of its own, too: those that Linux words otherwise.
+    // English has a table too: for the Linux wording.
     if (isLoaded || (!chosen && load(QLocale())) || load(QLocale(QLocale::English))) {
         QCoreApplication::installTranslator(&texts_);
-        QCoreApplication::installTranslator(&macOSTexts_);  // The last one is asked first.
+        QCoreApplication::installTranslator(&macOSTexts_);  // The last one installed is searched first.
     }
 }
 

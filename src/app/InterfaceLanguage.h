@@ -11,7 +11,7 @@
 
 namespace fadeloom {
 
-/// The system whose words the texts use where they name something of it.
+/// The platform whose wording the texts use.
 enum class Wording { ofLinux, ofMacOS };
 #ifdef __APPLE__
 constexpr auto homeWording = Wording::ofMacOS;
@@ -19,16 +19,16 @@ constexpr auto homeWording = Wording::ofMacOS;
 constexpr auto homeWording = Wording::ofLinux;
 #endif
 
-/// Holds for as long as it lives; made before the first text is shown. Needs a QCoreApplication.
+/// Active while it exists; create it before showing any text. Needs a QCoreApplication.
 class InterfaceLanguage {
 public:
-    /// `preferred`: codes as "pl" or "pl-PL", best first; none for the user's own language. The first that there are
-    /// texts for is the interface's, and English without one.
+    /// `preferred`: codes such as "pl" or "pl-PL", in order of preference; empty for the user's language. The first one
+    /// with a translation is used, otherwise English.
     explicit InterfaceLanguage(const std::vector<std::string>& preferred, Wording wording = homeWording);
     InterfaceLanguage(const InterfaceLanguage&) = delete;
     InterfaceLanguage& operator=(const InterfaceLanguage&) = delete;
 
-    /// Texts for what knows nothing of Qt.
+    /// Texts for code that does not use Qt.
     [[nodiscard]] static Translate texts();
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A system log whose messages are seen on the console as well.
+// A system log whose messages are also printed to the console.
 #pragma once
 
 #include "platform/SystemLog.h"
@@ -9,10 +9,10 @@ namespace fadeloom {
 class Console;
 class MainLoop;
 
-/// Thread: any; what comes on another thread is printed in a later turn of the main loop.
+/// Thread: any; messages from other threads are printed through the main loop.
 class PrintedLog final : public SystemLog {
 public:
-    /// All must outlive this, and `console` the main loop's last turn.
+    /// All arguments must outlive this, and `console` the last iteration of the main loop.
     PrintedLog(SystemLog& log, Console& console, MainLoop& mainLoop)
         : log_(log)
         , console_(console)

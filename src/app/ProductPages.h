@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where the product is found on the web.
+// The product's addresses on the web.
 #pragma once
 
 #include <optional>
@@ -7,11 +7,11 @@
 
 namespace fadeloom {
 
-/// The address of the product's web page.
+/// The URL of the product's web page.
 [[nodiscard]] std::string webPage();
 
-/// The base address of the update feed and of the download page: that of the build, or the one in the environment
-/// variable FADELOOM_UPDATE_ENDPOINT. Absent in a build that does not look for updates.
+/// The base URL of the update feed and of the download page: the built-in one, or that of the environment variable
+/// FADELOOM_UPDATE_ENDPOINT. nullopt in a build without the update check.
 [[nodiscard]] std::optional<std::string> updateEndpoint();
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How a start ends when the program runs already.
+// The outcomes of a start while another instance is running.
 #pragma once
 
 #include "app/EarlyEnd.h"
@@ -8,17 +8,17 @@ namespace fadeloom::runningAlready {
 
 inline constexpr int status = 3;
 
-/// Its panel was asked for, and opened.
+/// Its panel was requested, and opened.
 [[nodiscard]] inline EarlyEnd panelIsOpen()
 {
     return {"it is running already; its panel is open now", 0};
 }
-/// Its panel was asked for, and it has none.
+/// Its panel was requested, and it has none.
 [[nodiscard]] inline EarlyEnd withoutPanel()
 {
     return {"it is running already, without a panel (--headless)", status};
 }
-/// Nothing was asked for.
+/// Nothing was requested.
 [[nodiscard]] inline EarlyEnd wouldCompete()
 {
     return {"it is running already; two would take each other's applications away", status};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A new folder among the system's temporary ones, gone with all it holds when this object ends.
+// A new temporary folder, deleted with its contents by the destructor.
 #pragma once
 
 #include <expected>
@@ -21,7 +21,7 @@ public:
 private:
     explicit ScratchFolder(std::filesystem::path path);
 
-    std::filesystem::path path_;  // Empty once it has been moved from.
+    std::filesystem::path path_;  // Empty once moved from.
 };
 
 }  // namespace fadeloom

@@ -29,10 +29,10 @@ int runScreenshots(int argumentCount, char** arguments, const CommandLine& comma
     const auto folder = ScratchFolder::create();
     if (!folder)
         return endEarly({folder.error(), 1});
-    // A world of its own: nothing of this machine is to be seen in the pictures.
+    // A private simulation: the pictures must show nothing of this machine.
     QtText text;
     SimulatedPlatform world(folder->path(), &text);
-    HomeFolders folders;  // The one for recordings is shown, as "~/Music/…".
+    HomeFolders folders;  // The recordings folder is shown, as "~/Music/…".
     const auto platform = world.platform({.folders = &folders});
     EngineLog engineLog(platform.systemLog, platform.logQueue, folder->path());
     const PanelParts parts = {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What other programs reach of a running one.
+// The parts of a running program that other programs can reach.
 #pragma once
 
 #include <functional>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A small world in memory that moves with the real time: two devices, three apps, and a minute of what they do, over
-// and over. It shows the program at work where there is no audio system at all.
+// A small simulation in real time: two devices, three apps, and a minute of events in a loop. It demonstrates the
+// program where there is no audio system.
 #pragma once
 
 #include "base/Subscription.h"
@@ -14,14 +14,14 @@ namespace fadeloom {
 /// Thread: main.
 class SimulatedHome {
 public:
-    /// `folder`: for the program's files. `realLoop` moves the world from the moment `start` is called. `realLoop` and
+    /// `folder`: for the program's files. `realLoop` drives the simulation once `start` is called. `realLoop` and
     /// `text` must outlive this.
     SimulatedHome(const std::filesystem::path& folder, MainLoop& realLoop, Text& text);
     SimulatedHome(const SimulatedHome&) = delete;
     SimulatedHome& operator=(const SimulatedHome&) = delete;
 
     [[nodiscard]] SimulatedPlatform& world() { return world_; }
-    /// Lets the time begin to pass.
+    /// Starts the simulated clock.
     void start();
 
 private:
@@ -37,8 +37,8 @@ private:
     Subscription time_;
 };
 
-/// Runs `program` in such a world, whose time has begun to pass, with its files in a folder that is gone afterwards.
-/// Returns the exit status of `program`, or an early end's. `realLoop` must outlive the call. Thread: main.
+/// Runs `program` in a started simulation, with its files in a temporary folder. Returns the exit status of `program`,
+/// or an early end's. `realLoop` must outlive the call. Thread: main.
 [[nodiscard]] int runSimulated(MainLoop& realLoop, const std::function<int(SimulatedHome&)>& program);
 
 }  // namespace fadeloom

@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "app/StandardStreams.h"
 
-#include <cerrno>
-#include <csignal>
-#include <initializer_list>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <initializer_list>
 
 namespace fadeloom {
 
 namespace {
 
-// Standard error is written to by every library and on every thread, with no thread of its own to wait. A file opened
-// anew is ours alone: whoever shares the old one sees no difference. A file on a disk is left as it is, for it has a
-// place to write at, and so is what cannot be opened twice.
-void dropErrorsThatNobodyReads()
+// Every library writes to standard error, on every thread. Reopening the file gives us our own file description, so
+// making it non-blocking affects nobody who shares the old one. A regular file is left alone, because it has a write
+// position, and so is one that cannot be reopened.
+void makeStandardErrorNonBlocking()
 {
     struct stat status{};
     if (fstat(STDERR_FILENO, &status) != 0 || (!S_ISFIFO(status.st_mode) && isatty(STDERR_FILENO) == 0))
@@ -33,11 +33,11 @@ void dropErrorsThatNobodyReads()
 void secureStandardStreams()
 {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        // The lowest free number is given to what is opened: exactly the one that is missing.
+        // Open returns the lowest free number: exactly the missing one.
         if (fcntl(stream, F_GETFD) == -1 && errno == EBADF && open("/dev/null", O_RDWR) == -1)
             return;
     }
-    dropErrorsThatNobodyReads();
+    makeStandardErrorNonBlocking();
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGTTIN, SIG_IGN);
     std::signal(SIGTTOU, SIG_IGN);

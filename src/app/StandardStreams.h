@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Makes the standard streams safe to use, whoever started the program and however.
+// Makes the standard streams safe to use, however the program was started.
 #pragma once
 
 namespace fadeloom {
 
-/// A standard stream that was closed reads and writes nothing, instead of whatever is opened first. Writing to a pipe
-/// that nobody reads is an error of that write, and no longer the end of the program; reading from the terminal while
-/// in the background likewise, instead of a stop. What is written to standard error waits for no reader: what finds no
-/// room in a pipe or terminal is lost. To be called first.
+/// A closed standard stream is replaced by one that reads and writes nothing, so that the next opened file does not
+/// take its number. SIGPIPE and terminal stop signals become write or read errors. Standard error is non-blocking: what
+/// does not fit into a pipe or terminal is lost. Call first.
 void secureStandardStreams();
 
 }  // namespace fadeloom

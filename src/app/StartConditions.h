@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the program cannot do without.
+// Requirements for starting.
 #pragma once
 
 #include "app/EarlyEnd.h"
@@ -10,7 +10,7 @@
 
 namespace fadeloom {
 
-/// Absent when it can start. Without a folder for the settings they would be kept wherever the program was started.
+/// nullopt if the program can start. Without a settings folder, settings would be stored in the current directory.
 [[nodiscard]] inline std::optional<EarlyEnd> reasonNotToStart(const Platform& platform)
 {
     if (platform.folders.applicationSupport().empty())

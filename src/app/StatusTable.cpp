@@ -23,7 +23,7 @@ struct Widths {
     int output;
 };
 
-// The two texts share what the numbers leave; the name takes what the output does not need.
+// The two texts share the width that the numbers leave; the name gets what the output does not need.
 Widths widthsFor(std::span<const StatusRow> rows, int columns)
 {
     int name = 3;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The mixer as lines of text: one app a line, with its output, its volume and how loud it is.
+// The mixer as a text table: one app per line, with its output, its volume and its level.
 #pragma once
 
 #include <optional>
@@ -14,16 +14,16 @@ struct StatusRow {
     std::string output;  // The device's name, or why there is none.
     float volume = 1;  // Linear.
     bool isMuted = false;
-    std::optional<float> level{};  // Where its meter stands, 0 to 1; absent without a tap.
+    std::optional<float> level{};  // The meter's position, 0 to 1; nullopt without a tap.
 
     friend bool operator==(const StatusRow&, const StatusRow&) = default;
 };
 
-/// A heading and the rows, each line at most `columns` columns wide. Of more rows than `lines` has room for, the last
-/// line says how many are left out. Texts are made harmless.
+/// A heading and the rows, each line at most `columns` columns wide. If there are more rows than fit into `lines`, the
+/// last line says how many are omitted. Texts are sanitized.
 [[nodiscard]] std::vector<std::string> statusTable(std::span<const StatusRow> rows, int columns, int lines);
 
-/// A meter's position as a level: "-12.3 dB"; "silent" at its lower end. The same in every language.
+/// A meter's position as a level: "-12.3 dB"; "silent" at the lower end. Not localized.
 [[nodiscard]] std::string levelText(float position);
 
 /// A linear gain as a whole percentage: "50%".

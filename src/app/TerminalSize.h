@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How much a terminal shows.
+// The size of a terminal.
 #pragma once
 
 #include <optional>
@@ -11,8 +11,8 @@ struct TerminalSize {
     int lines = 24;
 };
 
-/// The size of the terminal behind a file descriptor, the usual one when it does not say; absent for anything that
-/// is no terminal.
+/// The size of the terminal behind a file descriptor, or a default if it does not report one; nullopt for anything that
+/// is not a terminal.
 [[nodiscard]] std::optional<TerminalSize> terminalSize(int descriptor);
 
 }  // namespace fadeloom

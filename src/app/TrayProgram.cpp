@@ -36,10 +36,10 @@
 namespace fadeloom {
 namespace {
 
-/// What the program is on that a simulated world does not have, too.
+/// What a simulated program does not have.
 struct Host {
-    Workspace& workspace;  // Opens addresses, names applications, starts us anew.
-    HomeInstance* instance;  // Null for one of many.
+    Workspace& workspace;  // Opens URLs, names applications, restarts the program.
+    HomeInstance* instance;  // Null for a simulation.
 };
 
 std::optional<UpdateChecker> makeUpdateChecker(const Platform& platform, Workspace& workspace)
@@ -59,7 +59,7 @@ std::optional<UpdateChecker> makeUpdateChecker(const Platform& platform, Workspa
             .translate = InterfaceLanguage::texts()});
 }
 
-/// The program with its icon and its panel, from the start to the end.
+/// The program with its icon and its panel, from startup to exit.
 class TrayRun {
 public:
     TrayRun(const Platform& platform, QtMainLoop& mainLoop, Host host);
@@ -104,9 +104,10 @@ TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Host host)
     , updates_(makeUpdateChecker(platform_, host_.workspace))
     , panel_(controller_, panelParts())
 {
-    panel_.setDesktopLook(desktop_.look());
-    desktop_.whenLookChanges([this](const DesktopLook& look) { panel_.setDesktopLook(look); });
-    // The loop may not turn once more: all has to be in order when this returns.
+    panel_.setDesktopAppearance(desktop_.appearance());
+    desktop_.whenAppearanceChanges(
+        [this](const DesktopAppearance& appearance) { panel_.setDesktopAppearance(appearance); });
+    // The loop may not run again: shut down before this returns.
     desktop_.whenSessionEnds([this] {
         controller_.shutdown();
         quit();
@@ -118,7 +119,7 @@ TrayRun::TrayRun(const Platform& platform, QtMainLoop& mainLoop, Host host)
 TrayRun::~TrayRun()
 {
     desktop_.whenSessionEnds([] { });
-    desktop_.whenLookChanges([](const DesktopLook&) { });
+    desktop_.whenAppearanceChanges([](const DesktopAppearance&) { });
     if (host_.instance != nullptr)
         host_.instance->serve({});
 }
@@ -166,7 +167,7 @@ PanelParts TrayRun::panelParts()
 AppDelegate::Actions TrayRun::actions()
 {
     AppDelegate::Actions actions{
-        .showPage = [this](bool isSettings) { panel_.setShowsSettings(isSettings); },
+        .showPage = [this](auto page) { panel_.setShowsSettings(page == AppDelegate::Page::settings); },
         .showAbout =
             [this] { AboutPanel::show(desktop_.application(), InterfaceLanguage::texts(), webPage()); },
         .quit = [this] { quit(); },
@@ -187,7 +188,7 @@ void TrayRun::quit()
 int runOnThisMachine(QtMainLoop& mainLoop, HomeGuardian& guardian, bool isInBackground)
 {
     HomeInstance instance;
-    if (const auto end = instance.claim(!isInBackground))
+    if (const auto end = instance.claim(isInBackground ? OpenPanel::no : OpenPanel::yes))
         return endEarly(*end);
     HomeLog systemLog;
     HomePlatform home(mainLoop, systemLog, guardian);

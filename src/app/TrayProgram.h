@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program as people meet it: an icon among the desktop's status icons, and the panel beside it.
+// The program with its user interface: a status icon, and the panel beside it.
 #pragma once
 
 namespace fadeloom {

@@ -30,7 +30,7 @@ int main(int argc, char** argv)
     case CommandLine::Action::runTray:
         return runTray(argc, argv, *commandLine);
     case CommandLine::Action::giveCommand:
-        return becomeControl(argv);
+        return execControl(argv);
     case CommandLine::Action::renderScreenshots:
         return runScreenshots(argc, argv, *commandLine);
     case CommandLine::Action::runHeadless:

@@ -18,7 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 using Step = FileError::Step;
 
-/// The system's answer is in `errno` still.
+/// `errno` still holds the error.
 std::unexpected<FileError> failed(FileError::Step step, const fs::path& file, int code = errno)
 {
     return std::unexpected(
@@ -40,7 +40,7 @@ std::optional<struct stat> statusOf(const fs::path& file)
     return status;
 }
 
-/// The file that a chain of symbolic links ends at; it need not exist.
+/// The final target of a chain of symbolic links; it need not exist.
 std::expected<fs::path, FileError> endOfLinks(fs::path file)
 {
     constexpr int longestChain = 40;
@@ -67,7 +67,7 @@ bool writeAll(int descriptor, std::string_view content)
     return true;
 }
 
-/// A new file in the folder of another one, gone again unless it takes that one's place.
+/// A new file in the same folder as another one, deleted unless it replaces that one.
 class Successor {
 public:
     explicit Successor(const fs::path& file)
@@ -87,15 +87,15 @@ public:
 
     [[nodiscard]] bool isOpen() const { return descriptor_.isOpen(); }
 
-    /// Best effort: a file system without owners or permissions cannot take them over, and is no reason to lose the
-    /// content. Without the owner, one start as root would leave the user a file that only root can read.
+    /// Best effort: a file system may not support owners or permissions, which is no reason to lose the content.
+    /// Without keeping the owner, running once as root would leave the user a file that only root can read.
     void takeOwnerAndPermissions(const struct stat& old) const
     {
         [[maybe_unused]] const auto refused = ::fchown(descriptor_.get(), old.st_uid, old.st_gid);
         (void)::fchmod(descriptor_.get(), old.st_mode & 07777);
     }
 
-    /// On the disk before it gets its name: otherwise a crash could leave the name on an empty file.
+    /// Must be on disk before the rename: otherwise a crash could leave an empty file under the name.
     [[nodiscard]] bool fill(std::string_view content)
     {
         return writeAll(descriptor_.get(), content) && ::fsync(descriptor_.get()) == 0 && descriptor_.close();
@@ -116,7 +116,7 @@ private:
     bool isLeft_;
 };
 
-/// Makes a rename outlive a crash. Not all file systems can; the new content is in place either way.
+/// Makes the rename durable. Not all file systems support that; the new content is in place either way.
 void syncFolder(const fs::path& folder)
 {
     const FileDescriptor descriptor(
@@ -129,7 +129,7 @@ void syncFolder(const fs::path& folder)
 
 std::expected<std::string, ReadError> read(const fs::path& file, std::size_t maximumSize)
 {
-    // Without waiting: a pipe would wait for a writer that never comes.
+    // Non-blocking: opening a pipe would wait for a writer.
     const FileDescriptor descriptor(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!descriptor.isOpen())
         return unread(file);
@@ -160,7 +160,7 @@ std::expected<void, FileError> replace(const fs::path& file, std::string_view co
     if (!target)
         return std::unexpected(target.error());
     const auto old = statusOf(*target);
-    // A folder could not be replaced, but a device could: by a file, for everyone.
+    // Replacing a folder would fail, but a device would be replaced by a file, for every user.
     if (old && !S_ISREG(old->st_mode))
         return failed(Step::replace, *target, S_ISDIR(old->st_mode) ? EISDIR : EINVAL);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An open file of the system, closed when its owner goes.
+// A file descriptor that is closed by its owner's destructor.
 #pragma once
 
 #include <unistd.h>
@@ -10,7 +10,7 @@ namespace fadeloom {
 
 class FileDescriptor {
 public:
-    /// Takes over what `open` returned; below 0 it stands for no file.
+    /// Takes ownership of the result of `open`; a negative one means no file.
     explicit FileDescriptor(int descriptor)
         : descriptor_(descriptor)
     {
@@ -22,7 +22,7 @@ public:
     [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
     [[nodiscard]] int get() const { return descriptor_; }
 
-    /// Closes now; false when the system tells only then that something was not written.
+    /// Closes now; false if a deferred write error is reported only then.
     bool close()
     {
         const int descriptor = std::exchange(descriptor_, -1);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Why a file cannot be used.
+// Why a file operation failed.
 #pragma once
 
 #include <cstdint>
@@ -10,14 +10,14 @@
 namespace fadeloom {
 
 struct FileError {
-    /// What was tried with it.
+    /// The operation that failed.
     enum class Step : std::uint8_t { read, follow, replace, createBeside, write, createFolder, remove };
 
     Step step{};
     std::filesystem::path file{};
-    std::error_code reason{};  // The system's own answer.
+    std::error_code reason{};  // The system's error.
 
-    /// In English, without a full stop; ends with the system's own words.
+    /// In English, without a full stop; ends with the system's message.
     [[nodiscard]] std::string description() const;
 
     friend bool operator==(const FileError&, const FileError&) = default;

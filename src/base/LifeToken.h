@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Calls made later on behalf of an object that may be gone by then.
+// Guards deferred callbacks into an object that may have been destroyed.
 #pragma once
 
 #include <memory>
@@ -7,15 +7,15 @@
 
 namespace fadeloom {
 
-/// A field of the object that is called back, its last one: the calls end before anything else of the object does.
-/// The guarded calls run on the thread on which the object lives and ends; they may be copied and dropped on any.
+/// The last field of the object that is called back, so that the callbacks end before anything else is destroyed.
+/// Guarded functions run on the thread that owns the object; they may be copied and destroyed on any.
 class LifeToken {
 public:
     LifeToken() = default;
     LifeToken(const LifeToken&) = delete;
     LifeToken& operator=(const LifeToken&) = delete;
 
-    /// A function that does what `function` does while this token lives, and nothing afterwards.
+    /// Wraps `function` so that it runs only while this token lives.
     template <typename Function>
     [[nodiscard]] auto whileAlive(Function function) const
     {
@@ -25,7 +25,7 @@ public:
         };
     }
 
-    /// Ends every guarded call now.
+    /// Disables all guarded functions.
     void end() { life_.reset(); }
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Those who want to be told when something has happened.
+// The list of observers of an event.
 #pragma once
 
 #include "base/Subscription.h"
@@ -10,8 +10,8 @@
 
 namespace fadeloom {
 
-/// Thread: main. A callback may subscribe, end its own or another subscription, or cause the next notification;
-/// a subscription may outlive the observers it stands in.
+/// Thread: main. A callback may subscribe, end its own or another subscription, or trigger the next notification; a
+/// subscription may outlive the Observers.
 class Observers {
 public:
     using Callback = std::function<void()>;
@@ -20,22 +20,22 @@ public:
     Observers(const Observers&) = delete;
     Observers& operator=(const Observers&) = delete;
 
-    /// Has `callback` called at each notification, in the order added, until the subscription ends.
+    /// `callback` is called at each notification, in the order added, until the subscription ends.
     Subscription add(Callback callback);
     [[nodiscard]] bool isEmpty() const { return list_->empty(); }
-    /// Calls everyone who has been there since before this call.
+    /// Calls all observers that were subscribed before this call.
     void notify() const;
 
 private:
-    // Shared by a notification under way, so that a callback that ends its own subscription is not destroyed while
-    // it runs.
+    // Shared with a running notification, so that a callback that ends its own subscription is not destroyed while it
+    // runs.
     struct Observer {
         Callback callback;
         bool isSubscribed = true;
     };
     using List = std::vector<std::shared_ptr<Observer>>;
 
-    // Shared with the subscriptions, which know it weakly: they may end after this object has.
+    // Subscriptions hold a weak reference: they may outlive this object.
     std::shared_ptr<List> list_ = std::make_shared<List>();
 };
 

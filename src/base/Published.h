@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// A value together with the announcement that it was assigned.
+// A value with change notification.
 //
 //     Published<int> volume = 3;
 //     const Subscription watch = volume.whenAssigned([&] { show(*volume); });
 //     volume.assign(4);  // shows 4
 //
-// Its owner hands it out as const: whoever sees it may read and observe it, and only the owner assigns.
+// Its owner exposes it as const: others may read and observe it, and only the owner assigns.
 #pragma once
 
 #include "base/Observers.h"
@@ -25,17 +25,17 @@ public:
     {
     }
 
-    /// A reference taken here is of no use once the value is assigned again.
+    /// The reference is invalidated by the next assignment.
     [[nodiscard]] const T& operator*() const { return value_; }
     [[nodiscard]] const T* operator->() const { return &value_; }
 
-    /// Takes the new value, then tells the observers, also when it equals the old one.
+    /// Assigns the value and notifies the observers, even if it equals the old one.
     void assign(T value)
     {
         value_ = std::move(value);
         observers_.notify();
     }
-    /// Assigns only a value that differs; says whether it did.
+    /// Assigns only if the value differs; returns whether it did.
     bool assignIfDifferent(T value)
     {
         if (value == value_)
@@ -43,14 +43,14 @@ public:
         assign(std::move(value));
         return true;
     }
-    /// Assigns and returns what was there before.
+    /// Assigns and returns the previous value.
     T exchange(T value)
     {
         T old = std::exchange(value_, std::move(value));
         observers_.notify();
         return old;
     }
-    /// Lets `change` work on the value in place, then tells the observers.
+    /// Modifies the value in place, then notifies the observers.
     template <typename Change>
     void modify(Change change)
     {
@@ -58,7 +58,7 @@ public:
         observers_.notify();
     }
 
-    /// Has `callback` called after each assignment, until the subscription ends.
+    /// `callback` is called after each assignment, until the subscription ends.
     [[nodiscard]] Subscription whenAssigned(std::function<void()> callback) const
     {
         return observers_.add(std::move(callback));
@@ -66,7 +66,7 @@ public:
 
 private:
     T value_{};
-    mutable Observers observers_;  // To observe a value is not to change it.
+    mutable Observers observers_;  // Observing a const value is not a modification.
 };
 
 }  // namespace fadeloom

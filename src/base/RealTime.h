@@ -5,14 +5,14 @@
 #if defined(__clang__) && __has_cpp_attribute(clang::nonblocking)
 #define FADELOOM_NONBLOCKING [[clang::nonblocking]]
 #else
-/// On a function that an IO thread runs: no allocation or release, no waiting, no system call.
+/// For functions that run on an IO thread: no allocation or release, no blocking, no system call.
 #define FADELOOM_NONBLOCKING
 #endif
 
 namespace fadeloom {
 
-/// While one lives, its thread is in real-time code. Test programs replace the allocator, the locks and the writing
-/// system calls by ones that count while `isActive`; in a release build nothing is left of it.
+/// While an instance exists, its thread runs real-time code. Test programs interpose the allocator, the locks and
+/// blocking system calls, and count calls while `isActive`; a release build compiles this away.
 class RealTimeSection {
 public:
 #ifdef NDEBUG

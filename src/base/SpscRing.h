@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A queue in a ring between one thread that fills it and one that empties it; neither waits for the other.
+// A lock-free ring buffer between one producer thread and one consumer thread.
 #pragma once
 
 #include "base/RealTime.h"
@@ -15,13 +15,13 @@
 
 namespace fadeloom {
 
-/// One producer, one consumer.
+/// Single producer, single consumer.
 template <typename T>
     requires std::is_trivially_copyable_v<T>
 class SpscRing {
 public:
-    /// Has room for `leastCapacity` items or more. All of its memory is there from the beginning: what is written now
-    /// spares the producer the page faults.
+    /// Has capacity for at least `leastCapacity` items. All memory is allocated and touched here, which spares the
+    /// producer page faults.
     explicit SpscRing(std::size_t leastCapacity)
         : items_(std::bit_ceil(leastCapacity))
     {
@@ -32,20 +32,20 @@ public:
     /// In items; a power of two.
     [[nodiscard]] std::size_t capacity() const noexcept { return items_.size(); }
 
-    /// How many items can be pushed now; more once the consumer has gone on. Thread: the producer.
+    /// The number of items that can be pushed now; the consumer may only increase it. Thread: the producer.
     [[nodiscard]] std::size_t room() const noexcept FADELOOM_NONBLOCKING
     {
-        // Acquire: the consumer has read the items whose places are used next.
+        // Acquire: the consumer has finished reading the slots that are reused.
         const std::uint64_t released = released_.load(std::memory_order_acquire);
         return capacity() - static_cast<std::size_t>(pushed_.load(std::memory_order_relaxed) - released);
     }
 
-    /// Copies all of `items` in, or none of them when there is no room for all. Thread: the producer.
+    /// Pushes all of `items`, or none if they do not fit. Thread: the producer.
     [[nodiscard]] bool push(std::span<const T> items) noexcept FADELOOM_NONBLOCKING
     {
         if (items.size() > room())
             return false;
-        const std::uint64_t pushed = pushed_.load(std::memory_order_relaxed);  // Nobody else changes it.
+        const std::uint64_t pushed = pushed_.load(std::memory_order_relaxed);  // Only this thread changes it.
         const std::size_t begin = placeOf(pushed);
         const std::size_t untilEnd = std::min(items.size(), capacity() - begin);
         std::copy_n(items.data(), untilEnd, items_.data() + begin);
@@ -55,18 +55,18 @@ public:
         return true;
     }
 
-    /// The oldest items, as many of them as lie in one piece; empty when there are none. They stay where they are
-    /// until they are released. Thread: the consumer.
+    /// The oldest items, as many as are contiguous; empty if there are none. They remain valid until they are released.
+    /// Thread: the consumer.
     [[nodiscard]] std::span<const T> oldest() const noexcept
     {
         const std::uint64_t pushed = pushed_.load(std::memory_order_acquire);
-        const std::uint64_t released = released_.load(std::memory_order_relaxed);  // Nobody else changes it.
+        // Only this thread changes it.
+        const std::uint64_t released = released_.load(std::memory_order_relaxed);
         const std::size_t begin = placeOf(released);
         const auto count = static_cast<std::size_t>(pushed - released);
         return {items_.data() + begin, std::min(count, capacity() - begin)};
     }
-    /// Copies as many of the oldest items as `into` has room for and releases them; returns how many. Thread: the
-    /// consumer.
+    /// Copies as many of the oldest items as fit in `into` and releases them; returns how many. Thread: the consumer.
     std::size_t pop(std::span<T> into) noexcept
     {
         std::size_t count = 0;
@@ -80,7 +80,7 @@ public:
         }
         return count;
     }
-    /// Makes room of the `count` oldest items, at most as many as there are. Thread: the consumer.
+    /// Releases the `count` oldest items, at most as many as there are. Thread: the consumer.
     void release(std::size_t count) noexcept
     {
         released_.store(released_.load(std::memory_order_relaxed) + count, std::memory_order_release);
@@ -95,7 +95,7 @@ private:
     static constexpr std::size_t cacheLine = 64;
 
     std::vector<T> items_;
-    // Counted from the beginning. On cache lines of their own, so that one thread's counting does not slow the other.
+    // Monotonic counts. On separate cache lines to avoid false sharing.
     alignas(cacheLine) std::atomic<std::uint64_t> pushed_ = 0;
     alignas(cacheLine) std::atomic<std::uint64_t> released_ = 0;
     static_assert(std::atomic<std::uint64_t>::is_always_lock_free);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A promise to be told of something, for as long as this object lives.
+// An RAII handle of a registered callback.
 #pragma once
 
 #include <functional>
@@ -7,8 +7,8 @@
 
 namespace fadeloom {
 
-/// Ends what it stands for (a listener, a timer) when it is destroyed, assigned over, or reset.
-/// Belongs to the thread that made it. After it has ended, the callback is not called again.
+/// Ends the registration (a listener, a timer) when destroyed, assigned over, or reset. Belongs to the thread that
+/// created it. Once it has ended, the callback is not called again.
 class [[nodiscard]] Subscription {
 public:
     Subscription() = default;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "base/TextWriter.h"
 
+#include <poll.h>
+#include <unistd.h>
+
 #include <cerrno>
 #include <condition_variable>
 #include <deque>
@@ -8,9 +11,6 @@
 #include <system_error>
 #include <thread>
 #include <utility>
-
-#include <poll.h>
-#include <unistd.h>
 
 namespace fadeloom {
 
@@ -27,7 +27,7 @@ struct TextWriter::State {
         size += text.size();
         waiting.push_back(std::move(text));
     }
-    void tellOfDropped()
+    void reportDropped()
     {
         if (dropped > 0)
             add(notice(std::exchange(dropped, 0)));
@@ -35,12 +35,12 @@ struct TextWriter::State {
 
     const Sink sink;
     const Notice notice;
-    std::mutex mutex;  // Guards the rest; open while the sink works.
+    std::mutex mutex;  // Guards the rest; not held while the sink runs.
     std::condition_variable changed;
     std::deque<std::string> waiting;
     std::size_t size = 0;
     std::uint64_t dropped = 0;
-    std::uint64_t taken = 0;  // Texts that the sink has finished with.
+    std::uint64_t taken = 0;  // Texts that the sink has completed.
     bool isWorking = false;
     bool isClosing = false;
 };
@@ -50,7 +50,7 @@ void TextWriter::State::work()
     std::unique_lock lock(mutex);
     while (true) {
         if (waiting.empty())
-            tellOfDropped();
+            reportDropped();
         if (!waiting.empty()) {
             const auto text = std::move(waiting.front());
             waiting.pop_front();
@@ -77,7 +77,7 @@ TextWriter::TextWriter(Sink sink, Notice notice)
     try {
         std::thread([state = state_] { state->work(); }).detach();
     } catch (const std::system_error&) {
-        state_->isWorking = false;  // Everything is dropped then.
+        state_->isWorking = false;  // The rest is dropped.
     }
 }
 
@@ -93,7 +93,7 @@ void TextWriter::write(std::string text)
         ++state_->dropped;
         return;
     }
-    state_->tellOfDropped();
+    state_->reportDropped();
     state_->add(std::move(text));
     state_->changed.notify_all();
 }
@@ -106,7 +106,7 @@ bool TextWriter::close()
     while (state_->isWorking) {
         const auto before = state_->taken;
         const auto hasMoved = [&] { return !state_->isWorking || state_->taken != before; };
-        if (!state_->changed.wait_for(lock, patience, hasMoved))
+        if (!state_->changed.wait_for(lock, timeout, hasMoved))
             return false;
     }
     return true;
@@ -119,7 +119,7 @@ TextWriter::Sink writeToDescriptor(int descriptor)
             const auto count = ::write(descriptor, text.data(), text.size());
             if (count >= 0) {
                 text.remove_prefix(static_cast<std::size_t>(count));
-            } else if (errno == EAGAIN) {  // Whoever shares the file has made it so.
+            } else if (errno == EAGAIN) {  // Another process that shares the file has made it non-blocking.
                 pollfd file{.fd = descriptor, .events = POLLOUT, .revents = 0};
                 ::poll(&file, 1, -1);
             } else if (errno != EINTR) {

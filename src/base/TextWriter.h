@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Texts for somebody who may not read them: a pipe, a terminal, a log.
+// Output to a reader that may not read: a pipe, a terminal, a log.
 //
-// Whoever writes to one of these waits until the other side has taken enough. Here a thread waits, and what finds no
-// more room is dropped and counted.
+// Writing to one of these can block. Here a separate thread blocks instead, and what does not fit in the buffer is
+// dropped and counted.
 #pragma once
 
 #include <chrono>
@@ -15,37 +15,38 @@
 
 namespace fadeloom {
 
-/// Thread: any, the destructor's aside.
+/// Thread: any, except for the destructor.
 class TextWriter {
 public:
-    /// Writes one text and may wait for as long as it likes. It is called on a thread that may go on when the writer is
-    /// gone, so it refers to nothing that ends with it.
+    /// Writes one text and may block indefinitely. It is called on a thread that may outlive the writer, so it must not
+    /// refer to anything with a shorter lifetime.
     using Sink = std::function<void(std::string_view text)>;
-    /// The text that is written where so many were dropped.
+    /// The text that reports how many were dropped.
     using Notice = std::function<std::string(std::uint64_t dropped)>;
 
-    static constexpr std::size_t room = std::size_t{256} * 1024;  // Bytes that may wait.
-    static constexpr std::chrono::milliseconds patience{300};  // At the end, with a sink that takes nothing.
+    static constexpr std::size_t room = std::size_t{256} * 1024;  // Bytes that may be pending.
+    // At the end, for a sink that makes no progress.
+    static constexpr std::chrono::milliseconds timeout{300};
 
     TextWriter(Sink sink, Notice notice);
-    /// As `close`.
+    /// Calls `close`.
     ~TextWriter();
     TextWriter(const TextWriter&) = delete;
     TextWriter& operator=(const TextWriter&) = delete;
 
-    /// Has the text written after those before it. Waits for nothing.
+    /// Queues the text after the previous ones. Never blocks.
     void write(std::string text);
-    /// Waits until everything is written, or until the sink has taken nothing for `patience`. False when something was
-    /// left, which may still be written or not. Nothing may be written afterwards.
+    /// Blocks until everything is written, or the sink has made no progress for `timeout`. Returns false if something
+    /// was left, which may still be written. Must not be written to afterwards.
     bool close();
 
 private:
     struct State;
 
-    const std::shared_ptr<State> state_;  // Shared with the thread, which may be stuck in the sink for ever.
+    const std::shared_ptr<State> state_;  // Shared with the thread, which may be blocked in the sink forever.
 };
 
-/// Writes to an open file; what it refuses is lost.
+/// Writes to an open file; what it rejects is lost.
 [[nodiscard]] TextWriter::Sink writeToDescriptor(int descriptor);
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The headless commands about one app.
+// The headless commands about a single app.
 #include "commands/AppLookup.h"
 #include "commands/CommandReplies.h"
 #include "commands/NumberText.h"
@@ -31,7 +31,7 @@ Problem setDecibels(float& value, const std::string& word)
     return std::nullopt;
 }
 
-// Names differ in more than letter case, so there is one at most.
+// Names differ in more than case, so there is at most one.
 const EQPreset* findPreset(const SettingsData& settings, const Text& text, const std::string& name)
 {
     for (const auto* const presets : {&EQPresets::all(), &settings.userPresets}) {
@@ -95,7 +95,7 @@ Reply CommandInterpreter::setMuted(Arguments arguments)
         [](const auto& app) { return app.muted ? "on" : "off"; });
 }
 
-// The device that is meant to follow the app's present one, round the list.
+// The device next to the app's current one, cyclically.
 std::optional<std::string> CommandInterpreter::neighbourOf(const std::string& bundleID, bool isNext) const
 {
     const auto& devices = *controller_.state().devices;
@@ -172,7 +172,7 @@ Reply CommandInterpreter::applyPreset(Arguments arguments)
     const auto* const found = findPreset(*controller_.state().settings, text_, arguments[1]);
     if (!found)
         return unknown("unknown preset " + asWord(arguments[1]));
-    const EQPreset preset = *found;  // The settings change on the way.
+    const EQPreset preset = *found;  // Copied, because the list may change with the settings.
     for (const auto& id : *ids)
         controller_.applyPreset(preset, id);
     return changeApps("preset", arguments.first(1), [](const auto&, auto&) { return Problem(); }, value);

@@ -13,7 +13,7 @@
 namespace fadeloom {
 namespace {
 
-/// For the markup that a bar reads a tooltip as.
+/// Escapes text for the markup in a bar's tooltip.
 std::string escaped(const std::string& text)
 {
     std::string safe;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One app in a few words, for the bar of a desktop.
+// A summary of one app, for a desktop's status bar.
 #pragma once
 
 #include <expected>
@@ -12,18 +12,19 @@ class AudioController;
 class Text;
 
 struct BarStatus {
-    std::string id{};  // Empty when there is no app to show; so is the rest then.
+    std::string id{};  // Empty if there is no app to show; the rest is empty then too.
     std::string name{};
     std::string text{};  // "45%" or "muted"
 
     friend bool operator==(const BarStatus&, const BarStatus&) = default;
 };
 
-/// Of the app that `word` means, else of the first that plays. The error is a sentence for the user, in English.
+/// Of the app that `word` denotes, otherwise of the first playing one. The error is a sentence for the user, in
+/// English.
 [[nodiscard]] std::expected<BarStatus, std::string> barStatus(
     const AudioController& controller, const Text& text, const std::optional<std::string>& word);
-/// A line of the form that waybar takes: its text, tooltip, classes ("playing" or "silent", "muted", "missing",
-/// "recording") and percentage.
+/// One line of JSON for waybar: text, tooltip, classes ("playing" or "silent", "muted", "missing", "recording") and
+/// percentage.
 [[nodiscard]] std::string waybarLine(const AudioController& controller, const BarStatus& status);
 
 }  // namespace fadeloom

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// What can be asked of a running program in words: one line in, one line out. `help` lists the commands.
+// Text commands to a running program: one line in, one line out. `help` lists them.
 //
-// APP is a bundle identifier, a name that no other app has, `pid:N`, or `@playing`, `@all` and `@call` for several at
-// once; blanks need double quotes around them.
+// APP is a bundle identifier, a unique name, `pid:N`, or `@playing`, `@all` and `@call` for several; arguments with
+// spaces need double quotes.
 #pragma once
 
 #include "commands/StateJson.h"
@@ -21,19 +21,19 @@ class AudioController;
 class Text;
 
 /// Thread: main.
-/// How a command went.
+/// The outcome of a command.
 enum class ReplyKind {
     ok,
-    usage,  // It was not understood.
+    usage,  // Unknown command or wrong arguments.
     unknownName,  // No such app, output or preset.
-    refused,  // It was understood, and cannot be done.
-    denied,  // Not for this caller.
+    refused,  // Understood, but cannot be done.
+    denied,  // Not permitted for this caller.
 };
 
-/// Who asks: what a sandbox keeps its programs from must not be had through us.
+/// Who sends a command: one sent from a sandbox must not escape it through us.
 enum class Caller { trusted, sandboxed };
 
-/// What the panel does when it is asked for; nothing where there is none.
+/// What to do with the panel; empty functions if there is none.
 struct PanelActions {
     std::function<void()> open = nullptr;
     std::function<void()> toggle = nullptr;
@@ -42,11 +42,11 @@ struct PanelActions {
 class CommandInterpreter {
 public:
     struct Reply {
-        std::string text;  // One line that begins with "ok" or "error"; empty for a line without any word.
+        std::string text;  // One line that begins with "ok" or "error"; empty for a blank line.
         ReplyKind kind = ReplyKind::ok;
         bool asksToQuit = false;
-        std::optional<std::vector<std::string>> apps =
-            std::nullopt;  // Which it is about, if it is about apps.
+        // The apps that it concerns, if any.
+        std::optional<std::vector<std::string>> apps = std::nullopt;
         std::optional<Listing> listing = std::nullopt;
 
         /// The text without its first word.
@@ -62,11 +62,11 @@ public:
     {
     }
 
-    /// Does what the line says. After an error nothing has changed.
+    /// Executes a line. After an error nothing has changed.
     Reply interpret(std::string_view line, Caller caller = Caller::trusted);
-    /// The same of words.
+    /// Executes a command given as words.
     Reply run(std::span<const std::string> words, Caller caller = Caller::trusted);
-    /// What a reply says, as JSON in one line: the apps that it is about as they are now, the list, or its text.
+    /// A reply as one line of JSON: the current state of the apps it concerns, the list, or its text.
     [[nodiscard]] std::string jsonOf(const Reply& reply) const;
 
 private:
@@ -75,7 +75,7 @@ private:
 
     static std::span<const Command> commands();
 
-    // Of one app; its name is the first argument.
+    // For one app; its name is the first argument.
     Reply setVolume(Arguments arguments);
     Reply setMuted(Arguments arguments);
     Reply setOutput(Arguments arguments);
@@ -86,7 +86,7 @@ private:
     Reply savePreset(Arguments arguments);
     Reply record(Arguments arguments);
 
-    // Of all.
+    // For everything else.
     Reply deletePreset(Arguments arguments);
     Reply setDefault(Arguments arguments);
     Reply setVolumeLimit(Arguments arguments);
@@ -111,14 +111,14 @@ private:
     Reply help(Arguments arguments);
     Reply quit(Arguments arguments);
 
-    /// Changes the settings of the apps that the first argument names, all or none. `change` returns what went wrong, or
-    /// nothing. The reply has `value` of each app's settings afterwards; without further arguments it is only read.
+    /// Changes the settings of the apps that the first argument denotes, all or none. `change` returns an error, or
+    /// nullopt. The reply has `value` of each app's settings afterwards; without further arguments they are only read.
     template <typename Change, typename Value>
     Reply changeApps(std::string_view command, Arguments arguments, Change change, Value value);
-    /// The same with all settings.
+    /// The same for the global settings.
     template <typename Change>
     Reply changeSettings(std::string_view command, Arguments arguments, Change change);
-    /// The device next to the app's present one, in the list's order; absent without devices.
+    /// The device next to the app's current one, in list order; nullopt without devices.
     [[nodiscard]] std::optional<std::string> neighbourOf(const std::string& bundleID, bool isNext) const;
     [[nodiscard]] std::string appText(const std::string& bundleID) const;
     [[nodiscard]] std::string appLines() const;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The words that the sources of the headless commands share.
+// Shared error messages and replies of the headless commands.
 #pragma once
 
 #include "commands/CommandInterpreter.h"
@@ -14,9 +14,9 @@
 
 namespace fadeloom {
 
-/// What is in the way of a command, for the user.
+/// Why a command fails, for the user.
 struct Obstacle {
-    // Implicit: most are no more than a text.
+    // Implicit: most consist only of a text.
     Obstacle(std::string what, ReplyKind how = ReplyKind::refused)
         : text(std::move(what))
         , kind(how)
@@ -46,7 +46,7 @@ inline CommandInterpreter::Reply unknown(const std::string& text)
     return error(Obstacle(text, ReplyKind::unknownName));
 }
 
-/// "volume com.example.player 0.5": the command as it was understood.
+/// "volume com.example.player 0.5": the command as it was interpreted.
 inline CommandInterpreter::Reply done(std::string_view command, std::span<const std::string> arguments)
 {
     std::string text(command);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A line of the table of commands. For this folder's sources.
+// An entry of the command table. For this folder's sources.
 #pragma once
 
 #include "commands/CommandInterpreter.h"
@@ -13,7 +13,7 @@ namespace fadeloom {
 
 enum class Access { everyone, trusted };
 
-/// What a word of a command is; what may stand there is completed by it.
+/// The kind of an argument, which determines its completions.
 enum class Argument {
     none,
     app,
@@ -22,13 +22,13 @@ enum class Argument {
     device,
     preset,
     ownPreset,
-    choice,  // One of those that the usage names, parted by "|".
-    text,  // Whatever the user thinks of.
+    choice,  // One of the choices in the usage, separated by "|".
+    text,  // Free text.
 };
 
 struct CommandInterpreter::Command {
     std::string_view name;
-    std::string_view arguments;  // As help shows them; those in brackets may be left out.
+    std::string_view arguments;  // As shown by help; those in brackets are optional.
     std::size_t least;
     std::size_t most;
     Access access;

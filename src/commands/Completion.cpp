@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What may follow the words of a command that is being typed.
+// Completes the words of a partially typed command.
 #include "commands/CommandReplies.h"
 #include "commands/CommandTable.h"
 #include "control/AudioController.h"
@@ -10,7 +10,7 @@
 namespace fadeloom {
 namespace {
 
-/// "[on|off|toggle]" -> on, off, toggle; what is written in capitals stands for something else.
+/// "[on|off|toggle]" -> on, off, toggle; words in capitals are placeholders.
 std::vector<std::string> choicesIn(std::string_view usage, std::size_t place)
 {
     for (; place > 0 && usage.find(' ') != std::string_view::npos; --place)

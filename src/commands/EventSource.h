@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Tells what happens to a controller, as events.
+// Turns a controller's state changes into events.
 #pragma once
 
 #include "base/Subscription.h"
@@ -21,28 +21,28 @@ class EventSource {
 public:
     using Tell = std::function<void(const Event&)>;
 
-    /// How long changes of apps' settings are collected: a slider that is dragged gives one event in that time.
+    /// Changes of apps' settings are coalesced over this time: dragging a slider gives one event per interval.
     static constexpr std::chrono::milliseconds collecting{30};
 
-    /// Tells how things stand now, without apps' settings, and from then on what changes. All must outlive this.
+    /// Emits the current state, without apps' settings, and then every change. All arguments must outlive this.
     EventSource(const AudioController& controller, MainLoop& mainLoop, Tell tell);
     EventSource(const EventSource&) = delete;
     EventSource& operator=(const EventSource&) = delete;
 
 private:
-    void tellApps();
-    void tellDevices();
-    void tellOutputs();
-    void tellCallOffers();
-    void tellRecordings();
+    void emitApps();
+    void emitDevices();
+    void emitOutputs();
+    void emitCallOffers();
+    void emitRecordings();
     void settingsChanged();
-    void tellSettings();
-    void tellAll(const Events& events);
+    void emitSettings();
+    void emitAll(const Events& events);
 
     const AudioController& controller_;
     MainLoop& mainLoop_;
-    const Tell tell_;
-    std::vector<AppEntry> apps_;  // As last told, all six.
+    const Tell emit_;
+    std::vector<AppEntry> apps_;  // As last emitted, all six.
     std::vector<OutputDevice> devices_;
     AppOutputs outputs_;
     AppSettingsByID settings_;

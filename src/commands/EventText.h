@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Events in words: as lines that begin with a fixed word, and as objects of JSON.
+// Events as text: as lines that begin with a fixed word, and as JSON objects.
 //
 //     app appeared com.example.player Player      device added speakers "Desk Speakers"
 //     app playing com.example.player              device removed speakers "Desk Speakers"
@@ -18,9 +18,9 @@
 
 namespace fadeloom {
 
-/// One line, without its end.
+/// One line, without the line feed.
 [[nodiscard]] std::string eventLine(const Event& event);
-/// One line of JSON, {"event":"appeared",...}. Keys and events may be added; readers pass over what they do not know.
+/// One line of JSON, {"event":"appeared",...}. Keys and events may be added; readers ignore unknown ones.
 [[nodiscard]] std::string eventJson(const Event& event);
 
 }  // namespace fadeloom

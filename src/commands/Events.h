@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What has happened between two states of the world, as values. EventText.h has their words.
+// Differences between two states, as values. EventText.h formats them.
 #pragma once
 
 #include "control/AppEntry.h"
@@ -18,7 +18,7 @@
 
 namespace fadeloom {
 
-/// Apps are named by their bundle identifiers, outputs by their unique ids.
+/// Apps are identified by bundle identifier, outputs by unique id.
 namespace event {
 
 struct AppAppeared {
@@ -87,19 +87,19 @@ using Event = std::variant<event::AppAppeared, event::AppDisappeared, event::App
     event::Message, event::Levels>;
 using Events = std::vector<Event>;
 
-/// Where each app plays; absent for an app that has no output.
+/// Where each app plays; nullopt for an app without output.
 using AppOutputs = std::map<std::string, std::optional<std::string>>;
 using AppSettingsByID = std::map<std::string, AppAudioSettings>;
 
 [[nodiscard]] Events appEvents(std::span<const AppEntry> before, std::span<const AppEntry> now);
 [[nodiscard]] Events appOutputEvents(const AppOutputs& before, const AppOutputs& now);
-/// An app that is in only one of them has the default settings in the other.
+/// An app that is in only one of them has default settings in the other.
 [[nodiscard]] Events appSettingsEvents(const AppSettingsByID& before, const AppSettingsByID& now);
 [[nodiscard]] Events outputEvents(std::span<const OutputDevice> before, std::span<const OutputDevice> now);
 [[nodiscard]] Events callOfferEvents(const std::set<std::string>& before, const std::set<std::string>& now);
 [[nodiscard]] Events recordingEvents(const std::set<std::string>& before, const std::set<std::string>& now);
 
-/// The app that an event is about; absent for one about none, or about many.
+/// The app that an event is about; nullopt if none, or several.
 [[nodiscard]] std::optional<std::string> appOf(const Event& event);
 
 }  // namespace fadeloom

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The JSON that other programs read: one spelling of keys for answers and events. For this folder's sources; no header
-// of ours that others see has it.
+// JSON for other programs: the keys shared by replies and events. For this folder's sources; not exposed in public
+// headers.
 #pragma once
 
 #include "settings/AppAudioSettings.h"
@@ -10,7 +10,7 @@
 
 namespace fadeloom {
 
-/// In one line. Bytes that are not UTF-8 become replacement characters.
+/// On one line. Invalid UTF-8 becomes replacement characters.
 [[nodiscard]] std::string jsonLine(const FloatJson& json);
 /// {"volume":0.5,"muted":false,"outputUID":null,"eq":false,"preset":"Flat","gains":[...],"preamp":0}
 [[nodiscard]] FloatJson appSettingsJson(const AppAudioSettings& app);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Takes a command line apart.
+// Splits a command line into words.
 #pragma once
 
 #include <expected>
@@ -9,8 +9,8 @@
 
 namespace fadeloom {
 
-/// The words of a line, parted by blanks. Double quotes hold blanks together; between them a backslash takes the
-/// next character as it is. The error is a sentence for the user, in English.
+/// The words of a line, separated by spaces. Double quotes group; inside them a backslash escapes the next character.
+/// The error is a sentence for the user, in English.
 [[nodiscard]] std::expected<std::vector<std::string>, std::string> wordsOf(std::string_view line);
 
 }  // namespace fadeloom

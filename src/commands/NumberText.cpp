@@ -10,7 +10,7 @@ namespace fadeloom {
 
 std::optional<float> numberOf(const std::string& text)
 {
-    // Not std::from_chars: one of our standard libraries lacks it for floating point.
+    // Not std::from_chars: one of our standard libraries does not support it for floating point.
     std::istringstream stream(text);
     stream.imbue(std::locale::classic());
     float number = 0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Numbers as they are typed and printed, with a point in every language.
+// Locale-independent parsing and formatting of numbers.
 #pragma once
 
 #include <optional>
@@ -7,10 +7,10 @@
 
 namespace fadeloom {
 
-/// The number that the whole text is; absent for anything else, and for what is not finite.
+/// The number that the whole text represents; nullopt for anything else, and if it is not finite.
 [[nodiscard]] std::optional<float> numberOf(const std::string& text);
 
-/// The shortest text that reads back the same.
+/// The shortest text that reads back as the same number.
 [[nodiscard]] std::string numberText(float number);
 
 }  // namespace fadeloom

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "commands/PrintableText.h"
 
-#include <cstddef>
 #include <locale.h>
-#include <optional>
 #include <wchar.h>
+
+#include <cstddef>
+#include <optional>
 
 namespace fadeloom {
 namespace {
@@ -14,10 +15,10 @@ constexpr std::string_view ellipsis = "\u2026";
 
 struct Character {
     std::string_view bytes;  // At least one.
-    std::optional<char32_t> code;  // Absent when the bytes are not UTF-8.
+    std::optional<char32_t> code;  // Absent if the bytes are not UTF-8.
 };
 
-// The length of the character that begins with this byte, by that byte alone; 1 for a byte that begins none.
+// The length of the character that begins with this byte, going by the byte alone; 1 for an invalid lead byte.
 std::size_t announcedLength(unsigned char first)
 {
     if (first >= 0xF0 && first <= 0xF4)
@@ -73,14 +74,14 @@ bool isControl(char32_t code)
     return code < 0x20 || (code >= 0x7F && code < 0xA0);
 }
 
-// Line and paragraph ends, and marks that turn the writing direction.
+// Line and paragraph separators, and bidirectional control characters.
 bool isLayoutMark(char32_t code)
 {
     return code == 0x061C || code == 0x200E || code == 0x200F || (code >= 0x2028 && code <= 0x202E)
         || (code >= 0x2066 && code <= 0x2069) || code == 0xFEFF;
 }
 
-// A locale in which every character has a width, whatever the user's own is. Lives as long as the program.
+// A UTF-8 locale, in which every character has a width, whatever the user's locale is. Never freed.
 locale_t characterLocale()
 {
     static const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
@@ -90,7 +91,7 @@ locale_t characterLocale()
 int widthOf(char32_t code)
 {
     const int width = wcwidth(static_cast<wchar_t>(code));
-    return width < 0 ? 1 : width;  // A character that the system's tables do not know yet.
+    return width < 0 ? 1 : width;  // A character that the system's tables do not contain yet.
 }
 
 }  // namespace

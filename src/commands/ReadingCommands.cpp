@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The commands that tell how things stand, and that take all settings at once.
+// The commands that query the state, and that restore all settings.
 #include "commands/BarStatus.h"
 #include "commands/CommandReplies.h"
 #include "commands/NumberText.h"
@@ -85,7 +85,7 @@ CommandInterpreter::Reply CommandInterpreter::list(Arguments arguments)
     return error(Obstacle("say apps, outputs or presets, not " + asWord(arguments[0]), ReplyKind::usage));
 }
 
-// For a bar: the app that is named, else the first that plays.
+// For a bar: the given app, otherwise the first playing one.
 CommandInterpreter::Reply CommandInterpreter::status(Arguments arguments)
 {
     const auto word = arguments.empty() ? std::nullopt : std::optional(arguments[0]);

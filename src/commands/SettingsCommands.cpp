@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The headless commands about everything but one app.
+// The headless commands that do not concern a single app.
 #include "commands/AppLookup.h"
 #include "commands/CommandReplies.h"
 #include "commands/NumberText.h"
@@ -42,7 +42,8 @@ Reply CommandInterpreter::setDefault(Arguments arguments)
     const auto* const found = findDevice(*controller_.state().devices, arguments[0]);
     if (!found)
         return unknown("unknown device " + asWord(arguments[0]));
-    const OutputDevice device = *found;  // The list may change while the system takes it.
+    // Copied, because the list may change while the system sets the default.
+    const OutputDevice device = *found;
     if (!controller_.setSystemOutput(device))
         return error("the system did not accept " + asWord(device.uid) + " as its default output");
     return done("default", arguments);
@@ -82,7 +83,7 @@ Reply CommandInterpreter::setCallLevel(Arguments arguments)
     });
 }
 
-// An app that is not known yet is taken by its bundle identifier as it stands: it may come later.
+// An unknown app is taken literally as a bundle identifier: it may appear later.
 Reply CommandInterpreter::setCallApp(Arguments arguments)
 {
     const auto id = findApp(controller_.state(), text_, arguments[0]).value_or(arguments[0]);

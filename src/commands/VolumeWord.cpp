@@ -11,7 +11,7 @@ namespace fadeloom {
 
 namespace {
 
-// Where a step up in decibels begins when the app is at 0: -60 dB.
+// The starting point for a step up in decibels if the app is at 0: -60 dB.
 constexpr float lowestAudible = 0.001F;
 
 float factorOf(float decibels)
@@ -79,7 +79,7 @@ float VolumeWord::from(float present, float limit) const
         return std::clamp(begin * factorOf(amount_), 0.0F, limit);
     }
     const float step = unit_ == Unit::percent ? amount_ / 100 : amount_;
-    // To a tenth of a percent, so that steps up and down meet again.
+    // Rounded to a tenth of a percent, so that steps up and down cancel out.
     return std::clamp(std::round((present + step) * 1000) / 1000, 0.0F, limit);
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Volumes as they are typed.
+// Parses volumes as typed by the user.
 //
-//     0.5  50%  =-6dB           a level; 1 is 0 dB, the sound as the app plays it
-//     +5%  5%-  -3dB  +0.05     a step from the present level
+//     0.5  50%  =-6dB           a level; 1 is 0 dB, the app's own level
+//     +5%  5%-  -3dB  +0.05     a step from the current level
 #pragma once
 
 #include <expected>
@@ -18,7 +18,7 @@ public:
     [[nodiscard]] static std::expected<VolumeWord, std::string> parse(std::string_view word);
 
     [[nodiscard]] bool isStep() const { return isStep_; }
-    /// The volume that is meant, as a linear factor. `present` counts for a step, which stops at 0 and at `limit`.
+    /// The resulting volume, as a linear factor. `present` is the base of a step, which is clamped to 0 and `limit`.
     [[nodiscard]] float from(float present, float limit) const;
 
 private:

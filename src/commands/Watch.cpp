@@ -46,15 +46,15 @@ Watch::Watch(
 {
     if (request_.wantsLevels) {
         levelsWanted_ = controller_.levels().want();
-        levels_ = controller_.levels().levels().whenAssigned([this] { tellLevels(); });
+        levels_ = controller_.levels().levels().whenAssigned([this] { sendLevels(); });
         return;
     }
     if (request_.format == WatchRequest::Format::json)
         send_(stateEventJson(controller_));
-    events_.emplace(controller_, mainLoop, [this](const Event& event) { tell(event); });
+    events_.emplace(controller_, mainLoop, [this](const Event& event) { deliver(event); });
     isBeginning_ = false;
     if (request_.format == WatchRequest::Format::waybar)
-        tellBar();
+        sendBarStatus();
 }
 
 void Watch::end()
@@ -75,13 +75,13 @@ bool Watch::isAbout(const std::string& id) const
     return ids && std::ranges::find(*ids, id) != ids->end();
 }
 
-void Watch::tell(const Event& event)
+void Watch::deliver(const Event& event)
 {
     using enum WatchRequest::Format;
     if (request_.format == waybar)
-        return isBeginning_ ? void() : tellBar();
+        return isBeginning_ ? void() : sendBarStatus();
     if (request_.format == json && isBeginning_)
-        return;  // The state said it.
+        return;  // Already contained in the state.
     if (request_.isSandboxed && std::holds_alternative<event::RecordingSaved>(event))
         return;
     const auto app = appOf(event);
@@ -90,7 +90,7 @@ void Watch::tell(const Event& event)
     send_(request_.format == json ? eventJson(event) : eventLine(event));
 }
 
-void Watch::tellLevels()
+void Watch::sendLevels()
 {
     event::Levels levels;
     for (const auto& [id, position] : *controller_.levels().levels()) {
@@ -105,9 +105,9 @@ void Watch::tellLevels()
     send_(last_);
 }
 
-void Watch::tellBar()
+void Watch::sendBarStatus()
 {
-    // An app that is not known yet may come: the bar stays empty until then.
+    // An unknown app may still appear: the bar stays empty until then.
     const auto status = barStatus(controller_, text_, request_.app);
     auto line = waybarLine(controller_, status.value_or(BarStatus()));
     if (line == last_)

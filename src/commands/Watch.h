@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Another program that is told what happens, line by line, for as long as it listens.
+// A connected program that receives events, line by line, until it disconnects.
 #pragma once
 
 #include "base/Subscription.h"
@@ -19,14 +19,14 @@ class AudioController;
 class MainLoop;
 class Text;
 
-/// What is told: in which form, about what.
+/// What to send: the format, and which events.
 struct WatchRequest {
     enum class Format { text, json, waybar };
 
     Format format = Format::text;
-    bool wantsLevels = false;  // And nothing else.
-    std::optional<std::string> app{};  // As typed; absent for all.
-    bool isSandboxed = false;  // It is not told where recordings are.
+    bool wantsLevels = false;  // Only levels.
+    std::optional<std::string> app{};  // As typed; nullopt for all apps.
+    bool isSandboxed = false;  // It does not learn where recordings are saved.
 
     /// FORMAT [apps|levels] [APP]. The error is a sentence for the user, in English.
     [[nodiscard]] static std::expected<WatchRequest, std::string> parse(std::span<const std::string> words);
@@ -37,26 +37,26 @@ class Watch {
 public:
     using Send = std::function<void(const std::string& line)>;
 
-    /// Sends how things stand now, and from then on what changes. All must outlive this.
+    /// Sends the current state, and then every change. All arguments must outlive this.
     Watch(AudioController& controller, MainLoop& mainLoop, const Text& text, WatchRequest request, Send send);
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
 
-    /// Sends that it is over.
+    /// Sends the end event.
     void end();
 
 private:
     [[nodiscard]] bool isAbout(const std::string& id) const;
-    void tell(const Event& event);
-    void tellLevels();
-    void tellBar();
+    void deliver(const Event& event);
+    void sendLevels();
+    void sendBarStatus();
 
     AudioController& controller_;
     const Text& text_;
     const WatchRequest request_;
     const Send send_;
     bool isBeginning_ = true;
-    std::string last_;  // What was sent of what is sent as a whole.
+    std::string last_;  // The last line, for formats that send the whole state each time.
     Subscription levelsWanted_;
     Subscription levels_;
     std::optional<EventSource> events_;

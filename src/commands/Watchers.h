@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// All programs that are told what happens.
+// All programs that receive events.
 #pragma once
 
 #include "base/LifeToken.h"
@@ -15,7 +15,7 @@ namespace fadeloom {
 /// Thread: main.
 class Watchers {
 public:
-    /// All must outlive this.
+    /// All arguments must outlive this.
     Watchers(AudioController& controller, MainLoop& mainLoop, const Text& text)
         : controller_(controller)
         , mainLoop_(mainLoop)
@@ -25,12 +25,12 @@ public:
     Watchers(const Watchers&) = delete;
     Watchers& operator=(const Watchers&) = delete;
 
-    /// Tells whoever is behind `send`, until the result goes or `end`. `line`: what WatchRequest::parse takes apart.
-    /// The first that is sent is "ok ok watch", or "usage error" and a sentence; the result is null then. May outlive
-    /// this.
+    /// Sends events to `send` until the result is destroyed or `end` is called. `line`: see WatchRequest::parse. The
+    /// first line sent is "ok ok watch", or "usage error" with a sentence, in which case the result is null. The result
+    /// may outlive this.
     [[nodiscard]] std::shared_ptr<void> add(
         const std::string& line, bool isSandboxed, const Watch::Send& send);
-    /// Tells them that it is over, and forgets them.
+    /// Sends the end event to all watchers, and drops them.
     void end();
     [[nodiscard]] std::size_t count() const { return watches_.size(); }
 

@@ -10,11 +10,11 @@ namespace fadeloom {
 
 namespace {
 
-// Of a row, what its place depends on: each name is put into lower case once, not at every comparison.
+// The sort key of a row: each name is converted to lower case once, not in every comparison.
 struct Key {
     bool isSilent;
     std::string name;
-    std::size_t position;  // Keeps the order of rows that are equal otherwise.
+    std::size_t position;  // Makes the sort stable.
 };
 
 }  // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Audio processes, grouped by the application that owns them.
+// Groups audio processes by the application that owns them.
 #pragma once
 
 #include "control/AppResolver.h"
@@ -15,25 +15,25 @@
 
 namespace fadeloom {
 
-/// One application with every audio process of its own, in the order read.
+/// One application with all its audio processes, in the order read.
 struct AppGroup {
     RunningApplication owner;
     std::vector<AudioProcess> processes;
 
     [[nodiscard]] bool isPlaying() const;
     [[nodiscard]] bool isUsingMic() const;
-    /// Ascending.
+    /// Sorted.
     [[nodiscard]] std::vector<AudioProcessID> processIDs() const;
-    /// Unique ids of the devices that its streams would play to without us, ascending.
+    /// Unique ids of the devices that its streams would play to without us, sorted.
     [[nodiscard]] std::vector<std::string> ownOutputs() const;
-    /// Of the first process that has a reason.
+    /// Of the first process with a reason.
     [[nodiscard]] std::optional<OutOfReach> outOfReach() const;
 };
 
 /// By bundle identifier.
 using AppGroups = std::map<std::string, AppGroup>;
 
-/// Finds the owner of each process, once for as long as the process is there. Thread: main.
+/// Finds the owner of each process, once in its lifetime. Thread: main.
 class AppGrouper {
 public:
     explicit AppGrouper(const Workspace& workspace)
@@ -42,11 +42,11 @@ public:
     {
     }
 
-    /// Leaves out our own processes and those that belong to no application which runs. Asks for the list of running
-    /// applications only when a process is new, and then once.
+    /// Excludes our own processes and those without a running application. Queries the list of running applications
+    /// only if there is a new process, and then once.
     [[nodiscard]] AppGroups group(std::span<const AudioProcess> processes);
 
-    /// Who was found to own a process when it was grouped last; null for one that was not there.
+    /// The owner of a process as of the last grouping; null if it was not in that.
     [[nodiscard]] const std::optional<RunningApplication>* knownOwner(ProcessID process) const;
 
 private:
@@ -58,7 +58,7 @@ private:
 
     const Workspace& workspace_;
     AppResolver resolver_;
-    std::unordered_map<ProcessID, Owner> owners_;  // That a process has no owner is remembered too.
+    std::unordered_map<ProcessID, Owner> owners_;  // Includes processes without an owner.
 };
 
 }  // namespace fadeloom

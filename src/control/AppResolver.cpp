@@ -45,7 +45,7 @@ std::optional<RunningApplication> AppResolver::userAppOf(ProcessID pid) const
 std::optional<RunningApplication> AppResolver::appExtendedBy(
     std::string_view bundleID, std::span<const RunningApplication> runningApps) const
 {
-    // The cheap question first: of a thousand applications a handful, at most, begin like this process.
+    // The cheap test first: of a thousand applications at most a handful have this prefix.
     std::vector<std::string_view> candidates;
     for (const auto& app : runningApps) {
         if (app.bundleID && isEqualOrExtended(bundleID, *app.bundleID) && isUserApp(app))

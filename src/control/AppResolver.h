@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Which application, in the user's sense of the word, an audio process belongs to.
+// Finds the application, in the user's sense, that an audio process belongs to.
 //
 // A browser plays through helpers, a game through a launcher's child, a desktop through services. The user knows the
-// browser, the launcher and nothing of the services.
+// browser and the launcher, but not the services.
 #pragma once
 
 #include "platform/Workspace.h"
@@ -13,8 +13,8 @@
 
 namespace fadeloom {
 
-/// The candidate that `id` equals or extends by "." and more: the longest one, and of equal ones the first.
-/// Absent when there is none, and for an empty `id`.
+/// The candidate that `id` equals or extends by "." and more: the longest one, and of equal ones the first. nullopt if
+/// there is none, and for an empty `id`.
 [[nodiscard]] std::optional<std::string_view> bestPrefixMatch(
     std::string_view id, std::span<const std::string_view> candidates);
 
@@ -26,8 +26,8 @@ public:
     {
     }
 
-    /// The owner of the process: itself, the process that answers for it, or the one of `runningApps` whose bundle
-    /// identifier its own extends, whichever is first an application that the user sees. Absent when none is.
+    /// The owner of the process: itself, the process responsible for it, or the one of `runningApps` whose bundle
+    /// identifier its own extends, whichever first is an application that the user sees. nullopt if none is.
     [[nodiscard]] std::optional<RunningApplication> owningApp(
         ProcessID pid, std::string_view bundleID, std::span<const RunningApplication> runningApps) const;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// One application's settings within the record of all.
+// One application's settings within the settings record.
 //
-// Only what differs from the defaults is remembered, so the settings file lists the apps that the user has changed.
+// Only differences from the defaults are stored, so the settings file lists the apps that the user has changed.
 #pragma once
 
 #include "settings/SettingsData.h"
@@ -11,13 +11,13 @@
 
 namespace fadeloom {
 
-/// What is set for the app; the defaults when nothing is.
+/// The app's settings; the defaults if there are none.
 [[nodiscard]] AppAudioSettings appSettings(const SettingsData& settings, const std::string& bundleID);
 
-/// Remembers what is set for the app, and drops its entry when that is what an app without one has anyway.
+/// Stores the app's settings, or removes its entry if they equal the defaults.
 void storeAppSettings(SettingsData& settings, const std::string& bundleID, const AppAudioSettings& app);
 
-/// The apps that must not be heard without their tap: those that are muted, made quieter, or sent elsewhere.
+/// The apps that must not bypass their tap: those that are muted, attenuated, or routed elsewhere.
 [[nodiscard]] std::set<std::string> appsToHold(const SettingsData& settings);
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the controller starts, is called, and ends.
+// The controller's start, requests and shutdown.
 #include "control/AudioController.h"
 
 #include "platform/AudioSystem.h"
@@ -100,7 +100,7 @@ void AudioController::shutdown()
 {
     isShutDown_ = true;
     timer_.reset();
-    // A poll after this point would make the taps again.
+    // A later poll would create the taps again.
     systemListeners_.clear();
     life_.end();
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The one object that decides: which applications stand in the mixer, which are tapped, where each plays and how.
+// The object that makes all decisions: which applications are in the mixer, which are tapped, where and how each plays.
 //
-// It is driven from four sides: a timer, the audio system's announcements, changes of the settings, and the user's
-// operations. They end in a poll, which compares the world with what is wanted and repairs the difference.
+// It is driven by a timer, the audio system's notifications, changes of the settings, and the user's operations. All of
+// them lead to a poll, which compares the actual state with the wanted one and reconciles the difference.
 //
-// Its sources go by concern: AudioController.cpp (start, end, permission), …Settings.cpp (from settings to sound and
-// file), …Poll.cpp (from processes to rows), …Taps.cpp (from rows to taps), …Routing.cpp (devices and outputs),
-// …Calls.cpp (ducking), …Recordings.cpp, …Presets.cpp, …Desktop.cpp (start at login, appearance), …Demo.cpp (fixed
-// contents for pictures).
+// Its sources are split by concern: AudioController.cpp (start, shutdown, permission), …Settings.cpp (from settings to
+// audio and file), …Poll.cpp (from processes to rows), …Taps.cpp (from rows to taps), …Routing.cpp (devices and
+// outputs), …Calls.cpp (ducking), …Recordings.cpp, …Presets.cpp, …Desktop.cpp (start at login, appearance), …Demo.cpp
+// (fixed contents for pictures).
 #pragma once
 
 #include "base/LifeToken.h"
@@ -34,86 +34,86 @@
 
 namespace fadeloom {
 
-/// Apps are named by their bundle identifiers. Thread: main; a callback that comes on another one stops the process.
+/// Apps are identified by bundle identifier. Thread: main; a callback on another one aborts the process.
 class AudioController {
 public:
     static constexpr std::chrono::seconds pollInterval{5};
 
-    /// Loads the settings, begins to listen, polls once. Settings that are there and cannot be read are an error, and
-    /// nothing is saved in their place. `version` is for the log; "?" when empty.
+    /// Loads the settings, starts listening, polls once. Existing settings that cannot be read are an error, and are
+    /// never overwritten. `version` is for the log; "?" if empty.
     AudioController(const Platform& platform, EngineLog& engineLog, const std::string& version);
-    /// One that publishes fixed contents, for pictures: it looks at nothing, taps nothing and saves nothing.
+    /// A controller that publishes fixed contents, for pictures: it queries nothing, taps nothing and saves nothing.
     AudioController(const Platform& platform, EngineLog& engineLog, const DemoContents& demo);
     AudioController(const AudioController&) = delete;
     AudioController& operator=(const AudioController&) = delete;
 
-    /// What is published; it changes only through the operations below and through what happens.
+    /// The published state; it changes only through the operations below and external events.
     [[nodiscard]] const ControllerState& state() const { return state_; }
 
-    /// Takes a new record. What differs from the last one is heard at once and saved half a second later.
+    /// Replaces the settings. Changes take effect immediately and are saved half a second later.
     void setSettings(SettingsData settings);
-    /// Changes a copy of the settings with `change`, and takes that.
+    /// Applies `change` to a copy of the settings, and sets that.
     void editSettings(const std::function<void(SettingsData&)>& change);
-    /// The same with the settings of one app; one that is left with the defaults has no entry afterwards.
+    /// The same for the settings of one app; its entry is removed if they equal the defaults afterwards.
     void editApp(const std::string& bundleID, const std::function<void(AppAudioSettings&)>& change);
     void dismissError() { state_.error.assign(std::nullopt); }
 
-    /// Compares the world with what is wanted, now.
+    /// Compares the actual state with the wanted one, now.
     void poll();
-    /// Polls, and tries a tap again that was refused.
+    /// Polls, and retries a refused tap.
     void retryTap(const std::string& bundleID);
-    /// Polls in a later turn of the main loop; any number of requests until then cost one poll.
+    /// Polls in a later iteration of the main loop; any number of requests until then cost one poll.
     void schedulePoll();
-    /// Asks the user for the permission to capture, then polls.
+    /// Requests the permission to capture from the user, then polls.
     void requestPermission();
 
-    /// The devices that the app plays through now: the chosen one when it is connected, else those of its own choice,
-    /// else the system's default.
+    /// The devices that the app currently plays through: the selected one if it is connected, else those that it has
+    /// chosen itself, else the system's default.
     [[nodiscard]] std::vector<OutputDevice> outputs(const std::string& bundleID) const;
     /// The first of them.
     [[nodiscard]] std::optional<std::string> outputUID(const std::string& bundleID) const;
-    /// Whether the app has a chosen output that is not connected.
+    /// Whether the app has a selected output that is not connected.
     [[nodiscard]] bool isOutputMissing(const std::string& bundleID) const;
     /// The app in the mixer that a process belongs to.
     [[nodiscard]] std::optional<std::string> appOfProcess(ProcessID process) const;
     /// Makes the device the system's default output.
     Outcome setSystemOutput(const OutputDevice& device);
 
-    /// The app's parameter block, or null: it comes with the app's first tap and goes with its last process.
+    /// The app's parameter block, or null: it is created with the app's first tap and destroyed with its last process.
     [[nodiscard]] const TapParameters* parametersOf(const std::string& bundleID) const;
     /// The app's tap on the first of its outputs, or null.
     [[nodiscard]] const AppTap* tapOf(const std::string& bundleID) const;
-    /// The meters; whoever shows them says when.
+    /// The meters; their viewers say when they are needed.
     [[nodiscard]] LevelStore& levels() { return levels_; }
 
-    /// Writes what the app plays to a file, before volume, mute and equalizer; a second call while the app is being
-    /// recorded does nothing.
+    /// Records the app to a file, before volume, mute and equalizer; does nothing while the app is already being
+    /// recorded.
     Outcome startRecording(const std::string& bundleID);
-    /// The file is complete half a second later, or once the renderer has let go of it.
+    /// The file is complete half a second later, or once the renderer has released it.
     void stopRecording(const std::string& bundleID);
-    /// Where recordings go.
+    /// The recordings folder.
     [[nodiscard]] std::filesystem::path recordingsFolder() const;
-    /// Lets the user choose where they go. `prompt`: on the button that confirms.
+    /// Prompts the user for the recordings folder. `prompt`: the label of the confirmation button.
     void chooseRecordingsFolder(const std::string& prompt);
-    /// Shows the recording that was stopped last in the file manager.
+    /// Shows the last recording in the file manager.
     void revealLastRecording();
 
     [[nodiscard]] const CallApps& callApps() const { return platform_.callApps; }
-    /// Its use of the microphone is a call from now on; is none any more and not offered; as if nothing had been said.
+    /// From now on its use of the microphone is a call; is not one and is not suggested; is undecided again.
     void addCallApp(const std::string& bundleID);
     void removeCallApp(const std::string& bundleID);
     void resetCallApps();
 
     void applyPreset(const EQPreset& preset, const std::string& bundleID);
-    /// Keeps the app's curve under this name. A blank name does nothing, that of a built-in preset is an error.
+    /// Saves the app's curve under this name. A blank name does nothing, that of a built-in preset is an error.
     Outcome saveUserPreset(const std::string& name, const std::string& bundleID);
     void deleteUserPreset(const EQPreset& preset);
 
-    /// Afterwards `launchAtLogin` is what the system made of it.
+    /// Afterwards `launchAtLogin` is the system's actual state.
     Outcome setLaunchAtLogin(bool isWanted);
 
-    /// Ends the work before the program does: no tap is left, every recording is a whole file, and a save that waits
-    /// is done when this returns.
+    /// Shuts down before the program ends: removes all taps, completes all recordings and a pending save before it
+    /// returns.
     void shutdown();
 
 private:
@@ -170,7 +170,7 @@ private:
     Platform platform_;
     EngineLog& engineLog_;
     bool isDemo_ = false;
-    bool isSaving_ = true;  // Not where the file may hold what could not be read.
+    bool isSaving_ = true;  // False if the file may contain settings that could not be read.
     AudioPermission audioPermission_{platform_.capturePermission, platform_.mainLoop};
     AppGrouper grouper_{platform_.workspace};
 
@@ -178,13 +178,13 @@ private:
     SettingsSaver saver_;
     LevelStore levels_{platform_.mainLoop, [this] { return takePeaks(); }};
 
-    std::map<std::string, TrackedApp> tracked_;  // Apps that have played since they were started.
+    std::map<std::string, TrackedApp> tracked_;  // Apps that have played in their current lifetime.
     Recordings recordings_{platform_.mainLoop, platform_.audio, platform_.audioFiles, engineLog_,
         [this](const std::string& bundleID, AudioFileError error) { recordingBroken(bundleID, error); }};
     bool isPollScheduled_ = false;
     bool isShutDown_ = false;
 
-    // Last, so that they end first: no callback comes into an object that is going.
+    // Last, so that they end first: no callback reaches a partly destroyed object.
     std::vector<Subscription> systemListeners_;
     Subscription timer_;
     LifeToken life_;

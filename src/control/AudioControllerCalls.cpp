@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controller's care for calls: while there is one, the other apps are lowered.
+// Call handling of the controller: ducks the other apps during a call.
 #include "control/AudioController.h"
 #include "control/CallDucking.h"
 
@@ -9,7 +9,7 @@ namespace fadeloom {
 
 void AudioController::updateFocus()
 {
-    // Whoever observes the one may change what the other is made of.
+    // Copied, because observers of the first assignment may change the source of the second.
     auto offers = callOffers(*state_.apps, state_.settings->focus, *state_.callOffers);
     state_.callOffers.assignIfDifferent(std::move(offers));
     if (state_.callApp.assignIfDifferent(appOnCall(*state_.apps, state_.settings->focus)))

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controller without an audio system: what it publishes stands still, and no file of the user is touched.
+// The controller without an audio system: its state is fixed, and no file of the user is touched.
 #include "control/AudioController.h"
 #include "settings/SettingsFile.h"
 

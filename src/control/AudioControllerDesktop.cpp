@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controller's words with the desktop: the start at login, and how the windows look.
+// Desktop integration of the controller: start at login, and the windows' appearance.
 #include "control/AudioController.h"
 #include "platform/Application.h"
 #include "platform/LoginItem.h"
@@ -31,7 +31,7 @@ Outcome AudioController::setLaunchAtLogin(bool isWanted)
     Outcome outcome;
     if (!changed)
         outcome = failed(LoginItemRefused{changed.error()});
-    // Assigned also when it is as before: a switch that was moved has to move back.
+    // Assigned even if unchanged: a switch that the user moved must move back.
     state_.launchAtLogin.assign(loginItem.status() == LoginItem::Status::enabled);
     return outcome;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controller's regular look at the world: from audio processes to the mixer's rows.
+// The controller's regular poll: from audio processes to the mixer's rows.
 #include "control/AppResolver.h"
 #include "control/AudioController.h"
 
@@ -14,7 +14,7 @@ namespace fadeloom {
 
 namespace {
 
-/// Of `entries`, those that have got out of reach, or are so for another reason, since `former` were found.
+/// Those of `entries` that have become unreachable, or for another reason, since `former`.
 std::string describeOutOfReach(const std::vector<AppEntry>& entries, const std::vector<AppEntry>& former)
 {
     std::string text;
@@ -56,7 +56,7 @@ void AudioController::updatePermission()
         return;
     engineLog_.notice("permission: " + std::string(AudioPermission::name(state)));
     for (auto& [id, app] : tracked_)
-        app.failures.clear();  // Another permission, another answer.
+        app.failures.clear();  // With another permission the result may differ.
     state_.permission.assign(state);
 }
 
@@ -118,7 +118,7 @@ AppEntry AudioController::makeEntry(const std::string& bundleID, const AppGroup&
 
 void AudioController::rememberNames(const std::vector<AppEntry>& entries)
 {
-    // Together: one assignment for each of a thousand names would copy the whole record a thousand times.
+    // In one assignment: one per name would copy the whole record each time.
     std::optional<SettingsData> changed;
     for (const auto& entry : entries) {
         const auto known = state_.settings->knownAppNames.find(entry.bundleID);
@@ -174,7 +174,7 @@ void AudioController::confirmAudio()
 
 std::optional<std::string> AudioController::appOfProcess(ProcessID process) const
 {
-    // A key that is held down asks for the same one again and again.
+    // Key repeat requests the same one again and again.
     const auto* const known = grouper_.knownOwner(process);
     const auto owner =
         known != nullptr ? *known : AppResolver(platform_.workspace).owningApp(process, "", {});

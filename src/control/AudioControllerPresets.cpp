@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controller's presets: curves that are applied, kept and deleted, always as a change of the settings.
+// Presets of the controller: applied, saved and deleted, always as a change of the settings.
 #include "control/AudioController.h"
 #include "control/UserPresets.h"
 #include "platform/Text.h"

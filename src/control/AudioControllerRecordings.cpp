@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controller's recordings: each app's own, from the first cycle after the start to a whole file.
+// Recordings of the controller: one per app, from the first cycle after the start to a complete file.
 #include "control/AudioController.h"
 #include "control/RecordingFile.h"
 #include "platform/Application.h"
@@ -51,7 +51,7 @@ void AudioController::stopAllRecordings()
         stopRecording(id);
 }
 
-// A recording that takes nothing any more would go on as a file that nobody notices to be too short.
+// Otherwise the recording would continue with a file that silently misses audio.
 void AudioController::recordingBroken(const std::string& bundleID, AudioFileError error)
 {
     stopRecording(bundleID);
@@ -70,7 +70,7 @@ std::filesystem::path AudioController::newRecordingLocation(
     const auto folder = recordingsFolder();
     const auto name = nameOf(bundleID);
     const auto time = platform_.clock.localTime(startedAt);
-    // Two apps of one name, one app twice within a second, a clock that was set back: nothing is replaced.
+    // Two apps of one name, one app twice within a second, a clock that was set back: nothing is overwritten.
     auto location = folder / recordingFileName(name, time);
     for (int count = 2; platform_.audioFiles.isTaken(location); ++count)
         location = folder / recordingFileName(name, time, count);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controller's devices: which there are, which one an app plays through, and which chosen ones are away.
+// Routing of the controller: devices, the output of each app, and missing outputs.
 #include "control/AudioController.h"
 #include "control/OutputChoice.h"
 #include "platform/AudioSystem.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controller's way from the settings to what is heard, and to their file.
+// Settings of the controller: applies them to the audio, and saves them.
 #include "control/AppSettings.h"
 #include "control/AudioController.h"
 #include "control/CallDucking.h"
@@ -37,7 +37,7 @@ void AudioController::editApp(
 
 void AudioController::settingsChanged(const SettingsData& old)
 {
-    std::vector<std::string> ids;  // Copied: whoever observes what follows may change what is tracked.
+    std::vector<std::string> ids;  // Copied, because observers may change what is tracked.
     for (const auto& [id, app] : tracked_) {
         if (app.parameters)
             ids.push_back(id);
@@ -48,7 +48,7 @@ void AudioController::settingsChanged(const SettingsData& old)
     if (state_.settings->focus != old.focus) {
         updateFocus();
         if (*state_.callApp)
-            pushAllSettings();  // The same call may lower other apps now, or further.
+            pushAllSettings();  // The same call may now duck other apps, or to another level.
     }
     if (state_.settings->appearance != old.appearance)
         applyAppearance();
@@ -74,7 +74,7 @@ void AudioController::appSettingsChanged(const std::string& bundleID, const Sett
     if (chosenOutputUID(old, bundleID) == chosenOutputUID(*state_.settings, bundleID))
         return;
 
-    // Routed elsewhere: a tap that failed on the old output deserves another attempt.
+    // Routed elsewhere: a tap that failed on the old output may succeed.
     if (const auto app = tracked_.find(bundleID); app != tracked_.end())
         app->second.failures.clear();
     const auto entry = std::ranges::find(*state_.apps, bundleID, &AppEntry::bundleID);
@@ -104,7 +104,7 @@ void AudioController::pushSettings(const std::string& bundleID, std::optional<do
 
     if (const auto* const tap = tracked->second.firstTap(); !sampleRate && tap)
         sampleRate = tap->sampleRate();
-    // Also while the equalizer is off, so that switching it on is a matter of one flag.
+    // Even while the equalizer is off, so that switching it on only takes a flag.
     if (sampleRate)
         parameters.setEQ(eqCoefficients(app.eqGains, *sampleRate));
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controller's care for taps: one for each row, on the right output, and none for an app that is gone.
+// Taps of the controller: one for each row, on the right output, and none for an app that is gone.
 #include "control/AudioController.h"
 #include "control/OutputChoice.h"
 #include "control/TapTexts.h"
@@ -19,7 +19,7 @@ void AudioController::ensureTaps()
             app.taps.clear();
         return;
     }
-    const auto entries = *state_.apps;  // Copied: whoever observes what follows may change the rows.
+    const auto entries = *state_.apps;  // Copied, because observers may change the rows.
     for (const auto& entry : entries)
         ensureTap(entry);
 }
@@ -48,16 +48,16 @@ void AudioController::ensureTap(const AppEntry& entry)
             app.taps.insert(former.extract(tap));
     }
     const double formerRate = former.empty() ? 0 : former.begin()->second->sampleRate();
-    // Two taps of one app on one output would mute each other's source: what is not kept goes first.
+    // Two taps of one app on one output would mute each other's source: remove obsolete ones first.
     former.clear();
     for (const auto& device : devices) {
-        const auto still = tracked_.find(entry.bundleID);  // Whoever observes a failure may poll.
+        const auto still = tracked_.find(entry.bundleID);  // Observers of a failure may poll.
         if (still != tracked_.end() && !still->second.taps.contains(device.uid))
             createTap(still->second, entry, device, scope, formerRate);
     }
 }
 
-// Whether the tap serves the entry on the device, perhaps after a change of its processes.
+// Whether the tap is suitable for the entry on the device, possibly after changing its processes.
 bool AudioController::adaptTap(AppTap& tap, const AppEntry& entry, const OutputDevice& device, TapScope scope)
 {
     if (!tap.isRunning() || tap.outputID() != device.id || tap.scope() != scope)
@@ -73,7 +73,7 @@ bool AudioController::adaptTap(AppTap& tap, const AppEntry& entry, const OutputD
     return true;
 }
 
-// What was refused is tried again once the device or its rate is another one.
+// A refused tap is retried once the device or its rate differs.
 FailedTap AudioController::attemptOf(const AppEntry& entry, const OutputDevice& device) const
 {
     return {.key = failureKey(entry.processIDs, device.uid),
@@ -119,7 +119,7 @@ void AudioController::tapMade(TrackedApp& app, const AppEntry& entry, const AppT
     app.failures.erase(tap.outputUID());
     if (app.failures.empty() && state_.tapErrors->contains(id))
         state_.tapErrors.modify([&](auto& errors) { errors.erase(id); });
-    // A file has one rate from its beginning to its end.
+    // A file has a single rate.
     if (formerRate != 0 && formerRate != rate && recordings_.contains(id)) {
         stopRecording(id);
         state_.error.assign(RecordingRateChanged{entry.name});

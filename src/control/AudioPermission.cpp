@@ -22,7 +22,7 @@ AudioPermission::State AudioPermission::current() const
 
 void AudioPermission::requestAccess(std::function<void(bool isGranted)> completion) const
 {
-    // The answer comes on whichever thread the system likes, and only the main one may hear it.
+    // The reply may arrive on any thread, and must be handled on the main one.
     capturePermission_.request([&mainLoop = mainLoop_, completion = std::move(completion)](bool isGranted) {
         mainLoop.post([completion, isGranted] { completion(isGranted); });
     });

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Whether the user lets us capture what other applications play.
+// The user's permission to capture other applications' audio.
 //
-// A system that has no such question counts as one that allows it: a real obstacle then shows as the failure of a tap.
+// A system that requires no permission counts as granted: real obstacles then appear as tap failures.
 #pragma once
 
 #include "platform/CapturePermission.h"
@@ -17,7 +17,7 @@ class AudioPermission {
 public:
     enum class State { granted, denied, notDetermined };
 
-    /// The page of the system settings on which the user can change the answer; macOS only.
+    /// The page of the system settings where the user can change the permission; macOS only.
     static constexpr std::string_view settingsURL =
         "x-apple.systempreferences:com.apple.preference.security?Privacy_AudioCapture";
 
@@ -29,11 +29,11 @@ public:
 
     [[nodiscard]] State current() const;
     [[nodiscard]] bool canRequest() const { return capturePermission_.canRequest(); }
-    /// Asks the user when undecided; `completion` gets the answer in a later turn of the main loop. Only when
+    /// Prompts the user if undecided; `completion` gets the result in a later iteration of the main loop. Only if
     /// `canRequest`.
     void requestAccess(std::function<void(bool isGranted)> completion) const;
 
-    /// The state's name as the log spells it.
+    /// The state's name for the log.
     [[nodiscard]] static std::string_view name(State state);
 
 private:

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Recordings between their end and their whole file.
+// Recordings that have ended but whose files are still open.
 //
 // A cycle that began before a recording was stopped may still write to its file. So a file is closed after a delay, and
-// never before the app's renderers have let go of it, however long a cycle takes or the next one stays away.
+// never before the app's renderers have released it, however long a cycle takes.
 #pragma once
 
 #include "base/Subscription.h"
@@ -30,10 +30,11 @@ public:
     ClosingRecordings(const ClosingRecordings&) = delete;
     ClosingRecordings& operator=(const ClosingRecordings&) = delete;
 
-    /// `parameters`: through which renderers reached the file, which has been taken away from them; null for none.
+    /// `parameters`: the block through which renderers reached the file, which has been detached from it; null for
+    /// none.
     void add(const std::string& bundleID, std::unique_ptr<Recording> recording,
         std::shared_ptr<TapParameters> parameters);
-    /// Closes at once, without the delay, what nobody can reach. The rest stays open.
+    /// Immediately closes all files that nobody can reach. The rest stays open.
     void closeNow();
 
 private:

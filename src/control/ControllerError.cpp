@@ -15,7 +15,7 @@ struct English {
     {
         return "The system does not tell where this program is.";
     }
-    std::string operator()(const SystemWords& words) const { return words.text; }
+    std::string operator()(const SystemMessage& words) const { return words.text; }
 
     std::string operator()(const BuiltInPresetName& error) const
     {

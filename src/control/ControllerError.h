@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What can go wrong that the user hears of: a small record for each, without words. The panel words and translates them
-// (ui/MessageText), a headless run says them in English.
+// The errors that are reported to the user: a small record each, without text. The panel words and translates them
+// (ui/MessageText), a headless run prints them in English.
 #pragma once
 
 #include "base/FileError.h"
@@ -14,13 +14,13 @@
 
 namespace fadeloom {
 
-/// A preset of the user cannot have the name of a built-in one.
+/// A user preset cannot have the name of a built-in one.
 struct BuiltInPresetName {
     std::string name{};
     friend bool operator==(const BuiltInPresetName&, const BuiltInPresetName&) = default;
 };
 
-/// An app that is to be recorded has no tap: it does not play.
+/// An app that is to be recorded has no tap: it is not playing.
 struct NothingToRecord {
     friend bool operator==(const NothingToRecord&, const NothingToRecord&) = default;
 };
@@ -33,11 +33,11 @@ struct RecordingNotStarted {
 /// A recording has ended because nothing more could be written.
 struct RecordingNotWritten {
     std::string appName{};
-    std::string reason{};  // The system's own words.
+    std::string reason{};  // The system's own message.
     friend bool operator==(const RecordingNotWritten&, const RecordingNotWritten&) = default;
 };
 
-/// A recording has ended because its device has another sample rate, and a file has one.
+/// A recording has ended because the sample rate of its device has changed, and a file has only one.
 struct RecordingRateChanged {
     std::string appName{};
     friend bool operator==(const RecordingRateChanged&, const RecordingRateChanged&) = default;
@@ -48,7 +48,7 @@ struct SettingsNotSaved {
     friend bool operator==(const SettingsNotSaved&, const SettingsNotSaved&) = default;
 };
 
-/// They are there, and stay as they are: nothing is saved in their place.
+/// The file exists and is left alone: it is never overwritten.
 struct SettingsNotRead {
     SettingsFileError reason{};
     friend bool operator==(const SettingsNotRead&, const SettingsNotRead&) = default;
@@ -59,7 +59,7 @@ struct LoginItemRefused {
     friend bool operator==(const LoginItemRefused&, const LoginItemRefused&) = default;
 };
 
-/// The system did not make a device its default output.
+/// The system did not accept a device as its default output.
 struct OutputRefused {
     std::string deviceName{};
     friend bool operator==(const OutputRefused&, const OutputRefused&) = default;
@@ -69,7 +69,7 @@ using ControllerError =
     std::variant<BuiltInPresetName, NothingToRecord, RecordingNotStarted, RecordingNotWritten,
         RecordingRateChanged, SettingsNotSaved, SettingsNotRead, LoginItemRefused, OutputRefused>;
 
-/// How an operation of the controller went; what went wrong is published as well.
+/// The outcome of a controller operation; errors are published as well.
 using Outcome = std::expected<void, ControllerError>;
 
 /// A sentence for a program without a window.

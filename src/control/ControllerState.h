@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Everything about the controller that others may watch.
+// The observable state of the controller.
 #pragma once
 
 #include "base/Published.h"
@@ -19,31 +19,31 @@
 
 namespace fadeloom {
 
-/// Apps are named by their bundle identifiers. Thread: main.
+/// Apps are identified by bundle identifier. Thread: main.
 struct ControllerState {
     /// The mixer's rows in display order: every app that has played and still has an audio process.
     Published<std::vector<AppEntry>> apps{};
-    /// The output devices that are connected.
+    /// The connected output devices.
     Published<std::vector<OutputDevice>> devices{};
-    /// Absent when the system has no default output.
+    /// nullopt if the system has no default output.
     Published<std::optional<std::string>> defaultDeviceUID{};
     Published<AudioPermission::State> permission{};
-    /// The app whose call lowers the others.
+    /// The app whose call ducks the others.
     Published<std::optional<std::string>> callApp{};
-    /// The listed apps that are no call apps and have used the microphone while they played, until the user says what
-    /// they are.
+    /// Apps in the mixer that are no call apps but have used the microphone while they played, until the user has
+    /// decided.
     Published<std::set<std::string>> callOffers{};
-    /// Why the tap of an app could not be made.
+    /// Why an app's tap could not be created.
     Published<std::map<std::string, TapError>> tapErrors{};
-    /// The listed apps whose chosen output is not connected; they are muted.
+    /// Apps in the mixer whose selected output is not connected; they are muted.
     Published<std::set<std::string>> missingOutput{};
-    /// The apps that are being recorded, and since when.
+    /// The apps being recorded, with their start times.
     Published<std::map<std::string, std::chrono::system_clock::time_point>> recordings{};
-    /// The recording that was stopped last.
+    /// The last recording that was stopped.
     Published<std::optional<std::filesystem::path>> lastRecording{};
-    /// Whether the program starts when the user logs in; as the system has it.
+    /// Whether the program starts at login; the system's actual state.
     Published<bool> launchAtLogin{};
-    /// What went wrong last, until the user dismisses it.
+    /// The last error, until the user dismisses it.
     Published<std::optional<ControllerError>> error{};
     Published<SettingsData> settings{};
 };

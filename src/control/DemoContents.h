@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a controller shows that is not connected to any sound.
+// The contents of a controller without an audio system.
 #pragma once
 
 #include "control/AppEntry.h"

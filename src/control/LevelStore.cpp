@@ -59,7 +59,7 @@ void LevelStore::update()
     if (shouldRun == isRunning())
         return;
     if (shouldRun) {
-        (void)provider_();  // What was loud while nobody watched is no level of now.
+        (void)provider_();  // Discards peaks from while nobody watched.
         timer_ = mainLoop_.every(interval, [this] { tick(); });
     } else {
         timer_.reset();

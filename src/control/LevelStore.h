@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// How loud each app is right now, for its meter.
+// The current level of each app, for its meter.
 //
-// A meter jumps up at once and sinks slowly. It is looked at twenty times a second while somebody watches, and nothing
-// runs while nobody does.
+// A meter rises immediately and decays slowly. It is updated twenty times a second while somebody watches, and no timer
+// runs otherwise.
 #pragma once
 
 #include "base/Published.h"
@@ -18,37 +18,37 @@
 
 namespace fadeloom {
 
-/// Where a meter stands for a linear peak of 1 at full scale: 0 at and below −60 dB, 1 at and above 0 dB, even steps of
-/// decibels between them.
+/// The position of a meter for a linear peak, 1 being full scale: 0 at and below −60 dB, 1 at and above 0 dB, linear in
+/// decibels in between.
 [[nodiscard]] float meterPosition(float peak);
-/// The level at which a meter stands there, in decibels of full scale.
+/// The level for a meter's position, in dBFS.
 [[nodiscard]] float meterDecibels(float position);
 
-/// Apps are named by their bundle identifiers. Thread: main.
+/// Apps are identified by bundle identifier. Thread: main.
 class LevelStore {
 public:
     using Levels = std::map<std::string, float>;
-    /// Each app's highest sample since the last call, linear.
+    /// Each app's peak since the last call, linear.
     using Provider = std::function<Levels()>;
 
     static constexpr std::chrono::milliseconds interval{50};
-    /// What is left of a meter's position after each interval when nothing louder comes.
+    /// The factor by which a meter's position decays per interval.
     static constexpr float decay = 0.85F;
 
     LevelStore(MainLoop& mainLoop, Provider provider);
     LevelStore(const LevelStore&) = delete;
     LevelStore& operator=(const LevelStore&) = delete;
 
-    /// The meters' positions, 0 to 1; an app that is not in it stands at 0.
+    /// The meters' positions, 0 to 1; 0 for an app that is not contained.
     [[nodiscard]] const Published<Levels>& levels() const { return levels_; }
 
-    /// The panel watches, or does not any more.
+    /// Whether the panel is watching.
     void setWanted(bool isWanted);
-    /// Somebody more watches, until the subscription ends. This must outlive it.
+    /// Adds another watcher, until the subscription ends. This object must outlive it.
     [[nodiscard]] Subscription want();
-    /// The user's choice to have meters at all.
+    /// The user's setting for meters.
     void setEnabled(bool isEnabled);
-    /// Sets the meters by hand; they stay until the next interval, or until nobody watches any more.
+    /// Sets the meters explicitly; they are kept until the next interval, or until nobody watches any more.
     void show(Levels levels) { levels_.assign(std::move(levels)); }
     [[nodiscard]] bool isRunning() const { return timer_.has_value(); }
 
@@ -60,7 +60,7 @@ private:
     Provider provider_;
     Published<Levels> levels_;
     bool isWanted_ = false;
-    int wants_ = 0;  // Of those that hold a subscription.
+    int wants_ = 0;  // The number of subscriptions.
     bool isEnabled_ = true;
     std::optional<Subscription> timer_;
 };

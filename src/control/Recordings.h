@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The recordings that go on, and those whose files are being closed.
+// The active recordings, and those whose files are being closed.
 #pragma once
 
 #include "base/Subscription.h"
@@ -20,13 +20,13 @@
 
 namespace fadeloom {
 
-/// One recording an app at most, by bundle identifier. Thread: main.
+/// At most one recording per app, by bundle identifier. Thread: main.
 class Recordings {
 public:
-    /// A file takes nothing any more; the recording still goes on.
+    /// Called when a file accepts nothing more; the recording is still active.
     using WhenBroken = std::function<void(const std::string& bundleID, AudioFileError error)>;
 
-    /// What is passed here outlives this.
+    /// The arguments must outlive this.
     Recordings(MainLoop& mainLoop, const AudioSystem& audio, AudioFiles& files, EngineLog& log,
         WhenBroken whenBroken);
     Recordings(const Recordings&) = delete;
@@ -41,9 +41,9 @@ public:
         std::shared_ptr<TapParameters> parameters);
     /// Ends an app's recording, whose file is closed a little later; returns the file.
     std::filesystem::path stop(const std::string& bundleID);
-    /// Ends all of them without closing a file: renderers may still be at work.
+    /// Ends all of them without closing a file: renderers may still be writing.
     void stopAll();
-    /// Closes what was stopped and no renderer can reach.
+    /// Closes the files of stopped recordings that no renderer can reach.
     void closeNow() { closing_.closeNow(); }
 
 private:
@@ -62,7 +62,7 @@ private:
     WhenBroken whenBroken_;
     CycleClocks clocks_;
     std::map<std::string, Active> active_;
-    std::optional<Subscription> timer_;  // While anything is recorded.
+    std::optional<Subscription> timer_;  // While anything is being recorded.
     ClosingRecordings closing_{mainLoop_,
         [this](const std::string& bundleID, Recording& recording) { finish(bundleID, recording); }};
 };

@@ -30,7 +30,7 @@ void SettingsSaver::schedule(const SettingsData& settings)
         mainLoop_.requireCurrent();
         failed_(error);
     });
-    // The work knows nothing of this object, which may be gone when it runs.
+    // The task must not refer to this object, which may be gone when it runs.
     saveWork_ = queue_.submit(
         delay, [snapshot = snapshot_, file = file_, &mainLoop = mainLoop_, report = std::move(report)] {
             const auto saved = SettingsFile::save(snapshot->settings, file);

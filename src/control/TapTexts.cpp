@@ -40,7 +40,7 @@ std::string tapUpdatedText(std::string_view bundleID, const AppTap& tap)
 
 std::string decimalText(double value)
 {
-    std::array<char, 400> buffer{};  // The longest double has 309 digits before the point.
+    std::array<char, 400> buffer{};  // The longest double has 309 digits before the decimal point.
     const auto end = std::to_chars(buffer.begin(), buffer.end(), value, std::chars_format::fixed).ptr;
     std::string text(buffer.begin(), end);
     if (text.find('.') == std::string::npos)

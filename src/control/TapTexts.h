@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is said about taps: the log's lines, and the key by which a failed attempt is known again.
+// Log messages about taps, and the key that identifies a failed attempt.
 #pragma once
 
 #include "engine/AppTap.h"
@@ -17,8 +17,8 @@ namespace fadeloom {
 [[nodiscard]] std::string tapReadyText(std::string_view bundleID, const AppTap& tap);
 [[nodiscard]] std::string tapUpdatedText(std::string_view bundleID, const AppTap& tap);
 
-/// The shortest decimal form that reads back the same, always with a fractional part: "48000.0". The same in every
-/// language of the interface.
+/// The shortest decimal representation that reads back the same, always with a fractional part: "48000.0". Not
+/// localized.
 [[nodiscard]] std::string decimalText(double value);
 
 }  // namespace fadeloom

@@ -10,7 +10,7 @@
 namespace fadeloom {
 namespace {
 
-// One rate for every device, so that moving an app to another device never changes how loud it is.
+// The same rate for every device, so that moving an app to another device never changes its loudness.
 constexpr double headroomSampleRate = 48000;
 
 }  // namespace

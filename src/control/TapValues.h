@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// From what the user has set to what a renderer applies.
+// Derives a renderer's values from the user's settings.
 #pragma once
 
 #include "engine/TapParameters.h"
@@ -8,13 +8,13 @@
 
 namespace fadeloom {
 
-/// How an app sounds with these settings. `isSilenced`: its output is missing. `duck`: linear, for a call. The version
-/// of the equalizer and the recorder are not part of it and stay as in a new block.
+/// The values for an app with these settings. `isSilenced`: its output is missing. `duck`: linear, for a call. The
+/// equalizer version and the recorder are not included and keep their initial values.
 [[nodiscard]] TapParameters::Values tapValues(
     const SettingsData& settings, const AppAudioSettings& app, bool isSilenced, float duck = 1);
 
-/// Writes `values` into the block, in one piece as its renderer sees it; the equalizer's version and the
-/// recorder stay. Thread: main.
+/// Writes `values` into the block, atomically for its renderer; the equalizer version and the recorder are unchanged.
+/// Thread: main.
 void store(const TapParameters::Values& values, TapParameters& block);
 
 }  // namespace fadeloom

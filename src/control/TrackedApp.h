@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the controller keeps of an app that has played, until its last audio process has gone.
+// The controller's record of an app that has played, kept until its last audio process is gone.
 #pragma once
 
 #include "engine/AppTap.h"
@@ -14,7 +14,7 @@
 
 namespace fadeloom {
 
-/// An attempt at a tap that failed; it is not repeated while all of this is as it was.
+/// A failed attempt at a tap; it is not retried while all of this is unchanged.
 struct FailedTap {
     std::string key{};  // Of processes and output.
     OutputDeviceID device = 0;
@@ -24,16 +24,16 @@ struct FailedTap {
 };
 
 struct TrackedApp {
-    // Asked for once.
+    // Queried once.
     AppIcon icon{};
     std::vector<std::string> callIDs{};
 
-    /// Null before the first tap. Shared with the renderers of the app's taps and outliving them, so that the next tap
+    /// Null before the first tap. Shared with the renderers of the app's taps, which it outlives, so that the next tap
     /// sounds the same.
     std::shared_ptr<TapParameters> parameters{};
     std::map<std::string, std::unique_ptr<AppTap>> taps{};  // By the output's unique id.
     std::map<std::string, FailedTap> failures{};  // By the output's unique id.
-    bool isAudioConfirmed = false;  // Audio was seen to flow through a tap.
+    bool isAudioConfirmed = false;  // Captured audio has been confirmed for a tap.
 
     /// The tap on the first of its outputs, or null.
     [[nodiscard]] const AppTap* firstTap() const

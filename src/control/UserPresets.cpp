@@ -19,7 +19,7 @@ bool isBuiltInPresetName(std::string_view name, const Text& text)
 void applyPreset(SettingsData& settings, const EQPreset& preset, const std::string& bundleID)
 {
     auto app = appSettings(settings, bundleID);
-    app.eqGains = {};  // A band that the preset does not name stays flat.
+    app.eqGains = {};  // Bands that the preset does not specify remain flat.
     std::copy_n(preset.gains.begin(), std::min(preset.gains.size(), app.eqGains.size()), app.eqGains.begin());
     app.eqPresetName = preset.name;
     app.eqEnabled = true;
@@ -44,7 +44,7 @@ void deleteUserPreset(SettingsData& settings, const EQPreset& preset)
 {
     std::erase(settings.userPresets, preset);
 
-    std::vector<std::string> users;  // Of their own: storing may remove an app's entry.
+    std::vector<std::string> users;  // A copy: storing may remove an app's entry.
     for (const auto& [id, app] : settings.apps) {
         if (app.eqPresetName == preset.name)
             users.push_back(id);

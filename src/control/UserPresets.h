@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's own equalizer curves within the record of all settings.
+// The user presets within the settings record.
 #pragma once
 
 #include "engine/EQPreset.h"
@@ -12,18 +12,18 @@ namespace fadeloom {
 
 class Text;
 
-/// Whether a built-in curve has this name, whatever the letter case.
+/// Whether a built-in preset has this name, ignoring case.
 [[nodiscard]] bool isBuiltInPresetName(std::string_view name, const Text& text);
 
-/// Gives the app this curve, under its name, and switches its equalizer on.
+/// Applies this curve and its name to the app, and switches its equalizer on.
 void applyPreset(SettingsData& settings, const EQPreset& preset, const std::string& bundleID);
 
-/// Keeps the app's curve under `name`, in place of one whose name differs in letter case at most. The list is in the
-/// order of the user's language.
+/// Saves the app's curve as `name`, replacing one whose name differs in case at most. The list is in the user's
+/// collation order.
 void saveUserPreset(
     SettingsData& settings, const std::string& name, const std::string& bundleID, const Text& text);
 
-/// Removes the preset. Apps that bear its name sound as before, with a curve that has no name.
+/// Removes the preset. Apps that use its name sound as before, with an unnamed curve.
 void deleteUserPreset(SettingsData& settings, const EQPreset& preset);
 
 }  // namespace fadeloom

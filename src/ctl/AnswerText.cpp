@@ -8,7 +8,7 @@
 namespace fadeloom::ctl {
 namespace {
 
-/// Where the quotes that open at `start` close; the text's end if they do not.
+/// The position of the quote that closes the one at `start`; the text's end if there is none.
 std::size_t endOfQuotes(std::string_view text, std::size_t start)
 {
     for (auto i = start + 1; i < text.size(); ++i) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Words as they are sent, and answers as they are printed.
+// Formats commands for the socket, and replies for printing.
 #pragma once
 
 #include "ctl/Status.h"
@@ -11,12 +11,12 @@
 
 namespace fadeloom::ctl {
 
-/// A word between double quotes, which keep blanks together.
+/// A word in double quotes, which may contain spaces.
 [[nodiscard]] std::string quoted(std::string_view word);
 /// The words of a command in one line.
 [[nodiscard]] std::string lineOf(std::span<const std::string> words);
 
-/// An answer in one line, taken apart.
+/// The parts of a one-line reply.
 struct Answer {
     Status status = refused;
     std::string_view sentence;  // Without its kind, "ok" or "error".
@@ -24,11 +24,11 @@ struct Answer {
     [[nodiscard]] static Answer parse(std::string_view line);
 };
 
-/// The parts of a list, which "; " stands between outside of double quotes.
+/// The items of a list, which are separated by "; " outside of double quotes.
 [[nodiscard]] std::vector<std::string_view> partsOf(std::string_view sentence);
-/// The first word without its quotes; the rest is left in `text`.
+/// Removes the first word from `text` and returns it without its quotes.
 std::string takeWord(std::string_view& text);
-/// What a command that reads one value of an app says, without the verb and the app, which whoever asked knows.
+/// The reply to a command that reads one value of an app, without the verb and the app, which the caller knows.
 [[nodiscard]] std::string valueIn(std::string_view sentence);
 
 }  // namespace fadeloom::ctl

@@ -1,23 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "ctl/Client.h"
 
-#include <algorithm>
-#include <array>
-#include <cerrno>
-#include <string_view>
-#include <thread>
-
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/time.h>
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <string_view>
+#include <thread>
+
 namespace fadeloom::ctl {
 
 namespace {
 
 constexpr std::chrono::milliseconds pause{50};
+
+/// Whether standard output is a pipe that nobody reads any more: a bar that exits leaves its commands behind.
+bool isOutputUnread()
+{
+    pollfd output{.fd = STDOUT_FILENO, .events = 0, .revents = 0};
+    return poll(&output, 1, 0) > 0 && (output.revents & POLLERR) != 0;
+}
 
 }  // namespace
 
@@ -31,7 +38,7 @@ bool Client::connect()
 {
     const auto end = std::chrono::steady_clock::now() + wait_;
     while (!tryToConnect()) {
-        if (std::chrono::steady_clock::now() >= end)
+        if (std::chrono::steady_clock::now() >= end || isOutputUnread())
             return false;
         std::this_thread::sleep_for(pause);
     }
@@ -52,7 +59,7 @@ bool Client::tryToConnect()
     isClosed_ = false;
     received_.clear();
     descriptor_ = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const timeval limit{.tv_sec = patience.count(), .tv_usec = 0};
+    const timeval limit{.tv_sec = timeout.count(), .tv_usec = 0};
     for (const int option : {SO_RCVTIMEO, SO_SNDTIMEO})
         setsockopt(descriptor_, SOL_SOCKET, option, &limit, sizeof limit);
     return ::connect(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
@@ -60,13 +67,13 @@ bool Client::tryToConnect()
 
 std::optional<std::string> Client::ask(const std::string& request)
 {
-    const auto end = std::chrono::steady_clock::now() + std::max(wait_, patience);
+    const auto end = std::chrono::steady_clock::now() + std::max(wait_, timeout);
     auto answer = askOnce(request);
-    // One that has just ended leaves the connection without an answer.
-    const auto isToBeAskedAgain = [&] {
+    // An instance that is exiting closes the connection without a reply.
+    const auto shouldRetry = [&] {
         return answer ? answer->starts_with("busy ") : isClosed_ && wait_.count() > 0;
     };
-    while (isToBeAskedAgain() && std::chrono::steady_clock::now() < end) {
+    while (shouldRetry() && std::chrono::steady_clock::now() < end) {
         std::this_thread::sleep_for(pause);
         if (!connect())
             break;
@@ -77,7 +84,7 @@ std::optional<std::string> Client::ask(const std::string& request)
 
 std::optional<std::string> Client::askOnce(const std::string& request)
 {
-    // One that refuses a line before its end has said so all the same.
+    // An instance may reject a line before reading all of it; its reply counts.
     static_cast<void>(send(request + "\n"));
     while (true) {
         if (auto answer = takeLine())

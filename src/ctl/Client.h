@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Asks a running Fadeloom through the socket in the user's runtime folder.
+// A client of a running Fadeloom, through the socket in the user's runtime directory.
 #pragma once
 
 #include <chrono>
@@ -11,12 +11,13 @@
 
 namespace fadeloom::ctl {
 
-/// One connection for many commands. Blocks, but for `follow` for `patience` at most at each step.
+/// One connection for many commands. Blocks for at most `timeout` per step, except in `follow`.
 class Client {
 public:
-    static constexpr std::chrono::seconds patience{2};
+    static constexpr std::chrono::seconds timeout{2};
 
-    /// `socket`: where the program listens. `wait`: how long one is waited for that does not run yet, or starts, or ends.
+    /// `socket`: where the program listens. `wait`: how long to wait for one that is not running, or is starting or
+    /// exiting.
     Client(std::filesystem::path socket, std::chrono::seconds wait)
         : socket_(std::move(socket))
         , wait_(wait)
@@ -26,13 +27,14 @@ public:
     Client(const Client&) = delete;
     Client& operator=(const Client&) = delete;
 
-    /// Whether somebody listens there, at once or within the wait.
+    /// Whether an instance is listening, immediately or within the wait, which ends early once nobody reads our
+    /// standard output any more.
     [[nodiscard]] bool connect();
-    /// The answer in one line, without its end; absent when there is none in time. `request`: what the socket takes,
-    /// "Run" and a command for instance.
+    /// The one-line reply, without the line feed; nullopt if there is none in time. `request`: in the socket's
+    /// protocol, such as "Run" and a command.
     [[nodiscard]] std::optional<std::string> ask(const std::string& request);
-    /// Has each line that comes handed to `take`, until the other side ends the connection, or nobody reads our
-    /// standard output any more; says whether it was the former.
+    /// Passes each received line to `take`, until the peer closes the connection, or nobody reads our standard output
+    /// any more; returns true in the former case.
     bool follow(const std::function<void(const std::string& line)>& take);
 
 private:
@@ -40,14 +42,14 @@ private:
     [[nodiscard]] std::optional<std::string> askOnce(const std::string& request);
     [[nodiscard]] bool send(std::string text) const;
     [[nodiscard]] std::optional<std::string> takeLine();
-    /// Whether more has come; false at the end.
+    /// Receives more data; false at end of file.
     [[nodiscard]] bool receive();
 
     const std::filesystem::path socket_;
     const std::chrono::seconds wait_;
     int descriptor_ = -1;
     bool isEnded_ = false;
-    bool isClosed_ = false;  // By the other side.
+    bool isClosed_ = false;  // By the peer.
     std::string received_;
 };
 

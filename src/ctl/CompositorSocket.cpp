@@ -2,6 +2,10 @@
 #include "ctl/CompositorSocket.h"
 
 #include <nlohmann/json.hpp>
+#include <sys/socket.h>
+#include <sys/time.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -10,11 +14,6 @@
 #include <cstring>
 #include <string_view>
 
-#include <sys/socket.h>
-#include <sys/time.h>
-#include <sys/un.h>
-#include <unistd.h>
-
 namespace fadeloom::ctl {
 namespace {
 
@@ -22,7 +21,7 @@ using Json = nlohmann::json;
 
 constexpr std::size_t longestAnswer = 16 * 1024 * 1024;
 
-/// A connection that gives up after two seconds of silence.
+/// A connection that times out after two seconds of silence.
 class Connection {
 public:
     explicit Connection(const std::string& socket)
@@ -32,9 +31,9 @@ public:
         if (socket.size() >= sizeof address.sun_path)
             return;
         std::ranges::copy(socket, address.sun_path);
-        const timeval patience{.tv_sec = 2, .tv_usec = 0};
+        const timeval timeout{.tv_sec = 2, .tv_usec = 0};
         for (const int option : {SO_RCVTIMEO, SO_SNDTIMEO})
-            setsockopt(descriptor_, SOL_SOCKET, option, &patience, sizeof patience);
+            setsockopt(descriptor_, SOL_SOCKET, option, &timeout, sizeof timeout);
         isConnected_ = connect(descriptor_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
     }
     Connection(const Connection&) = delete;
@@ -46,7 +45,7 @@ public:
         const auto count = ::send(descriptor_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
         return isConnected_ && count == static_cast<ssize_t>(bytes.size());
     }
-    /// What has come, until `isEnough` says so; absent when nothing more comes.
+    /// The data received once `isEnough` returns true; nullopt at end of file.
     template <typename IsEnough>
     std::optional<std::string> receive(IsEnough isEnough)
     {
@@ -74,7 +73,7 @@ pid_t processIn(const Json& window)
     return pid.is_number_integer() ? pid.get<pid_t>() : 0;
 }
 
-/// The window with the focus among a node of sway's tree and those below it.
+/// The focused window in a subtree of sway's tree.
 pid_t focusedIn(const Json& node, int depth = 0)
 {
     constexpr int deepest = 200;
@@ -99,7 +98,7 @@ pid_t focusedIn(const Json& node, int depth = 0)
 std::optional<Focus> focusOfSway(const std::string& socket)
 {
     constexpr std::string_view magic = "i3-ipc";
-    constexpr std::size_t headSize = 14;  // The magic, the length of what follows, its type.
+    constexpr std::size_t headSize = 14;  // Magic, payload length, type.
     constexpr std::uint32_t getTree = 4;
     std::string question(magic);
     question.append(4, '\0').append(reinterpret_cast<const char*>(&getTree), sizeof getTree);

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
-// Wayland compositors that tell through a socket of theirs which window is in front.
+// Wayland compositors that report the focused window through an IPC socket.
 #pragma once
+
+#include <sys/types.h>
 
 #include <optional>
 #include <string>
 
-#include <sys/types.h>
-
 namespace fadeloom::ctl {
 
-/// The process of the window in front, 0 for none; absent when the desktop does not answer.
+/// The process of the focused window, 0 for none; nullopt if the desktop does not reply.
 using Focus = pid_t;
 
 /// sway-ipc(7). `socket`: its path.
 [[nodiscard]] std::optional<Focus> focusOfSway(const std::string& socket);
-/// niri's requests and replies, JSON in lines.
+/// niri's requests and replies, line-delimited JSON.
 [[nodiscard]] std::optional<Focus> focusOfNiri(const std::string& socket);
 
 }  // namespace fadeloom::ctl

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// The window in front, asked of whatever desktop this is.
+// Finds the focused window on any supported desktop.
 //
-// sway, and wlroots desktops that speak its protocol, and niri are asked through their sockets; X11 by the properties of
-// the root window. KWin and GNOME on Wayland tell a program of windows of X11 alone.
+// sway, wlroots compositors that speak its protocol, and niri through their sockets; X11 through the properties of the
+// root window. KWin and GNOME on Wayland expose only X11 windows.
 #pragma once
+
+#include <sys/types.h>
 
 #include <expected>
 #include <string>
-
-#include <sys/types.h>
 
 namespace fadeloom::ctl {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What stands before the verb.
+// The options before the verb.
 #pragma once
 
 #include <chrono>
@@ -17,7 +17,7 @@ struct Options {
     std::chrono::seconds wait{0};
 };
 
-/// Takes the options off the front of `words`; absent when there is one that is not known.
+/// Removes the leading options from `words`; nullopt if one is unknown.
 [[nodiscard]] std::optional<Options> takeOptions(std::span<const std::string_view>& words);
 
 }  // namespace fadeloom::ctl

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How fadeloomctl ends. Documented in docs/control.md and fadeloomctl(1).
+// Exit statuses of fadeloomctl. Documented in docs/control.md and fadeloomctl(1).
 #pragma once
 
 namespace fadeloom::ctl {

@@ -3,6 +3,8 @@
 
 #include "ctl/AnswerText.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -13,8 +15,6 @@
 #include <iterator>
 #include <vector>
 
-#include <sys/stat.h>
-
 namespace fadeloom::ctl {
 namespace {
 
@@ -24,12 +24,12 @@ Status complain(Status status, std::string_view sentence)
     return status;
 }
 
-Status complainOfSilence()
+Status reportNoReply()
 {
     return complain(noAnswer, "the running Fadeloom does not answer, or is too old for this");
 }
 
-/// Whether the words ask for one value of an app.
+/// Whether the words query a single value of an app.
 bool isReading(Words words)
 {
     constexpr std::array values = {"volume", "mute", "output", "eq", "preset", "preamp"};
@@ -63,7 +63,7 @@ Status printAnswerLine(Client& client, Words words, const std::string& line, con
     const bool isJson = options.form == Options::Form::json;
     const auto answer = client.ask((isJson ? "Json " : "Run ") + line);
     if (!answer)
-        return complainOfSilence();
+        return reportNoReply();
     const auto [status, sentence] = Answer::parse(*answer);
     if (status != done)
         return complain(status, sentence);
@@ -89,7 +89,7 @@ Status printCandidates(Client& client, Words words)
 {
     const auto answer = client.ask("Run " + lineOf(words));
     if (!answer)
-        return complainOfSilence();
+        return reportNoReply();
     const auto [status, sentence] = Answer::parse(*answer);
     if (status != done)
         return complain(status, sentence);
@@ -126,7 +126,7 @@ Status watch(Client& client, Words words, const Options& options)
     while (true) {
         const auto begun = client.ask("Watch " + std::string(form) + " " + lineOf(words));
         if (!begun)
-            return complainOfSilence();
+            return reportNoReply();
         if (const auto [status, sentence] = Answer::parse(*begun); status != done)
             return complain(status, sentence);
         std::string last;
@@ -149,7 +149,7 @@ Status exportSettings(Client& client, Words words)
 {
     const auto answer = client.ask("Run export");
     if (!answer)
-        return complainOfSilence();
+        return reportNoReply();
     auto [status, sentence] = Answer::parse(*answer);
     if (status != done)
         return complain(status, sentence);
@@ -161,7 +161,7 @@ Status exportSettings(Client& client, Words words)
     const std::filesystem::path file = words[1];
     auto part = file;
     part += ".part";
-    umask(S_IRWXG | S_IRWXO);  // The user's own.
+    umask(S_IRWXG | S_IRWXO);  // Readable only by the user.
     std::ofstream output(part);
     output << sentence << '\n';
     output.close();
@@ -184,7 +184,7 @@ Status restoreSettings(Client& client, Words words, const Options& options)
     std::string text{std::istreambuf_iterator<char>(input), {}};
     if (words[1] != "-" && (!file.is_open() || file.bad()))
         return complain(refused, "cannot read " + words[1]);
-    // JSON has them only between its parts.
+    // In JSON, line feeds occur only between tokens.
     std::ranges::replace_if(text, [](char byte) { return byte == '\n' || byte == '\r'; }, ' ');
     return printAnswer(client, std::array<std::string, 2>{"restore", std::move(text)}, options);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The verbs that are more than a line and its answer.
+// The verbs that take more than one line and its reply.
 #pragma once
 
 #include "ctl/Client.h"
@@ -13,17 +13,17 @@ namespace fadeloom::ctl {
 
 using Words = std::span<const std::string>;
 
-/// Prints the answer to a command in the form that the options ask for.
+/// Prints the reply to a command in the format selected by the options.
 Status printAnswer(Client& client, Words words, const Options& options);
-/// Commands from standard input, one a line.
+/// Commands from standard input, one per line.
 Status runLines(Client& client, const Options& options);
-/// What happens, line by line; where a wait is asked for, of the next Fadeloom as well.
+/// Events, line by line; with --wait also those of the next instance.
 Status watch(Client& client, Words words, const Options& options);
-/// All settings, to standard output or into a file.
+/// Writes all settings to standard output or a file.
 Status exportSettings(Client& client, Words words);
-/// All settings, from a file or, with "-", from standard input.
+/// Restores all settings from a file or, with "-", from standard input.
 Status restoreSettings(Client& client, Words words, const Options& options);
-/// What may follow the words: one a line, with a tab and what it is.
+/// Completions for the words: one per line, with a tab and a description.
 Status complete(Client& client, Words words);
 
 }  // namespace fadeloom::ctl

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "ctl/XFocus.h"
 
+#include <dlfcn.h>
+#include <xcb/xcb.h>
+
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <string_view>
 
-#include <dlfcn.h>
-#include <xcb/xcb.h>
-
 namespace fadeloom::ctl {
 namespace {
 
-/// The library, opened only when it is needed: most requests want no window, and a key is held down.
+/// The library, loaded on demand: most requests need no window, and key repeat makes startup time matter.
 class Xcb {
 public:
     Xcb()
@@ -53,7 +53,7 @@ private:
         isComplete = isComplete && function != nullptr;
     }
 
-    void* const library_ = dlopen("libxcb.so.1", RTLD_LAZY | RTLD_LOCAL);  // Until the program ends.
+    void* const library_ = dlopen("libxcb.so.1", RTLD_LAZY | RTLD_LOCAL);  // Never unloaded.
 };
 
 struct Free {
@@ -62,7 +62,7 @@ struct Free {
 template <typename Reply>
 using ReplyOf = std::unique_ptr<Reply, Free>;
 
-/// The first 32 bits of a window's property; absent when it has none.
+/// The first 32 bits of a window's property; nullopt if it is not set.
 std::optional<std::uint32_t> property(
     const Xcb& xcb, xcb_connection_t* connection, xcb_window_t window, std::string_view name, xcb_atom_t type)
 {

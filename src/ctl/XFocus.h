@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The window in front on X11.
+// The focused window on X11.
 #pragma once
 
 #include "ctl/CompositorSocket.h"
@@ -8,8 +8,8 @@
 
 namespace fadeloom::ctl {
 
-/// _NET_ACTIVE_WINDOW of the root window, and _NET_WM_PID of that. Absent when there is no X server, or its window
-/// manager keeps no such record.
+/// _NET_ACTIVE_WINDOW of the root window, and _NET_WM_PID of that. nullopt if there is no X server, or its window
+/// manager does not set them.
 [[nodiscard]] std::optional<Focus> focusOfX();
 
 }  // namespace fadeloom::ctl

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// fadeloomctl: gives a running Fadeloom a command. Without Qt, so that a held key costs next to nothing.
+// fadeloomctl: the command line client. It does not use Qt, so that key repeat costs next to nothing.
 #include "ctl/Client.h"
 #include "ctl/FocusedApp.h"
 #include "ctl/Options.h"
 #include "ctl/Status.h"
 #include "ctl/Verbs.h"
+
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -15,8 +17,6 @@
 #include <string_view>
 #include <vector>
 
-#include <unistd.h>
-
 namespace {
 
 using namespace fadeloom::ctl;
@@ -24,9 +24,9 @@ using namespace fadeloom::ctl;
 constexpr std::string_view usageText =
     R"(usage: fadeloomctl [--json] [--quiet] [--wait[=SECONDS]] VERB [WORD...]
        fadeloomctl [--json|--waybar] [--wait[=SECONDS]] watch [apps|levels] [APP]
-       fadeloomctl [--quiet] [--wait[=SECONDS]] -      commands from standard input, one a line
+       fadeloomctl [--quiet] [--wait[=SECONDS]] -      commands from standard input, one per line
 
-Gives a running Fadeloom a command; "fadeloomctl help" lists them. For instance:
+Sends a command to a running Fadeloom; "fadeloomctl help" lists them. For instance:
   fadeloomctl volume firefox +5%
   fadeloomctl mute @playing toggle
   fadeloomctl output firefox next
@@ -39,8 +39,7 @@ std::string socketFile()
         + "/fadeloom.socket";
 }
 
-/// Puts the process of the window in front in the place of "@focused". Absent when it is not known; it has been said
-/// why.
+/// Replaces "@focused" by the process of the focused window. nullopt if that is unknown; an error has been printed.
 std::optional<std::vector<std::string>> withFocusedApp(std::span<const std::string_view> words)
 {
     std::vector<std::string> result(words.begin(), words.end());

@@ -15,7 +15,7 @@ std::expected<std::unique_ptr<AppTap>, TapError> AppTap::create(AudioSystem& sys
         [&](const TapFormat& format) { return std::make_shared<Renderer>(parameters, format); });
     if (!tap)
         return std::unexpected(std::move(tap.error()));
-    // The constructor is private, which std::make_unique cannot reach.
+    // The constructor is private, so std::make_unique cannot call it.
     return std::unique_ptr<AppTap>(new AppTap(output, scope, std::move(processIDs), std::move(*tap)));
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Captures the sound of one app and plays it, processed, on one output device.
+// Captures the audio of one app and plays it, processed, on one output device.
 #pragma once
 
 #include "engine/TapParameters.h"
@@ -12,28 +12,28 @@
 
 namespace fadeloom {
 
-/// Plays from its creation until its destruction; another output or another sample rate takes a new one. Thread: main.
+/// Plays from construction to destruction; another output or sample rate requires a new one. Thread: main.
 class AppTap {
 public:
-    /// Starts the sound; after a failure nothing of it is left. `system` outlives the tap. `name`: the app's, as the
-    /// user knows it. `parameters` are shared with the app's later taps.
+    /// Starts playing; after a failure nothing is left of it. `system` must outlive the tap. `name`: the app's display
+    /// name. `parameters` are shared with the app's later taps.
     [[nodiscard]] static std::expected<std::unique_ptr<AppTap>, TapError> create(AudioSystem& system,
         std::vector<AudioProcessID> processIDs, const OutputDevice& output, TapScope scope,
         std::shared_ptr<TapParameters> parameters, const std::string& name);
 
-    /// The processes that are captured now.
+    /// The captured processes.
     [[nodiscard]] const std::vector<AudioProcessID>& processIDs() const { return processIDs_; }
     [[nodiscard]] const std::string& outputUID() const { return output_.uid; }
     [[nodiscard]] OutputDeviceID outputID() const { return output_.id; }
     [[nodiscard]] TapScope scope() const { return scope_; }
-    /// Hertz: the rate at which the procedure was made to run.
+    /// Hertz: the rate for which the procedure was created.
     [[nodiscard]] double sampleRate() const { return sampleRate_; }
-    /// Whether it still does. One that the system has ended is to be made anew.
+    /// Whether it still runs. One that the system has ended must be rebuilt.
     [[nodiscard]] bool isRunning() const { return tap_->sampleRate() == sampleRate_; }
-    /// How many of the output device's own inputs are switched off for us.
+    /// How many of the output device's own inputs are disabled.
     [[nodiscard]] int disabledInputs() const { return tap_->disabledInputs(); }
 
-    /// Captures these processes from now on, without a gap. When it returns false the old ones are still captured.
+    /// Changes the set of captured processes without a gap. Returns false if the old set is still captured.
     [[nodiscard]] bool update(std::vector<AudioProcessID> processIDs);
 
 private:

@@ -9,10 +9,10 @@ namespace fadeloom {
 
 namespace {
 
-// The crystal of a poor device is off by so much; the same share of time is no sign of lost frames.
+// The deviation of a poor crystal; a smaller share of lost time is no sign of lost frames.
 constexpr double highestDrift = 200e-6;
 
-// Cycles that are handed over late belong to one of the last runs.
+// Cycles that arrive late belong to one of the last runs.
 constexpr std::size_t runsKept = 16;
 
 HostTime duration(std::int64_t frames, double rate)
@@ -44,7 +44,7 @@ std::int64_t CycleClocks::frameAt(const CycleTime& time, double rate, std::int64
         std::int64_t frame = 0;
         if (!line.empty()) {
             const auto& before = line.back();
-            // Nothing is placed over what came before.
+            // Cycles never overlap earlier ones.
             frame = std::max(before.frameAt(time.host + before.lag, rate), before.end);
         }
         if (line.size() == runsKept)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A named curve of the equalizer.
+// A named equalizer curve.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 
 namespace fadeloom {
 
-/// The name is what tells presets apart. `gains`: decibels, lowest band first; ten in every preset that is offered.
+/// Presets are identified by name. `gains`: decibels, lowest band first; built-in and saved presets have ten.
 struct EQPreset {
     std::string name{};
     std::vector<float> gains{};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The curves that come with the program.
+// The built-in presets.
 #pragma once
 
 #include "engine/EQPreset.h"
@@ -14,14 +14,14 @@ struct EQPresetGroup {
     std::vector<EQPreset> presets;
 };
 
-/// Constants, made on first use. Thread: any.
+/// Constants, created on first use. Thread: any.
 namespace EQPresets {
 
-/// Every preset, in the groups and the order in which a menu shows them.
+/// All presets, by group, in menu order.
 [[nodiscard]] const std::vector<EQPresetGroup>& groups();
-/// The groups one after the other.
+/// All presets in a flat list.
 [[nodiscard]] const std::vector<EQPreset>& all();
-/// The curve that changes nothing: where every app starts.
+/// The flat curve: the default of every app.
 [[nodiscard]] const EQPreset& flat();
 
 }  // namespace EQPresets

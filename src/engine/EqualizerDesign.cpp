@@ -10,10 +10,10 @@ namespace fadeloom {
 
 namespace {
 
-// Twice the quality factor of a bell, 1.41.
+// Twice the Q of a peaking filter, 1.41.
 constexpr double twiceQ = 2.82;
 
-// Above this part of the sample rate the bell would be squeezed against half the sample rate into another shape.
+// Above this fraction of the sample rate the response would be distorted by the proximity of the Nyquist frequency.
 constexpr double highestCentre = 0.45;
 
 BiquadCoefficients bell(double centre, float gainDB, double sampleRate)
@@ -41,7 +41,7 @@ EQCoefficients eqCoefficients(std::span<const float> gains, double sampleRate)
         return coefficients;
 
     for (std::size_t band = 0; band < std::min(gains.size(), coefficients.size()); ++band) {
-        // A gain that is no number stays flat: one such section would silence the app for as long as it plays.
+        // A NaN gain is treated as flat: one such section would silence the app for as long as it plays.
         if (std::isnan(gains[band]))
             continue;
         const float gain = std::clamp(gains[band], -eqMaximumGainDB, eqMaximumGainDB);
@@ -68,7 +68,8 @@ double eqResponseDB(const EQCoefficients& coefficients, double frequency, double
         const double poleImaginary = section.a1 * sin1 + section.a2 * sin2;
         const double power = (zeroReal * zeroReal + zeroImaginary * zeroImaginary)
             / (poleReal * poleReal + poleImaginary * poleImaginary);
-        decibels += 10 * std::log10(power);  // 20·log10 of the magnitude, which is the root of the power.
+        // 20·log10 of the magnitude, which is the square root of the power.
+        decibels += 10 * std::log10(power);
     }
     return decibels;
 }

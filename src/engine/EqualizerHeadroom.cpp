@@ -9,10 +9,10 @@ namespace fadeloom {
 
 namespace {
 
-// Points evenly spaced in pitch, both ends included: an octave weighs as much as any other.
+// Logarithmically spaced points, both ends included: every octave has the same weight.
 constexpr int pointCount = 241;
 constexpr double lowestFrequency = 20;
-constexpr double frequencySpan = 1000;  // Highest over lowest.
+constexpr double frequencySpan = 1000;  // The ratio of the highest to the lowest.
 
 }  // namespace
 
@@ -26,7 +26,7 @@ float eqLoudnessGainDB(std::span<const float> gains, double sampleRate)
     }
     const double loudness = 10 * std::log10(power / pointCount);
     return loudness >= 0 ? static_cast<float>(loudness)
-                         : 0.0F;  // Also 0 when there is no sample rate to design for.
+                         : 0.0F;  // Also 0 without a sample rate to design for.
 }
 
 }  // namespace fadeloom

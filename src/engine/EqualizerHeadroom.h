@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-// How much louder an equalizer curve makes sound as a whole.
+// By how much an equalizer curve raises the overall level.
 //
-// Boosted bands raise the level and drive the limiter. Taking this figure off the preamp keeps the level where it was,
-// so that the equalizer changes the tone alone.
+// Boosted bands raise the level and drive the limiter. Subtracting this value from the preamp preserves the level, so
+// that the equalizer affects only the timbre.
 #pragma once
 
 #include <span>
 
 namespace fadeloom {
 
-/// Mean power gain of the curve from 20 Hz to 20 kHz, in decibels, never below 0: what a curve takes away is not given
-/// back. `gains`: as for `eqCoefficients`. `sampleRate`: hertz.
+/// Mean power gain of the curve from 20 Hz to 20 kHz, in decibels, at least 0: cuts are not compensated. `gains`: as
+/// for `eqCoefficients`. `sampleRate`: hertz.
 [[nodiscard]] float eqLoudnessGainDB(std::span<const float> gains, double sampleRate);
 
 }  // namespace fadeloom

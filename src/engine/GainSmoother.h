@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Glides a gain to its target: a jump would be heard as a click.
+// Ramps a gain to its target: a jump would be an audible click.
 #pragma once
 
 #include "base/RealTime.h"
@@ -9,11 +9,10 @@
 
 namespace fadeloom {
 
-/// How far a one-pole filter goes towards its target with each frame, for a time constant in seconds. `sampleRate`:
-/// hertz, taken as at least 1.
+/// The per-frame coefficient of a one-pole filter for a time constant in seconds. `sampleRate`: hertz, at least 1.
 [[nodiscard]] inline float onePoleCoefficient(double sampleRate, double timeConstant)
 {
-    // In this order a rate that is not a number is taken as 1, too.
+    // With the arguments in this order NaN becomes 1, too.
     return static_cast<float>(1 - std::exp(-1 / (std::max(1.0, sampleRate) * timeConstant)));
 }
 
@@ -21,7 +20,7 @@ struct GainSmoother {
     float current = 1;
     float coefficient = 1;
 
-    /// Goes on by one frame, and onto the target once it is near; whether it is there.
+    /// Advances by one frame, and snaps to the target when close; returns whether it is reached.
     bool approach(float target) noexcept FADELOOM_NONBLOCKING
     {
         current += (target - current) * coefficient;

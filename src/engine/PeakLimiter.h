@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Keeps peaks below about −1 dBFS: at once when one comes, letting go slowly after it. It looks at no frame ahead.
+// Limits peaks to about −1 dBFS: instant attack, exponential release, no lookahead.
 #pragma once
 
 #include "base/RealTime.h"
@@ -8,9 +8,9 @@ namespace fadeloom {
 
 struct PeakLimiter {
     float reduction = 1;  // The gain of the last frame; 1 is none.
-    float release = 1;  // Part of the way back to 1 that each frame goes.
+    float release = 1;  // Fraction of the remaining distance to 1 covered per frame.
 
-    /// The gain for a frame whose louder sample has this magnitude, not below 0.
+    /// The gain for a frame whose louder sample has this magnitude, at least 0.
     [[nodiscard]] float reductionFor(float peak) noexcept FADELOOM_NONBLOCKING
     {
         const float next = recovered();

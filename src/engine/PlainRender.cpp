@@ -11,7 +11,7 @@ namespace {
 
 float equalized(float sample, float preamp, const EQCoefficients& sections, EQChannelState& memory) noexcept
 {
-    // Checked here and not before: a finite sample times the preamp can be too large as well.
+    // Checked here and not earlier: a finite sample times the preamp can overflow as well.
     double x = finiteOrSilence(sample * preamp);
     for (std::size_t band = 0; band < sections.size(); ++band) {
         const auto& section = sections[band];
@@ -43,8 +43,8 @@ float renderPlain(RenderState& state, const RenderSettings& settings, std::span<
         l = finiteOrSilence(l * gain);
         r = finiteOrSilence(r * gain);
 
-        // The limiter follows every frame, so that it is up to date when it is needed; sound that is neither boosted
-        // nor equalized passes without it.
+        // The limiter tracks every frame, so that its state is current when it is needed; audio that is neither boosted
+        // nor equalized bypasses it.
         const float reduction = state.limiter.reductionFor(std::max(std::abs(l), std::abs(r)));
         if (gain > 1 || settings.isEqualized) {
             l *= reduction;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The render path as it reads: one frame after the other, one section after the other. It says what is right; a faster
-// form has to give the same bits.
+// The straightforward render path: frame by frame, section by section. It is the reference; a faster implementation
+// must give the same bits.
 #pragma once
 
 #include "base/RealTime.h"
@@ -10,8 +10,8 @@
 
 namespace fadeloom {
 
-/// Renders in place and returns the block's highest magnitude. `left` and `right`: the same number of samples, any.
-/// Thread: IO.
+/// Renders in place and returns the block's maximum magnitude. `left` and `right`: equally long, of any length. Thread:
+/// IO.
 [[nodiscard]] float renderPlain(RenderState& state, const RenderSettings& settings, std::span<float> left,
     std::span<float> right) noexcept FADELOOM_NONBLOCKING;
 

@@ -11,13 +11,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A cycle begins up to 190 ms before its samples are there: 8192 frames at 44.1 kHz.
+// A cycle starts up to 190 ms before its samples are available: 8192 frames at 44.1 kHz.
 constexpr HostTime longestCycle = 300ms;
 
-// A disk that stalls for longer loses what comes then.
+// If a disk stalls for longer, further audio is lost.
 constexpr std::size_t longestBacklog = 60;  // Seconds.
 
-// Small against what a file takes at once, so that a backlog gets in piece by piece.
+// Small compared with the file's buffer, so that a backlog is written piece by piece.
 constexpr std::size_t piece = 8192 * RecordingLanes::channels;
 
 }  // namespace

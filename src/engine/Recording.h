@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One app's sound on its way into one WAVE file.
+// One app's recording to one WAVE file.
 //
 //      renderers ──► lanes ──► timeline ──► file
 //        IO threads       main thread
@@ -20,13 +20,13 @@
 
 namespace fadeloom {
 
-/// An open file and who closes it when. Its end closes nothing: a renderer may still be writing, and only its owner
-/// knows when none is. Thread: main.
+/// An open file with its closing time. Its destructor closes nothing: a renderer may still be writing, and only the
+/// owner knows when none is. Thread: main.
 class Recording {
 public:
     using Moment = std::chrono::system_clock::time_point;
 
-    /// How often `writeUntil` is to be called while the recording goes on.
+    /// How often to call `writeUntil` during the recording.
     static constexpr std::chrono::milliseconds interval{100};
 
     struct Start {
@@ -34,8 +34,8 @@ public:
         HostTime host;
     };
 
-    /// Creates the file, in place of any file of that name; after a failure none is open. `files` and `clocks` must
-    /// outlive the recording. `sampleRate`: hertz, of the sound that will be written.
+    /// Creates the file, replacing any file of that name; after a failure none is open. `files` and `clocks` must
+    /// outlive the recording. `sampleRate`: hertz, of the audio to be written.
     [[nodiscard]] static std::expected<std::unique_ptr<Recording>, TapError> create(AudioFiles& files,
         CycleClocks& clocks, std::filesystem::path location, double sampleRate, const Start& start);
     Recording(const Recording&) = delete;
@@ -46,18 +46,18 @@ public:
     /// For the renderers.
     [[nodiscard]] const std::shared_ptr<RecordingLanes>& lanes() const { return lanes_; }
 
-    /// Writes what was captured until shortly before `now`, and silence where nothing was.
+    /// Writes what was captured until shortly before `now`, with silence in the gaps.
     void writeUntil(HostTime now);
-    /// The recording ends at this moment. Renderers may still finish the cycle that they are in.
+    /// Ends the recording at this time. Renderers may still finish their current cycle.
     void stop(HostTime end) { end_ = end; }
     [[nodiscard]] bool isFinished() const { return isFinished_; }
-    /// Writes what is left until the stop, completes the file and closes it; does nothing the second time. No renderer
-    /// may be writing to it any more.
+    /// Writes what is left until the stop, finalizes the file and closes it; idempotent. No renderer may be writing to
+    /// it any more.
     void finish();
 
-    /// The first failure of its file; final once the recording is finished.
+    /// The first error of its file; final once the recording is finished.
     [[nodiscard]] std::optional<AudioFileError> failure() const;
-    /// What was captured and is not in the file, since the disk was too slow, or the program.
+    /// The captured audio that is missing from the file, because the disk was too slow, or the program.
     [[nodiscard]] std::chrono::milliseconds lostTime() const;
 
 private:
@@ -75,7 +75,7 @@ private:
     const std::shared_ptr<RecordingLanes> lanes_;
     RecordingTimeline timeline_;
     HostTime end_;
-    std::vector<float> backlog_;  // What the file had no room for yet.
+    std::vector<float> backlog_;  // Not yet accepted by the file.
     std::uint64_t unwrittenFrames_ = 0;
     std::optional<AudioFileError> lastFailure_;
     bool isFinished_ = false;

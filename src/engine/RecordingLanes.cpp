@@ -5,7 +5,7 @@ namespace fadeloom {
 
 namespace {
 
-// Enough for `capacity` seconds of the shortest cycles that devices run at, of 64 frames at 96 kHz or so.
+// Enough for `capacity` seconds of the shortest cycles of devices, of 64 frames at about 96 kHz.
 constexpr std::size_t cyclesALane = 8192;
 
 }  // namespace
@@ -34,7 +34,7 @@ void RecordingLanes::push(const void* writer, double sampleRate, const CycleTime
         return;
     }
     const Cycle cycle{time, samples.size()};
-    (void)lane->cycles.push({&cycle, 1});  // There is room: nobody else pushes.
+    (void)lane->cycles.push({&cycle, 1});  // It fits: this is the only producer.
 }
 
 void RecordingLanes::release(const void* writer) noexcept

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Carries the cycles of an app's renderers, each with its time, to the recording that puts them together.
+// Passes the cycles of an app's renderers, with their timestamps, to the recording that assembles them.
 //
-// An app that plays on two devices has two renderers, and a renderer may begin before the one it replaces is gone. Each
-// has a lane of its own for as long as it lives, so none waits for another.
+// An app that plays on two devices has two renderers, and a renderer may start before the one it replaces is gone. Each
+// has its own lane for its lifetime, so they never block each other.
 #pragma once
 
 #include "base/RealTime.h"
@@ -23,10 +23,10 @@ namespace fadeloom {
 class RecordingLanes {
 public:
     static constexpr std::size_t channels = 2;
-    /// How long cycles wait for the main thread before they are lost, in seconds.
+    /// How long cycles are buffered for the main thread before they are dropped, in seconds.
     static constexpr std::size_t capacity = 4;
 
-    /// One cycle's sound; `samples` are interleaved and live for the call only.
+    /// One cycle's audio; `samples` are interleaved and valid only during the call.
     using Visitor = std::function<void(const CycleTime& time, std::span<const float> samples)>;
 
     /// `sampleRate`: hertz. Thread: main.
@@ -34,16 +34,16 @@ public:
     RecordingLanes(const RecordingLanes&) = delete;
     RecordingLanes& operator=(const RecordingLanes&) = delete;
 
-    /// Takes one cycle of the renderer `writer`, whose `samples` are interleaved and at `sampleRate`. It is lost when
-    /// the rate is another one than the recording's, and when there is no room. Thread: IO.
+    /// Pushes one cycle of the renderer `writer`, whose `samples` are interleaved and at `sampleRate`. It is dropped if
+    /// the rate differs from the recording's, or if the lane is full. Thread: IO.
     void push(const void* writer, double sampleRate, const CycleTime& time,
         std::span<const float> samples) noexcept FADELOOM_NONBLOCKING;
-    /// The renderer is at its end: its lane is free for another one. Thread: any, after its last `push`.
+    /// Frees the lane of a destroyed renderer. Thread: any, after its last `push`.
     void release(const void* writer) noexcept;
 
-    /// Hands out what was pushed and not handed out yet, lane by lane and in order within each. Thread: main.
+    /// Delivers all cycles pushed since the last call, lane by lane and in order within each. Thread: main.
     void drain(const Visitor& visit);
-    /// Frames for which there was no room. Thread: any.
+    /// Frames that were dropped because a lane was full. Thread: any.
     [[nodiscard]] std::uint64_t lostFrames() const noexcept
     {
         return lostFrames_.load(std::memory_order_relaxed);
@@ -57,7 +57,7 @@ private:
     struct Lane {
         explicit Lane(std::size_t leastSamples);
 
-        // Acquire and release: who takes over a lane sees all that its former writer pushed.
+        // Acquire and release: the new owner of a lane sees everything that the previous one pushed.
         std::atomic<const void*> writer = nullptr;
         SpscRing<Cycle> cycles;
         SpscRing<float> samples;
@@ -67,7 +67,7 @@ private:
 
     const double sampleRate_;
     std::array<std::unique_ptr<Lane>, 4> lanes_;
-    std::atomic<std::uint64_t> lostFrames_ = 0;  // Relaxed: a count with nothing behind it.
+    std::atomic<std::uint64_t> lostFrames_ = 0;  // Relaxed: an independent count.
     std::vector<float> drained_;
 };
 

@@ -62,7 +62,7 @@ RecordingTimeline::Source& RecordingTimeline::sourceOf(
     auto known = sources_.find(time.clock);
     if (known == sources_.end()) {
         auto place = placeOf(time.host);
-        // The start lies in this cycle, or so close to it that the sound begins with it.
+        // The start lies in this cycle, or so close to it that the recording begins with it.
         const auto nearby = frameCount(CycleClocks::tolerance, sampleRate_) + cycleLength;
         if (!latestClock_ && taken_ == 0 && std::abs(place) <= nearby)
             place = 0;

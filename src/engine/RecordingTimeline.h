@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Puts the cycles of an app together to one sound that is as long as the clock says.
+// Assembles the cycles of an app into one recording that is as long as the elapsed time.
 #pragma once
 
 #include "engine/CycleClocks.h"
@@ -14,23 +14,25 @@
 
 namespace fadeloom {
 
-/// Silent where no cycle was; where cycles of several devices overlap, their sum. Stereo, interleaved. Thread: main.
+/// Silent where there was no cycle; overlapping cycles of several devices are summed. Stereo, interleaved. Thread:
+/// main.
 class RecordingTimeline {
 public:
-    /// `clocks` are shared with other recordings and outlive this. `sampleRate`: hertz. `start`: the first moment.
+    /// `clocks` are shared with other recordings and must outlive this. `sampleRate`: hertz. `start`: the time of the
+    /// first frame.
     RecordingTimeline(CycleClocks& clocks, double sampleRate, HostTime start);
 
-    /// Adds a cycle's sound. What would lie before what was taken already is dropped.
+    /// Adds a cycle. The part before what has already been taken is dropped.
     void add(const CycleTime& time, std::span<const float> samples);
-    /// Takes what lies before `moment` and was not taken yet.
+    /// Takes everything before `moment` that has not been taken yet.
     [[nodiscard]] std::vector<float> takeUntil(HostTime moment);
-    /// Takes all that is left, silence up to `end` included. A sound that plays to the end is neither cut nor padded:
-    /// it may end a cycle and 20 ms earlier, for the cycle that `end` lies in is missing.
+    /// Takes the rest, including silence up to `end`. Audio that plays until the end is neither cut nor padded: it may
+    /// end up to a cycle and 20 ms earlier, because the cycle that contains `end` is missing.
     [[nodiscard]] std::vector<float> takeRest(HostTime end);
 
 private:
     struct Source {
-        std::int64_t offset = 0;  // From the line of its clock to places in this sound.
+        std::int64_t offset = 0;  // From its clock's timeline to positions in the recording.
         std::int64_t cycleLength = 0;
     };
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// What one app's sound goes through, and what is remembered of it from one cycle to the next.
+// The stages of the render path, and their state across cycles.
 //
-// The path is equalizer, gain, limiter, on planar stereo. These types are all that a form of it sees, so that several
-// forms can be held against each other bit for bit.
+// The path is equalizer, gain, limiter, on planar stereo. All implementations use only these types, so that they can be
+// compared bit for bit.
 #pragma once
 
 #include "engine/EqualizerDesign.h"
@@ -13,7 +13,7 @@
 
 namespace fadeloom {
 
-/// Lives as long as the tap; a rebuilt tap begins with a new one.
+/// Lives as long as the tap; a rebuilt tap starts with a new one.
 struct RenderState {
     EQChannelState left{};
     EQChannelState right{};
@@ -24,21 +24,20 @@ struct RenderState {
     friend bool operator==(const RenderState&, const RenderState&) = default;
 };
 
-/// What holds for one cycle. Gains are linear.
+/// Constant for one cycle. Gains are linear.
 struct RenderSettings {
     float gainTarget = 1;
     float duckTarget = 1;
     bool isEqualized = false;
-    float preamp = 1;  // Only while equalized, and so are the sections.
+    float preamp = 1;  // Only while equalized, like the sections.
     const EQCoefficients& sections;  // Finite numbers.
 };
 
-/// What the equalizer puts out below this is written as 0: a tail that nobody hears would otherwise end in numbers that
-/// processors are slow with.
+/// Equalizer output below this is flushed to 0: otherwise an inaudible tail would end in denormals, which are slow.
 inline constexpr double eqOutputFlush = 1e-25;
 
-/// A sample that is no number or infinite counts as silence. The filters remember what they are given: one such sample
-/// would silence the app until its tap is rebuilt.
+/// A NaN or infinite sample is replaced by silence. Otherwise the filter state would keep it, and silence the app until
+/// its tap is rebuilt.
 [[nodiscard]] inline float finiteOrSilence(float sample) noexcept
 {
     return std::isfinite(sample) ? sample : 0.0F;

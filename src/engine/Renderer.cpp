@@ -20,7 +20,7 @@ constexpr double limiterRelease = 0.08;
 
 constexpr float monoFoldDown = 0.5F;
 
-// Older than any version, so that the first snapshot brings the coefficients along.
+// Older than any version, so that the first snapshot includes the coefficients.
 constexpr std::int64_t noVersion = -1;
 
 std::size_t framesIn(const AudioBuffer& buffer, std::size_t channels) noexcept
@@ -28,7 +28,7 @@ std::size_t framesIn(const AudioBuffer& buffer, std::size_t channels) noexcept
     return buffer.byteSize / (channels * sizeof(float));
 }
 
-// The frames that fit into every output buffer; a buffer without channels sets no bound.
+// The number of frames that fit in every output buffer; a buffer without channels is ignored.
 std::size_t cycleLength(AudioBuffers output) noexcept
 {
     std::size_t frames = Renderer::maximumFrames;
@@ -39,7 +39,7 @@ std::size_t cycleLength(AudioBuffers output) noexcept
     return frames;
 }
 
-// To every `stride`th place.
+// Writes every `stride`th sample.
 void spread(const float* samples, std::size_t count, float* to, std::size_t stride) noexcept
 {
     if (stride == 1) {
@@ -60,7 +60,7 @@ Renderer::Renderer(
 {
     if (kernels)
         fast_.emplace(*kernels);
-    // When the settings are being written just now, the defaults stand in for this one moment: 1 for either gain.
+    // If the settings are being written right now, the defaults are used for this one cycle: 1 for either gain.
     takeSnapshot();
     state_.gain = {.current = gainTarget(), .coefficient = onePoleCoefficient(layout.sampleRate, gainGlide)};
     state_.duck = {
@@ -107,7 +107,7 @@ std::size_t Renderer::readTap(AudioBuffers input, std::size_t atMost) noexcept F
     const std::size_t first = input.size() - layout_.tapBufferCount;
     if (layout_.isTapInterleaved)
         return readInterleaved(input[first], atMost);
-    // A tap of one buffer feeds both sides from it.
+    // A tap with a single buffer feeds both sides from it.
     return readPlanar(input[first], input[std::min(input.size() - 1, first + 1)], atMost);
 }
 
@@ -151,7 +151,7 @@ void Renderer::noticeFirstAudio(std::size_t frames) noexcept FADELOOM_NONBLOCKIN
     }
 }
 
-// What the app played, before anything is done to it.
+// The app's output, before any processing.
 void Renderer::record(const CycleTime& time, std::size_t frames) noexcept FADELOOM_NONBLOCKING
 {
     if (frames == 0 || !parameters_->recorder.isRecording())
@@ -190,7 +190,7 @@ void Renderer::writeOutput(AudioBuffers output, std::size_t frames) noexcept FAD
             left_[frame] = (left_[frame] + right_[frame]) * monoFoldDown;
     }
 
-    std::uint64_t firstChannel = 1;  // Wide enough for any count of channels that buffers may claim.
+    std::uint64_t firstChannel = 1;  // Wide enough for any channel count that buffers may claim.
     for (const auto& buffer : output) {
         if (buffer.data != nullptr) {
             std::memset(buffer.data, 0, buffer.byteSize);

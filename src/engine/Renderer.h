@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// One app's sound, from its tap to the stereo pair of its output device, in each IO cycle.
+// Renders one app's audio, from its tap to the stereo pair of its output device, in each IO cycle.
 #pragma once
 
 #include "base/RealTime.h"
-#include "engine/kernels/FastRender.h"
-#include "engine/kernels/RenderChoice.h"
 #include "engine/RenderState.h"
 #include "engine/TapParameters.h"
+#include "engine/kernels/FastRender.h"
+#include "engine/kernels/RenderChoice.h"
 #include "platform/ProcessTap.h"
 
 #include <array>
@@ -17,16 +17,16 @@
 
 namespace fadeloom {
 
-/// Made and destroyed on the main thread, run on the IO thread. Everything it needs in a cycle is part of it.
-/// Buffers that are missing or malformed give a silent cycle; nothing here fails.
+/// Created and destroyed on the main thread, run on the IO thread. Everything it needs in a cycle is preallocated.
+/// Missing or malformed buffers give a silent cycle; nothing here fails.
 class Renderer final : public AudioIOProc {
 public:
-    /// A cycle goes no further than this many frames.
+    /// Longer cycles are truncated to this many frames.
     static constexpr std::size_t maximumFrames = 8192;
 
-    /// Starts at the gain that `parameters` asks for, without fading in. The block is shared: the next tap of this app
-    /// goes on with it, and an IO thread may still read it while the app's owner lets go.
-    /// `kernels`: those of the fast render path; null for the plain one.
+    /// Starts at the gain in `parameters`, without fading in. The block is shared: the app's next tap reuses it, and an
+    /// IO thread may still read it while its owner releases it. `kernels`: those of the fast implementation; null for
+    /// the plain one.
     Renderer(std::shared_ptr<TapParameters> parameters, const TapFormat& layout,
         const RenderKernels* kernels = chosenKernels());
     ~Renderer() override;
@@ -39,10 +39,10 @@ public:
 private:
     using Scratch = std::array<float, maximumFrames>;
 
-    /// Takes over the settings, unless they are being written at this very moment.
+    /// Copies the settings, unless they are being written right now.
     void takeSnapshot() noexcept FADELOOM_NONBLOCKING;
     [[nodiscard]] float gainTarget() const noexcept FADELOOM_NONBLOCKING;
-    /// Copies the tap's sound into the scratch buffers; returns how many frames there were, `atMost` or fewer.
+    /// Copies the tap's audio into the scratch buffers; returns the number of frames, at most `atMost`.
     [[nodiscard]] std::size_t readTap(AudioBuffers input, std::size_t atMost) noexcept FADELOOM_NONBLOCKING;
     [[nodiscard]] std::size_t readInterleaved(
         const AudioBuffer& tap, std::size_t atMost) noexcept FADELOOM_NONBLOCKING;
@@ -50,7 +50,7 @@ private:
         const AudioBuffer& left, const AudioBuffer& right, std::size_t atMost) noexcept FADELOOM_NONBLOCKING;
     void noticeFirstAudio(std::size_t frames) noexcept FADELOOM_NONBLOCKING;
     void record(const CycleTime& time, std::size_t frames) noexcept FADELOOM_NONBLOCKING;
-    /// Equalizer, gain and limiter, on the scratch buffers; returns the highest magnitude.
+    /// Equalizer, gain and limiter, in the scratch buffers; returns the maximum magnitude.
     [[nodiscard]] float process(std::size_t frames) noexcept FADELOOM_NONBLOCKING;
     void handBackPeak(float blockPeak) noexcept FADELOOM_NONBLOCKING;
     void writeOutput(AudioBuffers output, std::size_t frames) noexcept FADELOOM_NONBLOCKING;

@@ -23,10 +23,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Above this size a file makes room for a new one. One old file is kept, so there is never more than twice as much.
+// A file above this size is rotated. One old file is kept, so the total never exceeds twice this size by much.
 constexpr std::uintmax_t largestSize = 256000;
 
-// Of one width, so that the messages stand in a column.
+// Of equal width, so that the messages are aligned.
 constexpr std::string_view noticeLevel = "INFO ";
 constexpr std::string_view errorLevel = "ERROR";
 
@@ -52,7 +52,7 @@ void rotate(const fs::path& folder, const fs::path& file)
     fs::rename(file, old, ignored);
 }
 
-// Whatever goes wrong here, there is nobody to tell: the system's log has the message.
+// Errors here cannot be reported anywhere; the system log has the message anyway.
 void writeLine(const fs::path& folder, const std::string& line)
 {
     std::error_code ignored;
@@ -60,7 +60,7 @@ void writeLine(const fs::path& folder, const std::string& line)
     const auto file = folder / "engine.log";
     rotate(folder, file);
 
-    // Without waiting: a pipe in the file's place would hold up the queue for ever.
+    // Non-blocking: a pipe in the file's place would block the queue forever.
     constexpr int flags = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK;
     const FileDescriptor descriptor(::open(file.c_str(), flags, S_IRUSR | S_IWUSR));
     if (descriptor.isOpen()) {
@@ -98,7 +98,7 @@ void EngineLog::error(std::string_view message)
 
 void EngineLog::append(std::string_view level, std::string_view message)
 {
-    // The time of the call, not of the writing.
+    // Timestamps the call, not the write.
     auto line = timestamp(now_());
     line.append(" ").append(level).append(" ").append(message).append("\n");
     queue_.submit(std::chrono::milliseconds(0),

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// What happens to taps and devices, told to whoever has to find out later why something was not heard.
+// A log of what happens to taps and devices, for diagnosing later why something was not audible.
 //
-// Each message goes two ways: to the system's log at once, and as one line to a small file beside the settings, which
-// a user can send. The file is opened and closed for every line, so that what was told survives a crash.
+// Each message goes to the system log immediately, and as one line to a small file beside the settings, which a user
+// can send. The file is opened and closed for every line, so that the log survives a crash.
 #pragma once
 
 #include <chrono>
@@ -16,16 +16,16 @@ class BackgroundQueue;
 class SystemLog;
 struct Platform;
 
-/// Never fails towards its caller and never waits for the disk. Thread: any but the IO thread.
+/// Never fails as far as the caller is concerned and never blocks on the disk. Thread: any but the IO thread.
 class EngineLog {
 public:
     using Clock = std::function<std::chrono::system_clock::time_point()>;
 
-    /// `queue` does the writing, one line after the other; lines that wait there outlive this. `folder`: of the
-    /// settings file; made when it is missing. `systemLog` and `queue` outlive this.
+    /// `queue` writes the lines one after the other; pending lines outlive this object. `folder`: of the settings file;
+    /// created if it is missing. `systemLog` and `queue` must outlive this object.
     EngineLog(SystemLog& systemLog, BackgroundQueue& queue, std::filesystem::path folder,
         Clock now = std::chrono::system_clock::now);
-    /// The program's own: in the folder of the settings, on the platform's queue for it.
+    /// The program's log: in the settings folder, on the platform's queue for it.
     explicit EngineLog(const Platform& platform);
     EngineLog(const EngineLog&) = delete;
     EngineLog& operator=(const EngineLog&) = delete;

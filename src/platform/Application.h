@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program as an application with windows.
+// The program as a windowed application.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace fadeloom {
 
-/// What the About panel says under the program's name, icon and version, centred: the text, and under it a link.
+/// The credits of the About panel, centred under the program's name, icon and version: the text, and below it a link.
 struct AboutCredits {
     std::string text;
     std::string linkText;
@@ -17,16 +17,16 @@ struct AboutCredits {
 /// Thread: main.
 class Application {
 public:
-    /// `system` follows the system's choice, also when that changes.
+    /// `system` follows the system's setting, including later changes.
     enum class Appearance : std::uint8_t { system, light, dark };
 
     virtual ~Application() = default;
 
-    /// How all windows are drawn from now on.
+    /// Sets the appearance of all windows from now on.
     virtual void setAppearance(Appearance appearance) = 0;
-    /// Brings its windows to the front.
+    /// Raises its windows.
     virtual void activate() = 0;
-    /// Opens the About panel; one that is open comes to the front.
+    /// Opens the About panel, or raises an open one.
     virtual void showAboutPanel(const AboutCredits& credits) = 0;
 };
 

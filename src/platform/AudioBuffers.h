@@ -7,8 +7,8 @@
 
 namespace fadeloom {
 
-/// 32-bit float samples, `channels` of them interleaved per frame. `data` may be null (a stream that is switched
-/// off); `byteSize` may then still be set.
+/// 32-bit float samples, `channels` of them interleaved per frame. `data` may be null (a disabled stream), even if
+/// `byteSize` is set.
 struct AudioBuffer {
     std::uint32_t channels = 0;
     std::uint32_t byteSize = 0;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The audio system of the machine: who plays, where sound can go, and how to get in between.
+// The machine's audio system: which processes play, output devices, and taps.
 //
-// Not here: decisions (which processes to tap, which device to choose), and any promise that what was set is in
-// effect at once: the announcement says when.
+// Non-goals: decisions (which processes to tap, which device to use), and any guarantee that a change takes effect
+// immediately: wait for the notification.
 #pragma once
 
 #include "base/Subscription.h"
@@ -22,41 +22,41 @@
 
 namespace fadeloom {
 
-/// Thread: main, for every call and every listener. Changes in quick succession may be announced as one.
+/// Thread: main, for all calls and listeners. Changes in quick succession may be coalesced into one notification.
 class AudioSystem {
 public:
     using Listener = std::function<void()>;
 
     virtual ~AudioSystem() = default;
 
-    /// Every audio process, in the system's order; empty when that cannot be found out. Without `ReadMic::yes` none is
-    /// said to use the microphone.
+    /// All audio processes, in the system's order; empty if they cannot be determined. Without `ReadMic::yes`, none is
+    /// reported as using the microphone.
     [[nodiscard]] virtual std::vector<AudioProcess> processes(ReadMic readMic) = 0;
-    /// When a process comes or goes, starts or stops playing, starts or stops using the microphone.
+    /// When a process appears or disappears, starts or stops playing, starts or stops using the microphone.
     [[nodiscard]] virtual Subscription whenProcessesChange(Listener listener) = 0;
 
-    /// The devices to offer, in the system's order; what we make ourselves is not among them.
+    /// The selectable devices, in the system's order, without any that we created.
     [[nodiscard]] virtual std::vector<OutputDevice> outputDevices() const = 0;
-    /// When a device comes or goes, changes its channels, or (where the system tells) its sample rate.
+    /// When a device is added or removed, changes its channels, or (if the system reports it) its sample rate.
     [[nodiscard]] virtual Subscription whenOutputDevicesChange(Listener listener) = 0;
-    /// Hertz; 0 when the device is gone or does not say.
+    /// Hertz; 0 if the device is gone or does not report it.
     [[nodiscard]] virtual double sampleRate(OutputDeviceID device) const = 0;
 
-    /// Unique id of the system's default output; absent when there is none.
+    /// Unique id of the system's default output; nullopt if there is none.
     [[nodiscard]] virtual std::optional<std::string> defaultOutput() const = 0;
     [[nodiscard]] virtual Subscription whenDefaultOutputChanges(Listener listener) = 0;
-    /// Asks for another default output; false when the system refuses.
+    /// Requests another default output; false if the system refuses.
     virtual bool setDefaultOutput(const OutputDevice& device) = 0;
 
-    /// The applications whose sound is not to be heard before their tap has it, by bundle identifier, instead of those
-    /// named before. Where it can, the system has their new streams wait for the tap, for a second at most.
+    /// Replaces the set of applications, by bundle identifier, whose audio must not be audible before their tap has it.
+    /// If the system supports it, their new streams wait for the tap, for a second at most.
     virtual void holdStreamsOf(const std::set<std::string>& /*bundleIDs*/) { }
 
-    /// The present moment on the clock of the cycles.
+    /// The current time on the clock of the cycles.
     [[nodiscard]] virtual HostTime hostTime() const = 0;
 
-    /// Starts to capture; after an error nothing of it is left, and the processes are heard as before. Ends before this
-    /// system does.
+    /// Starts capturing; after an error no part of the tap is left, and the processes remain audible as before. The tap
+    /// must be destroyed before this object.
     [[nodiscard]] virtual std::expected<std::unique_ptr<ProcessTap>, TapError> createTap(
         const TapRequest& request, const AudioIOProcFactory& makeIOProc) = 0;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Work off the main thread, one piece at a time.
+// Background tasks, one at a time.
 #pragma once
 
 #include <chrono>
@@ -8,23 +8,23 @@
 
 namespace fadeloom {
 
-/// A serial queue: pieces of work that are due run one after the other, those due at the same time in the order given.
+/// A serial queue: tasks run one after the other, ordered by due time and then by submission.
 class BackgroundQueue {
 public:
-    /// A piece of work that waits for its time, runs, or has run. Thread: any.
+    /// A task that is pending, running or done. Thread: any.
     class Work {
     public:
         virtual ~Work() = default;
-        /// Takes the work back if it has not begun.
+        /// Cancels the task if it has not started.
         virtual void cancel() = 0;
-        /// Sees to it that the work is done when this returns: runs it here and now if it has not begun, waits for
-        /// it if it is running. Does nothing after `cancel`.
+        /// Ensures that the task is done on return: runs it on the calling thread if it has not started, waits for it
+        /// if it is running. Does nothing after `cancel`.
         virtual void runNow() = 0;
     };
 
     virtual ~BackgroundQueue() = default;
 
-    /// Runs `task` after `delay`. The work goes on when the returned handle is dropped. Thread: any.
+    /// Runs `task` after `delay`. The task is kept if the returned handle is dropped. Thread: any.
     virtual std::shared_ptr<Work> submit(std::chrono::milliseconds delay, std::function<void()> task) = 0;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The apps that are known to be for calls where the program runs.
+// The apps known to be for calls on this platform.
 #pragma once
 
 #include <string>
@@ -7,10 +7,10 @@
 
 namespace fadeloom {
 
-/// One app, however it is installed.
+/// One app, with the identifiers of all its packages.
 struct CallApp {
     std::string name;
-    std::vector<std::string> bundleIDs;  // Never empty; the first stands for the app in the settings.
+    std::vector<std::string> bundleIDs;  // Never empty; the first represents the app in the settings.
 
     friend bool operator==(const CallApp&, const CallApp&) = default;
 };
@@ -20,18 +20,18 @@ class CallApps {
 public:
     virtual ~CallApps() = default;
 
-    /// In the order in which they are listed.
-    [[nodiscard]] virtual const std::vector<CallApp>& wellKnown() const = 0;
-    /// What an earlier version listed until the user changed it; empty when that was the same.
+    /// In display order.
+    [[nodiscard]] virtual const std::vector<CallApp>& knownApps() const = 0;
+    /// The default list of an earlier version; empty if it was the same.
     [[nodiscard]] virtual std::vector<std::string> formerDefaults() const = 0;
-    /// This identifier, then all others of the well-known app that it belongs to.
+    /// This identifier, then all others of the known app that it belongs to.
     [[nodiscard]] virtual std::vector<std::string> identifiersOf(const std::string& bundleID) const = 0;
 };
 
-/// A well-known app that has `bundleID` among its own; null for none.
+/// A known app with `bundleID` among its identifiers; null if there is none.
 [[nodiscard]] const CallApp* callAppWith(const std::vector<CallApp>& apps, const std::string& bundleID);
 
-/// `bundleID`, then the other identifiers of `app`; null: of no app.
+/// `bundleID`, then the other identifiers of `app`, which may be null.
 [[nodiscard]] std::vector<std::string> identifiersWith(const std::string& bundleID, const CallApp* app);
 
 }  // namespace fadeloom

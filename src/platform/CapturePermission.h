@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's consent to capture what other applications play.
+// The user's permission to capture other applications' audio.
 #pragma once
 
 #include <functional>
@@ -11,12 +11,12 @@ class CapturePermission {
 public:
     virtual ~CapturePermission() = default;
 
-    /// The privacy database's answer: 0 granted, 1 denied, other values undecided. Absent where the system has no
-    /// such question. Thread: main.
+    /// The privacy database's status: 0 granted, 1 denied, other values undecided. nullopt if the system requires no
+    /// permission. Thread: main.
     [[nodiscard]] virtual std::optional<int> preflight() const = 0;
-    /// Whether the system can be asked to prompt the user.
+    /// Whether the system can prompt the user.
     [[nodiscard]] virtual bool canRequest() const = 0;
-    /// Prompts the user when undecided. `answered` is called on any thread. Only when `canRequest`.
+    /// Prompts the user if undecided. `answered` is called on any thread. Only if `canRequest`.
     virtual void request(std::function<void(bool isGranted)> answered) = 0;
 };
 

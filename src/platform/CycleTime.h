@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// When an IO cycle runs.
+// Timestamps of IO cycles.
 #pragma once
 
 #include <chrono>
@@ -7,13 +7,13 @@
 
 namespace fadeloom {
 
-/// A moment on the audio system's own clock, which runs evenly and is never set: nanoseconds since a start of its own.
+/// Nanoseconds on the audio system's monotonic clock, since an arbitrary epoch.
 using HostTime = std::chrono::nanoseconds;
 
-/// A cycle's beginning, counted twice: in frames of the clock that drives the cycle, and by the host.
+/// The start of a cycle, in frames of the clock that drives it, and on the host's clock.
 struct CycleTime {
-    std::uint32_t clock = 0;  // Frames of the same clock can be compared, whichever tap counted them.
-    std::int64_t frame = 0;  // Goes on while the clock's device runs; may jump when it was stopped.
+    std::uint32_t clock = 0;  // Frame counts of the same clock are comparable across taps.
+    std::int64_t frame = 0;  // Monotonic while the clock's device runs; may jump after it was stopped.
     HostTime host{};
 
     friend bool operator==(const CycleTime&, const CycleTime&) = default;

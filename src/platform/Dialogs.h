@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Windows that ask the user one thing.
+// Modal questions to the user.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 namespace fadeloom {
 
-/// A message that the user has to answer. Without buttons it has the system's own single one.
+/// A message that the user must dismiss. Without buttons it has the system's default one.
 struct Alert {
     std::string title;
     std::string text;
@@ -26,15 +26,15 @@ public:
 
     virtual ~Dialogs() = default;
 
-    /// Asks for a folder, which may be a new one, and shows `start` first. `prompt` stands on the button that confirms.
-    /// `done` gets the folder, or nothing after a cancel; it is called once, later or before this returns.
+    /// Prompts for a folder, which may be new, starting at `start`. `prompt`: the label of the confirmation button.
+    /// `done` gets the folder, or nullopt if cancelled; it is called once, later or before this returns.
     virtual void chooseFolder(
         const std::filesystem::path& start, const std::string& prompt, FolderChosen done) = 0;
-    /// Asks for an installed application. `done` gets its bundle identifier, or nothing after a cancel or for something
-    /// that is no application; it is called once, later or before this returns.
+    /// Prompts for an installed application. `done` gets its bundle identifier, or nullopt if cancelled or not an
+    /// application; it is called once, later or before this returns.
     virtual void chooseApplication(ApplicationChosen done) = 0;
-    /// Shows a message above other windows. `answered` gets the index of the button, 0 for the system's own; it is called
-    /// once, later or before this returns. Closing the message otherwise counts as its last button.
+    /// Shows a message above other windows. `answered` gets the index of the button, 0 for the system's default; it is
+    /// called once, later or before this returns. Closing the message otherwise counts as its last button.
     virtual void showAlert(const Alert& alert, std::function<void(std::size_t button)> answered) = 0;
 };
 

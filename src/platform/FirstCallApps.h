@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The call apps of macOS. The first versions listed them on every system.
+// The call apps of macOS. Early versions used them on all platforms.
 #pragma once
 
 #include "platform/CallApps.h"

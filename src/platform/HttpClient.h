@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Requests to a web server.
+// HTTP requests.
 #pragma once
 
 #include <chrono>
@@ -14,7 +14,7 @@ struct HttpRequest {
     std::string url;
     std::string userAgent;
     std::chrono::milliseconds timeout{15'000};  // For the whole exchange.
-    std::size_t largestBody = 64 * 1024;  // Bytes; an answer with more counts as none.
+    std::size_t largestBody = 64 * 1024;  // Bytes; a larger response is an error.
 };
 
 struct HttpResponse {
@@ -25,13 +25,13 @@ struct HttpResponse {
 /// Thread: main.
 class HttpClient {
 public:
-    /// Gets nothing when there was no whole answer in time: no network, refused, cut off, too large.
+    /// Gets nullopt without a complete response in time: no network, refused, aborted, too large.
     using Answered = std::function<void(const std::optional<HttpResponse>& response)>;
 
     virtual ~HttpClient() = default;
 
-    /// Asks by GET, past every cache, and follows redirects. Returns at once; `answered` is called once, later, unless
-    /// this object ends first.
+    /// Sends a GET that bypasses caches, and follows redirects. Returns immediately; `answered` is called once, later,
+    /// unless this object is destroyed first.
     virtual void get(const HttpRequest& request, Answered answered) = 0;
 };
 

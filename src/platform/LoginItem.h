@@ -11,14 +11,14 @@ namespace fadeloom {
 /// Thread: main.
 class LoginItem {
 public:
-    /// `requiresApproval`: registered, but the user has to allow it in the system's settings.
+    /// `requiresApproval`: registered, but the user must allow it in the system's settings.
     enum class Status { notRegistered, enabled, requiresApproval, notFound };
 
     virtual ~LoginItem() = default;
 
-    /// As the system has it now, whoever made it so.
+    /// The current state on the system, whoever set it.
     [[nodiscard]] virtual Status status() const = 0;
-    /// Both are no error when it is so already.
+    /// Neither is an error if the state is already as requested.
     virtual std::expected<void, LoginItemError> registerItem() = 0;
     virtual std::expected<void, LoginItemError> unregisterItem() = 0;
 };

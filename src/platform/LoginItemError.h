@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Why the program cannot be made to start at login, or not to.
+// Why starting at login cannot be enabled or disabled.
 #pragma once
 
 #include "base/FileError.h"
@@ -9,18 +9,18 @@
 
 namespace fadeloom {
 
-/// Nobody tells where the program is that would be started.
+/// The location of the program to start is unknown.
 struct ProgramUnknown {
     friend bool operator==(const ProgramUnknown&, const ProgramUnknown&) = default;
 };
 
-/// The system's own sentence, in the user's language.
-struct SystemWords {
+/// The system's own message, in the user's language.
+struct SystemMessage {
     std::string text;
 
-    friend bool operator==(const SystemWords&, const SystemWords&) = default;
+    friend bool operator==(const SystemMessage&, const SystemMessage&) = default;
 };
 
-using LoginItemError = std::variant<FileError, ProgramUnknown, SystemWords>;
+using LoginItemError = std::variant<FileError, ProgramUnknown, SystemMessage>;
 
 }  // namespace fadeloom

@@ -15,7 +15,7 @@ public:
 
     virtual ~MainLoop() = default;
 
-    /// Runs `task` on the main thread in a later turn of the loop, in the order posted. Thread: any.
+    /// Runs `task` on the main thread in a later iteration of the loop, in the order posted. Thread: any.
     virtual void post(Task task) = 0;
     /// Runs `task` once after `delay`, unless the subscription has ended. Thread: main.
     [[nodiscard]] virtual Subscription after(std::chrono::milliseconds delay, Task task) = 0;
@@ -24,7 +24,7 @@ public:
     /// Whether the caller is on the main thread. Thread: any.
     [[nodiscard]] virtual bool isCurrent() const = 0;
 
-    /// Stops the process when the caller is not on the main thread: its state is guarded by nothing else.
+    /// Aborts the process if the caller is not on the main thread: nothing else guards its state.
     void requireCurrent() const;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A device that sound can be sent to.
+// An output device.
 #pragma once
 
 #include <cstdint>
@@ -7,11 +7,11 @@
 
 namespace fadeloom {
 
-/// Never reused while the program runs; 0 for none. A device that is unplugged and plugged in again, or whose channels
-/// change, gets another one.
+/// Never reused while the program runs; 0 for none. A device that is replugged, or whose channels change, gets a new
+/// one.
 using OutputDeviceID = std::uint32_t;
 
-/// One output device as it is connected now. `uid` survives unplugging, `id` does not.
+/// A connected output device. `uid` is stable across replugging, `id` is not.
 struct OutputDevice {
     OutputDeviceID id = 0;
     std::string uid{};
@@ -20,7 +20,7 @@ struct OutputDevice {
     friend bool operator==(const OutputDevice&, const OutputDevice&) = default;
 };
 
-/// Which channels of a device carry left and right, numbered from 1. A mono device names one channel twice.
+/// The left and right channels of a device, numbered from 1. On a mono device both are the same.
 struct StereoChannels {
     std::uint32_t left = 1;
     std::uint32_t right = 2;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Everything the program asks of a system, gathered once and handed down.
+// All platform services of the program, bundled and passed down.
 #pragma once
 
 namespace fadeloom {
@@ -21,7 +21,7 @@ class UserDefaults;
 class WallClock;
 class Workspace;
 
-/// References only: whoever builds a platform keeps its parts alive for as long as the program runs on it.
+/// References only: the builder of a platform keeps its parts alive for as long as the program uses it.
 struct Platform {
     AudioSystem& audio;
     AudioFiles& audioFiles;
@@ -30,7 +30,7 @@ struct Platform {
     LoginItem& loginItem;
     MainLoop& mainLoop;
     BackgroundQueue& utilityQueue;  // The settings write.
-    BackgroundQueue& logQueue;  // The engine log's lines.
+    BackgroundQueue& logQueue;  // The engine log.
     StandardFolders& folders;
     SystemLog& systemLog;
     Text& text;

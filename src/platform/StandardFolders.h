@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where the system keeps a user's files.
+// The user's standard folders.
 #pragma once
 
 #include <filesystem>
@@ -10,9 +10,9 @@ class StandardFolders {
 public:
     virtual ~StandardFolders() = default;
 
-    /// The folder in which each program has one of its own for its settings. Thread: any.
+    /// The parent of all programs' settings folders. Thread: any.
     [[nodiscard]] virtual std::filesystem::path applicationSupport() const = 0;
-    /// The user's folder for music. Thread: any.
+    /// The user's music folder. Thread: any.
     [[nodiscard]] virtual std::filesystem::path music() const = 0;
 };
 

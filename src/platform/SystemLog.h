@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The machine's own log: the journal, syslog, the unified log.
+// The system log: the journal, syslog, the unified log.
 #pragma once
 
 #include <string_view>
@@ -12,7 +12,8 @@ public:
 
     virtual ~SystemLog() = default;
 
-    /// Writes one message, readable by the user. Never fails towards the caller. Thread: any but the IO thread.
+    /// Writes one message, readable by the user. Never fails as far as the caller is concerned. Thread: any but the IO
+    /// thread.
     virtual void write(Level level, std::string_view message) = 0;
 };
 

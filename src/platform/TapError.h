@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Why the sound of some processes cannot be captured.
+// Why a tap cannot be created.
 #pragma once
 
 #include <algorithm>
@@ -10,14 +10,14 @@
 
 namespace fadeloom {
 
-/// One of a fixed set of texts, which the panel translates; any other does not compile.
+/// One of a fixed set of texts, which the panel translates; others do not compile.
 template <const auto& texts>
 class KnownText {
 public:
     constexpr KnownText() = default;
     template <std::size_t size>
     consteval KnownText(
-        const char (&words)[size])  // NOLINT(google-explicit-constructor): reads as the text it is.
+        const char (&words)[size])  // NOLINT(google-explicit-constructor): reads as the text that it is.
         : words_(*std::ranges::find(texts, std::string_view(words)))
     {
     }
@@ -31,11 +31,11 @@ private:
     std::string_view words_{};
 };
 
-/// What may be done when an error comes.
+/// The recoveries for an error.
 inline constexpr std::array<std::string_view, 8> tapSteps = {"Create process tap", "Unsupported tap format",
     "Create aggregate device", "Create IOProc", "Start device", "Switch off the microphone",
     "Create recording file", "Set recording format"};
-/// What may be wrong where the system has no code for it. "%1" is the place of a name or a number.
+/// The reason, if the system provides no code. "%1" is the placeholder for a name or a number.
 inline constexpr std::array<std::string_view, 6> tapReasons = {"no PipeWire server is running",
     "the device is gone", "a process is gone", "of %1 files that may be open, too few are left",
     "PipeWire made no node for it", "the one of %1 would listen while apps play there"};
@@ -45,9 +45,9 @@ using TapReason = KnownText<tapReasons>;
 
 struct TapError {
     TapStep step{};
-    std::int32_t status = 0;  // The system's own code, where it gives codes.
-    TapReason reason{};  // Empty where it does.
-    std::string detail{};  // What stands in the reason's place.
+    std::int32_t status = 0;  // The system's error code, if there is one.
+    TapReason reason{};  // Empty if there is one.
+    std::string detail{};  // Replaces the reason's placeholder.
 
     /// A sentence in English, without a full stop.
     [[nodiscard]] std::string description() const

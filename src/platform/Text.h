@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What only a text library knows: letter case and order, in every script. Texts are UTF-8.
+// Case folding and collation for all scripts. Texts are UTF-8.
 #pragma once
 
 #include <compare>
@@ -13,15 +13,15 @@ class Text {
 public:
     virtual ~Text() = default;
 
-    // Bytes that are not UTF-8 become replacement characters.
+    // Invalid UTF-8 becomes replacement characters.
 
-    /// Lower case by Unicode's rules, whatever the language of the interface.
+    /// Lower case by Unicode's rules, independent of the interface language.
     [[nodiscard]] virtual std::string lowercased(std::string_view text) const = 0;
-    /// Without the white space and line breaks at either end.
+    /// Without leading and trailing white space and line breaks.
     [[nodiscard]] virtual std::string trimmed(std::string_view text) const = 0;
-    /// Whether the texts are the same but for letter case, by Unicode's case folding: "Straße" and "STRASSE" are.
+    /// Case-insensitive equality by Unicode's case folding: "Straße" equals "STRASSE".
     [[nodiscard]] virtual bool equalIgnoringCase(std::string_view one, std::string_view other) const = 0;
-    /// The order of the user's language, without regard to letter case.
+    /// The user's collation order, ignoring case.
     [[nodiscard]] virtual std::weak_ordering compareLocalized(
         std::string_view one, std::string_view other) const = 0;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's own domain of the user's preferences, where the system looks as well.
+// The program's domain of the user's preferences, which the system also reads.
 #pragma once
 
 #include <optional>
@@ -8,12 +8,12 @@
 
 namespace fadeloom {
 
-/// Values inherited from the system's domains are not seen here. Thread: main.
+/// Does not include values inherited from the system's domains. Thread: main.
 class UserDefaults {
 public:
     virtual ~UserDefaults() = default;
 
-    /// Absent when there is nothing, or something that is no list of texts.
+    /// nullopt if there is no value, or it is not a list of strings.
     [[nodiscard]] virtual std::optional<std::vector<std::string>> stringList(
         const std::string& key) const = 0;
     virtual void setStringList(const std::string& key, const std::vector<std::string>& values) = 0;

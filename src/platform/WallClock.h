@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The date and the time of day.
+// Date and time of day.
 #pragma once
 
 #include <chrono>
 
 namespace fadeloom {
 
-/// A moment as the clocks of the user's place show it; it names no time zone.
+/// Local date and time, without a time zone.
 using LocalTime = std::chrono::local_seconds;
 
 /// Thread: any.

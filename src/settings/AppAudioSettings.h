@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is remembered for one application.
+// The settings of one application.
 #pragma once
 
 #include "engine/EqualizerDesign.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the panel looks.
+// Settings of the panel's appearance.
 #pragma once
 
 #include <array>
@@ -10,12 +10,12 @@ namespace fadeloom {
 
 enum class Theme { system, light, dark };
 
-/// Every theme, in the order in which they are offered.
+/// All themes, in the order in which they are presented.
 inline constexpr std::array<Theme, 3> allThemes = {Theme::system, Theme::light, Theme::dark};
 
-/// The text that stands for a theme in the settings file.
+/// The text for a theme in the settings file.
 [[nodiscard]] std::string_view themeText(Theme theme);
-/// The theme that a text stands for; absent for any other text.
+/// The theme for a text; nullopt for any other text.
 [[nodiscard]] std::optional<Theme> themeOf(std::string_view text);
 
 struct AppearanceSettings {

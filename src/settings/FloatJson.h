@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The JSON of this folder's sources and those of commands; no header of ours that others see has it.
+// The JSON type of this folder's sources and those of commands; not exposed in public headers.
 #pragma once
 
 #include <nlohmann/json.hpp>
@@ -11,8 +11,8 @@
 
 namespace fadeloom {
 
-/// Its numbers with a fraction are floats, as ours are. Read as a double first, a text can be rounded twice and come out
-/// as the next float: 7.038531e-26 does.
+/// Its floating-point numbers are floats, like ours. Parsing a text as double first can round twice and yield the next
+/// float: 7.038531e-26 does.
 using FloatJson =
     nlohmann::basic_json<std::map, std::vector, std::string, bool, std::int64_t, std::uint64_t, float>;
 

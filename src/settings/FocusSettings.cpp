@@ -17,7 +17,7 @@ void eraseAll(std::vector<std::string>& list, std::span<const std::string> ident
 DefaultCallApps defaultCallApps(const CallApps& callApps)
 {
     DefaultCallApps defaults{.former = callApps.formerDefaults()};
-    for (const auto& app : callApps.wellKnown())
+    for (const auto& app : callApps.knownApps())
         defaults.current.push_back(app.bundleIDs.front());
     return defaults;
 }

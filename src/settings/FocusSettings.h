@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Whether, how far, and for whose calls the other apps are lowered.
+// Ducking during calls: whether, how far, and for which call apps.
 #pragma once
 
 #include "platform/CallApps.h"
@@ -13,9 +13,9 @@ namespace fadeloom {
 /// Apps are named by bundle identifiers.
 struct FocusSettings {
     bool enabled = true;
-    float duckLevel = 0.2F;  // Linear factor on every other app, 0 to 1.
-    std::vector<std::string> callApps{};  // One identifier stands for all of a well-known app.
-    std::vector<std::string> declinedCallApps{};  // Not offered as call apps any more.
+    float duckLevel = 0.2F;  // Linear factor for every other app, 0 to 1.
+    std::vector<std::string> callApps{};  // One identifier represents all those of a known app.
+    std::vector<std::string> declinedCallApps{};  // No longer suggested as call apps.
 
     friend bool operator==(const FocusSettings&, const FocusSettings&) = default;
 };
@@ -23,16 +23,16 @@ struct FocusSettings {
 /// The list of call apps of a user who never changed it.
 struct DefaultCallApps {
     std::vector<std::string> current{};
-    std::vector<std::string> former{};  // Of an earlier version; empty when there is no other one.
+    std::vector<std::string> former{};  // Default of an earlier version; empty if there is none.
 };
 
 [[nodiscard]] DefaultCallApps defaultCallApps(const CallApps& callApps);
 
-/// Whether the list names the app that has these identifiers.
+/// Whether the list contains any of the app's identifiers.
 [[nodiscard]] bool isCallApp(const FocusSettings& focus, std::span<const std::string> identifiers);
-/// Adds the app with the first of its identifiers, unless it is there.
+/// Adds the app with its first identifier, unless it is on the list.
 void addCallApp(FocusSettings& focus, std::span<const std::string> identifiers);
-/// Takes it off the list; it is not offered from now on.
+/// Removes the app from the list; it is not suggested from now on.
 void removeCallApp(FocusSettings& focus, std::span<const std::string> identifiers);
 
 }  // namespace fadeloom

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Strict decoding of JSON values into C++ ones. For this folder's sources; no header of ours that others see has it.
+// Strict decoding of JSON values into C++ ones. For this folder's sources; not exposed in public headers.
 //
-// `decode` fills `result` or notes a problem, and then `result` means nothing. Records add an overload of their own,
-// made of `decodeField` for each key.
+// `decode` fills `result`, or records a problem, in which case `result` is unspecified. Records add an overload that
+// calls `decodeField` for each key.
 #pragma once
 
 #include "settings/FloatJson.h"
@@ -17,7 +17,7 @@
 
 namespace fadeloom {
 
-/// The first thing that was wrong, with the keys that lead to it.
+/// The first problem, with the path of keys to it.
 class DecodingProblem {
 public:
     [[nodiscard]] bool isNoted() const { return text_.has_value(); }
@@ -32,7 +32,7 @@ public:
         if (!isNoted())
             text_ = std::move(text);
     }
-    /// Takes over a problem that was met below `key`.
+    /// Adopts a problem found below `key`.
     void noteBelow(std::string_view key, const DecodingProblem& below)
     {
         if (below.isNoted())
@@ -51,7 +51,7 @@ inline void decode(const FloatJson& json, bool& result, DecodingProblem& problem
         problem.noteExpected("boolean", json);
 }
 
-/// Any number. None of them is out of range: see `withFiniteNumbers`.
+/// Any number. The range was checked before: see `withFiniteNumbers`.
 inline void decode(const FloatJson& json, float& result, DecodingProblem& problem)
 {
     if (json.is_number())
@@ -98,10 +98,10 @@ void decode(const FloatJson& json, std::map<std::string, Value>& result, Decodin
         decode(value, result[key], problem);
 }
 
-/// What to do with a key whose value is null.
+/// How to treat a key whose value is null.
 enum class Null { isAbsent, isNoValue };
 
-/// Decodes the value under `key` of an object. When the key is missing, `field` keeps its default.
+/// Decodes the value of `key` in an object. If the key is missing, `field` keeps its default.
 template <Null null = Null::isAbsent, typename Field>
 void decodeField(const FloatJson& object, const char* key, Field& field, DecodingProblem& problem)
 {

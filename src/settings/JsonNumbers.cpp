@@ -16,7 +16,7 @@ constexpr std::string_view largestFloat = "3.4028235e38";
 constexpr std::string_view digits = "0123456789";
 constexpr std::string_view numberCharacters = "0123456789+-.eE";
 
-/// Takes the characters of `set` off the front of `text`; how many there were.
+/// Removes leading characters of `set` from `text`; returns how many.
 std::size_t skip(std::string_view& text, std::string_view set)
 {
     const std::size_t count = std::min(text.find_first_not_of(set), text.size());
@@ -49,11 +49,11 @@ bool isNumber(std::string_view text)
 
 bool overflows(std::string_view number)
 {
-    // Without an exponent it takes more digits than this to leave the range.
+    // A number without an exponent needs more digits than this to overflow.
     constexpr std::size_t safeLength = 38;
     if (number.size() < safeLength && number.find_first_of("eE") == std::string_view::npos)
         return false;
-    // A stream reads the same in every locale, and tells a number that is too large from one that is too small.
+    // A stream with the classic locale is locale-independent, and distinguishes overflow from underflow.
     std::istringstream stream{std::string(number)};
     stream.imbue(std::locale::classic());
     float value = 0;
@@ -61,7 +61,7 @@ bool overflows(std::string_view number)
     return stream.fail() && std::abs(value) == std::numeric_limits<float>::max();
 }
 
-/// The length of the string literal that `text` begins with, quotes included.
+/// The length of the string literal at the start of `text`, quotes included.
 std::size_t stringLength(std::string_view text)
 {
     std::size_t end = 1;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Numbers that are good JSON and too large for any number type.
+// Numbers that are valid JSON but too large for any number type.
 #pragma once
 
 #include <string>
@@ -7,8 +7,8 @@
 
 namespace fadeloom {
 
-/// Replaces each number too large for a float (1e39) by the largest float of its sign. The parser refuses a whole text
-/// for one such number, where it is only another number out of range. Everything else stays, valid or not.
+/// Replaces each number too large for a float (1e39) by the largest float of its sign. The parser would reject the
+/// whole text because of one such number, which merely is out of range. Everything else is unchanged, valid or not.
 [[nodiscard]] std::string withFiniteNumbers(std::string_view json);
 
 }  // namespace fadeloom

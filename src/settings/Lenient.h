@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A value that may be damaged without spoiling what is around it.
+// A value that may be damaged without invalidating its surroundings.
 #pragma once
 
 #include <optional>

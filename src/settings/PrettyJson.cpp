@@ -60,7 +60,7 @@ private:
         text_.append(buffer.data(), end);
     }
 
-    // Whatever fits on a line: strings, and the words and whole numbers that need no care.
+    // Values on a single line: strings, booleans, null and integers.
     void writeString(const FloatJson& value)
     {
         text_ += value.dump(-1, ' ', false, FloatJson::error_handler_t::replace);

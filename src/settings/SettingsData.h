@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Everything that the user can change and that outlives the program's run.
+// All persistent settings.
 #pragma once
 
 #include "engine/EQPreset.h"
@@ -15,17 +15,17 @@
 
 namespace fadeloom {
 
-/// The ceilings that can be chosen for every app's volume, as linear factors.
+/// The selectable limits of every app's volume, as linear factors.
 inline constexpr std::array<float, 4> volumeLimits = {1.0F, 1.25F, 1.5F, 2.0F};
 
-/// As made, it is what a user has who never changed anything, but for the call apps, which depend on the system. Apps
-/// are named by their bundle identifiers.
+/// Default-constructed, it has the defaults, except for the call apps, which depend on the platform. Apps are
+/// identified by bundle identifier.
 struct SettingsData {
     std::map<std::string, AppAudioSettings> apps{};
     FocusSettings focus{};
-    std::optional<std::string> recordingsFolder{};  // Absent: the built-in folder.
-    std::map<std::string, std::string>
-        knownAppNames{};  // So that an app can be named while it is not running.
+    std::optional<std::string> recordingsFolder{};  // Absent: the default folder.
+    // So that an app can be named while it is not running.
+    std::map<std::string, std::string> knownAppNames{};
     std::vector<EQPreset> userPresets{};  // In the user's order.
     AppearanceSettings appearance{};
     float volumeLimit = 1;  // One of `volumeLimits`.
@@ -34,7 +34,7 @@ struct SettingsData {
     friend bool operator==(const SettingsData&, const SettingsData&) = default;
 };
 
-/// What a user has who never changed anything.
+/// The settings of a user who never changed anything.
 [[nodiscard]] inline SettingsData defaultSettings(const DefaultCallApps& callApps)
 {
     SettingsData settings;

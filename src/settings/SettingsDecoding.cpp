@@ -11,7 +11,7 @@ using Json = FloatJson;
 
 namespace {
 
-// The edges of what can be set. Linear factors and decibels.
+// The limits of the settings. Linear factors and decibels.
 constexpr float maximumVolume = 2;
 constexpr float maximumPreampDB = 12;
 
@@ -20,13 +20,13 @@ float limitedDB(float decibels, float maximum)
     return std::clamp(decibels, -maximum, maximum);
 }
 
-/// Where the parser stopped, for whoever mends the file by hand.
+/// Where the parser stopped, for someone who edits the file by hand.
 std::string positionOf(std::size_t byte, std::string_view text)
 {
     const auto before = text.substr(0, byte == 0 ? 0 : byte - 1);
     const auto line = 1 + std::ranges::count(before, '\n');
-    const auto column =
-        before.size() - (before.rfind('\n') + 1) + 1;  // Also right on the first line: npos + 1 is 0.
+    // Also correct on the first line: npos + 1 is 0.
+    const auto column = before.size() - (before.rfind('\n') + 1) + 1;
     return "line " + std::to_string(line) + ", column " + std::to_string(column);
 }
 
@@ -60,7 +60,7 @@ static void decode(const Json& value, AppAudioSettings& app, DecodingProblem& pr
 
     app.volume = std::clamp(app.volume, 0.0F, maximumVolume);
     app.eqPreamp = limitedDB(app.eqPreamp, maximumPreampDB);
-    // A list of another length was made for other bands; where its gains belong is not known.
+    // A list of another length was made for other bands; how to map its gains is unknown.
     if (gains.size() == app.eqGains.size())
         std::ranges::transform(
             gains, app.eqGains.begin(), [](float gain) { return limitedDB(gain, eqMaximumGainDB); });
@@ -101,7 +101,7 @@ static void decode(const Json& value, EQPreset& preset, DecodingProblem& problem
 {
     if (!value.is_object())
         return problem.noteExpected("object", value);
-    // A preset has no defaults: without a name or without gains it is none.
+    // A preset has no defaults: without a name or gains it is invalid.
     std::optional<std::string> name;
     std::optional<std::vector<float>> gains;
     decodeField<Null::isNoValue>(value, "name", name, problem);

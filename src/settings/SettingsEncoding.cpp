@@ -10,7 +10,7 @@ namespace {
 
 using Json = FloatJson;
 
-// What a new record has where one has a number that cannot be written.
+// Replaces numbers that JSON cannot represent.
 float finite(float value, float otherwise)
 {
     return std::isfinite(value) ? value : otherwise;
@@ -36,7 +36,7 @@ Json encode(const AppAudioSettings& app)
         {"eqGains", encodeGains(app.eqGains)},
         {"eqPreamp", finite(app.eqPreamp, defaults.eqPreamp)},
     };
-    // Always written, for a missing name is read as the default one.
+    // Always written, because a missing name is read as the default one.
     if (app.eqPresetName)
         object["eqPresetName"] = *app.eqPresetName;
     if (app.outputUID)

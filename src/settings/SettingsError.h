@@ -10,7 +10,7 @@
 
 namespace fadeloom {
 
-/// A text that is not understood as settings.
+/// A text that does not parse as settings.
 struct SettingsError {
     std::string description;  // In English, for the log.
 
@@ -23,7 +23,7 @@ struct SettingsTooLarge {
     friend bool operator==(const SettingsTooLarge&, const SettingsTooLarge&) = default;
 };
 
-/// Why the file of settings cannot be read or replaced.
+/// Why the settings file cannot be read or replaced.
 using SettingsFileError = std::variant<FileError, SettingsTooLarge>;
 
 }  // namespace fadeloom

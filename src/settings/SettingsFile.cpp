@@ -17,8 +17,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Of reading and of writing. Thousands of apps take a tenth of this. Whatever is larger is no settings file, and taking
-// it apart would need many times its size in memory.
+// For reading and writing. Thousands of apps take a tenth of this. Anything larger is not a settings file, and parsing
+// it would take many times its size in memory.
 constexpr std::size_t maximumSize = std::size_t{16} * 1024 * 1024;
 
 SettingsTooLarge tooLarge()
@@ -26,7 +26,7 @@ SettingsTooLarge tooLarge()
     return {.maximumBytes = maximumSize};
 }
 
-/// Why the file must not be replaced: it may hold what nobody has seen.
+/// Why the file must not be replaced: its content has not been read.
 std::optional<SettingsFileError> reasonToKeep(
     const std::expected<std::string, AtomicFile::ReadError>& content)
 {

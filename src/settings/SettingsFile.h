@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The settings file: where it is, how it is read, how it is written.
+// The settings file: its location, reading and writing.
 #pragma once
 
 #include "settings/SettingsData.h"
@@ -14,25 +14,24 @@ namespace fadeloom {
 class StandardFolders;
 class SystemLog;
 
-/// Without state. Thread: any; saves of one file one at a time.
+/// Stateless. Thread: any; one save per file at a time.
 namespace SettingsFile {
 
 [[nodiscard]] std::filesystem::path defaultURL(const StandardFolders& folders);
 
 struct Loaded {
     SettingsData settings;
-    std::optional<SettingsFileError> unreadable;  // Why there may be settings that are not these.
+    std::optional<SettingsFileError> unreadable;  // Why existing settings may differ from these.
 };
 
-/// Never fails. Where there is no file yet, the settings are the defaults. A file that can be read but not understood
-/// gives them as well; it is copied to a backup beside it, in place of any older one, before the next save overwrites
-/// it, and `log` gets one line. A file that is there and cannot be read gives them, too, with the reason: nothing may
-/// be saved in its place.
+/// Never fails. A missing file gives the defaults. So does an invalid one, which is copied to a backup beside it,
+/// replacing any older one, before the next save overwrites it, and `log` gets one line. An existing file that cannot
+/// be read also gives the defaults, with the reason: it must not be replaced.
 [[nodiscard]] Loaded load(
     const std::filesystem::path& file, SystemLog& log, const DefaultCallApps& callApps = {});
 
-/// Replaces the file, and makes the folders above it. Refuses what `load` would find too large, and to replace a file
-/// that cannot be read. After an error the file is as it was.
+/// Replaces the file, and creates missing parent folders. Refuses a size that `load` would reject, and to replace a
+/// file that cannot be read. After an error the file is unchanged.
 [[nodiscard]] std::expected<void, SettingsFileError> save(
     const SettingsData& settings, const std::filesystem::path& file);
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Settings as JSON text.
 //
-// Reading forgives what a hand edit or another version may leave behind: missing keys and unknown ones, numbers out of
-// range, one damaged app among good ones. It does not forgive a value of the wrong type anywhere else, for then it is
-// not known what was meant.
+// Reading tolerates what manual edits or other versions may leave behind: missing and unknown keys, numbers out of
+// range, a damaged app among valid ones. It does not tolerate a wrong type anywhere else, because the intention is
+// unknown.
 #pragma once
 
 #include "settings/SettingsData.h"
@@ -15,14 +15,13 @@
 
 namespace fadeloom {
 
-/// Reads and repairs a record. Any bytes may come in. A list of call apps that is missing, or is the former default,
-/// becomes the current default. Thread: any.
+/// Parses and repairs a record. Accepts arbitrary bytes. A list of call apps that is missing, or equals the former
+/// default, becomes the current default. Thread: any.
 [[nodiscard]] std::expected<SettingsData, SettingsError> decodeSettings(
     std::string_view text, const DefaultCallApps& defaults = {});
 
-/// Writes a record, one member per line, keys in order; the same record gives the same bytes. What JSON cannot say is
-/// replaced: a number that is not finite by its default, bytes that are not UTF-8 by replacement characters.
-/// Thread: any.
+/// Serializes a record, one member per line, sorted keys; equal records give equal bytes. What JSON cannot represent is
+/// replaced: a non-finite number by its default, invalid UTF-8 by replacement characters. Thread: any.
 [[nodiscard]] std::string encodeSettings(const SettingsData& settings);
 
 }  // namespace fadeloom

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The language of the interface, where the user wants another one than the system's.
+// The language of the interface, if the user prefers another one than the system's.
 //
-// The choice is kept in the program's own preferences, under the key where the system's machinery looks for it as well.
-// It takes effect at the next start.
+// The choice is stored in the program's preferences, under the key that the platform also uses. It takes effect at the
+// next start.
 #pragma once
 
 #include <array>
@@ -21,18 +21,18 @@ namespace AppLanguage {
 
 struct Choice {
     std::string_view code;
-    std::string_view ownName;  // As its speakers call it.
+    std::string_view ownName;  // In the language itself.
 };
-/// What the user chooses from. The first follows the system's preferred languages, and has no name of its own.
+/// The user's options. The first follows the system's preferred languages, and has no name.
 inline constexpr std::array choices = {Choice{"system", ""}, Choice{"en", "English"}, Choice{"pl", "Polski"}};
 
-/// The choice for the next start. What is stored by other means, and is none of the choices, reads as "system".
+/// The choice for the next start. A value stored by other means that is none of the options reads as "system".
 [[nodiscard]] std::string current(const UserDefaults& defaults);
 void set(UserDefaults& defaults, const std::string& code);
-/// The languages to look for texts in at the start, best first, also those that are none of the choices; empty for the
-/// system's.
+/// The languages whose translations to look for at startup, in order of preference, including those that are no option;
+/// empty for the system's.
 [[nodiscard]] std::vector<std::string> preferred(const UserDefaults& defaults);
-/// Starts the program anew: calls `terminate` once a new instance was asked for, whether it started or not.
+/// Restarts the program: calls `terminate` once a new instance was requested, whether it started or not.
 void relaunch(Workspace& workspace, std::function<void()> terminate);
 
 }  // namespace AppLanguage

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the update feed says.
+// The contents of the update feed.
 #pragma once
 
 #include <cstdint>
@@ -10,14 +10,14 @@
 namespace fadeloom {
 
 struct RemoteVersion {
-    std::string version;  // For the user's eyes, as "1.4".
-    std::int64_t build = 0;  // What counts.
+    std::string version;  // For display, such as "1.4".
+    std::int64_t build = 0;  // The number that is compared.
 
     friend bool operator==(const RemoteVersion&, const RemoteVersion&) = default;
 };
 
-/// Reads the feed: a JSON object with a text `version` and an integer `build`. Other keys do not count; anything else
-/// cannot be read, and is absent. Any bytes may come in.
+/// Parses the feed: a JSON object with a string `version` and an integer `build`. Other keys are ignored; nullopt for
+/// anything else. Accepts arbitrary bytes.
 [[nodiscard]] std::optional<RemoteVersion> decodeRemoteVersion(std::string_view feed);
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Texts of the interface in the user's language.
+// Translated texts of the interface.
 #pragma once
 
 #include <functional>
@@ -8,11 +8,11 @@
 
 namespace fadeloom {
 
-/// Looks a text up by the context that it belongs to and its English form, which is its key. The string tables are filled
-/// from the sources: a call has to be named `translate` and be given both as literals, or the text is not found there.
+/// Looks up a text by its context and its English form, which is the key. The string tables are extracted from the
+/// sources: a call must be named `translate` and be given both as literals, or the text is not found.
 using Translate = std::function<std::string(const char* context, const char* text)>;
 
-/// The text with `value` in the place of its first "%1".
+/// The text with its first "%1" replaced by `value`.
 [[nodiscard]] std::string withValue(std::string text, std::string_view value);
 
 }  // namespace fadeloom

@@ -66,7 +66,7 @@ void UpdateChecker::check(std::function<void(bool)> done)
         life_.whileAlive(answered));
 }
 
-// Builds alone are compared. How a version is called says nothing.
+// Only build numbers are compared; version names carry no order.
 void UpdateChecker::take(const RemoteVersion& remote)
 {
     const bool isNewer = remote.build > localBuild_;
@@ -75,10 +75,10 @@ void UpdateChecker::take(const RemoteVersion& remote)
 
 void UpdateChecker::checkInteractively()
 {
-    check([this](bool isReachable) { tellOutcome(isReachable); });
+    check([this](bool isReachable) { reportOutcome(isReachable); });
 }
 
-void UpdateChecker::tellOutcome(bool isReachable)
+void UpdateChecker::reportOutcome(bool isReachable)
 {
     parts_.application.activate();
     if (const auto& remote = *available_) {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Looks for a newer version of the program.
+// Checks for a newer version of the program.
 //
-// It asks a small feed on the product's web server, silently at the start and once a day, and publishes what is newer.
-// When the user asks, a message tells the outcome. It downloads and installs nothing: it opens the page where the user
-// finds the new version.
+// It queries a small feed on the product's web server, silently at startup and once a day, and publishes a newer
+// version. A check requested by the user reports its result in a message. It downloads and installs nothing: it opens
+// the download page.
 #pragma once
 
 #include "base/LifeToken.h"
@@ -32,14 +32,14 @@ class UpdateChecker {
 public:
     static constexpr std::chrono::hours checkInterval{24};
 
-    /// What is installed, and where to ask.
+    /// What is installed, and where to check.
     struct Product {
-        std::string version;  // For the user's eyes.
-        std::string
-            build;  // Its number in digits; anything else counts as 0, which is older than any release.
-        std::string endpoint;  // The base address of the web server.
+        std::string version;  // For display.
+        // Its number in digits; anything else counts as 0, which is older than any release.
+        std::string build;
+        std::string endpoint;  // The base URL of the web server.
     };
-    /// What it works with; all must outlive it.
+    /// Its dependencies; all must outlive it.
     struct Parts {
         MainLoop& mainLoop;
         HttpClient& http;
@@ -49,20 +49,20 @@ public:
         Translate translate;
     };
 
-    /// Asks nobody yet.
+    /// Does not send a request yet.
     UpdateChecker(Product product, Parts parts);
     UpdateChecker(const UpdateChecker&) = delete;
     UpdateChecker& operator=(const UpdateChecker&) = delete;
 
-    /// The newer version that the last successful check found; absent when there is none, or nothing is known.
+    /// The newer version found by the last successful check; nullopt if there is none, or nothing is known.
     [[nodiscard]] const Published<std::optional<RemoteVersion>>& available() const { return available_; }
 
-    /// Checks now and from then on once a day. To be called once.
+    /// Checks now and once a day from then on. Call once.
     void start();
-    /// Asks the feed; `done` hears whether it could be read. Without that, `available` stays as it was: what was found
-    /// before still holds. Checks may overlap; the last one that ends decides.
+    /// Queries the feed; `done` receives whether it could be read. If not, `available` is unchanged: the earlier result
+    /// still holds. Checks may overlap; the last one to finish wins.
     void check(std::function<void(bool isReachable)> done);
-    /// Checks, and tells the user the outcome. Returns at once.
+    /// Checks, and reports the result to the user. Returns immediately.
     void checkInteractively();
     /// In the user's browser.
     void openDownloadPage();
@@ -73,7 +73,7 @@ public:
 
 private:
     void take(const RemoteVersion& remote);
-    void tellOutcome(bool isReachable);
+    void reportOutcome(bool isReachable);
     [[nodiscard]] Alert updateAlert(const RemoteVersion& remote) const;
 
     const Product product_;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Addresses of the product's web server.
+// URLs on the product's web server.
 #pragma once
 
 #include <string>
@@ -7,10 +7,10 @@
 
 namespace fadeloom {
 
-/// The host name of an address, without a port; empty when it has none.
+/// The host name of a URL, without the port; empty if it has none.
 [[nodiscard]] std::string hostName(std::string_view url);
 
-/// The address of a page: `path` begins with a slash, and `base` may end with one.
+/// The URL of a page: `path` begins with a slash, and `base` may end with one.
 [[nodiscard]] std::string pageURL(std::string_view base, std::string_view path);
 
 }  // namespace fadeloom

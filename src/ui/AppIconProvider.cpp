@@ -17,7 +17,7 @@ namespace {
 
 constexpr QLatin1String prefix("image://appicon/?");
 
-// A name may begin with a sign that is made of several characters; half of it is none.
+// The first grapheme: part of a multi-character sequence would not be displayable.
 QString initialOf(const QString& name)
 {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, name);
@@ -25,7 +25,7 @@ QString initialOf(const QString& name)
     return end > 0 ? name.left(end).toUpper() : QString();
 }
 
-// By ourselves: whether an image format plugin for such files is installed is the desktop's affair.
+// Rendered explicitly, because Qt's plugin for the format may not be installed.
 QPixmap drawing(const QString& file, QSize size)
 {
     QSvgRenderer renderer(file);
@@ -44,7 +44,7 @@ QString valueOf(const QUrlQuery& query, const char* key)
     return query.queryItemValue(QLatin1String(key), QUrl::FullyDecoded);
 }
 
-// Null when neither the theme nor the file has a picture. `size`: in device pixels, so that nothing is to be scaled.
+// Null if neither the theme nor the file has an icon. `size`: in device pixels, so that nothing is scaled.
 QPixmap pictureOf(const QUrlQuery& query, QSize size)
 {
     if (const auto theme = valueOf(query, "theme"); !theme.isEmpty() && QIcon::hasThemeIcon(theme))
@@ -55,7 +55,7 @@ QPixmap pictureOf(const QUrlQuery& query, QSize size)
     return file.endsWith(QLatin1String(".svg")) ? drawing(file, size) : QIcon(file).pixmap(size, 1.0);
 }
 
-// The measures are those of a tile of 28, as our other tiles have them.
+// The dimensions are for a tile of 28, like our other tiles.
 QPixmap tile(const QString& initial, QSize size)
 {
     constexpr double side = 28;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The pictures of applications: image://appicon/<what source() says>.
+// Application icons: image://appicon/<the result of source()>.
 #pragma once
 
 #include "control/AppEntry.h"
@@ -9,12 +9,12 @@
 
 namespace fadeloom {
 
-/// An app without a picture gets a tile with the first letter of its name.
+/// An app without an icon gets a tile with the first letter of its name.
 class AppIconProvider final : public QQuickImageProvider {
 public:
     AppIconProvider();
 
-    /// Where the picture of an app is found.
+    /// The source of an app's icon.
     [[nodiscard]] static QString source(const AppEntry& app);
 
     QPixmap requestPixmap(const QString& id, QSize* size, const QSize& requestedSize) override;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The mixer's rows as a list that views repeat over.
+// The mixer's rows as a list model.
 //
-// A row lives as long as its app is listed, whatever the order becomes: what a view holds of it (that it is open, that a
-// name is being typed) stays.
+// A row object lives as long as its app is listed, regardless of reordering: the view's state for it (whether it is
+// expanded, a name being typed) is kept.
 #pragma once
 
 #include "base/Subscription.h"
@@ -30,11 +30,11 @@ class AppRowList : public QAbstractListModel {
     QML_UNCREATABLE("made by the panel")
 
 public:
-    /// All must outlive this.
+    /// All arguments must outlive this.
     AppRowList(AudioController& controller, const WallClock& clock, MainLoop& mainLoop, QObject* parent);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    /// The row itself, under the role "row".
+    /// The row object, in the role "row".
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
@@ -42,10 +42,10 @@ private:
     struct DeleteLater {
         void operator()(QObject* object) const { object->deleteLater(); }
     };
-    // A row may go while one of its own buttons is being pressed.
+    // Deferred deletion: a row may be removed while one of its own buttons is being pressed.
     using Row = std::unique_ptr<AppRowModel, DeleteLater>;
 
-    /// What of the settings shows in every row.
+    /// The part of the settings that affects every row.
     struct Common {
         float volumeLimit = 1;
         FocusSettings focus{};
@@ -69,7 +69,7 @@ private:
     Common common_;
 
     std::vector<Subscription> observed_;
-    std::optional<Subscription> elapsedTimer_;  // While anything is recorded.
+    std::optional<Subscription> elapsedTimer_;  // While anything is being recorded.
 };
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One row of the mixer as a view shows and edits it.
+// View model of one row of the mixer.
 #pragma once
 
 #include "control/AppEntry.h"
@@ -49,7 +49,7 @@ class AppRowModel : public QObject {
     Q_PROPERTY(fadeloom::EQModel* eq READ eq CONSTANT)
 
 public:
-    /// What a status means, for its colour.
+    /// The severity of a status, which selects its colour.
     enum class Tone { Neutral, Warning, Recording, Call };
     Q_ENUM(Tone)
 
@@ -66,7 +66,7 @@ public:
     [[nodiscard]] Tone statusTone() const;
     [[nodiscard]] bool canRetry() const { return shown_.status.kind == StatusLine::Kind::failed; }
     [[nodiscard]] bool isMuted() const { return shown_.settings.muted; }
-    /// What plays: no more than the limit, also where more is stored.
+    /// The effective volume: clamped to the limit even if a higher one is stored.
     [[nodiscard]] qreal volume() const { return static_cast<qreal>(audibleVolume()); }
     [[nodiscard]] qreal volumeLimit() const { return static_cast<qreal>(shown_.volumeLimit); }
     [[nodiscard]] qreal volumePercent() const { return percentOf(audibleVolume()); }
@@ -75,12 +75,12 @@ public:
     [[nodiscard]] QString percent() const;
     [[nodiscard]] QString spokenVolume() const;
     [[nodiscard]] QString output() const { return shown_.output; }
-    /// Built for each call: views ask while the menu is open.
+    /// Built for each call: views read it while the menu is open.
     [[nodiscard]] QVariantList outputEntries() const;
-    /// What accepting would do; empty while the app is not offered as a call app.
+    /// The effect of accepting; empty while the app is not suggested as a call app.
     [[nodiscard]] QString callOffer() const { return shown_.callOffer; }
     [[nodiscard]] bool isRecording() const { return shown_.isRecording; }
-    /// How long the recording has been going on; empty without one.
+    /// Elapsed time of the recording; empty without one.
     [[nodiscard]] QString elapsed() const { return elapsed_; }
     /// The meter's position, 0 to 1; 0 while the app is muted.
     [[nodiscard]] qreal level() const { return shown_.settings.muted ? 0 : static_cast<qreal>(level_); }
@@ -98,10 +98,10 @@ public:
     Q_INVOKABLE void startRecording();
     Q_INVOKABLE void stopRecording();
 
-    /// Reads what the row shows from the controller.
+    /// Updates everything that the row shows from the controller.
     void refresh(AppEntry app);
     void refresh() { refresh(shown_.app); }
-    /// The same when the settings of this app are not those that are shown; the preset menu may have changed anyway.
+    /// The same if this app's settings differ from those shown; the preset menu may have changed anyway.
     void takeSettings();
     void refreshLevel();
     void refreshElapsed();

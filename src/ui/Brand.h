@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The three colours of the program, which stand for sound.
+// The three brand colours.
 #pragma once
 
 #include <QColor>

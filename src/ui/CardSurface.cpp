@@ -51,7 +51,7 @@ void CardSurface::paintFill(QPainter& painter) const
     painter.setBrush(fill);
     painter.drawRoundedRect(boundingRect(), radius_, radius_);
 
-    // The light on the upper edge, under the border: it ends where the corners turn down.
+    // The highlight along the upper edge, inside the border, ends where the corners begin.
     painter.save();
     painter.setClipRect(QRectF(0, 0, width(), radius_));
     QLinearGradient light(0, 0, 0, radius_);

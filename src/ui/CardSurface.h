@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The ground of a card: translucent like glass or plain, with a line along the inside of its edge.
+// A card's background: translucent like glass or opaque, with a line along the inside of its edge.
 #pragma once
 
 #include <QColor>
@@ -8,7 +8,7 @@
 
 namespace fadeloom {
 
-/// Painted, because a rectangle of Qt Quick has no line of two colours.
+/// Painted, because a Rectangle of Qt Quick has no border in two colours.
 class CardSurface : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -32,7 +32,7 @@ private:
 
     bool hasGlass_ = true;
     qreal radius_ = 10;
-    qreal highlight_ = 0;  // From 0, the quiet line, to 1, the brand's colours.
+    qreal highlight_ = 0;  // From 0, the neutral line, to 1, the brand colours.
     bool isDark_ = true;
     QColor ink_ = Qt::white;
 };

@@ -43,12 +43,14 @@ DemoNames namesOf(DemoHome home)
     };
 }
 
-AppEntry app(const DemoApp& names, const std::string& icon, bool isPlaying)
+enum class Playing { no, yes };
+
+AppEntry app(const DemoApp& names, const std::string& icon, Playing playing)
 {
     return {.bundleID = names.bundleID,
         .name = names.name,
         .icon = {.themeName = {}, .file = ":/icons/demo-" + icon + ".svg"},
-        .isPlaying = isPlaying,
+        .isPlaying = playing == Playing::yes,
         .callIDs = {names.bundleID}};
 }
 
@@ -82,8 +84,8 @@ DemoContents demoContents(Theme theme, DemoHome home)
         devices.push_back({.id = static_cast<OutputDeviceID>(devices.size() + 1),
             .uid = "demo." + std::to_string(devices.size()),
             .name = name});
-    return {.apps = {app(names.apps[0], "music", true), app(names.apps[1], "safari", true),
-                app(names.apps[2], "facetime", false), app(names.apps[3], "tv", false)},
+    return {.apps = {app(names.apps[0], "music", Playing::yes), app(names.apps[1], "safari", Playing::yes),
+                app(names.apps[2], "facetime", Playing::no), app(names.apps[3], "tv", Playing::no)},
         .devices = std::move(devices),
         .settings = demoSettings(theme, names),
         .levels = {{names.apps[0].bundleID, 0.82F}, {names.apps[1].bundleID, 0.58F}}};

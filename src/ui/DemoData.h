@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-// What the pictures of the panel show.
+// The contents of screenshots.
 #pragma once
 
 #include "control/DemoContents.h"
 
 namespace fadeloom {
 
-/// The system whose applications and devices the pictures show.
+/// The platform whose applications and devices are shown.
 enum class DemoHome { ofLinux, ofMacOS };
 
-/// The first app has its equalizer on; pictures show it open.
+/// The first app has its equalizer on; screenshots show it expanded.
 [[nodiscard]] DemoContents demoContents(Theme theme, DemoHome home = DemoHome::ofMacOS);
 
 }  // namespace fadeloom

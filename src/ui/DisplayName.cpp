@@ -20,7 +20,7 @@ std::string displayName(const SettingsData& settings, const CallApps& callApps, 
 {
     if (const auto known = settings.knownAppNames.find(bundleID); known != settings.knownAppNames.end())
         return known->second;
-    if (const auto* const known = callAppWith(callApps.wellKnown(), bundleID))
+    if (const auto* const known = callAppWith(callApps.knownApps(), bundleID))
         return known->name;
     if (const auto installed = installedName ? installedName(bundleID) : std::nullopt)
         return withoutEach(*installed, ".app");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What an app is called in a list, whether it runs or not.
+// An app's name in a list, whether it is running or not.
 #pragma once
 
 #include "platform/CallApps.h"
@@ -11,11 +11,10 @@
 
 namespace fadeloom {
 
-/// The name that the system has for an installed application; absent when it knows none.
+/// The system's name for an installed application; nullopt if it is unknown.
 using InstalledName = std::function<std::optional<std::string>(const std::string& bundleID)>;
 
-/// The name remembered for the app, else that of a well-known call app, else the system's without ".app", else the
-/// identifier itself.
+/// The name stored for the app, else that of a known call app, else the system's without ".app", else the identifier.
 [[nodiscard]] std::string displayName(const SettingsData& settings, const CallApps& callApps,
     const std::string& bundleID, const InstalledName& installedName);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One app's equalizer as a view shows and edits it.
+// View model of one app's equalizer.
 #pragma once
 
 #include "engine/EqualizerDesign.h"
@@ -42,10 +42,10 @@ public:
     [[nodiscard]] qreal preamp() const { return static_cast<qreal>(shown_.preamp); }
     [[nodiscard]] QString preampText() const;
     [[nodiscard]] QString spokenPreamp() const;
-    // Menus are built for each call: views ask while one is open.
-    /// The built-in presets in their groups, then the user's.
+    // Menus are built for each call: views read them while one is open.
+    /// The built-in presets in groups, then the user's.
     [[nodiscard]] QVariantList presetEntries() const;
-    /// What the menu offers below the presets.
+    /// The menu's actions below the presets.
     [[nodiscard]] QVariantList actionEntries() const;
     [[nodiscard]] QVariantList deleteEntries() const;
 
@@ -55,7 +55,7 @@ public:
     Q_INVOKABLE QString spokenGain(qreal gain) const;
 
     Q_INVOKABLE void setEnabled(bool isEnabled);
-    /// The curve has no preset's name afterwards, and is heard.
+    /// The curve loses its preset's name, and takes effect.
     Q_INVOKABLE void setGain(int band, qreal gain);
     Q_INVOKABLE void setPreamp(qreal preamp);
     Q_INVOKABLE void applyPreset(const QString& key);
@@ -63,7 +63,7 @@ public:
     Q_INVOKABLE void savePreset(const QString& name);
     Q_INVOKABLE void deletePreset(const QString& name);
 
-    /// Reads what is shown from the controller.
+    /// Updates everything that is shown from the controller.
     void refresh();
 
 Q_SIGNALS:

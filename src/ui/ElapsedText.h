@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How long something has been going on, in words for the panel.
+// Elapsed time as text for the panel.
 #pragma once
 
 #include <QString>
@@ -8,7 +8,7 @@
 
 namespace fadeloom {
 
-/// Minutes and whole seconds: "0:07", "12:30", "75:00". A clock that went back shows "0:00".
+/// Minutes and whole seconds: "0:07", "12:30", "75:00". "0:00" if the clock was set back.
 [[nodiscard]] QString elapsedText(std::chrono::system_clock::duration elapsed);
 
 }  // namespace fadeloom

@@ -17,7 +17,7 @@ constexpr std::array<const char*, eqBandCount> labels = {
 
 float wholeGain(double value)
 {
-    // Adding zero turns a rounded −0 into 0, which is what a flat band has.
+    // Adding zero turns a rounded −0 into 0, the value of a flat band.
     const double whole = std::round(value) + 0.0;
     return std::clamp(static_cast<float>(whole), -eqMaximumGainDB, eqMaximumGainDB);
 }

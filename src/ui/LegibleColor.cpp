@@ -30,7 +30,7 @@ double contrast(const QColor& one, const QColor& other)
 
 QColor legibleBeside(const QColor& color, const QColor& other)
 {
-    // The way that leads further.
+    // The direction with more contrast.
     const bool goesUp = contrast(other, Qt::white) > contrast(other, Qt::black);
     float hue = 0;
     float saturation = 0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One line of a menu.
+// An entry of a menu.
 #pragma once
 
 #include <QObject>
@@ -10,7 +10,7 @@
 
 namespace fadeloom {
 
-/// A value that views read. `key` says what was chosen; only a choice or a submenu can be.
+/// A value type for views. `key` identifies the choice; only a choice or a submenu can be selected.
 struct MenuEntry {
     enum class Kind { choice, heading, separator, submenu };
 
@@ -37,7 +37,7 @@ public:
 
 using MenuEntries = std::vector<MenuEntry>;
 
-/// The entries as a view takes them.
+/// The entries as a list for QML.
 [[nodiscard]] inline QVariantList variantsOf(const MenuEntries& entries)
 {
     QVariantList variants;

@@ -11,7 +11,7 @@ QString words(const char* text)
     return QCoreApplication::translate("MessageText", text);
 }
 
-// For the tables: these are chosen by what an error holds.
+// For extraction into the tables: these are selected by an error's contents.
 [[maybe_unused]] constexpr const char* tapTexts[] = {
     QT_TRANSLATE_NOOP("MessageText", "Create process tap"),
     QT_TRANSLATE_NOOP("MessageText", "Unsupported tap format"),
@@ -76,7 +76,7 @@ struct Wording {
     {
         return words(QT_TRANSLATE_NOOP("MessageText", "The system does not tell where this program is."));
     }
-    QString operator()(const SystemWords& error) const { return QString::fromStdString(error.text); }
+    QString operator()(const SystemMessage& error) const { return QString::fromStdString(error.text); }
 
     QString operator()(const BuiltInPresetName& error) const
     {

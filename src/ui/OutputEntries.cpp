@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QStringList>
+
 #include <algorithm>
 
 namespace fadeloom {
@@ -25,7 +26,7 @@ QString nameOf(const OutputDevice& device)
     return QString::fromStdString(device.name);
 }
 
-/// The devices that the app plays on by its own choice; none for one that follows the system.
+/// The devices that the app has chosen itself; empty for one that follows the system.
 QStringList ownOutputNames(const ControllerState& state, const std::string& bundleID)
 {
     const auto app = std::ranges::find(*state.apps, bundleID, &AppEntry::bundleID);

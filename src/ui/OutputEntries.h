@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The two menus of outputs: the system's own, and where one app plays.
+// The two menus of outputs: the system's default, and one app's.
 #pragma once
 
 #include "control/ControllerState.h"
@@ -18,8 +18,8 @@ namespace fadeloom {
 
 /// Following the system, with an empty key, then the connected devices; the keys are their unique ids.
 [[nodiscard]] MenuEntries appOutputEntries(const ControllerState& state, const std::string& bundleID);
-/// The name of the chosen device, "Disconnected, muted" when it is away, the devices that the app chose for itself, or
-/// "System Output".
+/// The name of the selected device, "Disconnected, muted" if it is missing, the devices that the app has chosen itself,
+/// or "System Output".
 [[nodiscard]] QString appOutputLabel(const ControllerState& state, const std::string& bundleID);
 
 }  // namespace fadeloom

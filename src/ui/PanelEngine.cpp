@@ -12,13 +12,13 @@
 #include <QUrl>
 #include <QVariant>
 
-// Made by the build for the module; naming it keeps the linker from dropping the registration from a static library.
+// Generated for the module; referencing it keeps the linker from dropping the registration from a static library.
 void qml_register_types_Fadeloom();
 
 namespace fadeloom {
 namespace {
 
-// Fonts belong to the process: once is enough.
+// Fonts are per process: once is enough.
 void addFonts()
 {
     static const bool isDone = [] {
@@ -46,7 +46,7 @@ std::unique_ptr<QQuickItem> PanelEngine::makeRootView(PanelModel& panel, const Q
 {
     QQmlEngine::setObjectOwnership(&panel, QQmlEngine::CppOwnership);
     QQmlComponent component(&engine_, QUrl(QStringLiteral("qrc:/qt/qml/Fadeloom/RootView.qml")));
-    // One with errors must not be created: Qt 6.4 would crash.
+    // A component with errors must not be created: Qt 6.4 would crash.
     std::unique_ptr<QObject> object;
     if (component.isReady())
         object.reset(

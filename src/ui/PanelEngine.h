@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Makes the panel's view: an engine that knows our types, symbols, icons and fonts, and the root view in it.
+// Creates the panel's view: an engine with our types, symbols, icons and fonts, and the root view in it.
 #pragma once
 
 #include <QQmlEngine>
@@ -20,9 +20,9 @@ public:
     PanelEngine(const PanelEngine&) = delete;
     PanelEngine& operator=(const PanelEngine&) = delete;
 
-    /// The root view on `panel`, which must outlive it; put it into a window. `expandedApp` is the bundle identifier of
-    /// the row that is open from the start. Its implicit height follows what it shows; a window follows that. Null after
-    /// a fault in a view, which is then told on the message log.
+    /// The root view of `panel`, which must outlive it; put it into a window. `expandedApp`: bundle identifier of the
+    /// row that is initially expanded. Its implicit height follows its contents; the window must follow that. Null
+    /// after an error in a view, which is logged.
     [[nodiscard]] std::unique_ptr<QQuickItem> makeRootView(
         PanelModel& panel, const QString& expandedApp = {});
 
@@ -30,7 +30,7 @@ private:
     QQmlEngine engine_;
 };
 
-/// Draws every window by the processor, as the panel wants it on Linux. Before the first window.
+/// Selects software rendering for all windows, as the panel needs on Linux. Call before creating the first window.
 void drawBySoftware();
 
 }  // namespace fadeloom

@@ -23,7 +23,7 @@ PanelModel::PanelModel(AudioController& controller, const PanelParts& parts, QOb
     , rows_(controller, parts.clock, parts.mainLoop, this)
     , settings_(controller, parts, this)
     , banner_(readBanner())
-    , look_(controller.state().settings->appearance)
+    , appearance_(controller.state().settings->appearance)
 {
     observe();
 }
@@ -38,12 +38,12 @@ void PanelModel::observe()
     whenAssigned(state.devices, [this] { Q_EMIT outputsChanged(); });
     whenAssigned(state.defaultDeviceUID, [this] { Q_EMIT outputsChanged(); });
     whenAssigned(state.lastRecording, [this] { Q_EMIT lastRecordingChanged(); });
-    whenAssigned(state.apps, [this] { refreshBanner(); });  // One of them may be the call's.
+    whenAssigned(state.apps, [this] { refreshBanner(); });  // The app on a call may have changed.
     whenAssigned(state.callApp, [this] { refreshBanner(); });
     whenAssigned(state.error, [this] { refreshBanner(); });
     whenAssigned(state.settings, [this] {
         refreshBanner();
-        refreshLook();
+        refreshAppearance();
     });
     if (parts_.updates != nullptr)
         whenAssigned(parts_.updates->available(), [this] { Q_EMIT availableVersionChanged(); });
@@ -58,11 +58,11 @@ void PanelModel::refreshBanner()
     Q_EMIT bannerChanged();
 }
 
-void PanelModel::refreshLook()
+void PanelModel::refreshAppearance()
 {
     const auto& now = controller_.state().settings->appearance;
-    if (std::exchange(look_, now) != now)
-        Q_EMIT lookChanged();
+    if (std::exchange(appearance_, now) != now)
+        Q_EMIT appearanceChanged();
 }
 
 void PanelModel::setShowsSettings(bool isShown)
@@ -133,27 +133,27 @@ QString PanelModel::availableVersion() const
 
 bool PanelModel::isDark() const
 {
-    return look_.theme == Theme::system ? desktop_.isDark : look_.theme == Theme::dark;
+    return appearance_.theme == Theme::system ? desktop_.isDark : appearance_.theme == Theme::dark;
 }
 
 bool PanelModel::glass() const
 {
-    return look_.glass;
+    return appearance_.glass;
 }
 
 bool PanelModel::animations() const
 {
-    return look_.animations && !desktop_.reducesMotion;
+    return appearance_.animations && !desktop_.reducesMotion;
 }
 
 bool PanelModel::levelMeters() const
 {
-    return look_.levelMeters;
+    return appearance_.levelMeters;
 }
 
 QColor PanelModel::accentInk() const
 {
-    // The panel's ground in Theme, where it is nearer to the text.
+    // The panel's background in Theme, in the variant with less contrast to text.
     const QColor ground = isDark() ? QColor(0x23, 0x21, 0x2B) : QColor(0xEF, 0xED, 0xF4);
     return desktop_.accent ? legibleBeside(QColor::fromRgb(*desktop_.accent), ground)
                            : QColor(Qt::transparent);
@@ -165,10 +165,10 @@ QColor PanelModel::accentFill() const
                            : QColor(Qt::transparent);
 }
 
-void PanelModel::setDesktopLook(const DesktopLook& look)
+void PanelModel::setDesktopAppearance(const DesktopAppearance& appearance)
 {
-    desktop_ = look;
-    Q_EMIT lookChanged();
+    desktop_ = appearance;
+    Q_EMIT appearanceChanged();
 }
 
 void PanelModel::chooseOutput(const QString& key)

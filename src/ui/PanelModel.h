@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The panel as a whole: what its root view and its mixer show, and what they ask for.
+// View model of the panel as a whole: its root view and its mixer.
 //
-// It holds no state of the program but which page is shown. Everything else is read from the controller whenever the
-// controller announces a change, and worded for the views.
+// Its only state is the current page. Everything else is read from the controller whenever that announces a change, and
+// worded for the views.
 #pragma once
 
 #include "base/Subscription.h"
-#include "platform/DesktopLook.h"
+#include "platform/DesktopAppearance.h"
 #include "settings/AppearanceSettings.h"
 #include "ui/AppRowList.h"
 #include "ui/MenuEntry.h"
@@ -39,14 +39,14 @@ class PanelModel : public QObject {
     Q_PROPERTY(QVariantList outputEntries READ outputEntries NOTIFY outputsChanged)
     Q_PROPERTY(QString lastRecording READ lastRecording NOTIFY lastRecordingChanged)
     Q_PROPERTY(QString availableVersion READ availableVersion NOTIFY availableVersionChanged)
-    Q_PROPERTY(bool isDark READ isDark NOTIFY lookChanged)
-    Q_PROPERTY(bool glass READ glass NOTIFY lookChanged)
-    Q_PROPERTY(bool animations READ animations NOTIFY lookChanged)
-    Q_PROPERTY(bool hasHighContrast READ hasHighContrast NOTIFY lookChanged)
-    Q_PROPERTY(double textScale READ textScale NOTIFY lookChanged)
-    Q_PROPERTY(QColor accentInk READ accentInk NOTIFY lookChanged)
-    Q_PROPERTY(QColor accentFill READ accentFill NOTIFY lookChanged)
-    Q_PROPERTY(bool levelMeters READ levelMeters NOTIFY lookChanged)
+    Q_PROPERTY(bool isDark READ isDark NOTIFY appearanceChanged)
+    Q_PROPERTY(bool glass READ glass NOTIFY appearanceChanged)
+    Q_PROPERTY(bool animations READ animations NOTIFY appearanceChanged)
+    Q_PROPERTY(bool hasHighContrast READ hasHighContrast NOTIFY appearanceChanged)
+    Q_PROPERTY(double textScale READ textScale NOTIFY appearanceChanged)
+    Q_PROPERTY(QColor accentInk READ accentInk NOTIFY appearanceChanged)
+    Q_PROPERTY(QColor accentFill READ accentFill NOTIFY appearanceChanged)
+    Q_PROPERTY(bool levelMeters READ levelMeters NOTIFY appearanceChanged)
     Q_PROPERTY(fadeloom::AppRowList* rows READ rows CONSTANT)
     Q_PROPERTY(fadeloom::SettingsModel* settings READ settings CONSTANT)
 
@@ -69,22 +69,22 @@ public:
     [[nodiscard]] QVariantList outputEntries() const;
     /// The file's name; empty without a recording.
     [[nodiscard]] QString lastRecording() const;
-    /// Empty when there is none.
+    /// Empty if there is none.
     [[nodiscard]] QString availableVersion() const;
     [[nodiscard]] bool isDark() const;
     [[nodiscard]] bool glass() const;
     [[nodiscard]] bool animations() const;
     [[nodiscard]] bool hasHighContrast() const { return desktop_.hasHighContrast; }
     [[nodiscard]] double textScale() const { return desktop_.textScale; }
-    /// The desktop's favourite colour for text and below white text; transparent where it has none.
+    /// The desktop's accent colour, adjusted for text in it and white text on it; transparent without one.
     [[nodiscard]] QColor accentInk() const;
     [[nodiscard]] QColor accentFill() const;
     [[nodiscard]] bool levelMeters() const;
     [[nodiscard]] AppRowList* rows() { return &rows_; }
     [[nodiscard]] SettingsModel* settings() { return &settings_; }
 
-    /// Whether it is dark counts while the user's theme is "System"; less motion and more contrast always.
-    void setDesktopLook(const DesktopLook& look);
+    /// `isDark` applies while the user's theme is "System"; reduced motion and high contrast always.
+    void setDesktopAppearance(const DesktopAppearance& appearance);
 
     /// `key`: of an entry of `outputEntries`.
     Q_INVOKABLE void chooseOutput(const QString& key);
@@ -101,7 +101,7 @@ Q_SIGNALS:
     void outputsChanged();
     void lastRecordingChanged();
     void availableVersionChanged();
-    void lookChanged();
+    void appearanceChanged();
 
 private:
     struct ShownBanner {
@@ -113,18 +113,18 @@ private:
 
     void observe();
     void refreshBanner();
-    void refreshLook();
+    void refreshAppearance();
     [[nodiscard]] ShownBanner readBanner() const;
     [[nodiscard]] QString callText(const std::string& bundleID) const;
 
     AudioController& controller_;
     const PanelParts parts_;
     bool showsSettings_ = false;
-    DesktopLook desktop_{.isDark = true};
+    DesktopAppearance desktop_{.isDark = true};
     AppRowList rows_;
     SettingsModel settings_;
     ShownBanner banner_;
-    AppearanceSettings look_;
+    AppearanceSettings appearance_;
 
     std::vector<Subscription> observed_;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the panel works with beside the controller.
+// What the panel uses besides the controller.
 #pragma once
 
 #include "platform/MainLoop.h"
@@ -21,13 +21,13 @@ class Workspace;
 struct PanelParts {
     MainLoop& mainLoop;
     const WallClock& clock;
-    Workspace& workspace;  // Opens addresses, names applications, starts the program again.
+    Workspace& workspace;  // Opens URLs, names applications, restarts the program.
     Application& application;
     Dialogs& dialogs;
     UserDefaults& userDefaults;
-    UpdateChecker* updates = nullptr;  // Null in a program that looks for none.
+    UpdateChecker* updates = nullptr;  // Null in a program without update check.
     std::string version{};
-    std::string webPage{};  // The address of the product's page.
+    std::string webPage{};  // The URL of the product's page.
     Translate translate{};
     std::function<void()> quit = [] { };
 };

@@ -14,7 +14,7 @@
 namespace fadeloom {
 namespace {
 
-// Without a real window behind it, this is what tells the views how many pixels a point has.
+// Without a real window, this determines the device pixel ratio for the views.
 class Pixels final : public QQuickRenderControl { };
 
 void settle()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A picture of the panel without a screen.
+// Renders the panel to an image, without a screen.
 #pragma once
 
 #include <QImage>
@@ -10,8 +10,8 @@ class QQuickItem;
 
 namespace fadeloom {
 
-/// The view as it is after it has settled, `scale` pixels for each point, its corners transparent. The view keeps its
-/// parent afterwards: none. `interact` gets the root of the window before the picture is taken. Needs `drawBySoftware`.
+/// The view after its animations have finished, at `scale` pixels per point, with transparent corners. The view has no
+/// parent afterwards. `interact` is called with the window's root item before rendering. Needs `drawBySoftware`.
 [[nodiscard]] QImage pictureOf(
     QQuickItem& view, const std::function<void(QQuickItem& root)>& interact = {}, double scale = 2);
 

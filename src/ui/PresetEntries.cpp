@@ -14,7 +14,7 @@ namespace {
 
 using Kind = MenuEntry::Kind;
 
-// A user's preset may be called like anything; the prefixes keep the two lists apart.
+// A user preset may have any name; the prefixes keep the two lists apart.
 constexpr QLatin1String builtInPrefix("built-in/");
 constexpr QLatin1String userPrefix("user/");
 

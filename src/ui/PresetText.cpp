@@ -10,7 +10,7 @@
 namespace fadeloom {
 namespace {
 
-// The presets themselves know nothing of languages; this list is what the translators get to see of them.
+// Presets are defined without translations; this list is for extraction into the tables.
 [[maybe_unused]] constexpr const char* translatable[] = {
     QT_TRANSLATE_NOOP("EQPresets", "Basic"),
     QT_TRANSLATE_NOOP("EQPresets", "Genres"),

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Names of presets as the panel shows them.
+// Display names of presets.
 #pragma once
 
 #include <QString>
@@ -9,10 +9,10 @@
 
 namespace fadeloom {
 
-/// The name in the user's language for a built-in preset, any other name as it is, "Custom" for a curve without one.
+/// The translated name of a built-in preset, any other name unchanged, "Custom" for a curve without one.
 [[nodiscard]] QString presetTitle(const std::optional<std::string>& name);
 
-/// The heading of a group of built-in presets, in the user's language.
+/// The translated heading of a group of built-in presets.
 [[nodiscard]] QString presetGroupTitle(const std::string& title);
 
 }  // namespace fadeloom

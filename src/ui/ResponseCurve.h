@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The picture of an equalizer's response.
+// The graph of an equalizer's response.
 #pragma once
 
 #include <QColor>
@@ -9,7 +9,7 @@
 
 namespace fadeloom {
 
-/// Painted, because not every way in which Qt Quick draws can draw a free line. It takes no clicks.
+/// Painted, because not every rendering backend of Qt Quick can draw a path. It accepts no clicks.
 class ResponseCurve : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

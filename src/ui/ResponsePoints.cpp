@@ -12,7 +12,7 @@ std::array<double, responsePointCount> responsePoints(std::span<const float> gai
 {
     constexpr double sampleRate = 48000;
     constexpr double lowest = 20;  // Hertz.
-    constexpr double span = 1000;  // From the lowest to the highest.
+    constexpr double span = 1000;  // The ratio of the highest to the lowest.
     const auto coefficients = eqCoefficients(gains, sampleRate);
     std::array<double, responsePointCount> points{};
     for (int i = 0; i < responsePointCount; ++i) {

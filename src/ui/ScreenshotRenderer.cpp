@@ -21,7 +21,7 @@ namespace {
 
 struct Screen {
     const char* name;
-    bool isExpanded;  // The first app is open.
+    bool isExpanded;  // The first app is expanded.
     bool showsSettings;
 };
 constexpr std::array screens = {
@@ -54,11 +54,11 @@ void prepareEnvironment()
 }
 
 void run(const Platform& platform, EngineLog& engineLog, const PanelParts& parts,
-    const std::filesystem::path& outputDirectory, const std::string& suffix, Theme look, DemoHome home,
+    const std::filesystem::path& outputDirectory, const std::string& suffix, Theme theme, DemoHome home,
     std::ostream& lines)
 {
     for (const auto& screen : screens) {
-        const auto contents = demoContents(look, home);
+        const auto contents = demoContents(theme, home);
         AudioController controller(platform, engineLog, contents);
         const auto image =
             draw(screen, screen.isExpanded ? contents.apps.front().bundleID : "", controller, parts);

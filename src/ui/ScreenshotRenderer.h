@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Renders the panel's screens with fixed contents into picture files, for the store and the web.
+// Renders the panel's screens with fixed contents to image files, for the store and the web.
 #pragma once
 
 #include "platform/Platform.h"
@@ -17,13 +17,13 @@ struct PanelParts;
 
 namespace ScreenshotRenderer {
 
-/// What has to be set before the QGuiApplication is made: no display is used, two pixels stand for each point.
+/// Call before creating the QGuiApplication: no display is used, two pixels per point.
 void prepareEnvironment();
 
-/// Writes "panel", "eq" and "settings", each followed by `suffix` and ".png", and prints one line for each to `lines`. A
-/// file that cannot be written is told there and nowhere else. Nothing of `platform` is heard or changed.
+/// Writes "panel", "eq" and "settings", each followed by `suffix` and ".png", and prints one line for each to `lines`.
+/// A file that cannot be written is reported only there. Nothing of `platform` is captured or changed.
 void run(const Platform& platform, EngineLog& engineLog, const PanelParts& parts,
-    const std::filesystem::path& outputDirectory, const std::string& suffix, Theme look, DemoHome home,
+    const std::filesystem::path& outputDirectory, const std::string& suffix, Theme theme, DemoHome home,
     std::ostream& lines);
 
 }  // namespace ScreenshotRenderer

@@ -14,25 +14,25 @@
 
 namespace fadeloom {
 
-/// The key of the entry that asks for any application.
+/// The key of the entry for choosing any application.
 inline constexpr const char* chooseAppKey = "choose";
 
-/// The call apps by their names, one entry for each however many of its identifiers are listed; the keys are bundle
+/// The call apps by name, one entry per app even if several of its identifiers are listed; the keys are bundle
 /// identifiers.
 [[nodiscard]] MenuEntries callAppEntries(
     const SettingsData& settings, const CallApps& callApps, const InstalledName& installedName);
-/// The apps of the mixer that can be added to them: those that are offered first, and in words; then the others; then an
+/// The apps of the mixer that can be added to them: suggested ones first, with an explanation; then the others; then an
 /// entry with the key `chooseAppKey`.
 [[nodiscard]] MenuEntries offeredAppEntries(const ControllerState& state);
-/// What a click would do for an app that is offered as a call app.
+/// The effect of accepting an app that is suggested as a call app.
 [[nodiscard]] QString callOfferText(const std::string& appName);
 
-/// A limit of the volume in words.
+/// A volume limit as text.
 [[nodiscard]] QString volumeLimitText(float limit);
 /// All of them; the keys are their positions in `volumeLimits`.
 [[nodiscard]] MenuEntries volumeLimitEntries(float current);
 
-/// What a choice of AppLanguage is called. `code`: of one of them.
+/// The display name of an option of AppLanguage. `code`: of one of them.
 [[nodiscard]] QString languageName(const std::string& code);
 /// All of them; the keys are their codes.
 [[nodiscard]] MenuEntries languageEntries(const std::string& current);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The settings page as a view shows and edits it.
+// View model of the settings page.
 #pragma once
 
 #include "base/Subscription.h"
@@ -54,14 +54,14 @@ public:
     [[nodiscard]] QString spokenDuckLevel() const;
     /// Names, with the bundle identifiers as keys.
     [[nodiscard]] QVariantList callApps() const;
-    /// What can be added to them. The last entry, with the key "choose", asks for any application.
+    /// What can be added to them. The last entry, with the key "choose", is for choosing any application.
     [[nodiscard]] QVariantList offeredApps() const;
     [[nodiscard]] QString recordingsFolder() const;
     [[nodiscard]] QString volumeLimit() const;
     [[nodiscard]] QVariantList volumeLimits() const;
     [[nodiscard]] bool isBoostAllowed() const;
     [[nodiscard]] bool hasAutoHeadroom() const;
-    /// A position in `allThemes`.
+    /// An index in `allThemes`.
     [[nodiscard]] int theme() const;
     [[nodiscard]] bool glass() const;
     [[nodiscard]] bool animations() const;
@@ -69,7 +69,7 @@ public:
     [[nodiscard]] bool launchesAtLogin() const;
     [[nodiscard]] QString language() const;
     [[nodiscard]] QVariantList languages() const;
-    /// Whether the language that is chosen is another than the one in use.
+    /// Whether the selected language differs from the one in use.
     [[nodiscard]] bool needsRestart() const;
     [[nodiscard]] QString version() const;
     [[nodiscard]] QString webPageHost() const;
@@ -90,7 +90,7 @@ public:
     Q_INVOKABLE void setLaunchesAtLogin(bool isOn);
     Q_INVOKABLE void chooseLanguage(const QString& code);
     Q_INVOKABLE void restart();
-    /// Every app returns to its defaults; there is no question and no way back.
+    /// Resets every app to its defaults, without confirmation or undo.
     Q_INVOKABLE void resetApps();
     Q_INVOKABLE void openAboutPanel();
     Q_INVOKABLE void openWebPage();

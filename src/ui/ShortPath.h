@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A folder's path as the panel shows it.
+// A folder's path for display.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a row says under an app's name: one thing at a time, the most urgent first.
+// The status under an app's name: one at a time, the most urgent first.
 #pragma once
 
 #include "control/AppEntry.h"
@@ -15,7 +15,7 @@ struct StatusLine {
     Kind kind = Kind::idle;
     QString text{};
     QString help{};
-    QString symbol{};  // Empty for a line of words alone.
+    QString symbol{};  // Empty if there is only text.
 
     friend bool operator==(const StatusLine&, const StatusLine&) = default;
 };

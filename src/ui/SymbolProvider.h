@@ -6,7 +6,7 @@
 
 namespace fadeloom {
 
-/// Draws at the size that is asked for; a name that is not known draws nothing.
+/// Renders at the requested size; an unknown name renders nothing.
 class SymbolProvider final : public QQuickImageProvider {
 public:
     SymbolProvider();

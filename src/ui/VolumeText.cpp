@@ -37,7 +37,7 @@ QString spokenPercent(double factor)
 
 double percentOf(float factor)
 {
-    constexpr double places = 1e4;  // What a float cannot hold anyway is not shown: 85, and not 85.0000024.
+    constexpr double places = 1e4;  // Hides the rounding error of a float: 85, and not 85.0000024.
     return std::round(static_cast<double>(factor) * 100 * places) / places;
 }
 

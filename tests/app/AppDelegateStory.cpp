@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What clicks on the status icon and its menu do.
+// Clicks on the status icon, and its menu.
 #include "app/AppDelegate.h"
 
 #include "control/AudioController.h"
@@ -59,14 +59,15 @@ protected:
     std::vector<std::string> done;
     AppDelegate delegate{controller, icon, popover, world.application(),
         {
-            .showPage = [this](bool isSettings) { page = isSettings ? "settings" : "mixer"; },
+            .showPage =
+                [this](auto shown) { page = shown == AppDelegate::Page::settings ? "settings" : "mixer"; },
             .checkForUpdates = [this] { done.emplace_back("updates"); },
             .showAbout = [this] { done.emplace_back("about"); },
             .quit = [this] { done.emplace_back("quit"); },
         }};
 };
 
-TEST_F(AppDelegateStory, theIconBearsTheProgramsName)
+TEST_F(AppDelegateStory, theIconHasTheProgramsName)
 {
     EXPECT_EQ(icon.name(), "Fadeloom");
 }
@@ -119,7 +120,7 @@ TEST_F(AppDelegateStory, theMenuHasItsEntriesInOrder)
     EXPECT_EQ(entry("Quit Fadeloom")->key, "q");
 }
 
-TEST_F(AppDelegateStory, theMenuTellsWhichEntryDoesWhatAClickDoes)
+TEST_F(AppDelegateStory, theMenuMarksTheEntryEquivalentToAClick)
 {
     for (const auto& each : icon.openMenu())
         EXPECT_EQ(each.isClick, each.title == "Open Mixer") << each.title;
@@ -145,7 +146,7 @@ TEST_F(AppDelegateStory, theMenuOpensThePagesOfThePopover)
     EXPECT_TRUE(popover.isShown());
 }
 
-TEST_F(AppDelegateStory, theMenuTellsWhetherItLaunchesAtLoginAtThatMoment)
+TEST_F(AppDelegateStory, theMenuShowsTheCurrentLoginState)
 {
     EXPECT_FALSE(entry("Launch at Login")->isChecked);
 
@@ -157,7 +158,7 @@ TEST_F(AppDelegateStory, theMenuTellsWhetherItLaunchesAtLoginAtThatMoment)
     EXPECT_FALSE(entry("Launch at Login")->isChecked);
 }
 
-TEST_F(AppDelegateStory, theOtherEntriesDoWhatTheySay)
+TEST_F(AppDelegateStory, theOtherEntriesWork)
 {
     icon.choose("About Fadeloom");
     icon.choose("Check for Updates…");
@@ -167,7 +168,7 @@ TEST_F(AppDelegateStory, theOtherEntriesDoWhatTheySay)
     EXPECT_FALSE(popover.isShown());
 }
 
-TEST_F(AppDelegateStory, anEntryClosesThePopoverAlsoWhenTheMenuIsOld)
+TEST_F(AppDelegateStory, anEntryClosesThePopoverEvenIfTheMenuIsStale)
 {
     const auto about = entry("About Fadeloom");
     const auto updates = entry("Check for Updates…");
@@ -182,21 +183,21 @@ TEST_F(AppDelegateStory, anEntryClosesThePopoverAlsoWhenTheMenuIsOld)
     EXPECT_THAT(done, ElementsAre("about", "updates"));
 }
 
-TEST_F(AppDelegateStory, whereNobodyLooksForUpdatesTheMenuOffersNone)
+TEST_F(AppDelegateStory, withoutAnUpdateCheckTheMenuDoesNotOfferOne)
 {
     SimulatedStatusItem silentIcon;
     const AppDelegate silent{controller, silentIcon, popover, world.application(),
-        {.showPage = [](bool) { }, .showAbout = [] { }, .quit = [] { }}};
+        {.showPage = [](auto) { }, .showAbout = [] { }, .quit = [] { }}};
 
     for (const auto& each : silentIcon.openMenu())
         EXPECT_NE(each.title, "Check for Updates…");
 }
 
-TEST_F(AppDelegateStory, itsTextsAreLookedUp)
+TEST_F(AppDelegateStory, itsTextsAreTranslated)
 {
     SimulatedStatusItem foreignIcon;
     const AppDelegate foreign{controller, foreignIcon, popover, world.application(),
-        {.showPage = [](bool) {},
+        {.showPage = [](auto) {},
             .showAbout = [] {},
             .quit = [] {},
             .translate = [](const char* context, const char* text) { return std::string(context) + text; }}};

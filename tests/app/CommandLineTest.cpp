@@ -42,18 +42,18 @@ TEST(CommandLine, showsHelpAndVersion)
     EXPECT_EQ(parse({"--version"})->action, Action::showVersion);
 }
 
-TEST(CommandLine, helpGoesBeforeEverythingElse)
+TEST(CommandLine, helpHasPrecedence)
 {
     EXPECT_EQ(parse({"--headless", "--version", "--help"})->action, Action::showHelp);
 }
 
-TEST(CommandLine, givesACommandWhenItBeginsWithAVerb)
+TEST(CommandLine, isACommandIfItBeginsWithAVerb)
 {
     EXPECT_EQ(parse({"volume", "firefox", "-5%"}), CommandLine{.action = Action::giveCommand});
     EXPECT_EQ(parse({"help", "--loud"}), CommandLine{.action = Action::giveCommand});
 }
 
-TEST(CommandLine, staysInTheBackground)
+TEST(CommandLine, startsInTheBackground)
 {
     EXPECT_EQ(parse({"--background"}), (CommandLine{.action = Action::runTray, .isInBackground = true}));
 }
@@ -65,12 +65,12 @@ TEST(CommandLine, namesAnUnknownArgument)
     EXPECT_EQ(errorOf({""}), "unknown argument: ");
 }
 
-TEST(CommandLine, makesAnUnknownArgumentHarmless)
+TEST(CommandLine, sanitizesAnUnknownArgument)
 {
     EXPECT_EQ(errorOf({"\x1b[2J"}), "unknown argument: \uFFFD[2J");
 }
 
-TEST(CommandLine, showsItsIconUnlessItIsToldOtherwise)
+TEST(CommandLine, showsItsIconByDefault)
 {
     EXPECT_EQ(parse({}), CommandLine{.action = Action::runTray});
     EXPECT_EQ(parse({"--simulate"}), (CommandLine{.action = Action::runTray, .isSimulated = true}));
@@ -82,7 +82,7 @@ TEST(CommandLine, drawsScreenshotsDarkAndWithoutASuffix)
         (CommandLine{.action = Action::renderScreenshots, .outputFolder = "/pictures"}));
 }
 
-TEST(CommandLine, drawsScreenshotsWithASuffixInEitherLook)
+TEST(CommandLine, drawsScreenshotsWithASuffixInEitherTheme)
 {
     const CommandLine light = {.action = Action::renderScreenshots,
         .outputFolder = "/pictures",

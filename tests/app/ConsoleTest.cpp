@@ -10,7 +10,7 @@ namespace {
 
 class ConsoleTest : public testing::Test {
 protected:
-    /// What was written since the last call.
+    /// The output since the last call.
     std::string written()
     {
         auto text = out.str();
@@ -22,14 +22,14 @@ protected:
     Console console{[this](const std::string& text) { out << text; }};
 };
 
-TEST_F(ConsoleTest, printsLinesAsTheyAre)
+TEST_F(ConsoleTest, printsLinesVerbatim)
 {
     console.print("app playing com.example.player");
 
     EXPECT_EQ(written(), "app playing com.example.player\n");
 }
 
-TEST_F(ConsoleTest, makesLinesHarmless)
+TEST_F(ConsoleTest, sanitizesLines)
 {
     console.print("log tap failed\nok forged\x1b[2J");
 
@@ -45,7 +45,7 @@ TEST_F(ConsoleTest, putsANewLineAboveTheTable)
     EXPECT_EQ(written(), "\r\x1b[2A\x1b[Jline\nApp\nPlayer\n");
 }
 
-TEST_F(ConsoleTest, renewsATableOfTheSameHeightInPlace)
+TEST_F(ConsoleTest, updatesATableOfTheSameHeightInPlace)
 {
     console.showTable({"App", "Player"});
     written();
@@ -58,7 +58,7 @@ TEST_F(ConsoleTest, renewsATableOfTheSameHeightInPlace)
         "8");
 }
 
-TEST_F(ConsoleTest, drawsATableOfAnotherHeightAnew)
+TEST_F(ConsoleTest, redrawsATableOfDifferentHeight)
 {
     console.showTable({"App", "Player"});
     written();
@@ -68,7 +68,7 @@ TEST_F(ConsoleTest, drawsATableOfAnotherHeightAnew)
     EXPECT_EQ(written(), "\r\x1b[2A\x1b[JApp\n");
 }
 
-TEST_F(ConsoleTest, knowsThatAnEnteredLineMovedTheCursor)
+TEST_F(ConsoleTest, accountsForAnEnteredLine)
 {
     console.showTable({"App", "Player"});
     written();

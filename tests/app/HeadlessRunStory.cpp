@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a headless run tells, and how it ends.
+// The output of a headless run, and its shutdown.
 #include "tests/app/HeadlessStory.h"
 
 #include <thread>
@@ -17,7 +17,7 @@ using testing::StartsWith;
 
 class HeadlessRunStory : public HeadlessStory { };
 
-TEST_F(HeadlessRunStory, tellsHowThingsStandAtTheStart)
+TEST_F(HeadlessRunStory, printsTheStateAtStartup)
 {
     start();
 
@@ -29,7 +29,7 @@ TEST_F(HeadlessRunStory, tellsHowThingsStandAtTheStart)
             "default speakers"));
 }
 
-TEST_F(HeadlessRunStory, tellsOfAnAppFromItsFirstSoundToItsEnd)
+TEST_F(HeadlessRunStory, reportsAnAppFromItsFirstSoundToItsEnd)
 {
     start();
     lines();
@@ -51,7 +51,7 @@ TEST_F(HeadlessRunStory, tellsOfAnAppFromItsFirstSoundToItsEnd)
             {"app disappeared com.example.player", "log tap removed (app quit): com.example.player"}));
 }
 
-TEST_F(HeadlessRunStory, tellsOfDevicesAndWhereTheAppsGo)
+TEST_F(HeadlessRunStory, reportsDevicesAndWhereTheAppsMove)
 {
     launchPlaying("Player");
     start();
@@ -65,7 +65,7 @@ TEST_F(HeadlessRunStory, tellsOfDevicesAndWhereTheAppsGo)
             "app output com.example.player headphones"}));
 }
 
-TEST_F(HeadlessRunStory, tellsOfATapThatFails)
+TEST_F(HeadlessRunStory, reportsAFailedTap)
 {
     start();
     lines();
@@ -77,7 +77,7 @@ TEST_F(HeadlessRunStory, tellsOfATapThatFails)
         Contains("log-error tap failed: com.example.player: Create process tap failed (OSStatus -50)"));
 }
 
-TEST_F(HeadlessRunStory, tellsOfARecordingBeforeTheAnswer)
+TEST_F(HeadlessRunStory, reportsARecordingBeforeTheReply)
 {
     launchPlaying("Player");
     start();
@@ -93,7 +93,7 @@ TEST_F(HeadlessRunStory, tellsOfARecordingBeforeTheAnswer)
             "ok record com.example.player stop"));
 }
 
-TEST_F(HeadlessRunStory, tellsAtItsStartOfACallUnderWay)
+TEST_F(HeadlessRunStory, reportsACallInProgressAtItsStart)
 {
     world.startUsingMic(launchPlaying("Talk"));
 
@@ -102,7 +102,7 @@ TEST_F(HeadlessRunStory, tellsAtItsStartOfACallUnderWay)
     EXPECT_THAT(lines(), Contains("call com.example.talk"));
 }
 
-TEST_F(HeadlessRunStory, tellsOfAnOfferedCallApp)
+TEST_F(HeadlessRunStory, reportsASuggestedCallApp)
 {
     start();
     const auto browser = launchPlaying("Browser");
@@ -114,7 +114,7 @@ TEST_F(HeadlessRunStory, tellsOfAnOfferedCallApp)
     EXPECT_THAT(lines(), Contains("call-app offered com.example.browser"));
 }
 
-TEST_F(HeadlessRunStory, tellsOfACall)
+TEST_F(HeadlessRunStory, reportsACall)
 {
     start();
     run->takeLine("call-app com.example.chat on");
@@ -135,7 +135,7 @@ TEST_F(HeadlessRunStory, endsWhenACommandAsksForIt)
     EXPECT_EQ(quitCount, 1);
 }
 
-TEST_F(HeadlessRunStory, tellsOfPermission)
+TEST_F(HeadlessRunStory, reportsPermission)
 {
     start();
     lines();
@@ -146,7 +146,7 @@ TEST_F(HeadlessRunStory, tellsOfPermission)
     EXPECT_THAT(lines(), ElementsAre("log permission: denied", "permission denied"));
 }
 
-TEST_F(HeadlessRunStory, tellsWhenTheSettingsCannotBeRead)
+TEST_F(HeadlessRunStory, reportsUnreadableSettings)
 {
     std::filesystem::create_directories(settingsFile());
 
@@ -156,7 +156,7 @@ TEST_F(HeadlessRunStory, tellsWhenTheSettingsCannotBeRead)
         Contains(StartsWith("message \"Settings could not be read, and changes will not be saved: ")));
 }
 
-TEST_F(HeadlessRunStory, tellsWhenTheSettingsCannotBeSaved)
+TEST_F(HeadlessRunStory, reportsSettingsThatCannotBeSaved)
 {
     launchPlaying("Player");
     start();
@@ -170,7 +170,7 @@ TEST_F(HeadlessRunStory, tellsWhenTheSettingsCannotBeSaved)
     EXPECT_THAT(lines(), Contains(StartsWith("message \"Could not save settings: ")));
 }
 
-TEST_F(HeadlessRunStory, isQuietWhileNothingHappens)
+TEST_F(HeadlessRunStory, printsNothingWithoutEvents)
 {
     launchPlaying("Player");
     start();
@@ -182,7 +182,7 @@ TEST_F(HeadlessRunStory, isQuietWhileNothingHappens)
     EXPECT_THAT(lines(), IsEmpty());
 }
 
-TEST_F(HeadlessRunStory, shutdownSavesWhatWaitsAndGivesEveryAppBack)
+TEST_F(HeadlessRunStory, shutdownSavesPendingChangesAndReleasesEveryApp)
 {
     launchPlaying("Player");
     start();
@@ -212,7 +212,7 @@ TEST_F(HeadlessRunStory, showsATableEverySecondOnATerminal)
     EXPECT_THAT(table[1], HasSubstr("Player  Desk Speakers     50%   -18.1 dB"));
 }
 
-TEST_F(HeadlessRunStory, showsWhyAnAppIsNotHeard)
+TEST_F(HeadlessRunStory, showsWhyAnAppIsSilent)
 {
     terminal = TerminalSize{};
     launchPlaying("Player");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A headless run in a simulated world, its lines kept: the stage of the stories about commands and events.
+// A headless run on the simulated platform whose output is kept: the fixture of stories about commands and events.
 #pragma once
 
 #include "app/Console.h"
@@ -54,7 +54,7 @@ protected:
             result.push_back(line);
         return result;
     }
-    /// The answer to a command: the last line that it printed.
+    /// The reply to a command: the last line that it printed.
     std::string answer(std::string_view command)
     {
         lines();

@@ -40,7 +40,7 @@ TEST_F(IconVolumeStory, theWheelChangesTheAppThatWasChangedLast)
     EXPECT_FLOAT_EQ(of(chat).volume, 0.95F);
 }
 
-TEST_F(IconVolumeStory, theWheelStopsAtTheEnds)
+TEST_F(IconVolumeStory, scrollingIsClamped)
 {
     launchPlaying("Player");
     change(player, [](auto& app) { app.volume = 0.1F; });
@@ -54,7 +54,7 @@ TEST_F(IconVolumeStory, theWheelStopsAtTheEnds)
     EXPECT_EQ(of(player).volume, 1.5F);
 }
 
-TEST_F(IconVolumeStory, theLoudestIsChosenWhereNoneThatPlaysWasChanged)
+TEST_F(IconVolumeStory, theLoudestIsSelectedIfNoPlayingAppWasChanged)
 {
     const auto quiet = world.launchApp("Chat");
     world.startPlaying(quiet, SimulatedSignal::constant(0.05F));
@@ -79,7 +79,7 @@ TEST_F(IconVolumeStory, nothingHappensWhileNothingPlays)
     EXPECT_EQ(icon.description(), "");
 }
 
-TEST_F(IconVolumeStory, theIconSaysWhichAppItIs)
+TEST_F(IconVolumeStory, theTooltipNamesTheApp)
 {
     launchPlaying("Player");
     EXPECT_EQ(icon.description(), "Scroll: volume of the loudest app. Middle click: mute.");

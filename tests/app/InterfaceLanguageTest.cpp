@@ -13,7 +13,7 @@ namespace {
 
 class InterfaceLanguageTest : public testing::Test {
 protected:
-    InterfaceLanguageTest() { QLocale::setDefault(QLocale(QLocale::German)); }  // The user's own.
+    InterfaceLanguageTest() { QLocale::setDefault(QLocale(QLocale::German)); }  // The user's language.
 
     static std::string later() { return InterfaceLanguage::texts()("UpdateChecker", "Later"); }
     static std::string about()
@@ -26,11 +26,11 @@ protected:
     char name[5] = "test";
     char* arguments[2] = {name, nullptr};
     QCoreApplication application{argumentCount, arguments};
-    // Keeps the linker from leaving the string tables out.
+    // Keeps the linker from dropping the string tables.
     void (*const resources)() = [] { static_cast<void>(PanelEngine{}); };
 };
 
-TEST_F(InterfaceLanguageTest, theChosenLanguageIsSpoken)
+TEST_F(InterfaceLanguageTest, theSelectedLanguageIsUsed)
 {
     const InterfaceLanguage language({"pl"});
 
@@ -38,7 +38,7 @@ TEST_F(InterfaceLanguageTest, theChosenLanguageIsSpoken)
     EXPECT_EQ(QLocale().language(), QLocale::Polish);
 }
 
-TEST_F(InterfaceLanguageTest, macOSIsSpokenOfInItsOwnWords)
+TEST_F(InterfaceLanguageTest, macOSHasItsOwnWording)
 {
     {
         const InterfaceLanguage language({"en"}, Wording::ofMacOS);
@@ -49,14 +49,14 @@ TEST_F(InterfaceLanguageTest, macOSIsSpokenOfInItsOwnWords)
     EXPECT_EQ(later(), "Później");
 }
 
-TEST_F(InterfaceLanguageTest, aRegionIsNoObstacle)
+TEST_F(InterfaceLanguageTest, aRegionIsIgnored)
 {
     const InterfaceLanguage language({"pl-PL"});
 
     EXPECT_EQ(later(), "Później");
 }
 
-TEST_F(InterfaceLanguageTest, theFirstLanguageWithTextsIsSpoken)
+TEST_F(InterfaceLanguageTest, theFirstLanguageWithATranslationIsUsed)
 {
     const InterfaceLanguage language({"de", "pl", "en"});
 
@@ -68,10 +68,10 @@ TEST_F(InterfaceLanguageTest, aLanguageWithoutTextsIsEnglish)
     const InterfaceLanguage language({"fr"});
 
     EXPECT_EQ(about(), "Free per-app volume, output routing, equalizer and recording for Linux.");
-    EXPECT_EQ(QLocale().language(), QLocale::French);  // Of names in their order, and the like.
+    EXPECT_EQ(QLocale().language(), QLocale::French);  // For sorting names, and the like.
 }
 
-TEST_F(InterfaceLanguageTest, whatIsNoLanguageChangesNothing)
+TEST_F(InterfaceLanguageTest, anInvalidLanguageChangesNothing)
 {
     const InterfaceLanguage language({"", "nonsense", "C"});
 
@@ -87,14 +87,14 @@ TEST_F(InterfaceLanguageTest, withoutAChoiceItIsTheUsers)
     EXPECT_EQ(later(), "Później");
 }
 
-TEST_F(InterfaceLanguageTest, aUserOfAnotherLanguageIsSpokenToInEnglish)
+TEST_F(InterfaceLanguageTest, anUnsupportedLanguageFallsBackToEnglish)
 {
     const InterfaceLanguage language({});
 
     EXPECT_EQ(about(), "Free per-app volume, output routing, equalizer and recording for Linux.");
 }
 
-TEST_F(InterfaceLanguageTest, lastsAsLongAsItLives)
+TEST_F(InterfaceLanguageTest, isActiveWhileItExists)
 {
     {
         const InterfaceLanguage language({"pl"});

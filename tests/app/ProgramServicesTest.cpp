@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program as a user starts it: twice, and beside a server that knows of updates.
+// The program as started by a user: twice, and with an update server.
 #include "app/ProductPages.h"
 #include "app/Version.h"
 #include "platform/linux/InstanceSocket.h"
@@ -32,7 +32,7 @@ using ::testing::Each;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-/// On this machine, with folders of its own, no audio server, and a screen that nobody sees.
+/// On this machine, with private folders, no audio server, and a virtual screen.
 class ProgramServicesTest : public testing::Test {
 protected:
     using Program = std::unique_ptr<RunningProgram>;
@@ -46,20 +46,19 @@ protected:
                 {"DBUS_SESSION_BUS_ADDRESS", busAddress},
                 {"FADELOOM_UPDATE_ENDPOINT", server.url("/updates")}, {"http_proxy", ""}, {"all_proxy", ""}});
     }
-    bool waitForRequests(
-        std::size_t count, std::chrono::milliseconds patience = RunningProgram::patience) const
+    bool waitForRequests(std::size_t count, std::chrono::milliseconds timeout = RunningProgram::timeout) const
     {
-        const auto end = std::chrono::steady_clock::now() + patience;
+        const auto end = std::chrono::steady_clock::now() + timeout;
         while (server.requests().size() < count && std::chrono::steady_clock::now() < end)
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
         return server.requests().size() >= count;
     }
-    /// One that answers.
+    /// A server that responds.
     Program startFirst() const
     {
         auto program = start();
         const InstanceSocket socket{folder.path() / "fadeloom.socket", nullptr, nullptr, nullptr};
-        const auto end = std::chrono::steady_clock::now() + RunningProgram::patience;
+        const auto end = std::chrono::steady_clock::now() + RunningProgram::timeout;
         while (!socket.ask(InstanceRequest::ping, 1s) && std::chrono::steady_clock::now() < end)
             std::this_thread::sleep_for(20ms);
         EXPECT_EQ(socket.ask(InstanceRequest::ping, 1s), InstanceAnswer::done);
@@ -104,7 +103,7 @@ TEST_F(ProgramServicesTest, asksForUpdatesAtTheStartUnlessItIsBuiltNotTo)
     EXPECT_EQ(program->exitStatus(), 0);
 }
 
-TEST_F(ProgramServicesTest, asksNobodyWithoutAWindowAndInASimulatedWorld)
+TEST_F(ProgramServicesTest, sendsNoRequestWithoutAWindowOrInASimulation)
 {
     const auto headless = startFirstHeadless();
     const auto simulated = start({"--simulate"});
@@ -128,7 +127,7 @@ TEST_F(ProgramServicesTest, aSecondStartOpensThePanelOfTheFirst)
     EXPECT_EQ(first->exitStatus(), 0);
 }
 
-TEST_F(ProgramServicesTest, aSecondStartMeetsTheFirstOnTheSessionBus)
+TEST_F(ProgramServicesTest, aSecondStartFindsTheFirstOnTheSessionBus)
 {
     startBus();
     const auto first = startFirst();
@@ -141,7 +140,7 @@ TEST_F(ProgramServicesTest, aSecondStartMeetsTheFirstOnTheSessionBus)
     EXPECT_EQ(first->exitStatus(), 0);
 }
 
-TEST_F(ProgramServicesTest, twoWithoutAWindowAreOneTooMany)
+TEST_F(ProgramServicesTest, twoHeadlessInstancesConflict)
 {
     const auto first = startFirstHeadless();
 
@@ -172,7 +171,7 @@ TEST_F(ProgramServicesTest, oneWithoutAWindowDoesNotJoinAPanel)
     EXPECT_EQ(start({"--headless"})->exitStatus(), 3);
 }
 
-TEST_F(ProgramServicesTest, aSimulatedWorldDisturbsNobody)
+TEST_F(ProgramServicesTest, aSimulatedProgramDoesNotInterfereWithOthers)
 {
     const auto first = startFirstHeadless();
 
@@ -181,7 +180,7 @@ TEST_F(ProgramServicesTest, aSimulatedWorldDisturbsNobody)
     EXPECT_TRUE(second->lineWith("log tap ready: com.example.player"));
 }
 
-TEST_F(ProgramServicesTest, oneThatStandsStillIsNotWaitedForForever)
+TEST_F(ProgramServicesTest, oneThatIsStoppedIsNotWaitedForForever)
 {
     const auto first = startFirst();
     first->signalProgram(SIGSTOP);
@@ -203,7 +202,7 @@ TEST_F(ProgramServicesTest, afterACrashTheNextIsTheFirst)
     EXPECT_EQ(next->exitStatus(), 0);
 }
 
-TEST_F(ProgramServicesTest, aStartDuringTheEndFollowsIt)
+TEST_F(ProgramServicesTest, aStartDuringTheExitSucceedsIt)
 {
     const auto first = startFirstHeadless();
 

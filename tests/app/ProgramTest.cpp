@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program as a user starts it.
+// The program as started by a user.
 #include "platform/simulated/SimulatedSystemLog.h"
 #include "settings/SettingsFile.h"
 #include "tests/app/RunningProgram.h"
@@ -49,7 +49,7 @@ TEST(Program, refusesAnUnknownArgumentWithStatusTwo)
     EXPECT_EQ(program.restOfOutput(), "");
 }
 
-TEST(Program, saysWhenThereIsNoDisplayForItsPanel)
+TEST(Program, reportsAMissingDisplayForItsPanel)
 {
     RunningProgram program(
         {"--simulate"}, {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}, {"QT_QPA_PLATFORM", ""}});
@@ -59,7 +59,7 @@ TEST(Program, saysWhenThereIsNoDisplayForItsPanel)
         "fadeloom: there is no display to show a panel on; --headless runs without one\n");
 }
 
-TEST(Program, runsItsPanelUntilItIsTold)
+TEST(Program, runsItsPanelUntilAskedToQuit)
 {
     const TemporaryFolder folder;
     const TemporaryFolder runtime;
@@ -70,7 +70,7 @@ TEST(Program, runsItsPanelUntilItIsTold)
 
     for (int i = 0; i < 200 && std::filesystem::is_empty(folder.path()); ++i)
         std::this_thread::sleep_for(50ms);
-    std::this_thread::sleep_for(1s);  // Long enough for a fault in a view.
+    std::this_thread::sleep_for(1s);  // Long enough for an error in a view.
     program.signal(SIGTERM);
 
     EXPECT_EQ(program.exitStatus(), 0);
@@ -81,7 +81,7 @@ TEST(Program, runsItsPanelUntilItIsTold)
 
 class SimulatedProgram : public testing::Test {
 protected:
-    /// Commands whose replies are more than a pipe and the program together can hold.
+    /// Commands whose replies exceed what a pipe and the program together can buffer.
     static std::string manyQuestions()
     {
         std::string commands;
@@ -95,7 +95,7 @@ protected:
     RunningProgram program{{"--headless", "--simulate"}, {{"TMPDIR", temporary.path().string()}}};
 };
 
-TEST_F(SimulatedProgram, showsTheWorldAtWork)
+TEST_F(SimulatedProgram, printsEvents)
 {
     EXPECT_TRUE(isPlaying());
     EXPECT_TRUE(program.lineWith("app appeared com.example.browser Browser"));
@@ -149,7 +149,7 @@ TEST_F(SimulatedProgram, endsWithStatusZeroOnQuit)
     EXPECT_THAT(program.restOfOutput(), HasSubstr("ok quit\n"));
 }
 
-TEST_F(SimulatedProgram, goesOnAfterTheEndOfItsInput)
+TEST_F(SimulatedProgram, continuesAfterTheEndOfItsInput)
 {
     ASSERT_TRUE(isPlaying());
 
@@ -158,7 +158,7 @@ TEST_F(SimulatedProgram, goesOnAfterTheEndOfItsInput)
     EXPECT_TRUE(program.lineWith("app appeared com.example.chat Chat"));
 }
 
-TEST_F(SimulatedProgram, goesOnWhenNobodyReadsItsOutput)
+TEST_F(SimulatedProgram, continuesWhenItsOutputIsNotRead)
 {
     ASSERT_TRUE(isPlaying());
 
@@ -179,7 +179,7 @@ TEST_F(SimulatedProgram, endsOnTheFirstSignalAlsoWhileItsOutputIsHeldUp)
     EXPECT_EQ(program.exitStatus(), 0);
 }
 
-TEST_F(SimulatedProgram, countsTheLinesThatNobodyRead)
+TEST_F(SimulatedProgram, countsUnreadLines)
 {
     ASSERT_TRUE(isPlaying());
     program.write(manyQuestions());
@@ -201,7 +201,7 @@ TEST_F(SimulatedProgram, leavesNoFileBehind)
     EXPECT_TRUE(std::filesystem::is_empty(temporary.path()));
 }
 
-/// On this machine, with folders of its own and no audio server to be found.
+/// On this machine, with private folders and no audio server.
 class RealProgram : public testing::Test {
 protected:
     RealProgram()
@@ -227,7 +227,7 @@ protected:
     std::optional<RunningProgram> program;
 };
 
-TEST_F(RealProgram, savesAChangeThatIsStillWaitingWhenItIsToldToEnd)
+TEST_F(RealProgram, savesAPendingChangeOnQuit)
 {
     program->write("volume player 0.5\n");
     ASSERT_EQ(program->lineWith("ok"), "ok volume com.example.player 0.5");
@@ -238,12 +238,12 @@ TEST_F(RealProgram, savesAChangeThatIsStillWaitingWhenItIsToldToEnd)
     EXPECT_EQ(savedVolume(), 0.5F);
 }
 
-TEST_F(RealProgram, savesByItselfHalfASecondAfterAChange)
+TEST_F(RealProgram, savesHalfASecondAfterAChange)
 {
     program->write("volume player 0.25\n");
     ASSERT_TRUE(program->lineWith("ok"));
 
-    const auto deadline = std::chrono::steady_clock::now() + RunningProgram::patience;
+    const auto deadline = std::chrono::steady_clock::now() + RunningProgram::timeout;
     while (savedVolume() != 0.25F && std::chrono::steady_clock::now() < deadline)
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
 

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/RunningProgram.h"
 
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -9,11 +14,6 @@
 #include <stdexcept>
 #include <thread>
 #include <utility>
-
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {
@@ -102,7 +102,7 @@ void RunningProgram::signal(int number) const
 void RunningProgram::signalProgram(int number) const
 {
     const auto process = std::to_string(pid_);
-    pid_t program = pid_;  // Without a guardian it is the same.
+    pid_t program = pid_;  // Without a guardian they are the same.
     std::ifstream("/proc/" + process + "/task/" + process + "/children") >> program;
     kill(program == 0 ? pid_ : program, number);
 }
@@ -110,7 +110,7 @@ void RunningProgram::signalProgram(int number) const
 bool RunningProgram::readMore(int descriptor, std::string& text)
 {
     pollfd waited = {.fd = descriptor, .events = POLLIN, .revents = 0};
-    if (poll(&waited, 1, static_cast<int>(std::chrono::milliseconds(patience).count())) != 1)
+    if (poll(&waited, 1, static_cast<int>(std::chrono::milliseconds(timeout).count())) != 1)
         return false;
     std::array<char, 4096> bytes{};
     const auto count = read(descriptor, bytes.data(), bytes.size());
@@ -136,7 +136,7 @@ std::optional<std::string> RunningProgram::lineWith(std::string_view beginning)
 
 int RunningProgram::exitStatus()
 {
-    // Its output ends when it does.
+    // End of its output.
     if (output_ != -1)
         unread_ += restOfOutput();
     if (pid_ != -1 && waitpid(pid_, &status_, 0) != pid_)
@@ -147,7 +147,7 @@ int RunningProgram::exitStatus()
 
 bool RunningProgram::endsUnread()
 {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
     while (std::chrono::steady_clock::now() < deadline) {
         if (waitpid(pid_, &status_, WNOHANG) == pid_) {
             pid_ = -1;

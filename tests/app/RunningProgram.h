@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The real program as a process of its own, with its standard streams in our hands.
+// The real program as a separate process, with its standard streams connected to the test.
 #pragma once
+
+#include <sys/types.h>
 
 #include <chrono>
 #include <filesystem>
@@ -10,14 +12,12 @@
 #include <string_view>
 #include <vector>
 
-#include <sys/types.h>
-
 namespace fadeloom {
 
-/// Killed when this object ends, if it has not ended by then.
+/// Killed by the destructor, unless it has exited.
 class RunningProgram {
 public:
-    static constexpr std::chrono::seconds patience{20};  // Before a wait is given up.
+    static constexpr std::chrono::seconds timeout{20};  // For each wait.
 
     /// `environment`: variables that differ from our own.
     explicit RunningProgram(const std::vector<std::string>& arguments,
@@ -32,14 +32,14 @@ public:
     void signal(int number) const;
     /// Signals the process that does the work, not the one that was started, which is its guardian.
     void signalProgram(int number) const;
-    /// Reads standard output until a line begins with `beginning`, and returns that line; absent when the output
-    /// ends, or our patience does, before.
+    /// Reads standard output up to a line that begins with `beginning`, and returns that line; nullopt if the output
+    /// ends, or the timeout expires, first.
     std::optional<std::string> lineWith(std::string_view beginning);
-    /// The exit status, once the program ends; −1 when a signal ended it or our patience did.
+    /// The exit status, once the program exits; −1 if a signal ended it or the timeout expired.
     int exitStatus();
-    /// Waits for the end and reads nothing meanwhile; false when our patience ends before.
+    /// Waits for the exit without reading; false if the timeout expires first.
     bool endsUnread();
-    /// Everything on standard output, or standard error, that was not read before; waits for the program's end.
+    /// Everything on standard output, or standard error, that was not read before; waits for the program to exit.
     std::string restOfOutput();
     std::string errorText();
 
@@ -51,7 +51,7 @@ private:
     int output_ = -1;
     int error_ = -1;
     std::string unread_;
-    int status_ = -1;  // As the system tells it, once it is known.
+    int status_ = -1;  // As reported by the system, once known.
 };
 
 }  // namespace fadeloom

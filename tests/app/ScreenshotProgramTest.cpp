@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program as it draws its pictures.
+// The program in its screenshot mode.
 #include "tests/app/RunningProgram.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -27,7 +27,7 @@ TEST(ScreenshotProgram, drawsItsScreenshotsWithoutADisplay)
         EXPECT_GT(std::filesystem::file_size(folder.path() / name), 20000) << name;
 }
 
-TEST(ScreenshotProgram, drawsItsScreenshotsInTheLanguageThatWasChosen)
+TEST(ScreenshotProgram, rendersItsScreenshotsInTheSelectedLanguage)
 {
     const auto settingsPicture = [](const std::string& language) {
         const TemporaryFolder folder;

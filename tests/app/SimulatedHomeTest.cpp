@@ -19,7 +19,7 @@ using testing::HasSubstr;
 
 class SimulatedHomeTest : public testing::Test {
 protected:
-    /// What is printed while the real time moves on.
+    /// The output while real time passes.
     std::string printedIn(std::chrono::seconds time)
     {
         out.str("");
@@ -43,7 +43,7 @@ TEST_F(SimulatedHomeTest, playsFromTheBeginning)
     EXPECT_THAT(out.str(), HasSubstr("app playing com.example.player\n"));
 }
 
-TEST_F(SimulatedHomeTest, standsStillUntilItIsStarted)
+TEST_F(SimulatedHomeTest, isFrozenUntilItIsStarted)
 {
     EXPECT_EQ(printedIn(10s), "");
 }
@@ -61,7 +61,7 @@ TEST_F(SimulatedHomeTest, showsAppsAndDevicesThatComeAndGo)
     EXPECT_THAT(firstMinute, HasSubstr("app disappeared com.example.browser\n"));
 }
 
-TEST_F(SimulatedHomeTest, beginsAnewAfterAMinute)
+TEST_F(SimulatedHomeTest, startsOverAfterAMinute)
 {
     home.start();
     printedIn(60s);
@@ -69,7 +69,7 @@ TEST_F(SimulatedHomeTest, beginsAnewAfterAMinute)
     EXPECT_THAT(printedIn(5s), HasSubstr("app appeared com.example.browser Browser\n"));
 }
 
-TEST_F(SimulatedHomeTest, isHeardAsTheUserSetsIt)
+TEST_F(SimulatedHomeTest, followsTheUsersSettings)
 {
     home.start();
 

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "app/StandardStreams.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <iostream>
 #include <string>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 namespace fadeloom {
 namespace {
 
-TEST(StandardStreams, areThereEvenWhenTheyWereClosed)
+TEST(StandardStreams, areOpenEvenIfTheyWereClosed)
 {
     const auto isOpen = [](int stream) { return fcntl(stream, F_GETFD) != -1; };
 
@@ -26,7 +25,7 @@ TEST(StandardStreams, areThereEvenWhenTheyWereClosed)
         testing::ExitedWithCode(7), "");
 }
 
-TEST(StandardStreams, errorsThatNobodyReadHoldNobodyUp)
+TEST(StandardStreams, unreadErrorsDoNotBlock)
 {
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);

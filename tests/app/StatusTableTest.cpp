@@ -25,7 +25,7 @@ TEST(StatusTable, alignsItsColumns)
             "Chat    no output       muted          -"));
 }
 
-TEST(StatusTable, alignsByWhatIsSeen)
+TEST(StatusTable, alignsByVisibleGlyphs)
 {
     auto wide = chat;
     wide.name = "音楽";
@@ -35,7 +35,7 @@ TEST(StatusTable, alignsByWhatIsSeen)
     EXPECT_EQ(table[2], "音楽    no output       muted          -");
 }
 
-TEST(StatusTable, hasAHeadingWithoutRows)
+TEST(StatusTable, hasAHeadingEvenWithoutRows)
 {
     EXPECT_THAT(statusTable({}, 80, 20), ElementsAre("App  Output  Volume      Level"));
 }
@@ -52,7 +52,7 @@ TEST(StatusTable, neverExceedsTheWidth)
     }
 }
 
-TEST(StatusTable, sharesTheRoomBetweenNameAndOutput)
+TEST(StatusTable, sharesTheWidthBetweenNameAndOutput)
 {
     auto longBoth = player;
     longBoth.name = std::string(60, 'n');
@@ -63,7 +63,7 @@ TEST(StatusTable, sharesTheRoomBetweenNameAndOutput)
     EXPECT_EQ(line, std::string(19, 'n') + "…  " + std::string(19, 'o') + "…     50%   -12.0 dB");
 }
 
-TEST(StatusTable, makesNamesHarmless)
+TEST(StatusTable, sanitizesNames)
 {
     auto hostile = player;
     hostile.name = "Player\n\x1b[2Jtap ready";
@@ -74,7 +74,7 @@ TEST(StatusTable, makesNamesHarmless)
     }
 }
 
-TEST(StatusTable, saysHowManyRowsItLeavesOut)
+TEST(StatusTable, countsOmittedRows)
 {
     const auto table = statusTable(std::vector(10, player), 80, 5);
 

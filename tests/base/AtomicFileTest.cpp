@@ -25,7 +25,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using Reason = ReadError::Reason;
 
-/// While one lives, no file of this process can grow beyond `bytes`: the system refuses as it does on a full disk.
+/// While an instance exists, no file of this process can grow beyond `bytes`: writes fail as on a full disk.
 class FullDisk {
 public:
     explicit FullDisk(rlim_t bytes)
@@ -103,7 +103,7 @@ TEST_F(AtomicFileTest, isReadUpToTheLargestSize)
     EXPECT_EQ(tooLarge.error().reason, Reason::tooLarge);
 }
 
-TEST_F(AtomicFileTest, whatIsNoFileIsUnreadableAndNotWaitedFor)
+TEST_F(AtomicFileTest, specialFilesAreUnreadableAndDoNotBlock)
 {
     const auto pipe = folder.path() / "pipe";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
@@ -112,7 +112,7 @@ TEST_F(AtomicFileTest, whatIsNoFileIsUnreadableAndNotWaitedFor)
         EXPECT_EQ(reasonOf(AtomicFile::read(path, 100)), Reason::unreadable) << path;
 }
 
-TEST_F(AtomicFileTest, whatIsCertainlyNotThereIsMissing)
+TEST_F(AtomicFileTest, onlyAnAbsentFileIsMissing)
 {
     put(file, "a file");
 
@@ -134,7 +134,7 @@ TEST_F(AtomicFileTest, aFileThatIsNotOursIsUnreadable)
     EXPECT_EQ(content.error().error.description(), "Cannot read " + file.string() + ": Permission denied");
 }
 
-TEST_F(AtomicFileTest, aFileBehindAClosedFolderIsUnreadable)
+TEST_F(AtomicFileTest, aFileInAnInaccessibleFolderIsUnreadable)
 {
     const OrdinaryUser user(folder.path());
     const auto closed = folder.path() / "closed";
@@ -147,7 +147,7 @@ TEST_F(AtomicFileTest, aFileBehindAClosedFolderIsUnreadable)
 TEST_F(AtomicFileTest, aFileThatFailsWhileItIsReadIsUnreadable)
 {
     const auto content =
-        AtomicFile::read("/proc/self/mem", 100);  // Opens; nothing is mapped at its beginning.
+        AtomicFile::read("/proc/self/mem", 100);  // Opens, but nothing is mapped at its start.
 
     ASSERT_FALSE(content);
     EXPECT_EQ(content.error().reason, Reason::unreadable);
@@ -158,7 +158,7 @@ TEST_F(AtomicFileTest, replacedOneKeepsItsOwner)
 {
     put(file, "old");
     constexpr uid_t nobody = 65534;
-    const uid_t owner = ::geteuid() == 0 ? nobody : ::geteuid();  // Root could take it away.
+    const uid_t owner = ::geteuid() == 0 ? nobody : ::geteuid();  // Root could take ownership.
     ASSERT_EQ(::chown(file.c_str(), owner, static_cast<gid_t>(-1)), 0);
 
     ASSERT_TRUE(AtomicFile::replace(file, "new"));
@@ -168,7 +168,7 @@ TEST_F(AtomicFileTest, replacedOneKeepsItsOwner)
     EXPECT_EQ(status.st_uid, owner);
 }
 
-TEST_F(AtomicFileTest, newOneIsForItsOwnerAlone)
+TEST_F(AtomicFileTest, aNewFileIsPrivateToItsOwner)
 {
     const auto oldMask = ::umask(0);
     ASSERT_TRUE(AtomicFile::replace(file, "new"));
@@ -192,7 +192,7 @@ TEST_F(AtomicFileTest, replacedOneKeepsItsPermissions)
     }
 }
 
-TEST_F(AtomicFileTest, whoeverHasTheOldOneOpenReadsTheOldOne)
+TEST_F(AtomicFileTest, anOpenHandleStillReadsTheOldFile)
 {
     put(file, "old content");
     std::ifstream reader(file);
@@ -219,7 +219,7 @@ TEST_F(AtomicFileTest, symbolicLinkStaysOneAndItsTargetIsReplaced)
     EXPECT_EQ(contentOf(target), "new");
 }
 
-TEST_F(AtomicFileTest, symbolicLinkToNothingGetsItsTarget)
+TEST_F(AtomicFileTest, aDanglingSymbolicLinkGetsItsTarget)
 {
     fs::create_symlink("real.json", file);
 
@@ -229,7 +229,7 @@ TEST_F(AtomicFileTest, symbolicLinkToNothingGetsItsTarget)
     EXPECT_EQ(contentOf(folder.path() / "real.json"), "new");
 }
 
-TEST_F(AtomicFileTest, symbolicLinksInACircleAreRefused)
+TEST_F(AtomicFileTest, cyclicSymbolicLinksAreRefused)
 {
     fs::create_symlink("file.json", folder.path() / "other");
     fs::create_symlink("other", file);
@@ -240,7 +240,7 @@ TEST_F(AtomicFileTest, symbolicLinksInACircleAreRefused)
     EXPECT_THAT(replaced.error().description(), HasSubstr("symbolic links"));
 }
 
-TEST_F(AtomicFileTest, whatIsNoFileIsNotReplaced)
+TEST_F(AtomicFileTest, onlyRegularFilesAreReplaced)
 {
     fs::create_directory(file);
     const auto pipe = folder.path() / "pipe";
@@ -256,7 +256,7 @@ TEST_F(AtomicFileTest, whatIsNoFileIsNotReplaced)
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
-TEST_F(AtomicFileTest, missingFolderIsToldInTheSystemsWords)
+TEST_F(AtomicFileTest, missingFolderIsReportedWithTheSystemsMessage)
 {
     const auto replaced = AtomicFile::replace(folder.path() / "missing" / "file.json", "new");
 

@@ -13,7 +13,7 @@
 namespace fadeloom {
 namespace {
 
-TEST(Published, tellsEachObserverOfEachAssignment)
+TEST(Published, notifiesEachObserverOfEachAssignment)
 {
     Published<int> volume = 3;
     std::vector<int> seen;
@@ -26,7 +26,7 @@ TEST(Published, tellsEachObserverOfEachAssignment)
     EXPECT_EQ(seen, (std::vector{4, 40, 4, 40}));
 }
 
-TEST(Published, assignIfDifferentTellsOnlyOfADifference)
+TEST(Published, assignIfDifferentNotifiesOnlyOfADifference)
 {
     Published<int> volume = 3;
     int told = 0;
@@ -39,7 +39,7 @@ TEST(Published, assignIfDifferentTellsOnlyOfADifference)
     EXPECT_EQ(*volume, 4);
 }
 
-TEST(Published, exchangeReturnsTheOldValueAfterTelling)
+TEST(Published, exchangeReturnsTheOldValueAfterNotifying)
 {
     Published<int> volume = 3;
     int told = 0;
@@ -62,7 +62,7 @@ TEST(Published, isSilentOnceTheSubscriptionHasEnded)
     EXPECT_EQ(told, 0);
 }
 
-TEST(Published, anObserverMayEndItselfAndOthersWhileItIsTold)
+TEST(Published, anObserverMayEndItselfAndOthersWhileItIsNotified)
 {
     Published<int> volume = 3;
     std::vector<int> told;
@@ -111,7 +111,7 @@ TEST(Published, anObserverAddedMeanwhileWaitsForTheNextAssignment)
     EXPECT_EQ(told, 1);
 }
 
-TEST(Published, mayGoBeforeTheSubscriptionsDo)
+TEST(Published, mayBeDestroyedBeforeItsSubscriptions)
 {
     auto volume = std::make_unique<Published<int>>(3);
     auto watch = volume->whenAssigned([] { });
@@ -122,7 +122,7 @@ TEST(Published, mayGoBeforeTheSubscriptionsDo)
     EXPECT_FALSE(watch);
 }
 
-TEST(LifeToken, letsCallsThroughUntilItEnds)
+TEST(LifeToken, forwardsCallsUntilItEnds)
 {
     std::optional<LifeToken> life(std::in_place);
     int sum = 0;

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "base/SpscRing.h"
-
 #include "tests/support/RealTimeGuard.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <numeric>
 #include <thread>
-
-#include <sys/resource.h>
 
 namespace fadeloom {
 namespace {
@@ -24,7 +22,7 @@ std::vector<float> countingFrom(float first, std::size_t count)
     return samples;
 }
 
-TEST(SpscRing, givesWhatItGotInItsOrder)
+TEST(SpscRing, preservesOrder)
 {
     SpscRing<float> ring{8};
     EXPECT_THAT(ring.oldest(), IsEmpty());
@@ -39,7 +37,7 @@ TEST(SpscRing, givesWhatItGotInItsOrder)
     EXPECT_THAT(ring.oldest(), IsEmpty());
 }
 
-TEST(SpscRing, holdsAsMuchAsWasAskedForOrMore)
+TEST(SpscRing, holdsAtLeastTheRequestedCapacity)
 {
     EXPECT_EQ(SpscRing<float>{8}.capacity(), 8U);
     EXPECT_EQ(SpscRing<float>{9}.capacity(), 16U);
@@ -62,7 +60,7 @@ TEST(SpscRing, takesAllOrNothing)
     EXPECT_THAT(ring.oldest(), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8));
 }
 
-TEST(SpscRing, refusesMoreThanItEverHolds)
+TEST(SpscRing, refusesMoreThanItsCapacity)
 {
     SpscRing<float> ring{8};
 
@@ -70,7 +68,7 @@ TEST(SpscRing, refusesMoreThanItEverHolds)
     EXPECT_THAT(ring.oldest(), IsEmpty());
 }
 
-TEST(SpscRing, samplesGoOnAtItsBeginning)
+TEST(SpscRing, wrapsAroundToItsBeginning)
 {
     SpscRing<float> ring{8};
     EXPECT_TRUE(ring.push(countingFrom(1, 6)));
@@ -83,7 +81,7 @@ TEST(SpscRing, samplesGoOnAtItsBeginning)
     EXPECT_THAT(ring.oldest(), ElementsAre(9, 10, 11, 12, 13));
 }
 
-TEST(SpscRing, popsWhatThereIsAcrossItsEnd)
+TEST(SpscRing, popsAcrossTheWraparound)
 {
     SpscRing<float> ring{8};
     EXPECT_TRUE(ring.push(countingFrom(1, 6)));
@@ -107,7 +105,7 @@ long pageFaultsOfThisThread()
     return usage.ru_minflt;
 }
 
-TEST(SpscRing, itsMemoryIsThereBeforeTheFirstSample)
+TEST(SpscRing, itsMemoryIsAllocatedBeforeTheFirstSample)
 {
     constexpr std::size_t size = std::size_t{1} << 20;  // 1024 pages of 4096 bytes.
     SpscRing<float> ring{size};
@@ -117,7 +115,7 @@ TEST(SpscRing, itsMemoryIsThereBeforeTheFirstSample)
     for (int i = 0; i < 8; ++i)
         EXPECT_TRUE(ring.push(samples));
 
-    // Code that runs for the first time; what is read of `samples`; what a sanitizer remembers of both.
+    // Code that runs for the first time; reading `samples`; a sanitizer's shadow memory of both.
     const long ofOthers = isGuarding() ? 50 : 400;
     EXPECT_LT(pageFaultsOfThisThread() - before, ofOthers);
 }
@@ -125,7 +123,7 @@ TEST(SpscRing, itsMemoryIsThereBeforeTheFirstSample)
 TEST(SpscRing, twoThreadsPassEverySampleOnce)
 {
     SpscRing<float> ring{1024};
-    constexpr int last = 4'000'000;  // Every whole number up to 2^24 is a float.
+    constexpr int last = 4'000'000;  // All integers up to 2^24 are exact as floats.
     int wrong = 0;
 
     std::jthread consumer{[&] {

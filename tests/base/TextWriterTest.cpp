@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "base/TextWriter.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <array>
 #include <chrono>
@@ -11,16 +13,13 @@
 #include <string>
 #include <vector>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 namespace fadeloom {
 namespace {
 
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 
-/// Somebody who reads when he is told to; shared with the writer's thread, which may outlive a test.
+/// A reader that reads on request; shared with the writer's thread, which may outlive a test.
 struct Reader {
     std::mutex door;  // Held while nobody reads.
     std::mutex mutex;
@@ -57,7 +56,7 @@ TEST_F(TextWriterTest, writesEverythingInOrder)
     EXPECT_THAT(reader->texts, ElementsAre("one", "two", "three"));
 }
 
-TEST_F(TextWriterTest, dropsAndCountsWhatFindsNoRoom)
+TEST_F(TextWriterTest, dropsAndCountsOverflow)
 {
     const std::string block(TextWriter::room / 4, 'x');
     {
@@ -77,11 +76,11 @@ TEST_F(TextWriterTest, dropsAndCountsWhatFindsNoRoom)
         else
             dropped += std::stoi(text.substr(std::string("dropped ").size()));
     }
-    EXPECT_THAT(written, testing::AnyOf(4, 5));  // The first may have been under way already.
+    EXPECT_THAT(written, testing::AnyOf(4, 5));  // The first may have been in progress.
     EXPECT_EQ(written + dropped, 1000);
 }
 
-TEST_F(TextWriterTest, tellsOfDroppedTextsInTheirPlace)
+TEST_F(TextWriterTest, reportsDroppedTextsInTheirPlace)
 {
     {
         const std::scoped_lock nobodyReads(reader->door);
@@ -94,7 +93,7 @@ TEST_F(TextWriterTest, tellsOfDroppedTextsInTheirPlace)
     EXPECT_THAT(reader->texts, ElementsAre("before", "dropped 1", "later"));
 }
 
-TEST_F(TextWriterTest, endsAlsoWhenNobodyEverReads)
+TEST_F(TextWriterTest, endsEvenIfNobodyEverReads)
 {
     reader->door.lock();
     writer.write("one");
@@ -129,7 +128,7 @@ TEST(WriteToDescriptor, writesAllOfATextAlsoWhereWritingDoesNotWait)
     ::close(pipe[1]);
 }
 
-TEST(WriteToDescriptor, passesOverWhatIsRefused)
+TEST(WriteToDescriptor, skipsWhatIsRefused)
 {
     TextWriter writer(writeToDescriptor(-1), &notice);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The commands about one app.
+// The commands about a single app.
 #include "tests/commands/CommandStory.h"
 
 namespace fadeloom {
@@ -17,7 +17,7 @@ TEST_F(AppCommandsStory, volumeIsHeardAndSaved)
     EXPECT_EQ(saved().apps.at("com.example.player").volume, 0.5F);
 }
 
-TEST_F(AppCommandsStory, muteIsHeardUntilItIsTakenBack)
+TEST_F(AppCommandsStory, muteTakesEffectUntilItIsUndone)
 {
     EXPECT_EQ(answer("mute com.example.player on"), "ok mute com.example.player on");
     EXPECT_NEAR(heardAt("speakers"), 0, tolerance);
@@ -43,7 +43,7 @@ TEST_F(AppCommandsStory, eqSwitchesTheEqualizer)
     EXPECT_TRUE(saved().apps.at("com.example.player").eqEnabled);
 }
 
-TEST_F(AppCommandsStory, bandAndPreampBendTheCurveByHand)
+TEST_F(AppCommandsStory, bandAndPreampCustomizeTheCurve)
 {
     EXPECT_EQ(answer("band player 10 -4.5"), "ok band com.example.player 10 -4.5");
     EXPECT_EQ(answer("preamp player 3"), "ok preamp com.example.player 3");
@@ -64,7 +64,7 @@ TEST_F(AppCommandsStory, presetAppliesAKnownCurve)
     EXPECT_TRUE(saved().apps.at("com.example.player").eqEnabled);
 }
 
-TEST_F(AppCommandsStory, presetsOfTheUserAreKeptAppliedAndDeleted)
+TEST_F(AppCommandsStory, userPresetsAreSavedAppliedAndDeleted)
 {
     answer("band player 1 6");
     EXPECT_EQ(answer("save-preset player \" My Bass \""), "ok save-preset com.example.player \"My Bass\"");
@@ -79,7 +79,7 @@ TEST_F(AppCommandsStory, presetsOfTheUserAreKeptAppliedAndDeleted)
     EXPECT_EQ(saved().apps.at("com.example.player").eqGains[0], 6);
 }
 
-TEST_F(AppCommandsStory, recordWritesAFileAndSaysWhere)
+TEST_F(AppCommandsStory, recordWritesAFileAndReportsItsPath)
 {
     EXPECT_EQ(answer("record player start"), "ok record com.example.player start");
     EXPECT_THAT(answer("list"), HasSubstr("output default recording"));
@@ -90,14 +90,14 @@ TEST_F(AppCommandsStory, recordWritesAFileAndSaysWhere)
 
     const auto file = folder.path() / "Music" / "Fadeloom Recordings" / "Player 2030-01-02 12.00.01.wav";
     EXPECT_EQ(*controller.state().lastRecording, file);
-    world.advance(1s);  // What was played last is written after the stop.
+    world.advance(1s);  // The last audio is written after the stop.
     ASSERT_NE(world.audioFiles().at(file), nullptr);
     EXPECT_GT(world.audioFiles().at(file)->frameCount(), 40000);
     EXPECT_EQ(answer("reveal"), "ok reveal");
     EXPECT_EQ(world.workspace().revealed().back(), file);
 }
 
-TEST_F(AppCommandsStory, recordSaysWhyItCannot)
+TEST_F(AppCommandsStory, recordReportsWhyItFails)
 {
     EXPECT_EQ(answer("record player stop"), "error com.example.player is not being recorded");
     answer("record player start");
@@ -130,7 +130,7 @@ TEST_F(AppCommandsStory, aNameOfSeveralAppsIsAnError)
     EXPECT_TRUE(isUnchanged());
 }
 
-TEST_F(AppCommandsStory, anAppThatIsNotThereIsKnownFromEarlier)
+TEST_F(AppCommandsStory, anAppThatIsNotRunningIsKnownFromEarlier)
 {
     world.quitApp(launchPlaying("Chat"));
     world.runPosted();

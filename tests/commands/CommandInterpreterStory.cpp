@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The table of commands, and what is answered to a mistake.
+// The command table, and error replies.
 #include "tests/commands/CommandStory.h"
 
 namespace fadeloom {
@@ -7,7 +7,7 @@ namespace {
 
 class CommandInterpreterStory : public CommandStory { };
 
-TEST_F(CommandInterpreterStory, listSaysEverythingInOneLine)
+TEST_F(CommandInterpreterStory, listPrintsEverythingOnOneLine)
 {
     launchPlaying("Chat");
     answer("mute chat on");
@@ -22,7 +22,7 @@ TEST_F(CommandInterpreterStory, listSaysEverythingInOneLine)
         "; device speakers \"Desk Speakers\" default");
 }
 
-TEST_F(CommandInterpreterStory, helpNamesEveryCommandInOneLine)
+TEST_F(CommandInterpreterStory, helpListsEveryCommandOnOneLine)
 {
     EXPECT_EQ(answer("help"),
         "ok help; volume APP [0.5|50%|+5%|-3dB|=-6dB]; mute APP [on|off|toggle]; "

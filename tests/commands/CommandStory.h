@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A controller in a simulated world where one app plays, and the interpreter of commands: the stage of their stories.
+// A controller on the simulated platform where one app plays, and the command interpreter: the fixture of their
+// stories.
 #pragma once
 
 #include "commands/CommandInterpreter.h"
@@ -26,7 +27,7 @@ protected:
     CommandStory()
     {
         world.advance(1s);
-        std::filesystem::remove(settingsFile());  // The player's name was remembered.
+        std::filesystem::remove(settingsFile());  // It contains the player's name already.
     }
 
     ProcessID launchPlaying(const std::string& name, const SimulatedAppTraits& traits = {})

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What may follow the words that are typed already.
+// Completion of partially typed commands.
 #include "tests/commands/CommandStory.h"
 
 namespace fadeloom {
@@ -16,7 +16,7 @@ TEST_F(CompletionStory, aVerbComesFirst)
     EXPECT_THAT(answer("complete"), HasSubstr("; quit \"ends Fadeloom\""));
 }
 
-TEST_F(CompletionStory, thenWhatIsThereNow)
+TEST_F(CompletionStory, thenTheCurrentObjects)
 {
     EXPECT_EQ(answer("complete volume COM"), "ok complete; com.example.player Player");
     EXPECT_THAT(answer("complete volume @p"), HasSubstr("; @playing "));
@@ -32,7 +32,7 @@ TEST_F(CompletionStory, thenWhatIsThereNow)
     EXPECT_EQ(answer("complete default \"\""), "ok complete; headphones Headphones");
 }
 
-TEST_F(CompletionStory, presetsAreThoseThatFit)
+TEST_F(CompletionStory, presetsAreTheMatchingOnes)
 {
     EXPECT_EQ(answer("complete preset player Ro"), "ok complete; Rock \"built in\"");
     EXPECT_EQ(answer("complete delete-preset \"\""), "ok complete");
@@ -51,7 +51,7 @@ TEST_F(CompletionStory, choicesComeFromTheTable)
     EXPECT_EQ(answer("complete list o"), "ok complete; outputs \"how things stand\"");
 }
 
-TEST_F(CompletionStory, nothingFollowsWhatIsUnknownOrDone)
+TEST_F(CompletionStory, unknownOrCompleteCommandsHaveNoCompletions)
 {
     EXPECT_EQ(answer("complete louder x"), "ok complete");
     EXPECT_EQ(answer("complete quit x"), "ok complete");

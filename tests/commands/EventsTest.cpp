@@ -26,7 +26,7 @@ std::vector<std::string> lines(const Events& events)
 using Apps = std::vector<AppEntry>;
 using Devices = std::vector<OutputDevice>;
 
-TEST(Events, tellOfAppsThatComePlayAndGo)
+TEST(Events, reportAppsThatAppearPlayAndDisappear)
 {
     EXPECT_THAT(lines(appEvents({}, Apps{app("com.a", true)})),
         ElementsAre("app appeared com.a \"My Player\"", "app playing com.a"));
@@ -39,7 +39,7 @@ TEST(Events, tellOfAppsThatComePlayAndGo)
     EXPECT_THAT(lines(appEvents(Apps{app("com.a", true)}, {})), ElementsAre("app disappeared com.a"));
 }
 
-TEST(Events, areSilentAboutAnotherOrder)
+TEST(Events, ignoreReordering)
 {
     const auto a = app("com.a", true);
     const auto b = app("com.b", true);
@@ -47,7 +47,7 @@ TEST(Events, areSilentAboutAnotherOrder)
     EXPECT_THAT(lines(appEvents(Apps{a, b}, Apps{b, a})), IsEmpty());
 }
 
-TEST(Events, tellOfOutputsThatChange)
+TEST(Events, reportChangedOutputs)
 {
     EXPECT_THAT(lines(appOutputEvents({}, {{"com.a", "speakers"}, {"com.b", std::nullopt}})),
         ElementsAre("app output com.a speakers", "app output com.b none"));
@@ -57,7 +57,7 @@ TEST(Events, tellOfOutputsThatChange)
     EXPECT_THAT(lines(appOutputEvents({{"com.a", "speakers"}}, {})), IsEmpty());
 }
 
-TEST(Events, tellOfDevicesThatComeAndGo)
+TEST(Events, reportDevicesThatComeAndGo)
 {
     const OutputDevice speakers = {2, "speakers", "Desk Speakers"};
     const OutputDevice headphones = {3, "headphones", "Headphones"};
@@ -73,7 +73,7 @@ TEST(Events, tellOfDevicesThatComeAndGo)
     EXPECT_THAT(lines(outputEvents(Devices{speakers}, Devices{speakers})), IsEmpty());
 }
 
-TEST(Events, tellOfTheRest)
+TEST(Events, reportEverythingElse)
 {
     EXPECT_EQ(eventLine(event::DefaultOutput{"speakers"}), "default speakers");
     EXPECT_EQ(eventLine(event::DefaultOutput{}), "default none");
@@ -83,13 +83,13 @@ TEST(Events, tellOfTheRest)
         "message \"Could not save settings: disk full\"");
 }
 
-TEST(Events, tellOfCalls)
+TEST(Events, reportCalls)
 {
     EXPECT_EQ(eventLine(event::Call{"com.example.chat"}), "call com.example.chat");
     EXPECT_EQ(eventLine(event::Call{}), "call none");
 }
 
-TEST(Events, tellOfRecordings)
+TEST(Events, reportRecordings)
 {
     EXPECT_THAT(lines(recordingEvents({"com.a"}, {"com.b"})),
         ElementsAre("recording stopped com.a", "recording started com.b"));
@@ -97,13 +97,13 @@ TEST(Events, tellOfRecordings)
     EXPECT_EQ(eventLine(event::RecordingSaved{"/music/a b.wav"}), "recording saved \"/music/a b.wav\"");
 }
 
-TEST(Events, tellOfAppsThatAreOfferedAsCallApps)
+TEST(Events, reportSuggestedCallApps)
 {
     EXPECT_THAT(lines(callOfferEvents({"com.a"}, {"com.a", "com.b"})), ElementsAre("call-app offered com.b"));
     EXPECT_THAT(lines(callOfferEvents({"com.a"}, {})), IsEmpty());
 }
 
-TEST(Events, tellWhatOfAnAppsSettingsChanged)
+TEST(Events, reportTheChangedSettingsOfAnApp)
 {
     AppAudioSettings quiet;
     quiet.volume = 0.5F;
@@ -129,14 +129,14 @@ TEST(Events, areJsonToo)
     EXPECT_EQ(eventJson(event::Message{"\xff"}), "{\"event\":\"message\",\"text\":\"\uFFFD\"}");
 }
 
-TEST(Events, knowTheAppTheyAreAbout)
+TEST(Events, nameTheirApp)
 {
     EXPECT_EQ(appOf(event::AppPlaying{"com.a", true}), "com.a");
     EXPECT_EQ(appOf(event::Call{"com.a"}), "com.a");
     EXPECT_EQ(appOf(event::DefaultOutput{"speakers"}), std::nullopt);
 }
 
-TEST(Events, stayOneLineWhateverANameHolds)
+TEST(Events, stayOnOneLineWhateverTheName)
 {
     for (const auto& line : lines(appEvents({}, Apps{app("com.a", true, "x\napp disappeared com.b")})))
         EXPECT_EQ(line.find('\n'), std::string::npos);

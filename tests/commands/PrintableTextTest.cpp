@@ -20,23 +20,23 @@ TEST(Printable, replacesControlCharacters)
     EXPECT_EQ(printable("a\u0085b\u009B2J"), "a\uFFFDb\uFFFD2J");
 }
 
-TEST(Printable, replacesMarksThatMoveText)
+TEST(Printable, replacesBidirectionalControls)
 {
     EXPECT_EQ(printable("a\u202Eb\u2066c\u2028d\u200Fe\uFEFF"), "a\uFFFDb\uFFFDc\uFFFDd\uFFFDe\uFFFD");
 }
 
-TEST(Printable, keepsTheJoinersThatScriptsNeed)
+TEST(Printable, keepsJoiners)
 {
     EXPECT_EQ(printable("\U0001F469\u200D\U0001F680"), "\U0001F469\u200D\U0001F680");
 }
 
-TEST(Printable, replacesEachByteThatIsNoText)
+TEST(Printable, replacesEachInvalidByte)
 {
     EXPECT_EQ(printable("a\xFF\xC3"), "a\uFFFD\uFFFD");
     EXPECT_EQ(printable("\xC0\xAF"), "\uFFFD\uFFFD");  // An overlong "/".
     EXPECT_EQ(printable("\xED\xA0\x80"), "\uFFFD\uFFFD\uFFFD");  // Half of a surrogate pair.
     EXPECT_EQ(printable("\xF4\x90\x80\x80"), "\uFFFD\uFFFD\uFFFD\uFFFD");  // Beyond the last code point.
-    EXPECT_EQ(printable("\xE2\x82"), "\uFFFD\uFFFD");  // Cut off.
+    EXPECT_EQ(printable("\xE2\x82"), "\uFFFD\uFFFD");  // Truncated.
 }
 
 TEST(DisplayWidth, countsColumns)
@@ -49,14 +49,14 @@ TEST(DisplayWidth, countsColumns)
     EXPECT_EQ(displayWidth("e\u0301"), 1);
 }
 
-TEST(Fitted, fillsUpOnEitherSide)
+TEST(Fitted, padsOnEitherSide)
 {
     EXPECT_EQ(fitted("ab", 4), "ab  ");
     EXPECT_EQ(fitted("ab", 4, Alignment::right), "  ab");
     EXPECT_EQ(fitted("音", 4), "音  ");
 }
 
-TEST(Fitted, cutsWhatIsTooLong)
+TEST(Fitted, truncatesWhatIsTooLong)
 {
     EXPECT_EQ(fitted("Player", 6), "Player");
     EXPECT_EQ(fitted("Player", 5), "Play…");
@@ -70,7 +70,7 @@ TEST(Fitted, neverCutsAWideCharacterInHalf)
     EXPECT_EQ(fitted("音楽家", 5), "音楽…");
 }
 
-TEST(AsWord, quotesWhatIsNotOneWord)
+TEST(AsWord, quotesTextThatIsNotASingleWord)
 {
     EXPECT_EQ(asWord("speakers"), "speakers");
     EXPECT_EQ(asWord("Desk Speakers"), "\"Desk Speakers\"");

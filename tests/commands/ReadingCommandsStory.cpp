@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Commands that read, that change step by step, and that mean several apps.
+// Commands that query, that change in steps, and that address several apps.
 #include "tests/commands/CommandStory.h"
 
 namespace fadeloom {
@@ -48,7 +48,7 @@ TEST_F(ReadingCommandsStory, anOutputIsNamedOrTheNextOne)
         "ok output com.example.player " + world.audio().outputDevices().front().uid);
 }
 
-TEST_F(ReadingCommandsStory, severalAppsAreMeantAtOnce)
+TEST_F(ReadingCommandsStory, aCommandMayAddressSeveralApps)
 {
     const auto radio = launchPlaying("Radio");
     EXPECT_EQ(answer("mute @all on"), "ok mute com.example.player on; mute com.example.radio on");
@@ -101,7 +101,7 @@ TEST_F(ReadingCommandsStory, thePanelIsOpenedWhereThereIsOne)
     EXPECT_EQ(toggles, 1);
 }
 
-TEST_F(ReadingCommandsStory, anAnswerTellsWhatKindItIs)
+TEST_F(ReadingCommandsStory, aReplyStatesItsKind)
 {
     EXPECT_EQ(kind("volume player"), ReplyKind::ok);
     EXPECT_EQ(kind("louder"), ReplyKind::usage);

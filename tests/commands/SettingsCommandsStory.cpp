@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The commands about everything but one app.
+// The commands that do not concern a single app.
 #include "tests/commands/CommandStory.h"
 
 namespace fadeloom {

@@ -9,7 +9,7 @@
 namespace fadeloom {
 namespace {
 
-/// The volume that a word means to an app at 0.5 with a limit of 1.5; -1 for a word that is refused.
+/// The result of a word for an app at 0.5 with a limit of 1.5; -1 for a word that is rejected.
 float meant(std::string_view word, float present = 0.5F)
 {
     const auto volume = VolumeWord::parse(word);
@@ -62,7 +62,7 @@ TEST(VolumeWord, aStepStopsAtTheEnds)
     EXPECT_GT(meant("+3dB", 0), 0) << "a step up leaves silence";
 }
 
-TEST(VolumeWord, stepsUpAndDownMeetAgain)
+TEST(VolumeWord, stepsUpAndDownCancelOut)
 {
     float volume = 0.5F;
     for (int i = 0; i < 300; ++i)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Programs that are told what happens, and answers as JSON.
+// Programs that receive events, and replies as JSON.
 #include "commands/Watchers.h"
 #include "tests/commands/CommandStory.h"
 
@@ -21,7 +21,7 @@ protected:
         std::shared_ptr<void> watch;
     };
 
-    /// What is told from now on.
+    /// The events from now on.
     std::unique_ptr<Told> watch(const std::string& line, bool isSandboxed = false)
     {
         auto told = std::make_unique<Told>();
@@ -39,7 +39,7 @@ protected:
     Watchers watchers{controller, world.platform().mainLoop, world.platform().text};
 };
 
-TEST_F(WatchStory, beginsWithHowThingsStandAndGoesOnWithWhatChanges)
+TEST_F(WatchStory, beginsWithTheStateAndContinuesWithChanges)
 {
     const auto told = watch("text");
     EXPECT_THAT(next(*told),
@@ -101,7 +101,7 @@ TEST_F(WatchStory, forABarIsOneObjectForEachChange)
     EXPECT_THAT(next(*later), Contains(HasSubstr(R"("tooltip":"Radio → Desk Speakers")")));
 }
 
-TEST_F(WatchStory, measuresLevelsWhileSomebodyWantsThem)
+TEST_F(WatchStory, measuresLevelsWhileWatched)
 {
     EXPECT_FALSE(controller.levels().isRunning());
     auto told = watch("text levels");

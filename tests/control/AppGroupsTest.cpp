@@ -47,7 +47,7 @@ TEST_F(AppGroupsTest, gatherTheProcessesOfEachApp)
     EXPECT_FALSE(groups.at("com.example.chat").isUsingMic());
 }
 
-TEST_F(AppGroupsTest, leaveOutAnAppThatHasEnded)
+TEST_F(AppGroupsTest, excludeAnAppThatHasEnded)
 {
     const auto player = workspace.launchApp("Player", {});
     ASSERT_THAT(ownersOf({process(5, player)}), ElementsAre("com.example.player"));
@@ -57,7 +57,7 @@ TEST_F(AppGroupsTest, leaveOutAnAppThatHasEnded)
     EXPECT_THAT(ownersOf({process(5, player)}), ElementsAre());
 }
 
-TEST_F(AppGroupsTest, knowAPidThatIsUsedAgain)
+TEST_F(AppGroupsTest, detectAReusedPid)
 {
     const auto player = workspace.launchApp("Player", {});
     ownersOf({process(5, player)});
@@ -69,21 +69,21 @@ TEST_F(AppGroupsTest, knowAPidThatIsUsedAgain)
     EXPECT_THAT(ownersOf({process(6, player)}), ElementsAre("com.example.chat"));
 }
 
-TEST_F(AppGroupsTest, leaveOutOurOwnProcessWhateverItIsCalled)
+TEST_F(AppGroupsTest, excludeOurOwnProcessWhateverItsName)
 {
     workspace.launchApp("Other", {.pid = workspace.ownPid()});
 
     EXPECT_THAT(ownersOf({process(5, workspace.ownPid())}), ElementsAre());
 }
 
-TEST_F(AppGroupsTest, leaveOutASecondInstanceOfOurs)
+TEST_F(AppGroupsTest, excludeASecondInstanceOfOurs)
 {
     const auto second = workspace.launchApp("Second", {.bundleID = workspace.ownBundleID()});
 
     EXPECT_THAT(ownersOf({process(5, second)}), ElementsAre());
 }
 
-TEST_F(AppGroupsTest, leaveOutProcessesWithoutAPid)
+TEST_F(AppGroupsTest, excludeProcessesWithoutAPid)
 {
     workspace.launchApp("Player", {});
 

@@ -77,7 +77,7 @@ TEST_F(AppResolverTest, anAccessoryApplicationOwnsItself)
     EXPECT_EQ(ownerOf(player), "com.example.player");
 }
 
-TEST_F(AppResolverTest, aHelperBelongsToTheApplicationThatAnswersForIt)
+TEST_F(AppResolverTest, aHelperBelongsToItsResponsibleApplication)
 {
     const auto browser = workspace.launchApp("Browser", {});
     const auto helper = workspace.launchHelper(browser);
@@ -85,7 +85,7 @@ TEST_F(AppResolverTest, aHelperBelongsToTheApplicationThatAnswersForIt)
     EXPECT_EQ(ownerOf(helper), "com.example.browser");
 }
 
-TEST_F(AppResolverTest, whoAnswersForAProcessCountsBeforeWhatItsIdentifierExtends)
+TEST_F(AppResolverTest, theResponsibleProcessHasPrecedenceOverTheExtendedIdentifier)
 {
     const auto launcher = workspace.launchApp("Launcher", {});
     workspace.launchApp("Browser", {});

@@ -6,7 +6,7 @@
 namespace fadeloom {
 namespace {
 
-TEST(AppSettings, whatIsHeardAsItIsWaitsForNoTap)
+TEST(AppSettings, unprocessedAppsDoNotWaitForATap)
 {
     SettingsData settings;
     settings.apps["loud"] = {.volume = 1.5F};

@@ -41,7 +41,7 @@ TEST(AppOnCall, isTheFirstInTheMixersOrder)
     EXPECT_EQ(appOnCall(std::vector{appEntry("talk", true), appEntry("meet", true)}, focus), "talk");
 }
 
-TEST(AppOnCall, isNoAppThatOnlyRecords)
+TEST(AppOnCall, isNotAnAppThatOnlyRecords)
 {
     EXPECT_EQ(appOnCall(std::vector{appEntry("dictation", true)}, callApps({"talk"})), std::nullopt);
 }
@@ -54,7 +54,7 @@ TEST(AppOnCall, isNoneWhileDuckingIsOff)
     EXPECT_EQ(appOnCall(std::vector{appEntry("talk", true)}, focus), std::nullopt);
 }
 
-TEST(DuckFactor, lowersEveryAppThatIsNotOfTheList)
+TEST(DuckFactor, ducksEveryUnlistedApp)
 {
     auto focus = callApps({"meet", "talk"});
     focus.duckLevel = 0.3F;
@@ -93,7 +93,7 @@ TEST(CallOffers, lastUntilTheUserAnswersOrTheAppIsGone)
     EXPECT_TRUE(callOffers(silent, callApps({"browser"}), before).empty());
 }
 
-TEST(CallOffers, areNotMadeOfAnAppThatIsListedUnderAnotherIdentifier)
+TEST(CallOffers, areNotMadeForAnAppListedUnderAnotherIdentifier)
 {
     auto phone = appEntry("phone", true);
     phone.isPlaying = true;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An app off the list that may be on a call: it is offered, and the user says what it is.
+// An unlisted app that may be on a call: it is suggested, and the user decides.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -33,7 +33,7 @@ protected:
     ProcessID browserPid = -1;
 };
 
-TEST_F(CallOfferStory, comesWithTheMicrophoneAndLowersNothing)
+TEST_F(CallOfferStory, appearsWithTheMicrophoneAndDucksNothing)
 {
     EXPECT_THAT(*state().callOffers, IsEmpty());
 
@@ -44,7 +44,7 @@ TEST_F(CallOfferStory, comesWithTheMicrophoneAndLowersNothing)
     EXPECT_EQ(valuesOf(player).duck, 1);
 }
 
-TEST_F(CallOfferStory, isTakenWithOneWord)
+TEST_F(CallOfferStory, isAcceptedWithOneCommand)
 {
     listen();
 
@@ -86,7 +86,7 @@ TEST_F(CallOfferStory, outlivesTheCallAndEndsWithTheApp)
     EXPECT_THAT(*state().callOffers, IsEmpty());
 }
 
-TEST_F(CallOfferStory, isNotMadeOfWhatWasTakenOffTheList)
+TEST_F(CallOfferStory, isNotMadeForAnAppRemovedFromTheList)
 {
     controller->addCallApp(browser);
     controller->removeCallApp(browser);
@@ -98,7 +98,7 @@ TEST_F(CallOfferStory, isNotMadeOfWhatWasTakenOffTheList)
     EXPECT_THAT(*state().callOffers, ElementsAre(browser)) << "as if nothing had been said";
 }
 
-TEST_F(CallOfferStory, isNotMadeOfAKnownAppUnderAnotherIdentifier)
+TEST_F(CallOfferStory, isNotMadeForAKnownAppUnderAnotherIdentifier)
 {
     const auto pid = world.launchApp("Meet", {.bundleID = "com.example.meet.sandboxed"});
     world.startPlaying(pid, SimulatedSignal::constant(source));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a call does to the other apps.
+// The effect of a call on the other apps.
 #include "tests/control/ControllerStory.h"
 
 #include <cmath>
@@ -41,7 +41,7 @@ protected:
     const std::string meet = "com.example.meet";
 };
 
-TEST_F(CallStory, lowersTheOthersAsSoonAsItBegins)
+TEST_F(CallStory, ducksTheOthersAsSoonAsItBegins)
 {
     launchPlaying("Player");
     const auto pid = launchPlaying("Talk");
@@ -53,7 +53,7 @@ TEST_F(CallStory, lowersTheOthersAsSoonAsItBegins)
     EXPECT_EQ(valuesOf(talk).duck, 1);
 }
 
-TEST_F(CallStory, bringsTheOthersBackWhenItEnds)
+TEST_F(CallStory, restoresTheOthersWhenItEnds)
 {
     launchPlaying("Player");
     const auto pid = launchPlaying("Talk");
@@ -67,7 +67,7 @@ TEST_F(CallStory, bringsTheOthersBackWhenItEnds)
     EXPECT_NEAR(heardAt("speakers"), 2 * source, 2 * tolerance);
 }
 
-TEST_F(CallStory, isHeardAsAFadeOf300Milliseconds)
+TEST_F(CallStory, fadesWithATimeConstantOf300Milliseconds)
 {
     launchPlaying("Player");
     const auto pid = world.launchApp("Talk");
@@ -83,7 +83,7 @@ TEST_F(CallStory, isHeardAsAFadeOf300Milliseconds)
     EXPECT_NEAR(heardAt("speakers"), source * 0.2F, 0.01F);
 }
 
-TEST_F(CallStory, ofAnAppThatNeverPlayedIsNone)
+TEST_F(CallStory, ofAnAppThatNeverPlayedIsNotACall)
 {
     launchPlaying("Player");
     const auto pid = world.launchApp("Talk");
@@ -95,7 +95,7 @@ TEST_F(CallStory, ofAnAppThatNeverPlayedIsNone)
     EXPECT_EQ(valuesOf(player).duck, 1);
 }
 
-TEST_F(CallStory, ofAnAppThatIsSilentNowCountsOnceItHasPlayed)
+TEST_F(CallStory, ofASilentAppCountsOnceItHasPlayed)
 {
     launchPlaying("Player");
     const auto pid = launchPlaying("Talk");
@@ -116,7 +116,7 @@ TEST_F(CallStory, ofTwoAppsIsTheFirstsInTheMixer)
     startCall(meetPid);
     EXPECT_EQ(*state().callApp, meet);
 
-    world.stopPlaying(meetPid);  // A playing app comes before a silent one.
+    world.stopPlaying(meetPid);  // A playing app precedes a silent one.
     world.runPosted();
 
     EXPECT_EQ(*state().callApp, talk);
@@ -139,7 +139,7 @@ TEST_F(CallStory, passesFromOneAppToTheOther)
     EXPECT_EQ(valuesOf(player).duck, 0.2F);
 }
 
-TEST_F(CallStory, isNotStartedByAnAppThatIsNotOfTheList)
+TEST_F(CallStory, isNotStartedByAnUnlistedApp)
 {
     launchPlaying("Player");
     const auto pid = launchPlaying("Dictation");
@@ -164,7 +164,7 @@ TEST_F(CallStory, withDuckingOffNoMicrophoneIsRead)
     EXPECT_EQ(valuesOf(player).duck, 1);
 }
 
-TEST_F(CallStory, switchingDuckingOnFindsTheCallThatIsUnderWay)
+TEST_F(CallStory, switchingDuckingOnFindsACallInProgress)
 {
     launchPlaying("Player");
     const auto pid = launchPlaying("Talk");
@@ -178,7 +178,7 @@ TEST_F(CallStory, switchingDuckingOnFindsTheCallThatIsUnderWay)
     EXPECT_EQ(valuesOf(player).duck, 0.2F);
 }
 
-TEST_F(CallStory, switchingDuckingOffBringsTheOthersBackAtOnce)
+TEST_F(CallStory, switchingDuckingOffRestoresTheOthersImmediately)
 {
     launchPlaying("Player");
     startCall(launchPlaying("Talk"));
@@ -189,7 +189,7 @@ TEST_F(CallStory, switchingDuckingOffBringsTheOthersBackAtOnce)
     EXPECT_EQ(valuesOf(player).duck, 1);
 }
 
-TEST_F(CallStory, takingTheAppOffTheListEndsIt)
+TEST_F(CallStory, removingTheAppFromTheListEndsIt)
 {
     launchPlaying("Player");
     startCall(launchPlaying("Talk"));
@@ -201,7 +201,7 @@ TEST_F(CallStory, takingTheAppOffTheListEndsIt)
     EXPECT_EQ(valuesOf(talk).duck, 1);
 }
 
-TEST_F(CallStory, anAppThatJoinsTheListDuringItIsNotLoweredAnyMore)
+TEST_F(CallStory, anAppAddedToTheListDuringItIsNoLongerDucked)
 {
     launchPlaying("Player");
     startCall(launchPlaying("Talk"));
@@ -212,7 +212,7 @@ TEST_F(CallStory, anAppThatJoinsTheListDuringItIsNotLoweredAnyMore)
     EXPECT_EQ(valuesOf(player).duck, 1);
 }
 
-TEST_F(CallStory, aNewLevelIsHeardDuringIt)
+TEST_F(CallStory, aNewLevelTakesEffectDuringIt)
 {
     launchPlaying("Player");
     launchPlaying("Radio");
@@ -224,7 +224,7 @@ TEST_F(CallStory, aNewLevelIsHeardDuringIt)
     EXPECT_EQ(valuesOf("com.example.radio").duck, 0.5F);
 }
 
-TEST_F(CallStory, anAppThatBeginsToPlayDuringItIsLowFromItsFirstSample)
+TEST_F(CallStory, anAppThatStartsPlayingDuringItIsDuckedFromItsFirstSample)
 {
     const auto pid = world.launchApp("Talk");
     world.startPlaying(pid, SimulatedSignal::constant(0));

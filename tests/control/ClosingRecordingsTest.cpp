@@ -51,7 +51,7 @@ TEST_F(ClosingRecordingsTest, areClosedAfterTheDelay)
     EXPECT_EQ(files.openCount(), 0U);
 }
 
-// A thread writes cycles without a break, so that every question of the main thread may come in the middle of one.
+// A thread writes cycles continuously, so that every query of the main thread may hit one in progress.
 TEST_F(ClosingRecordingsTest, areClosedOnceNoCycleReachesThem)
 {
     std::atomic<bool> isOver = false;
@@ -76,7 +76,7 @@ TEST_F(ClosingRecordingsTest, areClosedOnceNoCycleReachesThem)
     EXPECT_EQ(closed.size(), 50U);
 }
 
-TEST_F(ClosingRecordingsTest, areClosedAtOnceAtTheEnd)
+TEST_F(ClosingRecordingsTest, areClosedImmediatelyAtTheEnd)
 {
     closing.add("player", recording(), parameters);
     closing.add("chat", recording(), nullptr);

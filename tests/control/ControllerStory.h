@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A world with two output devices, and the controller that is started in it: the stage of the controller's stories.
+// A simulated platform with two output devices, and the controller on it: the fixture of the controller's stories.
 #pragma once
 
 #include "control/AppSettings.h"
@@ -25,8 +25,8 @@ using namespace std::chrono_literals;
 
 class ControllerStory : public testing::Test {
 protected:
-    // What an app plays, and how far from it a device may be to count as playing it: the renderer nears a new volume
-    // without ever quite reaching it.
+    // An app's signal, and the tolerance for a device to count as playing it: the renderer approaches a new volume
+    // asymptotically.
     static constexpr float source = 0.25F;
     static constexpr float tolerance = 0.0005F;
 
@@ -40,7 +40,7 @@ protected:
 
     void start() { controller.emplace(world.platform(), engineLog, "1.2.3"); }
     void end() { controller.reset(); }
-    /// What the user changed in an earlier run.
+    /// Settings that the user changed in an earlier run.
     void givenSettings(const SettingsData& settings)
     {
         ASSERT_TRUE(SettingsFile::save(settings, settingsFile()));
@@ -86,7 +86,7 @@ protected:
     // Measurements.
 
     [[nodiscard]] const ControllerState& state() const { return controller->state(); }
-    /// What the user hears of what went wrong; empty for nothing.
+    /// The error shown to the user; empty if there is none.
     [[nodiscard]] std::string message() const
     {
         const auto& error = *state().error;
@@ -105,13 +105,13 @@ protected:
         const auto* const tap = tapOf(bundleID);
         return tap ? tap->outputUID() : "";
     }
-    /// What the app's renderer was told; the values of a new block without one.
+    /// The values passed to the app's renderer; the defaults without one.
     [[nodiscard]] TapParameters::Values valuesOf(const std::string& bundleID) const
     {
         const auto* const block = controller->parametersOf(bundleID);
         return block ? block->values : TapParameters::Values{};
     }
-    /// The highest sample that a device plays once the gains have settled.
+    /// The peak of a device once the gains have settled.
     [[nodiscard]] float heardAt(const std::string& uid)
     {
         world.advance(1s);
@@ -138,7 +138,7 @@ protected:
         });
         return operations;
     }
-    /// How often a tap was asked for since the world began.
+    /// The number of taps requested so far.
     [[nodiscard]] long tapAttempts() { return callCount(AudioOperation::createTap); }
     /// The taps that exist, where none was refused.
     [[nodiscard]] long tapCount() { return tapAttempts() - callCount(AudioOperation::destroyTap); }
@@ -148,7 +148,7 @@ protected:
         return SettingsFile::defaultURL(world.platform().folders);
     }
     [[nodiscard]] bool isSaveWaiting() { return world.utilityQueue().waitingCount() > 0; }
-    /// The settings as a later run would find them.
+    /// The settings as a later run would load them.
     [[nodiscard]] SettingsData saved()
     {
         return SettingsFile::load(settingsFile(), world.systemLog()).settings;

@@ -20,7 +20,7 @@ protected:
     }
 };
 
-TEST_F(DemoTest, publishesWhatItWasGiven)
+TEST_F(DemoTest, publishesItsContents)
 {
     startDemo();
 
@@ -32,7 +32,7 @@ TEST_F(DemoTest, publishesWhatItWasGiven)
     EXPECT_THAT(*controller->levels().levels(), UnorderedElementsAre(Pair("player", 0.5F)));
 }
 
-TEST_F(DemoTest, looksAtNothingAndTapsNothing)
+TEST_F(DemoTest, queriesNothingAndTapsNothing)
 {
     startDemo();
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The start at login, and how the windows look.
+// Start at login, and the windows' appearance.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -50,7 +50,7 @@ TEST_F(DesktopStory, launchAtLoginIsSwitchedOnAndOff)
     EXPECT_EQ(message(), "");
 }
 
-TEST_F(DesktopStory, aSwitchThatStaysWhereItIsAsksNobody)
+TEST_F(DesktopStory, anUnchangedSwitchCallsNobody)
 {
     start();
 
@@ -70,7 +70,7 @@ TEST_F(DesktopStory, aRefusedLaunchAtLoginFallsBackWithTheReason)
     EXPECT_EQ(message(), "Launch at login: The folder is not writable.");
 }
 
-TEST_F(DesktopStory, aRefusedEndOfLaunchAtLoginStaysOn)
+TEST_F(DesktopStory, aRefusedUnregistrationStaysOn)
 {
     world.loginItem().set(LoginItem::Status::enabled);
     start();
@@ -92,7 +92,7 @@ TEST_F(DesktopStory, launchAtLoginThatWaitsForApprovalShowsOff)
     controller->setLaunchAtLogin(true);
 
     EXPECT_FALSE(launchesAtLogin());
-    EXPECT_EQ(assignments, 1);  // A switch in the panel has to move back.
+    EXPECT_EQ(assignments, 1);  // A switch in the panel must move back.
 }
 
 TEST_F(DesktopStory, theThemeIsAppliedFromTheStart)
@@ -136,7 +136,7 @@ TEST_F(DesktopStory, metersRunWhileTheyAreWatchedAndSwitchedOn)
     EXPECT_FALSE(controller->levels().levels()->empty());
 }
 
-TEST_F(DesktopStory, metersThatNobodyWatchesNeverRun)
+TEST_F(DesktopStory, unwatchedMetersNeverRun)
 {
     start();
     launchPlaying("Player");

@@ -36,7 +36,7 @@ TEST(MeterPosition, staysOnTheScale)
     EXPECT_EQ(meterPosition(std::numeric_limits<float>::infinity()), 1);
 }
 
-TEST(MeterPosition, tellsItsLevel)
+TEST(MeterPosition, reportsItsLevel)
 {
     EXPECT_FLOAT_EQ(meterDecibels(1), 0);
     EXPECT_FLOAT_EQ(meterDecibels(0), -60);
@@ -45,7 +45,7 @@ TEST(MeterPosition, tellsItsLevel)
 
 class LevelStoreTest : public testing::Test {
 protected:
-    // What an app left since the last look, taken once.
+    // An app's peak since the last poll, taken once.
     LevelStore::Levels take()
     {
         lookCount += 1;
@@ -64,7 +64,7 @@ protected:
     LevelStore store{loop, [this] { return take(); }};
 };
 
-TEST_F(LevelStoreTest, restsWhileNobodyWatches)
+TEST_F(LevelStoreTest, isIdleWhileUnwatched)
 {
     peaks = {{"player", 1.0F}};
 
@@ -75,7 +75,7 @@ TEST_F(LevelStoreTest, restsWhileNobodyWatches)
     EXPECT_THAT(*store.levels(), IsEmpty());
 }
 
-TEST_F(LevelStoreTest, looksTwentyTimesASecondWhileSomebodyDoes)
+TEST_F(LevelStoreTest, pollsTwentyTimesASecondWhileWatched)
 {
     watch();
     watch();
@@ -86,7 +86,7 @@ TEST_F(LevelStoreTest, looksTwentyTimesASecondWhileSomebodyDoes)
     EXPECT_EQ(lookCount, 20);
 }
 
-TEST_F(LevelStoreTest, showsNothingOfTheTimeWhenNobodyWatched)
+TEST_F(LevelStoreTest, ignoresLevelsFromWhileItWasUnwatched)
 {
     peaks = {{"player", 1.0F}};
 
@@ -115,7 +115,7 @@ TEST_F(LevelStoreTest, publishesAllAppsTogether)
         ElementsAre(Pair("chat", FloatNear(2.0F / 3, 1e-4F)), Pair("player", FloatNear(1, 1e-6F))));
 }
 
-TEST_F(LevelStoreTest, jumpsUpAtOnceAndSinksBy15PercentALook)
+TEST_F(LevelStoreTest, risesImmediatelyAndDecaysBy15PercentPerPoll)
 {
     watch();
     peaks = {{"player", 0.1F}};
@@ -132,7 +132,7 @@ TEST_F(LevelStoreTest, jumpsUpAtOnceAndSinksBy15PercentALook)
     EXPECT_FLOAT_EQ(level("player"), 1);
 }
 
-TEST_F(LevelStoreTest, isNearlyDownASecondAfterTheSound)
+TEST_F(LevelStoreTest, hasNearlyDecayedASecondAfterTheSound)
 {
     watch();
     peaks = {{"player", 1.0F}};
@@ -143,7 +143,7 @@ TEST_F(LevelStoreTest, isNearlyDownASecondAfterTheSound)
     EXPECT_NEAR(level("player"), std::pow(0.85, 20), 1e-4);
 }
 
-TEST_F(LevelStoreTest, standsAtALevelThatStays)
+TEST_F(LevelStoreTest, showsASteadyLevel)
 {
     watch();
     for (int look = 0; look < 50; ++look) {
@@ -165,7 +165,7 @@ TEST_F(LevelStoreTest, forgetsAnAppThatIsGone)
     EXPECT_THAT(*store.levels(), IsEmpty());
 }
 
-TEST_F(LevelStoreTest, dropsEveryBarWhenNobodyWatchesAnyMore)
+TEST_F(LevelStoreTest, clearsAllMetersOnceUnwatched)
 {
     watch();
     peaks = {{"player", 1.0F}};
@@ -179,7 +179,7 @@ TEST_F(LevelStoreTest, dropsEveryBarWhenNobodyWatchesAnyMore)
     EXPECT_EQ(lookCount, 0);
 }
 
-TEST_F(LevelStoreTest, restsWhileMetersAreSwitchedOff)
+TEST_F(LevelStoreTest, isIdleWhileMetersAreOff)
 {
     store.setEnabled(false);
     watch();
@@ -204,7 +204,7 @@ TEST_F(LevelStoreTest, switchingMetersOffClearsTheBars)
     EXPECT_FALSE(store.isRunning());
 }
 
-TEST_F(LevelStoreTest, switchingMetersOnStartsNothingWhileNobodyWatches)
+TEST_F(LevelStoreTest, switchingMetersOnStartsNothingWhileUnwatched)
 {
     store.setEnabled(false);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Whatever calls the controller back ends the program when it does so on another thread than the main one.
+// A callback into the controller on any thread but the main one aborts the program.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -14,7 +14,7 @@ protected:
         world.runPosted();
     }
 
-    /// Does all that is due, as if it ran on another thread.
+    /// Runs everything that is due, as if on another thread.
     void runElsewhere(SimulatedClock::Duration duration = {})
     {
         const SimulatedMainLoop::OtherThread other;
@@ -42,7 +42,7 @@ TEST_F(MainThreadStory, anAnnouncementOfProcesses)
     EXPECT_DEATH(runElsewhere(), reason);
 }
 
-TEST_F(MainThreadStory, aPollThatWasPutOff)
+TEST_F(MainThreadStory, aDeferredPoll)
 {
     world.openAudio(world.launchApp("Player"));
     world.mainLoop().runTurn();

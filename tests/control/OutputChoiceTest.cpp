@@ -39,7 +39,7 @@ TEST(OutputChoice, ofAnAppThatFollowsTheDefaultIsNeverMissing)
     EXPECT_FALSE(isOutputMissing(choosing("speakers"), {}, "com.example.chat"));
 }
 
-TEST(Difference, holdsWhatIsInOneSetOnly)
+TEST(Difference, isTheSymmetricDifference)
 {
     EXPECT_EQ(difference({"a", "b"}, {"b", "c"}), (std::set<std::string>{"a", "c"}));
     EXPECT_EQ(difference({"a"}, {"a"}), std::set<std::string>{});

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Apps that chose a device for themselves.
+// Apps that have chosen a device themselves.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -38,7 +38,7 @@ TEST_F(OwnOutputStory, anAppOnTwoDevicesPlaysOnBothWithTheSameSettings)
     EXPECT_NEAR(heardAt("speakers"), source / 2, tolerance);
 }
 
-TEST_F(OwnOutputStory, anAppWhoseSoundCannotBeReachedSaysWhyOnce)
+TEST_F(OwnOutputStory, anAppThatCannotBeTappedIsReportedOnce)
 {
     const auto pid = launchPlaying("Player");
 
@@ -80,7 +80,7 @@ TEST_F(OwnOutputStory, aDeviceOfTheAppsChoiceThatIsAwayLeavesTheDefault)
     EXPECT_EQ(outputOf(player), "speakers");
 }
 
-TEST_F(OwnOutputStory, fromTwoDevicesToOneNothingIsHeardTwice)
+TEST_F(OwnOutputStory, fromTwoDevicesToOneNothingIsDoubled)
 {
     const auto pid = launchPlaying("Player");
     world.chooseOutputs(pid, {"headphones", "speakers"});

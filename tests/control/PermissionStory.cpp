@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the user's consent, and its withdrawal, do.
+// The effects of granting and revoking the permission.
 #include "tests/control/ControllerStory.h"
 
 #include <thread>
@@ -42,7 +42,7 @@ TEST_F(PermissionStory, withoutItAppsAreListedAndNotTapped)
     EXPECT_EQ(tapAttempts(), 0);
 }
 
-TEST_F(PermissionStory, withdrawingItRemovesEveryTapWithinAPollAndKeepsTheRows)
+TEST_F(PermissionStory, revokingItRemovesEveryTapWithinAPollAndKeepsTheRows)
 {
     launchPlaying("Player");
     launchPlaying("Chat");
@@ -58,7 +58,7 @@ TEST_F(PermissionStory, withdrawingItRemovesEveryTapWithinAPollAndKeepsTheRows)
     EXPECT_NE(controller->parametersOf("com.example.player"), nullptr);
 }
 
-TEST_F(PermissionStory, withdrawingItEndsARecordingWhileItsTapIsStillThere)
+TEST_F(PermissionStory, revokingItEndsARecordingWhileItsTapStillExists)
 {
     start();
     launchPlaying("Player");
@@ -87,7 +87,7 @@ TEST_F(PermissionStory, grantingItTapsTheListedApps)
     EXPECT_EQ(outputOf("com.example.player"), "speakers");
 }
 
-TEST_F(PermissionStory, theUsersAnswerIsTakenUpOnTheMainThreadWhereverItComesFrom)
+TEST_F(PermissionStory, theUsersAnswerIsHandledOnTheMainThread)
 {
     world.setPermission(SimulatedCapturePermission::undecided);
     launchPlaying("Player");
@@ -115,7 +115,7 @@ TEST_F(PermissionStory, aRefusalIsPublishedToo)
     EXPECT_EQ(*state().permission, State::denied);
 }
 
-TEST_F(PermissionStory, askingWhereNoneCanBeAskedPollsAtOnce)
+TEST_F(PermissionStory, requestingWithoutAPromptPollsImmediately)
 {
     world.setPermission(SimulatedCapturePermission::denied);
     world.capturePermission().setCanRequest(false);
@@ -128,7 +128,7 @@ TEST_F(PermissionStory, askingWhereNoneCanBeAskedPollsAtOnce)
     EXPECT_EQ(world.capturePermission().promptCount(), 0);
 }
 
-TEST_F(PermissionStory, observersAreToldOnlyOfChanges)
+TEST_F(PermissionStory, observersAreNotifiedOnlyOfChanges)
 {
     start();
     std::vector<State> seen;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a poll costs: how often it asks the audio system and the desktop.
+// The cost of a poll: how often it queries the audio system and the desktop.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -7,7 +7,7 @@ namespace {
 
 class PollCost : public ControllerStory {
 protected:
-    // No sound is rendered: what is counted here are questions.
+    // No audio is rendered: only queries are counted.
     PollCost() { world.audioWorld().setCycleInterval(0ms); }
 
     void playEverywhere(int apps)
@@ -37,7 +37,7 @@ TEST_P(PollCostFor, isOneCallForAllProcessesAndOneForTheRateOfEachTap)
 TEST_P(PollCostFor, isOneCallHoweverManyProcessesAreNew)
 {
     start();
-    world.setPermission(SimulatedCapturePermission::denied);  // No taps: the processes alone.
+    world.setPermission(SimulatedCapturePermission::denied);  // No taps: only the processes.
     playEverywhere(GetParam());
 
     EXPECT_EQ(callsOfAPoll(), 1);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which applications stand in the mixer, and in which order.
+// Which applications are in the mixer, and in which order.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -10,7 +10,7 @@ protected:
     PollStory() { start(); }
 };
 
-TEST_F(PollStory, anAppIsListedOnceItHasPlayedAndUntilItsLastProcessGoes)
+TEST_F(PollStory, anAppIsListedOnceItHasPlayedUntilItsLastProcessExits)
 {
     const auto player = world.launchApp("Player");
     world.openAudio(player);
@@ -34,7 +34,7 @@ TEST_F(PollStory, anAppIsListedOnceItHasPlayedAndUntilItsLastProcessGoes)
     EXPECT_TRUE(hasLogged("tap removed (app quit): com.example.player"));
 }
 
-TEST_F(PollStory, anAppThatComesBackHasToPlayAgain)
+TEST_F(PollStory, anAppThatReturnsMustPlayAgain)
 {
     world.quitApp(launchPlaying("Player"));
     world.runPosted();
@@ -70,7 +70,7 @@ TEST_F(PollStory, eachNewListIsLoggedOnce)
     EXPECT_EQ(logCount("apps: com.example.chat▶, com.example.player▶"), 1);
 }
 
-TEST_F(PollStory, observersAreToldOnlyOfChanges)
+TEST_F(PollStory, observersAreNotifiedOnlyOfChanges)
 {
     int told = 0;
     const auto watch = state().apps.whenAssigned([&] { ++told; });
@@ -116,7 +116,7 @@ TEST_F(PollStory, ourOwnProcessesAreNeverListed)
     EXPECT_EQ(mixer(), "");
 }
 
-TEST_F(PollStory, whatAnEndedAppLeavesBehindIsNotListed)
+TEST_F(PollStory, theLeftoversOfAnEndedAppAreNotListed)
 {
     const auto browser = world.launchApp("Browser");
     const auto service = world.launchHelper(-1, "com.example.browser.service");
@@ -149,30 +149,6 @@ TEST_F(PollStory, anAppWithoutANameIsCalledByItsIdentifier)
     world.runPosted();
 
     EXPECT_EQ(state().apps->front().name, "com.example.player");
-}
-
-TEST_F(PollStory, rowsCarryTheAppsIcon)
-{
-    const auto icon = AppIcon{.themeName = "multimedia-player", .file = {}};
-    world.startPlaying(world.launchApp("Player", {.icon = icon}));
-    world.startPlaying(world.launchApp("Chat"));
-    world.runPosted();
-
-    EXPECT_EQ(state().apps->at(0).icon, AppIcon{});
-    EXPECT_EQ(state().apps->at(1).icon, icon);
-}
-
-TEST_F(PollStory, aNewIconIsSeenWhenTheAppComesBack)
-{
-    const auto player = launchPlaying("Player");
-    world.quitApp(player);
-    world.runPosted();
-
-    const auto icon = AppIcon{.themeName = "multimedia-player", .file = {}};
-    world.startPlaying(world.launchApp("Player", {.icon = icon}));
-    world.runPosted();
-
-    EXPECT_EQ(state().apps->at(0).icon, icon);
 }
 
 TEST_F(PollStory, namesAreRememberedForLaterRuns)
@@ -212,7 +188,7 @@ TEST_F(PollStory, theMicrophoneIsReadOnlyWhileCallsAreLookedFor)
     EXPECT_FALSE(state().apps->front().isUsingMic);
 }
 
-TEST_F(PollStory, whatIsNotAnnouncedIsSeenByTheTimer)
+TEST_F(PollStory, unannouncedChangesAreFoundByTheTimer)
 {
     world.audioWorld().processesChanged.silence();
     const auto player = world.launchApp("Player");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What happens when presets are applied, kept and deleted.
+// Applying, saving and deleting presets.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {

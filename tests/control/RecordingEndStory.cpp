@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What ends a recording, or keeps it from starting.
+// What ends a recording, or prevents it from starting.
 #include "tests/control/RecordingStory.h"
 
 #include <fstream>
@@ -114,7 +114,7 @@ TEST_F(RecordingEndStory, aFolderThatCannotBeMadeIsReported)
     EXPECT_THAT(*state().recordings, IsEmpty());
 }
 
-TEST_F(RecordingEndStory, endsWhenTheDiskIsFullAndTheSoundGoesOn)
+TEST_F(RecordingEndStory, endsWhenTheDiskIsFullWhilePlaybackContinues)
 {
     launchPlaying("Player");
     record(player);
@@ -130,7 +130,7 @@ TEST_F(RecordingEndStory, endsWhenTheDiskIsFullAndTheSoundGoesOn)
     EXPECT_NEAR(heardAt("speakers"), source, tolerance);
 }
 
-TEST_F(RecordingEndStory, saysInTheLogWhatItLost)
+TEST_F(RecordingEndStory, logsWhatItLost)
 {
     launchPlaying("Player");
     record(player);

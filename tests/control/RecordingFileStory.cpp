@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where a recording goes, what its file is called, and when it is complete.
+// A recording's folder and file name, and when the file is complete.
 #include "tests/control/RecordingStory.h"
 
 namespace fadeloom {
@@ -16,7 +16,7 @@ using testing::StartsWith;
 
 using RecordingFileStory = RecordingStory;
 
-TEST_F(RecordingFileStory, bearsTheAppsNameAndTheTime)
+TEST_F(RecordingFileStory, hasTheAppsNameAndTheTime)
 {
     using namespace std::chrono;
     world.setDate(sys_days{2025y / 3 / 2} + 14h + 5min + 9s);
@@ -115,7 +115,7 @@ TEST_F(RecordingFileStory, neverReplacesAnother)
     EXPECT_THAT(files(), SizeIs(4));
 }
 
-TEST_F(RecordingFileStory, takesAnotherNameWhereOnlyTheCaseOfLettersDiffers)
+TEST_F(RecordingFileStory, usesAnotherNameIfOnlyTheCaseDiffers)
 {
     world.audioFiles().foldCase();
     launchPlaying("Player");

@@ -14,7 +14,7 @@ using std::chrono::local_days;
 
 const LocalTime afternoon = local_days{2025y / 3 / 2} + 14h + 5min + 9s;
 
-TEST(RecordingFileName, isTheAppAndTheMoment)
+TEST(RecordingFileName, isTheAppAndTheTime)
 {
     EXPECT_EQ(recordingFileName("Player", afternoon), "Player 2025-03-02 14.05.09.wav");
 }
@@ -26,7 +26,7 @@ TEST(RecordingFileName, isTheSameInEveryLocale)
     EXPECT_EQ(recordingFileName("Player", afternoon), "Player 2025-03-02 14.05.09.wav");
 }
 
-TEST(RecordingFileName, hasNoCharacterThatPartsFolders)
+TEST(RecordingFileName, hasNoPathSeparators)
 {
     EXPECT_EQ(recordingFileName("AC/DC: Live", afternoon), "AC-DC- Live 2025-03-02 14.05.09.wav");
     EXPECT_EQ(recordingFileName("../../etc/x", afternoon), "..-..-etc-x 2025-03-02 14.05.09.wav");
@@ -45,7 +45,7 @@ TEST(RecordingFileName, padsEveryNumber)
     EXPECT_EQ(recordingFileName("Player", midnight), "Player 0987-01-02 00.00.00.wav");
 }
 
-TEST(RecordingFileName, tellsRecordingsOfOneSecondApart)
+TEST(RecordingFileName, distinguishesRecordingsOfTheSameSecond)
 {
     EXPECT_EQ(recordingFileName("Player", afternoon, 2), "Player 2025-03-02 14.05.09 2.wav");
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where recordings go, and how the user says so.
+// The recordings folder, and how the user selects it.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -14,7 +14,7 @@ protected:
     const std::string player = "com.example.player";
 };
 
-TEST_F(RecordingFolderStory, makesItsFolderWhenThereIsNone)
+TEST_F(RecordingFolderStory, createsItsFolderIfMissing)
 {
     launchPlaying("Player");
     const auto recordings = controller->recordingsFolder();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A recording is as long as the clock says, whatever its app does meanwhile.
+// A recording is as long as the elapsed time, whatever its app does meanwhile.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -16,7 +16,7 @@ protected:
     const std::string player = "com.example.player";
 };
 
-TEST_F(RecordingLengthStory, isAsLongAsTheClockSaysWhateverItsAppDoes)
+TEST_F(RecordingLengthStory, isAsLongAsTheElapsedTimeWhateverItsAppDoes)
 {
     const auto pid = launchPlaying("Player");
     controller->startRecording(player);

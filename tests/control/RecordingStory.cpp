@@ -27,7 +27,7 @@ TEST_F(RecordingStory, writesWhatTheAppPlays)
     EXPECT_THAT(lastFile().samples, Each(source));
 }
 
-TEST_F(RecordingStory, writesTheSoundBeforeEverythingThatIsDoneToIt)
+TEST_F(RecordingStory, writesTheUnprocessedAudio)
 {
     launchPlaying("Player");
     change(player, [](auto& app) {
@@ -81,7 +81,7 @@ TEST_F(RecordingStory, stoppedTwiceOrNeverStartedIsNothing)
     EXPECT_EQ(message(), "");
 }
 
-TEST_F(RecordingStory, ofSeveralAppsGoOnSideBySide)
+TEST_F(RecordingStory, ofSeveralAppsRunConcurrently)
 {
     launchPlaying("Player");
     world.startPlaying(world.launchApp("Radio"), SimulatedSignal::constant(0.5F));
@@ -98,7 +98,7 @@ TEST_F(RecordingStory, ofSeveralAppsGoOnSideBySide)
     EXPECT_THAT(lastFile().samples, Each(0.5F));
 }
 
-TEST_F(RecordingStory, goesOnWhenTheAppMovesToAnotherOutput)
+TEST_F(RecordingStory, continuesWhenTheAppMovesToAnotherOutput)
 {
     launchPlaying("Player");
     record(player);
@@ -113,7 +113,7 @@ TEST_F(RecordingStory, goesOnWhenTheAppMovesToAnotherOutput)
     EXPECT_NEAR(static_cast<double>(lastFile().frameCount()), 96000, 1440);
 }
 
-TEST_F(RecordingStory, nothingLooksAfterRecordingsWhileThereAreNone)
+TEST_F(RecordingStory, noTimerRunsWithoutRecordings)
 {
     launchPlaying("Player");
     const auto idle = world.mainLoop().timerCount();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A controller whose apps are recorded.
+// The fixture of stories about recordings.
 #pragma once
 
 #include "tests/control/ControllerStory.h"

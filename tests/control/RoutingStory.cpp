@@ -9,7 +9,7 @@ class RoutingStory : public ControllerStory {
 protected:
     RoutingStory() { start(); }
 
-    // Makes "headphones" the output of the player alone.
+    // Makes "headphones" the output of only the player.
     void startWithPlayerOnHeadphones()
     {
         launchPlaying("Player");
@@ -73,7 +73,7 @@ TEST_F(RoutingStory, aReturnedOutputUnmutesTheAppBeforeItsTapIsMadeThere)
     EXPECT_TRUE(messages.back().starts_with("tap ready: com.example.player → headphones"));
 }
 
-TEST_F(RoutingStory, aMissingOutputMutesAnAppWhoseTapIsNotMadeAnew)
+TEST_F(RoutingStory, aMissingOutputMutesAnAppWhoseTapIsNotRebuilt)
 {
     startWithPlayerOnHeadphones();
     world.setPermission(SimulatedCapturePermission::denied);
@@ -175,7 +175,7 @@ TEST_F(RoutingStory, theSystemsDefaultOutputCanBeSet)
     EXPECT_EQ(*state().error, std::nullopt);
 }
 
-TEST_F(RoutingStory, aDefaultOutputThatCannotBeSetIsToldToTheUser)
+TEST_F(RoutingStory, aDefaultOutputThatCannotBeSetIsReportedToTheUser)
 {
     launchPlaying("Player");
     world.refuse(AudioOperation::setDefaultOutput, HowOften::once);

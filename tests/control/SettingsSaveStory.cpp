@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A save that fails, and what is saved at the end.
+// A save that fails, and saving on shutdown.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -15,7 +15,7 @@ protected:
     }
 };
 
-TEST_F(SettingsSaveStory, aSaveThatFailsAfterTheControllerIsGoneIsReportedToNobody)
+TEST_F(SettingsSaveStory, aSaveThatFailsAfterTheControllerIsGoneIsNotReported)
 {
     start();
     std::filesystem::create_directories(settingsFile());
@@ -23,7 +23,7 @@ TEST_F(SettingsSaveStory, aSaveThatFailsAfterTheControllerIsGoneIsReportedToNobo
 
     end();
     ASSERT_TRUE(isSaveWaiting());
-    world.advance(1s);  // The address sanitizer sees a report to what is gone.
+    world.advance(1s);  // The address sanitizer would detect a report to a destroyed object.
 
     EXPECT_FALSE(isSaveWaiting());
     EXPECT_TRUE(std::filesystem::is_directory(settingsFile()));

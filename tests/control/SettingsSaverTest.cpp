@@ -47,7 +47,7 @@ TEST_F(SettingsSaverTest, writesHalfASecondAfterTheLastChangeAndNotBefore)
     EXPECT_EQ(savedLimit(), 1.5F);
 }
 
-TEST_F(SettingsSaverTest, tellsWhyAWriteFailed)
+TEST_F(SettingsSaverTest, reportsWhyAWriteFailed)
 {
     std::filesystem::create_directories(file);
     saveLimit(2);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What happens when the settings change.
+// The effects of settings changes.
 #include "tests/control/ControllerStory.h"
 
 #include "engine/EqualizerDesign.h"
@@ -17,13 +17,13 @@ protected:
         launchPlaying("Player");
         start();
         world.advance(1s);
-        std::filesystem::remove(settingsFile());  // The player's name was remembered.
+        std::filesystem::remove(settingsFile());  // It contains the player's name already.
     }
 
     const std::string player = "com.example.player";
 };
 
-TEST_F(SettingsStory, aChangedVolumeIsHeard)
+TEST_F(SettingsStory, aChangedVolumeTakesEffect)
 {
     startWithPlayer();
 
@@ -56,7 +56,7 @@ TEST_F(SettingsStory, anEqualRecordChangesAndWritesNothing)
     EXPECT_FALSE(std::filesystem::exists(settingsFile()));
 }
 
-TEST_F(SettingsStory, aLoweredCeilingLowersTheAppsAboveItForGood)
+TEST_F(SettingsStory, aLoweredLimitLowersTheAppsAboveItPermanently)
 {
     startWithPlayer();
     setVolumeLimit(2);
@@ -78,7 +78,7 @@ TEST_F(SettingsStory, aLoweredCeilingLowersTheAppsAboveItForGood)
     EXPECT_EQ(valuesOf(player).volume, 1.0F);
 }
 
-TEST_F(SettingsStory, anAppStoredAboveTheCeilingPlaysAtTheCeiling)
+TEST_F(SettingsStory, anAppStoredAboveTheLimitPlaysAtTheLimit)
 {
     startWithPlayer();
     setVolumeLimit(1.25F);
@@ -90,7 +90,7 @@ TEST_F(SettingsStory, anAppStoredAboveTheCeilingPlaysAtTheCeiling)
     EXPECT_NEAR(heardAt("speakers"), source * 1.25F, tolerance);
 }
 
-TEST_F(SettingsStory, aRaisedCeilingLetsAnAppStoredAboveItPlayLouder)
+TEST_F(SettingsStory, aRaisedLimitLetsAnAppStoredAboveItPlayLouder)
 {
     startWithPlayer();
     setVolumeLimit(1.25F);
@@ -139,10 +139,10 @@ TEST_F(SettingsStory, changesInQuickSuccessionAreWrittenOnce)
     EXPECT_FALSE(isSaveWaiting());
 }
 
-TEST_F(SettingsStory, aFailedSaveIsToldAndTheNextChangeTriesAgain)
+TEST_F(SettingsStory, aFailedSaveIsReportedAndTheNextChangeRetries)
 {
     startWithPlayer();
-    std::filesystem::create_directories(settingsFile());  // A folder where the file should be.
+    std::filesystem::create_directories(settingsFile());  // A folder in place of the file.
 
     setVolumeLimit(2);
     world.advance(600ms);
@@ -158,7 +158,7 @@ TEST_F(SettingsStory, aFailedSaveIsToldAndTheNextChangeTriesAgain)
     EXPECT_EQ(saved().volumeLimit, 1.5F);
 }
 
-TEST_F(SettingsStory, settingsThatCannotBeReadAreToldOfAndNeverReplaced)
+TEST_F(SettingsStory, unreadableSettingsAreReportedAndNeverReplaced)
 {
     SettingsData earlier;
     earlier.apps[player].volume = 0.25F;
@@ -217,7 +217,7 @@ TEST_F(SettingsStory, theHeadroomIsTheSameOnEveryOutput)
     EXPECT_LT(preamp, 1);
 }
 
-TEST_F(SettingsStory, switchingTheHeadroomOffIsHeardByEveryApp)
+TEST_F(SettingsStory, switchingTheHeadroomOffAffectsEveryApp)
 {
     startWithPlayer();
     change(player, [](auto& app) { app.eqGains = bassBoost; });

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The end of the program's work: nothing is left behind, and nothing is lost.
+// Shutdown: nothing is left behind, and nothing is lost.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -63,7 +63,7 @@ TEST_F(ShutdownStory, leavesAClosedRecordingAlone)
     EXPECT_EQ(closings(), 1);
 }
 
-TEST_F(ShutdownStory, takesTheTapsDownBeforeItClosesTheFiles)
+TEST_F(ShutdownStory, destroysTheTapsBeforeItClosesTheFiles)
 {
     launchPlaying("Player");
     controller->startRecording(player);
@@ -76,7 +76,7 @@ TEST_F(ShutdownStory, takesTheTapsDownBeforeItClosesTheFiles)
     EXPECT_EQ(closings(), 1);
 }
 
-TEST_F(ShutdownStory, savesAChangeOfTheLastMoment)
+TEST_F(ShutdownStory, savesALastMomentChange)
 {
     world.advance(1s);
     change(player, [](auto& app) { app.volume = 0.5F; });
@@ -98,7 +98,7 @@ TEST_F(ShutdownStory, endsEveryTimer)
     EXPECT_EQ(world.mainLoop().timerCount(), 0);
 }
 
-TEST_F(ShutdownStory, saysNothingWhenAFileIsBroken)
+TEST_F(ShutdownStory, isSilentAboutABrokenFile)
 {
     launchPlaying("Player");
     controller->startRecording(player);
@@ -109,7 +109,7 @@ TEST_F(ShutdownStory, saysNothingWhenAFileIsBroken)
     EXPECT_FALSE(*state().error);
 }
 
-TEST_F(ShutdownStory, canComeTwice)
+TEST_F(ShutdownStory, isIdempotent)
 {
     launchPlaying("Player");
     controller->startRecording(player);

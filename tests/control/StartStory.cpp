@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the controller starts, is called, and ends.
+// The controller's start, requests and shutdown.
 #include "tests/control/ControllerStory.h"
 
 #include <memory>
@@ -9,14 +9,14 @@ namespace {
 
 class StartStory : public ControllerStory { };
 
-TEST_F(StartStory, tellsTheLogWhatItStartsWith)
+TEST_F(StartStory, logsItsInitialState)
 {
     start();
 
     EXPECT_EQ(log().front(), "started 1.2.3, permission: granted, output: speakers");
 }
 
-TEST_F(StartStory, tellsTheLogWhatIsMissing)
+TEST_F(StartStory, logsWhatIsMissing)
 {
     unplug("speakers");
     unplug("headphones");
@@ -36,7 +36,7 @@ TEST_F(StartStory, knowsTheDevicesAtOnce)
     EXPECT_EQ(*state().defaultDeviceUID, "speakers");
 }
 
-TEST_F(StartStory, tapsAnAppThatPlaysAlready)
+TEST_F(StartStory, tapsAnAppThatIsAlreadyPlaying)
 {
     launchPlaying("Player");
 
@@ -46,7 +46,7 @@ TEST_F(StartStory, tapsAnAppThatPlaysAlready)
     EXPECT_EQ(outputOf("com.example.player"), "speakers");
 }
 
-TEST_F(StartStory, takesUpTheSettingsOfAnEarlierRun)
+TEST_F(StartStory, loadsTheSettingsOfAnEarlierRun)
 {
     SettingsData earlier;
     earlier.apps["com.example.player"].volume = 0.5F;
@@ -73,7 +73,7 @@ TEST_F(StartStory, learnsTheNewNameOfAnAppThatIsKnown)
 
 TEST_F(StartStory, startsWithTheDefaultsWhenTheSettingsAreUnreadable)
 {
-    std::filesystem::create_directories(settingsFile());  // A folder where the file should be.
+    std::filesystem::create_directories(settingsFile());  // A folder in place of the file.
 
     start();
 
@@ -86,7 +86,7 @@ TEST_F(StartStory, listsTheCallAppsOfTheSystem)
     EXPECT_THAT(settings().focus.callApps, testing::ElementsAre("com.example.meet", "com.example.talk"));
 }
 
-TEST_F(StartStory, bringsAListOverThatNobodyEdited)
+TEST_F(StartStory, migratesAnUneditedList)
 {
     SettingsData former;
     former.focus.callApps = {"old", "older"};
@@ -101,7 +101,7 @@ TEST_F(StartStory, bringsAListOverThatNobodyEdited)
 TEST_F(StartStory, pollsEveryFiveSeconds)
 {
     start();
-    world.setPermission(SimulatedCapturePermission::denied);  // Nothing announces this.
+    world.setPermission(SimulatedCapturePermission::denied);  // Not announced.
 
     world.advance(4900ms);
     EXPECT_EQ(*state().permission, AudioPermission::State::granted);
@@ -113,7 +113,7 @@ TEST_F(StartStory, pollsEveryFiveSeconds)
     EXPECT_EQ(*state().permission, AudioPermission::State::granted);
 }
 
-TEST_F(StartStory, tenRequestsWithinATurnCostOnePoll)
+TEST_F(StartStory, tenRequestsWithinAnIterationCostOnePoll)
 {
     launchPlaying("Player");
     start();
@@ -145,7 +145,7 @@ TEST_F(StartStory, isNotCalledAnyMoreOnceItIsGone)
     EXPECT_EQ(tapAttempts(), 1);
 }
 
-TEST_F(StartStory, aCallbackOnAnotherThreadStopsTheProcess)
+TEST_F(StartStory, aCallbackOnAnotherThreadAborts)
 {
     start();
     controller->schedulePoll();
@@ -187,7 +187,7 @@ TEST_F(StartStory, nothingIsTappedAgainAfterShutdown)
     EXPECT_EQ(world.audio().callCount(), 0);
 }
 
-TEST_F(StartStory, shutdownWritesAChangeThatIsStillWaiting)
+TEST_F(StartStory, shutdownWritesAPendingChange)
 {
     start();
     setVolumeLimit(1.5F);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// When a tap that was refused is tried again, and when none is made at all.
+// When a refused tap is retried, and when none is created at all.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -13,7 +13,7 @@ protected:
     const std::string player = "com.example.player";
 };
 
-TEST_F(TapRetryStory, aFailureIsForgottenWhenTheDeviceComesBack)
+TEST_F(TapRetryStory, aFailureIsClearedWhenTheDeviceReturns)
 {
     refuseTaps();
     launchPlaying("Player");
@@ -27,7 +27,7 @@ TEST_F(TapRetryStory, aFailureIsForgottenWhenTheDeviceComesBack)
     EXPECT_NE(tapOf(player), nullptr);
 }
 
-TEST_F(TapRetryStory, aFailureIsForgottenWhenTheRateChanges)
+TEST_F(TapRetryStory, aFailureIsClearedWhenTheRateChanges)
 {
     launchPlaying("Player");
     refuseTaps();
@@ -45,7 +45,7 @@ TEST_F(TapRetryStory, aFailureIsForgottenWhenTheRateChanges)
     EXPECT_NE(tapOf(player), nullptr);
 }
 
-TEST_F(TapRetryStory, aFailureIsForgottenWhenThePermissionChanges)
+TEST_F(TapRetryStory, aFailureIsClearedWhenThePermissionChanges)
 {
     refuseTaps();
     launchPlaying("Player");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// When a tap is made, adapted, made anew, given up, and confirmed.
+// When a tap is created, adapted, rebuilt, given up, and confirmed.
 #include "tests/control/ControllerStory.h"
 
 namespace fadeloom {
@@ -11,7 +11,7 @@ class TapStory : public ControllerStory {
 protected:
     TapStory() { start(); }
 
-    // A tap that cannot be made, for whichever reason the audio system has.
+    // Refuses taps, for any reason the audio system may have.
     void refuseTaps() { world.refuse(AudioOperation::createTap, HowOften::always, -50); }
 
     const std::string player = "com.example.player";
@@ -65,7 +65,7 @@ TEST_F(TapStory, aNewProcessJoinsTheTapWithoutAGap)
     EXPECT_EQ(tapAttempts(), 1);
 }
 
-TEST_F(TapStory, aTapThatCannotBeAdaptedIsMadeAnew)
+TEST_F(TapStory, aTapThatCannotBeAdaptedIsRebuilt)
 {
     const auto pid = launchPlaying("Player");
     world.refuse(AudioOperation::setTapProcesses, HowOften::once);
@@ -78,7 +78,7 @@ TEST_F(TapStory, aTapThatCannotBeAdaptedIsMadeAnew)
         ElementsAre(AudioOperation::createTap, AudioOperation::destroyTap, AudioOperation::createTap));
 }
 
-TEST_F(TapStory, aNewRateOfTheOutputMakesTheTapAnew)
+TEST_F(TapStory, aNewRateOfTheOutputRebuildsTheTap)
 {
     launchPlaying("Player");
 
@@ -113,7 +113,7 @@ TEST_F(TapStory, aRateThatCannotBeReadLeavesTheTapAlone)
     EXPECT_EQ(tapAttempts(), 1);
 }
 
-TEST_F(TapStory, aFailedTapIsToldToTheUserAndTheLog)
+TEST_F(TapStory, aFailedTapIsReportedToTheUserAndTheLog)
 {
     refuseTaps();
 
@@ -144,7 +144,7 @@ TEST_F(TapStory, aFailedTapIsNotTriedAgainForTheSameProcessesAndOutput)
     EXPECT_TRUE(state().tapErrors->empty());
 }
 
-TEST_F(TapStory, anotherOutputGivesAFailedTapAnotherChance)
+TEST_F(TapStory, anotherOutputRetriesAFailedTap)
 {
     refuseTaps();
     launchPlaying("Player");
@@ -156,7 +156,7 @@ TEST_F(TapStory, anotherOutputGivesAFailedTapAnotherChance)
     EXPECT_TRUE(state().tapErrors->empty());
 }
 
-TEST_F(TapStory, choosingTheOutputThatTheAppHasAnywayGivesAFailedTapAnotherChance)
+TEST_F(TapStory, selectingTheCurrentOutputRetriesAFailedTap)
 {
     refuseTaps();
     launchPlaying("Player");
@@ -167,7 +167,7 @@ TEST_F(TapStory, choosingTheOutputThatTheAppHasAnywayGivesAFailedTapAnotherChanc
     EXPECT_EQ(outputOf(player), "speakers");
 }
 
-TEST_F(TapStory, aTapThatWasMadeForgetsTheFailureBefore)
+TEST_F(TapStory, aNewTapClearsThePreviousFailure)
 {
     refuseTaps();
     const auto pid = launchPlaying("Player");
@@ -185,7 +185,7 @@ TEST_F(TapStory, aTapThatWasMadeForgetsTheFailureBefore)
     EXPECT_EQ(tapOf(player)->processIDs().size(), 1);
 }
 
-TEST_F(TapStory, theErrorGoesWithTheApp)
+TEST_F(TapStory, theErrorIsClearedWithTheApp)
 {
     refuseTaps();
     const auto pid = launchPlaying("Player");
@@ -198,7 +198,7 @@ TEST_F(TapStory, theErrorGoesWithTheApp)
     EXPECT_TRUE(state().tapErrors->contains("com.example.chat"));
 }
 
-TEST_F(TapStory, anAppThatComesBackAfterAFailureIsTriedAgain)
+TEST_F(TapStory, anAppThatReturnsAfterAFailureIsRetried)
 {
     refuseTaps();
     world.quitApp(launchPlaying("Player"));

@@ -34,7 +34,7 @@ TEST(TapValues, ofTheDefaultsChangeNothing)
     EXPECT_EQ(tapValues({}, {}, false), TapParameters::Values{});
 }
 
-TEST(TapValues, applyTheCeilingToWhateverIsStored)
+TEST(TapValues, applyTheLimitToAnyStoredVolume)
 {
     SettingsData settings;
     settings.volumeLimit = 1.25F;
@@ -53,7 +53,7 @@ TEST(TapValues, muteAnAppThatIsMutedOrHasLostItsOutput)
     EXPECT_FALSE(tapValues({}, {}, false).muted);
 }
 
-TEST(TapValues, takeTheHeadroomOffThePreamp)
+TEST(TapValues, subtractTheHeadroomFromThePreamp)
 {
     SettingsData settings;
     AppAudioSettings app;

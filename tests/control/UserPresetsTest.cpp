@@ -47,7 +47,7 @@ TEST(UserPresets, applyingOneSwitchesTheEqualizerOn)
     EXPECT_THAT(app.eqGains, Each(3));
 }
 
-TEST(UserPresets, aShortOneLeavesItsOtherBandsFlat)
+TEST(UserPresets, aShortPresetLeavesTheOtherBandsFlat)
 {
     SettingsData settings;
     setGains(settings, "player", 5);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The audio system of macOS, on the CoreAudio of this Mac, keeps the contract of the platform interfaces.
+// The platform contract for the audio system of macOS, on this Mac's CoreAudio.
 //
 //      coreaudioTests                  the contract and the questions
-//      coreaudioTests --play VOLUME    is a player for them
+// coreaudioTests --play VOLUME    is a player for them
 #include "app/macos/HomeMainLoop.h"
 #include "tests/coreaudio/CoreAudioWorld.h"
 #include "tests/coreaudio/SinePlayer.h"
@@ -24,7 +24,7 @@ static std::unique_ptr<ContractWorld> makeCoreAudioWorld()
 INSTANTIATE_TEST_SUITE_P(CoreAudio, PlatformContract, ::testing::Values(&makeCoreAudioWorld));
 INSTANTIATE_TEST_SUITE_P(CoreAudio, TapContract, ::testing::Values(&makeCoreAudioWorld));
 
-/// Tests that cannot be had on this Mac; each is told.
+/// Tests that cannot run on this Mac; each is reported.
 static std::string leftOut()
 {
     std::string tests;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What no double can prove, asked of this Mac. Each test prints a line that begins with "answer"; the report of
+// Probes this Mac for what no double can prove. Each test prints a line that begins with "answer"; the report of
 // packaging/macos/firstHour collects them.
 #include "platform/macos/AppKitWorkspace.h"
 #include "platform/macos/ExtendedAudioFiles.h"
@@ -27,7 +27,7 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-/// One line, also when the test fails later.
+/// Prints one line, even if the test fails later.
 class Answer : public std::ostringstream {
 public:
     explicit Answer(const char* question) { *this << "answer " << question << ": "; }
@@ -120,7 +120,7 @@ TEST_F(CoreAudioQuestions, startAfterTheTapWithPermission)
 
 TEST_F(CoreAudioQuestions, microphoneBesideTheTapWithPermission)
 {
-    // A device that hears, with the output in one, as a headset is.
+    // A device with an input, combined with the output, like a headset.
     const auto ids = HAL::getArray(
         kAudioObjectSystemObject, kAudioHardwarePropertyDevices, kAudioObjectPropertyScopeGlobal);
     const auto hears = std::ranges::find_if(ids, [](auto id) {

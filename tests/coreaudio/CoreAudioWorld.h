@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The CoreAudio of this Mac as a world of the contract: players are processes of this program, devices that are plugged
-// in are aggregate devices around the default output.
+// This Mac's CoreAudio as a world for the contract: players are processes of this program, plugged devices are
+// aggregate devices around the default output.
 #pragma once
 
 #include "platform/macos/CoreAudioSystem.h"
@@ -16,8 +16,8 @@
 
 namespace fadeloom {
 
-/// Public devices: a private one could be no default output, and no other process could play on it. They go, and the
-/// default output is as before, when the world ends.
+/// Public devices: a private one could not be the default output, and no other process could play on it. The destructor
+/// removes them and restores the default output.
 class CoreAudioWorld final : public ContractWorld {
 public:
     CoreAudioWorld();
@@ -25,9 +25,9 @@ public:
 
     /// Absent without an output device to build on.
     [[nodiscard]] static std::optional<std::string> originalOutput();
-    /// Whether what others play may be captured: without it taps deliver zeros.
+    /// Whether other processes may be captured: without permission taps deliver zeros.
     [[nodiscard]] static bool mayCapture();
-    /// How this very program is started once more, as a player.
+    /// The command line that starts this program as a player.
     static std::string& program();
 
     AudioSystem& audio() override { return audio_; }
@@ -44,7 +44,7 @@ public:
     bool waitUntil(const std::function<bool()>& condition) override;
     void settle() override;
 
-    /// An aggregate device of these devices, in their order.
+    /// An aggregate device of these devices, in order.
     void plugTogether(const std::string& uid, const std::string& name, const std::set<std::string>& parts);
 
 private:

@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "tests/coreaudio/CoreAudioWorld.h"
-
 #include "platform/macos/HAL.h"
 #include "platform/macos/NSText.h"
 #include "platform/macos/OutputDevices.h"
 #include "tests/coreaudio/SinePlayer.h"
 
 #include <gtest/gtest.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <utility>
 #include <vector>
-
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 extern char** environ;
 
@@ -37,7 +35,7 @@ CoreAudioWorld::~CoreAudioWorld()
 
 std::optional<std::string> CoreAudioWorld::originalOutput()
 {
-    static const auto uid = OutputDevices::defaultOutputUID();  // As it was when the program began.
+    static const auto uid = OutputDevices::defaultOutputUID();  // As it was at startup.
     return uid;
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// A player that the tests start as a process of its own: a sine of 441 Hz on the default output.
+// A player process for the tests: a sine of 441 Hz on the default output.
 #pragma once
 
 #include <csignal>
 
 namespace fadeloom::SinePlayer {
 
-/// With audio that stays open; and playing on.
+/// Whether audio stays open, and whether it keeps playing.
 inline constexpr int pauseSignal = SIGUSR1;
 inline constexpr int resumeSignal = SIGUSR2;
 

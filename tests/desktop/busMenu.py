@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The icon's menu as the desktop's panel gets it over the message bus."""
+"""The icon's menu, as exported on D-Bus for the desktop's panel."""
 
 import time
 
@@ -7,7 +7,7 @@ import dbus
 
 
 class BusMenu:
-    """Of the icon that the tray has now; raises StopIteration when there is none."""
+    """The menu of the tray's current icon; raises StopIteration if there is none."""
 
     def __init__(self, session):
         bus = dbus.bus.BusConnection(session.environment["DBUS_SESSION_BUS_ADDRESS"])
@@ -23,7 +23,7 @@ class BusMenu:
         return self.item.Get("org.kde.StatusNotifierItem", name, dbus_interface="org.freedesktop.DBus.Properties")
 
     def entries(self):
-        """What is in it now: label -> (id, is checked)."""
+        """Its current contents: label -> (id, is checked)."""
         self.menu.AboutToShow(0)
         time.sleep(0.2)
         _, (_, _, children) = self.menu.GetLayout(0, -1, [])

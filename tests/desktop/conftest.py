@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The program with its icon and panel on a desktop of its own, with real players in a real graph."""
+"""The program with its icon and panel on a private desktop, with real players in a real graph."""
 
 import contextlib
 import json
@@ -25,10 +25,10 @@ def program():
 
 
 class Desk:
-    """The desktop with the program on it, in the words of the tests."""
+    """The desktop with the program on it: the fixture of the tests."""
 
     def __init__(self, session):
-        from person import Person  # It looks for the session's message bus, which has to run.
+        from person import Person  # Needs the running session's message bus.
         self.session = session
         self.person = Person(session)
         self.icon = None
@@ -42,7 +42,7 @@ class Desk:
         return self.session.folder / "config" / "Fadeloom" / "settings.json"
 
     def saved(self):
-        """The settings as they stand in the file."""
+        """The settings in the file."""
         with contextlib.suppress(OSError, json.JSONDecodeError):
             return json.loads(self.settingsFile.read_text())
         return {}
@@ -51,7 +51,7 @@ class Desk:
         return self.saved().get("apps", {}).get(bundleID, {})
 
     def start(self, values=None, waitForIcon=True, **environment):
-        """Starts the program with these settings; animations are off unless they say otherwise."""
+        """Starts the program with these settings; animations are off by default."""
         values = dict(values or settings())
         values.setdefault("appearance", {"animations": False})
         self.settingsFile.parent.mkdir(parents=True, exist_ok=True)
@@ -70,11 +70,11 @@ class Desk:
         return None
 
     def said(self):
-        """What the program wrote to the terminal."""
+        """The program's output to the terminal."""
         return (self.session.folder / "fadeloom.log").read_text()
 
     def panel(self):
-        """The panel's place while it is open: x, y, width, height."""
+        """The panel's geometry while it is open: x, y, width, height."""
         windows = self.session.windows("^Fadeloom$")
         return self.session.geometry(windows[-1]) if windows else None
 
@@ -86,7 +86,7 @@ class Desk:
         waitUntil(lambda: self.panel() is None, "the panel to close")
 
     def clean(self):
-        """Ends what the test has started."""
+        """Ends everything that the test has started."""
         self.end()
         for name in self.players:
             if name in self.session.processes:
@@ -106,7 +106,7 @@ class Desk:
         self.session.spawn(name, [str(copy), "--playback", str(file)])
 
     def level(self, frequency=1000, device="speakers", seconds=0.6):
-        """The amplitude of a sine as the device plays it now."""
+        """The amplitude of a sine in the device's current output."""
         self.count += 1
         name = f"listening{self.count}"
         file = self.session.recordDevice(name, device)
@@ -118,7 +118,7 @@ class Desk:
         return float(signals.typicalAmplitude(recorded[len(recorded) // 4:].reshape(-1, 1), frequency)[0])
 
     def waitForLevel(self, wanted, relative=0.02, **options):
-        """Waits until the device plays the sine so loud; 0 is digital silence."""
+        """Waits until the device plays the sine at this level; 0 is digital silence."""
         heard = []
 
         def isReached():
@@ -129,14 +129,14 @@ class Desk:
 
 @pytest.fixture(scope="session")
 def desktop():
-    """One for all tests: the screen reader's library stays with the first that it saw."""
+    """One for all tests, because the accessibility library keeps the first session it has seen."""
     with DesktopSession() as session:
         os.environ.update({name: session.environment[name] for name in ("DISPLAY", "DBUS_SESSION_BUS_ADDRESS")})
         yield session
 
 
 def use(session, tray):
-    """Has this kind of tray, or none, on the desktop."""
+    """Runs this kind of tray, or none, on the desktop."""
     if getattr(session, "tray", None) == tray:
         return
     if getattr(session, "tray", None):
@@ -150,7 +150,7 @@ def use(session, tray):
 
 @pytest.fixture
 def makeDesk(desktop):
-    """Makes a desk with the tray of this name; without one, for None."""
+    """Creates a desk with the tray of this name; None for no tray."""
     desks = []
 
     def make(tray):
@@ -164,13 +164,13 @@ def makeDesk(desktop):
 
 @pytest.fixture
 def desk(makeDesk):
-    """With a tray over the message bus."""
+    """With a StatusNotifier tray."""
     return makeDesk("xfce4-panel")
 
 
 @pytest.fixture
 def openDesk(desk):
-    """A player plays at 0.2, the panel is open on it."""
+    """A player plays at 0.2, with the panel open."""
     desk.play()
     desk.start()
     desk.open()

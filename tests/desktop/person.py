@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Somebody in front of the private desktop: sees the display, uses mouse and keyboard, or a screen reader."""
+"""A user of the private desktop: sees the display, uses mouse and keyboard, or a screen reader."""
 
 import contextlib
 
@@ -11,14 +11,14 @@ from audioSession import waitUntil
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-# What can be pressed, moved or written in. Qt 6.4 calls most of them buttons.
+# What can be pressed, moved or typed in. Qt 6.4 exposes most of them as buttons.
 ACTIVE = (Atspi.Role.PUSH_BUTTON, Atspi.Role.CHECK_BOX, Atspi.Role.SLIDER, Atspi.Role.RADIO_BUTTON, Atspi.Role.MENU_ITEM,
           Atspi.Role.COMBO_BOX, Atspi.Role.LINK, Atspi.Role.ENTRY, Atspi.Role.TEXT)
-BAR = 30  # Pixels; every tray here is that high or less.
+BAR = 30  # Pixels; every tray here is at most this high.
 
 
 class Control:
-    """One thing on the screen, as a screen reader has it."""
+    """An accessible object of the screen."""
 
     def __init__(self, accessible):
         self.accessible = accessible
@@ -49,7 +49,7 @@ class Control:
         return values.get_minimum_value(), values.get_maximum_value()
 
     def has(self, state):
-        """Whether it is in this state of Atspi.StateType."""
+        """Whether it has this Atspi.StateType."""
         return self.accessible.get_state_set().contains(state)
 
     @property
@@ -77,17 +77,17 @@ class Control:
 
 
 class Person:
-    """Looks at the panel of the program that runs in `session`."""
+    """Inspects the panel of the program in `session`."""
 
     def __init__(self, session):
         self.session = session
 
-    # What can be seen
+    # Observation
 
     def controls(self, showing=True):
-        """Everything of the panel in its order, as a screen reader meets it."""
+        """Everything in the panel in order, as encountered by a screen reader."""
         found = []
-        with contextlib.suppress(GLib.Error):  # The program has ended, or its views have changed meanwhile.
+        with contextlib.suppress(GLib.Error):  # The program has exited, or its views have changed meanwhile.
             desktop = Atspi.get_desktop(0)
             desktop.clear_cache()
             for i in range(desktop.get_child_count()):
@@ -105,44 +105,44 @@ class Person:
                 self._collect(child, found)
 
     def find(self, name, role=None, seconds=5.0):
-        """The control of this name; waits until it is shown."""
+        """The control with this name; waits until it is shown."""
         return waitUntil(lambda: self.look(name, role), f"{name} on the panel", seconds)
 
     def look(self, name, role=None):
-        """The control of this name that is shown now, or None."""
+        """The control with this name that is currently shown, or None."""
         return next((control for control in self.controls()
                      if control.name == name and (role is None or control.role == role)), None)
 
     def reads(self, text):
-        """Whether this text stands somewhere on the panel."""
+        """Whether this text is anywhere in the panel."""
         return self.look(text) is not None
 
     def waitForText(self, text, seconds=5.0):
         waitUntil(lambda: self.reads(text), f"“{text}” on the panel", seconds)
 
     def focused(self):
-        """The control with the keyboard, or None; of those that hold each other, the innermost."""
+        """The focused control, or None; of nested ones, the innermost."""
         focused = [control for control in self.controls() if control.has(Atspi.StateType.FOCUSED)]
         return focused[-1] if focused else None
 
     def press(self, name):
-        """By the screen reader, wherever on a page that scrolls it is."""
+        """Through accessibility, regardless of scrolling."""
         def named():
             return next((control for control in self.controls(showing=False) if control.name == name), None)
         waitUntil(named, f"{name} on the panel").press()
 
-    # Hands
+    # Input
 
     def click(self, control, button=1):
         self.session.click(*control.middle, button)
 
     def choose(self, menu, entry):
-        """Opens a menu by its button and clicks an entry."""
+        """Opens a menu with its button and clicks an entry."""
         self.click(self.find(menu))
         self.click(self.find(entry, Atspi.Role.MENU_ITEM))
 
     def drag(self, start, end):
-        """With the left button, by the way."""
+        """With the left button, along a path."""
         run = self.session.run
         run("xdotool", "mousemove", str(start[0]), str(start[1]), "mousedown", "1")
         for step in range(1, 6):
@@ -153,8 +153,8 @@ class Person:
     # The icon
 
     def iconAppears(self, before, seconds=8.0):
-        """Waits for something new in the bar along the top of the screen, which was `before`, and until it is drawn;
-        returns its middle."""
+        """Waits for a change in the bar along the top of the screen, which was `before`, and until it is fully drawn;
+        returns its centre."""
         seen = []
 
         def search():

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The program on a Wayland desktop of sway, in the words of the tests."""
+"""The program on a Wayland desktop with sway: the fixture of the tests."""
 
 import contextlib
 import json
@@ -19,7 +19,7 @@ BACKGROUND = numpy.array([0x55, 0x77, 0xAA])
 
 
 class SwayDesk:
-    """The program on such a desktop, in the words of the tests."""
+    """The program on such a desktop."""
 
     def __init__(self, session):
         self.session = session
@@ -36,14 +36,14 @@ class SwayDesk:
         return (self.session.folder / "config" / "Fadeloom" / "engine.log").read_text()
 
     def settingsOf(self, app):
-        """Of an app, as they are stored; empty while they are the usual ones."""
+        """An app's stored settings; empty while they are the defaults."""
         file = self.session.folder / "config" / "Fadeloom" / "settings.json"
         return json.loads(file.read_text()).get("apps", {}).get(app, {})
 
     def said(self):
         return (self.session.folder / "fadeloom.log").read_text()
 
-    # Places, in the desktop's own pixels
+    # Positions, in logical pixels
 
     def _scaled(self, places, output):
         x, y, _, _ = self.session.outputs()[output]
@@ -51,13 +51,13 @@ class SwayDesk:
         return tuple(place / scale + offset for place, offset in zip(places, (x, y, 0, 0)))
 
     def bar(self, output=0):
-        """Of the display: the rows that the bar has."""
+        """The rows of the display that the bar occupies."""
         height = self.session.pixels(output).shape[0]
         thickness = round(BAR * self.session.scales[output])
         return slice(0, thickness) if self.session.edge == "top" else slice(height - thickness, height)
 
     def icon(self, output=0):
-        """The middle of the icon, the only thing in the right end of the bar; None while there is none."""
+        """The centre of the icon, the only thing at the right end of the bar; None while there is none."""
         pixels = self.session.pixels(output)
         rows = pixels[self.bar(output)]
         end = rows[:, -round(60 * self.session.scales[output]):]
@@ -71,7 +71,7 @@ class SwayDesk:
         return self._scaled((x, y), output)
 
     def panel(self, output=0):
-        """x, y, width and height of what lies on the background in the size of the panel, or None."""
+        """The geometry of whatever on the background has the size of the panel, or None."""
         pixels = self.session.pixels(output)
         covered = numpy.abs(pixels - BACKGROUND).max(axis=2) > 12
         covered[self.bar(output)] = False

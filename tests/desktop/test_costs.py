@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A program that runs for months may not stir while nobody needs it. tools/panelCosts.py measures more."""
+"""A program that runs for months must be idle when it is not needed. tools/panelCosts.py measures more."""
 
 import time
 
@@ -8,7 +8,7 @@ from processUse import cpuSeconds, wakeups
 
 
 def stirrings(desk, seconds=11):
-    """Wakeups a second of all threads, over two of the polls that come every five seconds."""
+    """Wakeups per second of all threads, over two of the polls that happen every five seconds."""
     pid = programOf(desk.session.processes["fadeloom"].pid)
     before, used = wakeups(pid), cpuSeconds(f"/proc/{pid}/stat")
     time.sleep(seconds)

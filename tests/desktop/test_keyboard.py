@@ -6,7 +6,7 @@ from person import ACTIVE, Atspi
 
 
 def tabOrder(desk, count):
-    """The names of the controls that Tab reaches, in their order."""
+    """The names of the controls that Tab reaches, in order."""
     names = []
     for _ in range(count):
         before = desk.person.focused()
@@ -78,7 +78,7 @@ def test_aMenuIsOpenedMovedThroughAndChosenFrom(openDesk):
     try:
         openDesk.session.press("space")
         openDesk.person.find("Headphones", Atspi.Role.MENU_ITEM)
-        openDesk.session.press("Down")  # The one that is chosen has the keyboard first.
+        openDesk.session.press("Down")  # The selected one has the focus first.
         waitUntil(lambda: openDesk.person.focused().name == "Headphones", "Headphones in the menu")
         openDesk.session.press("Return")
 
@@ -95,7 +95,7 @@ def test_muteBySpaceAndSettingsByReturn(openDesk):
     focus(openDesk, "Settings")
     openDesk.session.press("space")
     openDesk.person.waitForText("Focus Mode")
-    openDesk.session.press("space")  # "Back" stands where "Settings" was.
+    openDesk.session.press("space")  # "Back" is where "Settings" was.
     openDesk.person.find("Unmute Player")
 
 
@@ -104,7 +104,7 @@ def test_everyControlOfTheSettingsIsReached(desk):
     desk.open()
     desk.person.click(desk.person.find("Settings"))
     desk.person.waitForText("Focus Mode")
-    # What lies below the edge of the page is there, too, and counts.
+    # Includes controls below the visible part of the page.
     page = [control.name for control in desk.person.controls(showing=False)
             if control.role in ACTIVE and control.has(Atspi.StateType.ENABLED)]
     wanted = {name for name in page if name and not name.startswith(("Update", "Restart to Apply"))}

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What the panel does to the sound of a real player, with the mouse."""
+"""The panel's effect on the audio of a real player, with the mouse."""
 
 import time
 
@@ -22,7 +22,7 @@ def test_theRowShowsThePlayerAndItsLevelMoves(desk):
     x, y, width, height = slider.place
 
     def meter():
-        """How many columns of the strip below the slider have a colour."""
+        """The number of coloured columns of the strip below the slider."""
         strip = desk.session.pixels()[y + height + 4:y + height + 18, x:x + width]
         return int((strip.max(axis=2) - strip.min(axis=2) > 60).any(axis=0).sum())
     waitUntil(lambda: meter() > 0.5 * width, "the level of a sine at 0.2")
@@ -35,7 +35,7 @@ def test_theSliderAtTheMiddleHalvesTheSound(openDesk):
     x, y, width, height = person.find("Player volume").place
     y += height // 2
 
-    # The thumb's middle goes from half its width behind the one end to half its width before the other.
+    # The thumb's centre moves from half its width after one end to half its width before the other.
     person.drag((x + width - 8, y), (x + width // 2, y))
 
     person.waitForText("50%")
@@ -43,7 +43,7 @@ def test_theSliderAtTheMiddleHalvesTheSound(openDesk):
     waitUntil(lambda: openDesk.savedApp("Player").get("volume") == pytest.approx(0.5, abs=0.004), "the settings file")
 
 
-def test_muteSilencesAndGivesBack(openDesk):
+def test_muteAndUnmute(openDesk):
     person = openDesk.person
     openDesk.waitForLevel(0.2)
 
@@ -114,7 +114,7 @@ def test_aBandIsDraggedInWholeDecibels(openDesk):
 def test_aRecordingHoldsWhatWasPlayed(openDesk):
     person, session = openDesk.person, openDesk.session
     openDesk.waitForLevel(0.2)
-    person.click(person.find("Mute Player"))  # A recording is made before mute and volume.
+    person.click(person.find("Mute Player"))  # A recording precedes mute and volume.
     person.click(person.find("Expand Player"))
 
     person.click(person.find("Start"))

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""The panel by a screen reader: what it says of each control, and what it can do with it.
+"""The panel through accessibility: how each control is exposed, and what a screen reader can do with it.
 
-Whether something was done is looked up in the sound or the settings, never in the control.
+Effects are verified in the audio or the settings, never in the control.
 """
 
 from audioSession import waitUntil

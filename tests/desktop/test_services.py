@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What the program does around the panel: a second start, updates, the language, the About panel."""
+"""Services around the panel: a second start, updates, the language, the About panel."""
 
 import contextlib
 import http.server
@@ -13,7 +13,7 @@ from conftest import program
 
 @contextlib.contextmanager
 def feed(**answer):
-    """A web server on this machine with this record of the newest version; gives its address and what was asked."""
+    """A local web server with this version record; yields its URL and the requests."""
     asked = []
 
     class Handler(http.server.BaseHTTPRequestHandler):
@@ -72,7 +72,7 @@ def test_aNewerVersionIsOfferedInThePanelAndInAMessage(desk):
         assert len(asked) == 2
 
 
-def test_whenNobodyAnswersOnlyTheUsersQuestionIsAnswered(desk):
+def test_withoutAServerOnlyTheUsersCheckIsReported(desk):
     desk.start(FADELOOM_UPDATE_ENDPOINT="http://127.0.0.1:9")
     desk.open()
     assert not any(control.name.startswith("Update") for control in desk.person.controls())

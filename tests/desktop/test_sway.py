@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Icon and panel on a Wayland desktop: beside the icon at every edge, sharp, closed by whatever else is clicked."""
+"""Icon and panel on a Wayland desktop: beside the icon at every edge, sharp, closed by any click outside."""
 
 import time
 
@@ -23,7 +23,7 @@ def desk():
 
 
 def isBeside(desk, panel, icon, output=0):
-    """Beyond the bar by the gap, in the middle of the icon or as near to it as the screen allows."""
+    """Clear of the bar by the gap, centred on the icon or as close to that as the screen allows."""
     left, top, wide, high = desk.session.outputs()[output]
     x, y, width, height = panel
     assert width == pytest.approx(PANEL, abs=2)
@@ -152,7 +152,7 @@ def test_itIsBesideTheIconThere(options):
         icon = desk.icon()
         for _ in range(3):
             panel = desk.open()
-            if options.get("bar") != "swaybar":  # Whose bar has another thickness.
+            if options.get("bar") != "swaybar":  # Its bar has another thickness.
                 isBeside(desk, panel, icon)
             desk.session.press("Escape")
             desk.waitUntilClosed()
@@ -181,12 +181,12 @@ def test_itIsSharpAtAFractionalScale():
 
         title = desk.session.pixels()[rows, columns].mean(axis=2)
 
-        # Letters in the display's own pixels go from dark to light in one of them; enlarged ones reach two thirds of it.
+        # Sharp letters go from dark to light within one physical pixel; upscaled ones reach two thirds of that.
         steps = numpy.abs(numpy.diff(title, axis=1))
         assert steps.max() > 0.85 * (title.max() - title.min())
 
 
-def test_fromTheSecondTimeItIsThereAtOnce():
+def test_fromTheSecondTimeItOpensImmediately():
     with SwaySession() as session:
         _, *later = openings(session, program(), 8)
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The icon, its menu, and how the panel comes and goes; with each kind of tray, and with none."""
+"""The icon, its menu, and how the panel opens and closes; with each kind of tray, and with none."""
 
 import time
 
@@ -21,7 +21,7 @@ def isBelow(panel, icon):
 
 
 def outside(desk):
-    """A place on the desktop where nothing is."""
+    """An empty place on the desktop."""
     desk.session.click(200, 600)
 
 
@@ -103,7 +103,7 @@ def test_aRightClickShowsTheMenuAndClosesThePanel(desk):
     desk.session.click(*desk.icon, button=3)
 
     desk.waitUntilClosed()
-    # The tray draws the menu, a light sheet below the icon; a tool tip would be much less.
+    # The tray draws the menu, a light surface below the icon; a tooltip would be much smaller.
     waitUntil(lambda: abs(desk.session.pixels() - before)[30:160, SIZE[0] - 200:].sum() > 10_000_000, "the menu")
     desk.session.press("Escape")
 
@@ -139,7 +139,7 @@ def test_theIconComesBackWithATrayThatRestarts(desk):
     desk.session.startXfcePanel()
 
     waitUntil(lambda: findMenu(desk.session), "the icon")
-    time.sleep(0.5)  # The tray draws it where it was.
+    time.sleep(0.5)  # The tray redraws it in its old place.
     assert isBelow(desk.open(), desk.icon)
 
 
@@ -148,7 +148,7 @@ def test_anIconOfTheOlderKindOpensThePanelAndTheMenu(makeDesk):
     desk.start()
 
     assert isBelow(desk.open(), desk.icon)
-    time.sleep(0.5)  # Sooner, it would be a double click.
+    time.sleep(0.5)  # Otherwise it would be a double click.
     desk.session.click(*desk.icon)
     desk.waitUntilClosed()
     time.sleep(0.5)
@@ -193,7 +193,7 @@ def test_aTrayThatComesLaterGetsTheIcon(makeDesk):
 
 
 def cornerShowsTheDesktop(desk):
-    """Whether the panel's upper left corner looks like what is beside the panel."""
+    """Whether the panel's upper left corner looks like its surroundings."""
     x, y, _, _ = desk.panel()
     pixels = desk.session.pixels()
     return abs(pixels[y + 1, x + 1] - pixels[y + 1, x - 3]).max() < 8
@@ -210,7 +210,7 @@ def test_withoutACompositorThePanelHasItsCorners(desk):
 def test_withACompositorTheyAreRound(desk):
     desk.session.spawn("picom", ["picom", "--backend", "xrender", "--config", "/dev/null"])
     try:
-        time.sleep(1)  # It says nowhere when it is ready.
+        time.sleep(1)  # There is no indication of when it is ready.
         desk.start()
         desk.open()
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Where nobody shows status icons, the panel is an ordinary window."""
+"""Without any host for status icons, the panel is an ordinary window."""
 
 import time
 

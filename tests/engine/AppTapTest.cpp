@@ -55,7 +55,7 @@ TEST_F(AppTapTest, playsTheAppThroughItsRenderer)
     EXPECT_GT(parameters->takePeak(), 0.0F);
 }
 
-TEST_F(AppTapTest, knowsWhatItWasMadeOf)
+TEST_F(AppTapTest, knowsItsParameters)
 {
     world.changeRate("speakers", 96000);
     const auto tap = create();
@@ -100,7 +100,7 @@ TEST_F(AppTapTest, leavesNothingWhenItEnds)
     EXPECT_EQ(world.heard("speakers").peak(1), 0.5F) << "the app is heard as without us";
 }
 
-TEST_F(AppTapTest, refusalIsHandedOnAndLeavesNothing)
+TEST_F(AppTapTest, refusalIsForwardedAndLeavesNothing)
 {
     world.refuse(AudioOperation::createTap, HowOften::once, -50);
 
@@ -148,7 +148,7 @@ TEST_F(AppTapTest, refusedUpdateLeavesTheOldProcesses)
     EXPECT_THAT((*tap)->processIDs(), ElementsAre(second));
 }
 
-TEST_F(AppTapTest, rebuiltTapGoesOnWithTheSameParameters)
+TEST_F(AppTapTest, rebuiltTapContinuesWithTheSameParameters)
 {
     parameters->values.volume = 0.5F;
     for (int i = 0; i < 2; ++i) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The buffers of one direction of an IO cycle, with the memory behind them.
+// The buffers of one direction of an IO cycle, with their memory.
 #pragma once
 
 #include "platform/AudioBuffers.h"
@@ -30,7 +30,7 @@ public:
         });
         return *this;
     }
-    /// Adds a buffer that says how large it is and has no memory.
+    /// Adds a buffer with a size but without memory.
     CycleBuffers& addNull(std::uint32_t channels, std::size_t frames)
     {
         samples_.emplace_back();
@@ -43,7 +43,7 @@ public:
     [[nodiscard]] const std::vector<float>& samples(std::size_t buffer) const { return samples_[buffer]; }
     [[nodiscard]] std::size_t size() const { return buffers_.size(); }
 
-    /// The samples of one channel of one buffer, both counted from 0.
+    /// The samples of one channel of one buffer, both zero-based.
     [[nodiscard]] std::vector<float> channel(std::size_t buffer, std::size_t channel) const
     {
         std::vector<float> result;
@@ -53,7 +53,7 @@ public:
     }
 
 private:
-    std::deque<std::vector<float>> samples_;  // A deque: what it holds stays where it is.
+    std::deque<std::vector<float>> samples_;  // A deque keeps its elements' addresses stable.
     std::vector<AudioBuffer> buffers_;
 };
 

@@ -21,7 +21,7 @@ protected:
     CycleClocks clocks;
 };
 
-TEST_F(CycleClocksTest, followTheCountToTheSampleWhileTheHostIsALittleOff)
+TEST_F(CycleClocksTest, followTheCountWithSampleAccuracyDespiteHostJitter)
 {
     const auto first = place(5000, 1s);
 
@@ -30,7 +30,7 @@ TEST_F(CycleClocksTest, followTheCountToTheSampleWhileTheHostIsALittleOff)
     EXPECT_EQ(place(15000, 1s + HostTime(10000 * 1s) / 48000), first + 10000);
 }
 
-TEST_F(CycleClocksTest, followTheHostWhenTheCountStoodStill)
+TEST_F(CycleClocksTest, followTheHostWhenTheCountStopped)
 {
     const auto first = place(5000, 1s);
 
@@ -38,7 +38,7 @@ TEST_F(CycleClocksTest, followTheHostWhenTheCountStoodStill)
     EXPECT_EQ(place(5960, 16s + 10ms), first + 15 * 48000 + 480);
 }
 
-TEST_F(CycleClocksTest, followTheHostWhenTheCountBeginsAgain)
+TEST_F(CycleClocksTest, followTheHostWhenTheCountRestarts)
 {
     const auto first = place(5'000'000, 1s);
 
@@ -53,7 +53,7 @@ TEST_F(CycleClocksTest, placeNothingOverWhatCameBefore)
     EXPECT_EQ(place(100'000, 1s + 1ms), first + cycle);
 }
 
-TEST_F(CycleClocksTest, giveACycleOnePlaceWhoeverAsksAndHoweverLate)
+TEST_F(CycleClocksTest, placeACycleConsistentlyForAllCallersAtAnyTime)
 {
     const auto before = place(5000, 1s);
     const auto after = place(5480, 16s);
@@ -63,9 +63,9 @@ TEST_F(CycleClocksTest, giveACycleOnePlaceWhoeverAsksAndHoweverLate)
     EXPECT_EQ(place(5480, 16s), after);
 }
 
-TEST_F(CycleClocksTest, takeADeviceThatDriftsForWhatItIs)
+TEST_F(CycleClocksTest, tolerateADriftingDevice)
 {
-    // 150 millionths slower than the host says, for three hours: 1.6 s.
+    // 150 ppm slower than the host's clock, for three hours: 1.6 s.
     const auto first = place(0, 0s);
     std::int64_t counted = 0;
     for (; counted < std::int64_t{3} * 3600 * 48000; counted += 480) {
@@ -75,9 +75,9 @@ TEST_F(CycleClocksTest, takeADeviceThatDriftsForWhatItIs)
     }
 }
 
-TEST_F(CycleClocksTest, noticeFramesThatAreLostAFewAtATime)
+TEST_F(CycleClocksTest, detectGradualLossOfFrames)
 {
-    // Every second 5 ms are lost: the count goes on as if nothing were.
+    // 5 ms are lost per second: the count continues as if nothing had happened.
     const auto first = place(0, 0s);
     std::int64_t last = 0;
     for (int second = 1; second <= 60; ++second) {
@@ -89,7 +89,7 @@ TEST_F(CycleClocksTest, noticeFramesThatAreLostAFewAtATime)
     EXPECT_GT(last - first, 60 * 48000 + 12'000);
 }
 
-TEST_F(CycleClocksTest, haveALineForEachClock)
+TEST_F(CycleClocksTest, haveATimelineForEachClock)
 {
     const auto first = place(5000, 1s, 1);
     (void)place(77, 1s, 2);

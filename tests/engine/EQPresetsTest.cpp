@@ -36,7 +36,7 @@ TEST(EQPresets, areInFourGroups)
     EXPECT_EQ(inGroups, EQPresets::all());
 }
 
-TEST(EQPresets, everyOneHasTenWholeGainsAndANameOfItsOwn)
+TEST(EQPresets, eachHasTenIntegerGainsAndAUniqueName)
 {
     std::set<std::string> names;
     for (const auto& preset : EQPresets::all()) {

@@ -51,7 +51,7 @@ TEST(Equalizer, gainsAreLimitedToTwelveDecibels)
         eqCoefficients(allBandsAt(12), 48000));
 }
 
-TEST(Equalizer, gainThatIsNoNumberIsFlat)
+TEST(Equalizer, aNaNGainIsFlat)
 {
     EXPECT_EQ(eqCoefficients(allBandsAt(std::numeric_limits<float>::quiet_NaN()), 48000), EQCoefficients{});
 }
@@ -73,9 +73,9 @@ TEST(Equalizer, withoutASampleRateEveryBandIsFlat)
         EXPECT_EQ(eqCoefficients(allBandsAt(6), rate), EQCoefficients{}) << rate;
 }
 
-TEST(Equalizer, sectionHasTheCookbooksCoefficients)
+TEST(Equalizer, aSectionHasTheTextbookCoefficients)
 {
-    // One kilohertz, +6 dB, at 48 kHz, worked out apart: A = 10^0.15, ω = π/24, α = sin ω / 2.82.
+    // 1 kHz, +6 dB, at 48 kHz, computed independently: A = 10^0.15, ω = π/24, α = sin ω / 2.82.
     constexpr double tolerance = 1e-12;
     const std::vector<float> gains{0, 0, 0, 0, 0, 6};
 

@@ -10,7 +10,7 @@
 namespace fadeloom {
 namespace {
 
-// Narrow enough that a scan of other frequencies or at another rate does not fit.
+// Tight enough to fail with other frequencies or another rate.
 constexpr float loudnessTolerance = 0.002F;
 
 float loudnessOf(const std::vector<float>& gains)
@@ -24,7 +24,7 @@ TEST(EqualizerHeadroom, flatCurveNeedsNone)
     EXPECT_EQ(loudnessOf({}), 0.0F);
 }
 
-TEST(EqualizerHeadroom, cutsAreNotGivenBack)
+TEST(EqualizerHeadroom, cutsAreNotCompensated)
 {
     EXPECT_EQ(loudnessOf(std::vector<float>(10, -12)), 0.0F);
 }
@@ -36,7 +36,7 @@ TEST(EqualizerHeadroom, neighbouringBoostsAddUp)
     EXPECT_NEAR(loudnessOf({5, 4, 3, 1, -1, -1, 1, 3, 4, 5}), 3.0034F, loudnessTolerance);
 }
 
-TEST(EqualizerHeadroom, oneBandWeighsAsMuchAsItSpans)
+TEST(EqualizerHeadroom, aBandIsWeightedByItsBandwidth)
 {
     EXPECT_NEAR(loudnessOf({0, 0, 0, 0, 0, 12}), 3.1624F, loudnessTolerance);
     EXPECT_NEAR(loudnessOf({12}), 3.0057F, loudnessTolerance) << "its lower half is below what is heard";

@@ -9,7 +9,7 @@
 namespace fadeloom {
 namespace {
 
-TEST(GainSmoother, goesMostOfTheWayInOneTimeConstant)
+TEST(GainSmoother, coversMostOfTheDistanceInOneTimeConstant)
 {
     constexpr int framesInTwentyMilliseconds = 960;
     GainSmoother smoother{.current = 0, .coefficient = onePoleCoefficient(48000, 0.02)};
@@ -20,7 +20,7 @@ TEST(GainSmoother, goesMostOfTheWayInOneTimeConstant)
     EXPECT_NEAR(smoother.current, 1 - std::exp(-1.0), 1e-3);
 }
 
-TEST(GainSmoother, landsOnItsTargetExactly)
+TEST(GainSmoother, reachesItsTargetExactly)
 {
     GainSmoother smoother{.current = 1, .coefficient = onePoleCoefficient(48000, 0.02)};
     int frames = 0;

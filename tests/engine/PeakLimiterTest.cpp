@@ -12,7 +12,7 @@ namespace {
 
 constexpr float tolerance = 1e-6F;
 
-TEST(PeakLimiter, leavesWhatIsBelowTheCeiling)
+TEST(PeakLimiter, keepsSamplesBelowTheCeiling)
 {
     PeakLimiter limiter{.release = 0.01F};
 
@@ -20,7 +20,7 @@ TEST(PeakLimiter, leavesWhatIsBelowTheCeiling)
     EXPECT_EQ(limiter.reductionFor(0), 1.0F);
 }
 
-TEST(PeakLimiter, bringsAPeakToTheCeilingAtOnce)
+TEST(PeakLimiter, limitsAPeakImmediately)
 {
     PeakLimiter limiter{.release = 0.01F};
 
@@ -28,7 +28,7 @@ TEST(PeakLimiter, bringsAPeakToTheCeilingAtOnce)
     EXPECT_NEAR(limiter.reductionFor(3) * 3, 0.891F, tolerance);
 }
 
-TEST(PeakLimiter, letsGoExponentiallyAfterAPeak)
+TEST(PeakLimiter, releasesExponentiallyAfterAPeak)
 {
     constexpr int framesInEightyMilliseconds = 3840;
     PeakLimiter limiter{.release = onePoleCoefficient(48000, 0.08)};
@@ -40,7 +40,7 @@ TEST(PeakLimiter, letsGoExponentiallyAfterAPeak)
     EXPECT_NEAR(1 - limiter.reduction, (1 - atThePeak) * std::exp(-1.0F), 1e-3);
 }
 
-TEST(PeakLimiter, smallerPeakWhileLettingGoIsHeldAsWell)
+TEST(PeakLimiter, aSmallerPeakDuringReleaseIsLimitedToo)
 {
     PeakLimiter limiter{.release = onePoleCoefficient(48000, 0.08)};
     (void)limiter.reductionFor(2);

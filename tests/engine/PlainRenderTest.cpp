@@ -46,7 +46,7 @@ TEST(PlainRender, givesTheHighestMagnitudeOfEitherSide)
     EXPECT_EQ(renderPlain(state, {.sections = flat}, left, right), 0.6F);
 }
 
-TEST(PlainRender, filterMemoriesRestWhileTheEqualizerIsOff)
+TEST(PlainRender, filterStateIsKeptWhileTheEqualizerIsOff)
 {
     RenderState state;
     auto left = sine(200);
@@ -72,7 +72,7 @@ TEST(PlainRender, preampCountsOnlyWhileTheEqualizerIsOn)
     EXPECT_THAT(left, ElementsAre(0.5F));
 }
 
-TEST(PlainRender, outputTooSmallToHearIsZeroAndIsStillRemembered)
+TEST(PlainRender, tinyOutputIsFlushedButTheStateIsKept)
 {
     RenderState state;
     std::vector<float> left{1e-26F};
@@ -87,7 +87,7 @@ TEST(PlainRender, outputTooSmallToHearIsZeroAndIsStillRemembered)
 
 TEST(PlainRender, productsAreRoundedBeforeTheyAreAdded)
 {
-    // 1 + 2^-20 times 1 + 2^-40 is 1 + 2^-20 + 2^-40 and a rest of 2^-60 that only a fused operation keeps.
+    // 1 + 2^-20 times 1 + 2^-40 is 1 + 2^-20 + 2^-40 and a remainder of 2^-60 that only a fused operation keeps.
     constexpr double small = 0x1p-20;
     constexpr double smaller = 0x1p-40;
     EQCoefficients sections{};
@@ -116,7 +116,7 @@ TEST(PlainRender, limiterIsUpToDateBeforeItIsNeeded)
 
 class PlainRenderOfBadSamples : public testing::TestWithParam<bool> { };
 
-TEST_P(PlainRenderOfBadSamples, readsThemAsSilence)
+TEST_P(PlainRenderOfBadSamples, treatsThemAsSilence)
 {
     const RenderSettings settings{.isEqualized = GetParam(), .preamp = 3, .sections = curve};
     auto bad = sine(64);
@@ -140,7 +140,7 @@ TEST_P(PlainRenderOfBadSamples, readsThemAsSilence)
     EXPECT_EQ(badState, silentState);
 }
 
-TEST_P(PlainRenderOfBadSamples, soundGoesOnAfterSamplesThatOverflow)
+TEST_P(PlainRenderOfBadSamples, soundContinuesAfterSamplesThatOverflow)
 {
     const RenderSettings settings{.gainTarget = 2, .isEqualized = GetParam(), .preamp = 4, .sections = curve};
     RenderState state{.limiter = {.release = 0.01F}};

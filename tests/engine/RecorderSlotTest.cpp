@@ -37,7 +37,7 @@ TEST(RecorderSlot, writesToTheRecordingThatIsInIt)
     EXPECT_EQ(framesIn(*lanes), 1U);
 }
 
-TEST(RecorderSlot, keepsARecordingUntilItIsTakenAwayAndLetGoOf)
+TEST(RecorderSlot, keepsARecordingUntilItIsDetachedAndReleased)
 {
     auto lanes = std::make_shared<RecordingLanes>(slotRate);
     const std::weak_ptr<RecordingLanes> weakly = lanes;
@@ -53,7 +53,7 @@ TEST(RecorderSlot, keepsARecordingUntilItIsTakenAwayAndLetGoOf)
     EXPECT_TRUE(weakly.expired());
 }
 
-TEST(RecorderSlot, aRendererAtItsEndMakesRoomForAnother)
+TEST(RecorderSlot, aDestroyedRendererFreesItsLane)
 {
     const auto lanes = std::make_shared<RecordingLanes>(slotRate);
     RecorderSlot slot;
@@ -69,9 +69,9 @@ TEST(RecorderSlot, aRendererAtItsEndMakesRoomForAnother)
     EXPECT_EQ(lanes->lostFrames(), 0U);
 }
 
-// An IO thread writes all the time; every recording is destroyed as soon as the slot has let go of it. The address and
-// thread sanitizers see a write that comes later.
-TEST(RecorderSlot, whatWasLetGoOfIsNeverReachedAgain)
+// An IO thread writes continuously; every recording is destroyed as soon as the slot has released it. The address and
+// thread sanitizers would detect a later write.
+TEST(RecorderSlot, aReleasedRecordingIsNeverReachedAgain)
 {
     RecorderSlot slot;
     std::atomic<bool> isOver = false;

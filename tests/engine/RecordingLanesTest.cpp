@@ -41,7 +41,7 @@ protected:
     RecordingLanes lanes{rate};
 };
 
-TEST_F(RecordingLanesTest, handOutEveryCycleOnceWithItsTime)
+TEST_F(RecordingLanesTest, deliverEveryCycleOnceWithItsTime)
 {
     EXPECT_THAT(drained(), IsEmpty());
     push(writers[0], 10, {1, 2});
@@ -60,7 +60,7 @@ TEST_F(RecordingLanesTest, keepTheCyclesOfSeveralRenderersApart)
     EXPECT_THAT(drained(), ElementsAre("10: 1 2", "11: 5 6", "10: 3 4"));
 }
 
-TEST_F(RecordingLanesTest, takeFourRenderersAtOnceAndCountWhatOthersLose)
+TEST_F(RecordingLanesTest, acceptFourRenderersAndCountWhatOthersLose)
 {
     for (std::size_t i = 0; i < 6; ++i)
         push(writers[i], static_cast<std::int64_t>(i), {0, 0, 0, 0});
@@ -73,7 +73,7 @@ TEST_F(RecordingLanesTest, takeFourRenderersAtOnceAndCountWhatOthersLose)
     EXPECT_THAT(drained(), ElementsAre("7: 1 1"));
 }
 
-TEST_F(RecordingLanesTest, holdFourSecondsAndThenWholeCyclesAreLost)
+TEST_F(RecordingLanesTest, bufferFourSecondsAndThenDropWholeCycles)
 {
     const std::vector<float> second(2 * static_cast<std::size_t>(rate), 1);
     int pushed = 0;
@@ -85,7 +85,7 @@ TEST_F(RecordingLanesTest, holdFourSecondsAndThenWholeCyclesAreLost)
     EXPECT_EQ(drained().size(), static_cast<std::size_t>(pushed - 1));
 }
 
-TEST_F(RecordingLanesTest, takeNothingAtAnotherRate)
+TEST_F(RecordingLanesTest, acceptNothingAtAnotherRate)
 {
     const std::array<float, 2> frame{1, 1};
     lanes.push(writers.data(), 2 * rate, {}, frame);
@@ -94,7 +94,7 @@ TEST_F(RecordingLanesTest, takeNothingAtAnotherRate)
     EXPECT_EQ(lanes.lostFrames(), 0U);
 }
 
-TEST_F(RecordingLanesTest, areFitForRealTime)
+TEST_F(RecordingLanesTest, areRealTimeSafe)
 {
     const int before = realTimeViolations();
     {
@@ -107,7 +107,7 @@ TEST_F(RecordingLanesTest, areFitForRealTime)
     EXPECT_EQ(realTimeViolations() - before, 0) << lastRealTimeViolation();
 }
 
-TEST_F(RecordingLanesTest, passSoundFromThreadToThreadWhole)
+TEST_F(RecordingLanesTest, passAudioBetweenThreadsIntact)
 {
     constexpr std::int64_t cycles = 20'000;
     std::jthread io([&] {

@@ -99,7 +99,7 @@ TEST_F(RecordingTest, replacesAFileOfTheSameName)
     EXPECT_THAT(files.at(location)->samples, IsEmpty());
 }
 
-TEST_F(RecordingTest, writesWhileItGoesOnAllButTheLastMoments)
+TEST_F(RecordingTest, writesEverythingButTheLastMomentsWhileItRuns)
 {
     const auto recording = record(48000);
     for (int i = 0; i < 100; ++i)
@@ -185,7 +185,7 @@ TEST_F(RecordingTest, itsEndClosesNothing)
     EXPECT_EQ(files.openCount(), 1);
 }
 
-TEST_F(RecordingTest, knowsHowTheWritingWentAlsoAfterwards)
+TEST_F(RecordingTest, reportsItsFailureEvenAfterwards)
 {
     const auto recording = record();
     EXPECT_EQ(recording->failure(), std::nullopt);

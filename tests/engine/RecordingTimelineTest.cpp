@@ -20,7 +20,8 @@ protected:
     static constexpr double rate = 1000;  // A frame is a millisecond.
     static constexpr std::int64_t cycle = 10;
 
-    /// Cycles of the device `clock` from a moment on, of the app's level; the device's count goes on from `frame`.
+    /// Cycles of the device `clock` from a given time on, at the app's level; the device's count continues from
+    /// `frame`.
     static void play(RecordingTimeline& sound, HostTime from, int cycles, float level, std::int64_t frame,
         std::uint32_t clock = 1)
     {
@@ -114,7 +115,7 @@ TEST_F(RecordingTimelineTest, addsUpWhatTheAppPlaysOnSeveralDevices)
     EXPECT_EQ(runs(timeline.takeRest(1s + 60ms)), "20x1 20x3 20x2");
 }
 
-TEST_F(RecordingTimelineTest, goesOnWhenTheAppMovesToAnotherDevice)
+TEST_F(RecordingTimelineTest, continuesWhenTheAppMovesToAnotherDevice)
 {
     play(timeline, 1s, 3, 1, 500, 1);
     play(timeline, 1s + 50ms, 3, 2, 9000, 2);
@@ -123,7 +124,7 @@ TEST_F(RecordingTimelineTest, goesOnWhenTheAppMovesToAnotherDevice)
 }
 
 // Two apps pause in turn, for ten minutes, on a device that drifts and stops when both are silent. Wherever both play,
-// their samples belong together as at the beginning.
+// their samples are still aligned.
 TEST_F(RecordingTimelineTest, staysInStepWithAnotherRecordingToTheSample)
 {
     constexpr double drift = 1.0001;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The renderer once more, written from its description and from nothing of the renderer's own: slow, plain, and the
-// measure that it is held to, bit for bit.
+// An independent implementation of the renderer, written only from its description: slow, simple, and the reference for
+// it, bit for bit.
 #pragma once
 
 #include "engine/EqualizerDesign.h"
@@ -22,7 +22,7 @@ public:
         double sampleRate = 48000;
     };
 
-    /// What the settings are as the renderer is made.
+    /// The initial settings.
     ReferenceRenderer(const TapParameters::Values& values, const Layout& layout)
         : layout_(layout)
         , gain_(values.muted ? 0 : values.volume)
@@ -36,7 +36,7 @@ public:
     float blockPeak = 0;  // Of the last cycle.
     bool audioSeen = false;
 
-    /// `values` and `sections`: those that the cycle sees.
+    /// `values` and `sections`: as seen by the cycle.
     void cycle(const TapParameters::Values& values, const EQCoefficients& sections, const CycleBuffers& input,
         CycleBuffers& output)
     {

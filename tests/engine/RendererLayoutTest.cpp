@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the renderer finds its way through the buffers of a cycle.
+// The renderer with different buffer layouts.
 #include "engine/Renderer.h"
 
 #include "tests/engine/CycleBuffers.h"
@@ -20,7 +20,7 @@ using testing::ElementsAre;
 
 constexpr TapFormat interleaved{};
 constexpr TapFormat planar{.tapBufferCount = 2, .isTapInterleaved = false};
-constexpr float stale = 9;  // What an output buffer holds before it is written.
+constexpr float stale = 9;  // The contents of an output buffer before it is written.
 
 class RendererLayoutTest : public testing::Test {
 protected:
@@ -215,7 +215,7 @@ TEST_F(RendererLayoutTest, stereoPairOfADeviceWithoutThoseChannelsIsHeardNowhere
     EXPECT_EQ(parameters->takePeak(), 0.5F) << "it was rendered all the same";
 }
 
-TEST_F(RendererLayoutTest, emptyOutputIsNoHarm)
+TEST_F(RendererLayoutTest, emptyOutputIsHarmless)
 {
     input.add(2, 16, 0.5F);
 

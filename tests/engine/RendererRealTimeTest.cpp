@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the IO thread may rely on: rendering takes no memory, waits for nobody and calls no system, and what it sees of
-// the settings is always one whole set of them.
+// Guarantees for the IO thread: rendering does not allocate, block or make system calls, and always sees a consistent
+// set of settings.
 #include "engine/Renderer.h"
 
 #include "base/RealTime.h"
@@ -20,13 +20,13 @@
 namespace fadeloom {
 namespace {
 
-TEST(RealTimeGuard, noticesWhatIsForbidden)
+TEST(RealTimeGuard, detectsForbiddenCalls)
 {
     std::mutex mutex;
     const int before = realTimeViolations();
     {
         const RealTimeSection section;
-        void* volatile memory = std::malloc(100);  // Volatile: a compiler may leave the pair out.
+        void* volatile memory = std::malloc(100);  // Volatile: a compiler may otherwise remove the pair.
         std::free(memory);
         const std::scoped_lock lock{mutex};
         EXPECT_EQ(write(-1, nullptr, 0), -1);
@@ -63,7 +63,7 @@ TEST(RendererRealTime, seesWholeSetsOfSettingsWhileTheyAreWritten)
     std::atomic<int> oddSamples = 0;
     std::atomic<int> cycles = 0;
 
-    // The first section takes up what the last one brings down, so half of a set would be heard.
+    // The first section boosts what the last one cuts, so a torn set would be audible.
     std::thread ioThread([&] {
         CycleBuffers input;
         CycleBuffers output;

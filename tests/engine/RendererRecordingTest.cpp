@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a renderer writes to a recording: the sound as it was captured, every frame of it.
+// What a renderer writes to a recording: the audio as captured, every frame of it.
 #include "engine/Renderer.h"
 
 #include "engine/RecordingLanes.h"
@@ -55,7 +55,7 @@ TEST_F(RendererRecordingTest, aNewBlockHasNoRecorder)
     EXPECT_THAT(recorded(), IsEmpty());
 }
 
-TEST_F(RendererRecordingTest, writesWhatWasCapturedWhateverIsHeard)
+TEST_F(RendererRecordingTest, writesWhatWasCapturedRegardlessOfTheOutput)
 {
     parameters->values.muted = true;
     parameters->values.volume = 0.5F;
@@ -105,7 +105,7 @@ TEST_F(RendererRecordingTest, writesBothSidesAlsoForADeviceWithOneChannel)
     EXPECT_THAT(recorded(), ElementsAre(0.1F, 0.2F, 0.3F, 0.4F, 2.5F, -0.6F));
 }
 
-TEST_F(RendererRecordingTest, goesOnFromCycleToCycle)
+TEST_F(RendererRecordingTest, continuesAcrossCycles)
 {
     startRecording();
     Renderer renderer(parameters, {});
@@ -163,7 +163,7 @@ TEST_F(RendererRecordingTest, aCycleOfOneFrameIsWritten)
     EXPECT_THAT(recorded(), ElementsAre(0.1F, 0.2F));
 }
 
-TEST_F(RendererRecordingTest, theLongestCycleIsWrittenWhole)
+TEST_F(RendererRecordingTest, theLongestCycleIsWrittenCompletely)
 {
     startRecording();
     Renderer renderer(parameters, {});
@@ -188,7 +188,7 @@ TEST_F(RendererRecordingTest, aBusyLockKeepsNoSoundFromIt)
     EXPECT_EQ(recorded().size(), 6U);
 }
 
-TEST_F(RendererRecordingTest, aRecordingThatWasTakenAwayIsNotReachedHoweverLateTheNextCycleComes)
+TEST_F(RendererRecordingTest, aDetachedRecordingIsUnreachableHoweverLateTheNextCycleComes)
 {
     startRecording();
     Renderer renderer(parameters, {});

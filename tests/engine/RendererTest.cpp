@@ -29,7 +29,7 @@ protected:
         changes(parameters->values);
     }
 
-    /// Renders frames of one value on both sides and returns the left side of the output.
+    /// Renders frames of one value on both channels and returns the left channel of the output.
     std::vector<float> play(Renderer& renderer, float value, std::size_t frames)
     {
         CycleBuffers input;
@@ -57,7 +57,7 @@ TEST_F(RendererTest, atFullVolumeSoundPassesUntouched)
     EXPECT_EQ(parameters->takePeak(), 1.0F);
 }
 
-TEST_F(RendererTest, duckingLowersWhatIsHeard)
+TEST_F(RendererTest, duckingLowersTheOutput)
 {
     change([](auto& values) { values.duck = 0.25F; });
     Renderer renderer(parameters, {});

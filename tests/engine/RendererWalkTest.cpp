@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Long random walks: whatever is changed between cycles, however sound is cut into cycles and laid out in buffers, the
-// renderer gives the reference's bits, in each form of the render path.
+// Long random walks: however settings change between cycles, and however audio is split into cycles and laid out in
+// buffers, every implementation of the renderer gives the reference's bits.
 #include "engine/Renderer.h"
 
 #include "engine/kernels/RenderChoice.h"
@@ -22,7 +22,7 @@
 namespace fadeloom {
 namespace {
 
-/// One way for sound to come in and go out.
+/// One layout of input and output.
 struct Scene {
     const char* name;
     ReferenceRenderer::Layout layout;
@@ -45,7 +45,7 @@ const std::array scenes = {
 
 class Walk {
 public:
-    /// `kernels`: null for the plain form.
+    /// `kernels`: null for the plain implementation.
     Walk(const Scene& scene, const RenderKernels* kernels, unsigned seed)
         : scene_(scene)
         , random_(seed)
@@ -65,14 +65,14 @@ public:
         seenSections_ = parameters_->coefficients;
     }
 
-    /// One cycle of both; whether every bit of the output, the peak and the flag agree.
+    /// Runs one cycle of both; whether every bit of the output, the peak and the flag agree.
     [[nodiscard]] bool step()
     {
         std::unique_lock<UnfairLock> busy;
         if (oneIn(3))
             changeSettings();
         if (oneIn(8)) {
-            busy = std::unique_lock(parameters_->lock);  // The cycle goes on with what it knew.
+            busy = std::unique_lock(parameters_->lock);  // The cycle uses the previous snapshot.
         } else {
             seen_ = parameters_->values;
             seenSections_ = parameters_->coefficients;

@@ -9,7 +9,7 @@
 namespace fadeloom {
 namespace {
 
-// Sections that can be told apart: the first has b0 = 1, the next 2, and so on.
+// Distinguishable sections: the first has b0 = 1, the next 2, and so on.
 std::vector<BiquadCoefficients> numberedSections(int count)
 {
     std::vector<BiquadCoefficients> sections;

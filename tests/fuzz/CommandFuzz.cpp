@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as commands, given to a controller in a simulated world: each is answered by one line that a terminal can
-// show, and what it did leaves settings that are in their ranges.
+// Arbitrary bytes as commands to a controller on the simulated platform: each gets one line of reply that a terminal
+// can display, and the resulting settings are within their ranges.
 #include "commands/CommandInterpreter.h"
 #include "commands/PrintableText.h"
 #include "control/AudioController.h"

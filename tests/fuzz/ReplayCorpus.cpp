@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Runs a fuzzer's function over the files of a folder: what a compiler without a fuzzer can do.
+// Runs a fuzzer's function on the files of a folder: works with compilers without a fuzzer.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -18,11 +18,11 @@ int main(int argumentCount, char** arguments)
             std::ifstream file(entry.path(), std::ios::binary);
             const std::vector<char> bytes(std::istreambuf_iterator<char>(file), {});
             std::printf("%s\n", entry.path().c_str());
-            std::fflush(stdout);  // So that the last line names the input that ended the program.
+            std::fflush(stdout);  // So that the last line names the input that crashed the program.
             LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
             ++inputs;
         }
     }
     std::printf("%d inputs\n", inputs);
-    return inputs > 0 ? 0 : 1;  // A corpus that is not there proves nothing.
+    return inputs > 0 ? 0 : 1;  // A missing corpus proves nothing.
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What must be so, whatever comes in.
+// Invariants for all inputs.
 #pragma once
 
 #include <cstdio>

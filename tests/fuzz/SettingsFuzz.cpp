@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as a settings file: they are refused with words, or give a record whose values are all in their ranges and
-// that is the same once it has been written and read again.
+// Arbitrary bytes as a settings file: they are rejected with a message, or yield a record whose values are within their
+// ranges and that round-trips.
 #include "settings/SettingsJson.h"
 #include "tests/fuzz/Require.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Any bytes over the instance's socket, in two parts: commands arrive as they were sent, each is answered by one line,
-// and whoever comes next is served.
+// Arbitrary bytes over the instance's socket, in two parts: commands arrive as they were sent, each gets one line of
+// reply, and the next client is served.
 #include "platform/linux/InstanceSocket.h"
 #include "tests/fuzz/Require.h"
 #include "tests/support/TemporaryFolder.h"
@@ -29,7 +29,7 @@ struct Stage {
         require(command.line.size() <= InstanceSocket::longestLine, "a command is no longer than it may be");
         return "ok ok done";
     }
-    /// What comes back until the other side is silent.
+    /// The replies until the peer falls silent.
     std::string exchange(std::string_view first, std::string_view second, bool isEnd) const
     {
         QLocalSocket caller;

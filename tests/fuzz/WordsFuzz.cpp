@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as a line of words, and as a volume: they are refused with words, or mean something that can be written and
-// read again, and a volume that stays in its range.
+// Arbitrary bytes as a line of words, and as a volume: they are rejected with a message, or yield something that
+// round-trips, and a volume within its range.
 #include "commands/LineWords.h"
 #include "commands/PrintableText.h"
 #include "commands/VolumeWord.h"

@@ -27,7 +27,7 @@ using testing::ElementsAre;
 
 class EngineLogTest : public testing::Test {
 protected:
-    /// Lets the queue do what waits in it.
+    /// Runs the queue's pending tasks.
     void writeAll() { world.advance(0s); }
 
     static std::string contentOf(const fs::path& path)
@@ -36,7 +36,7 @@ protected:
         content << std::ifstream(path, std::ios::binary).rdbuf();
         return content.str();
     }
-    /// Makes a log file of this size.
+    /// Creates a log file of this size.
     void fill(std::size_t size)
     {
         fs::create_directories(folder);
@@ -52,7 +52,7 @@ protected:
     EngineLog log{world.systemLog(), world.logQueue(), folder, [this] { return moment; }};
 };
 
-TEST_F(EngineLogTest, firstMessageMakesTheFolderAndTheFile)
+TEST_F(EngineLogTest, theFirstMessageCreatesTheFolderAndTheFile)
 {
     log.notice("started");
     writeAll();
@@ -61,7 +61,7 @@ TEST_F(EngineLogTest, firstMessageMakesTheFolderAndTheFile)
     EXPECT_FALSE(fs::exists(oldFile));
 }
 
-TEST_F(EngineLogTest, errorStandsInTheSameColumn)
+TEST_F(EngineLogTest, errorMessagesAreAligned)
 {
     log.error("Start device failed (OSStatus -50)");
     writeAll();
@@ -69,7 +69,7 @@ TEST_F(EngineLogTest, errorStandsInTheSameColumn)
     EXPECT_EQ(contentOf(file), "2026-01-31T14:05:09Z ERROR Start device failed (OSStatus -50)\n");
 }
 
-TEST_F(EngineLogTest, systemsLogHasTheMessageAtOnceAndAtItsLevel)
+TEST_F(EngineLogTest, theSystemLogGetsTheMessageImmediatelyAtItsLevel)
 {
     log.notice("one");
     log.error("two");
@@ -91,7 +91,7 @@ TEST_F(EngineLogTest, linesAreInTheOrderOfTheCallsWithTheTimeOfTheCalls)
     EXPECT_EQ(contentOf(file), "2026-01-31T14:05:09Z INFO  one\n2026-01-31T14:05:10Z ERROR two\n");
 }
 
-TEST_F(EngineLogTest, messageIsWrittenAsItIs)
+TEST_F(EngineLogTest, messageIsWrittenVerbatim)
 {
     log.notice("two\nlines");
     log.notice("");
@@ -104,7 +104,7 @@ TEST_F(EngineLogTest, messageIsWrittenAsItIs)
         "2026-01-31T14:05:09Z INFO  \xFF\0%s\n"s);
 }
 
-TEST_F(EngineLogTest, fullFileBecomesTheOldOne)
+TEST_F(EngineLogTest, aFullFileIsRotated)
 {
     fill(256001);
     std::ofstream(oldFile) << "older";
@@ -131,7 +131,7 @@ TEST_F(EngineLogTest, fileOfExactlyTheLargestSizeTakesOneMoreLine)
     EXPECT_EQ(contentOf(file), "2026-01-31T14:05:09Z INFO  does not\n");
 }
 
-TEST_F(EngineLogTest, folderInTheOldFilesPlaceGivesWay)
+TEST_F(EngineLogTest, folderInTheOldFilesPlaceIsReplaced)
 {
     fill(256001);
     fs::create_directories(oldFile / "deep");
@@ -154,7 +154,7 @@ TEST_F(EngineLogTest, neverKeepsMuchMoreThanTwoFullFiles)
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 2);
 }
 
-TEST_F(EngineLogTest, whatCannotBeWrittenIsStillInTheSystemsLog)
+TEST_F(EngineLogTest, whatCannotBeWrittenIsStillInTheSystemLog)
 {
     std::ofstream(temporary.path() / "support") << "a file where a folder should be";
     log.notice("one");
@@ -169,7 +169,7 @@ TEST_F(EngineLogTest, whatCannotBeWrittenIsStillInTheSystemsLog)
     EXPECT_TRUE(fs::is_directory(file));
 }
 
-TEST_F(EngineLogTest, pipeInTheFilesPlaceHoldsNothingUp)
+TEST_F(EngineLogTest, aPipeInTheFilesPlaceDoesNotBlock)
 {
     fs::create_directories(folder);
     ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);

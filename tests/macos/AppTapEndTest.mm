@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A tap that ends from outside: its device dies, the audio service restarts, or it delivers nothing but zeros.
+// External events that end a tap: its device dies, the audio service restarts, or it delivers only zeros.
 #include "tests/macos/AppTapStage.h"
 
 namespace fadeloom {
@@ -19,7 +19,7 @@ protected:
         auto tap = create();
         return tap ? std::move(*tap) : nullptr;
     }
-    /// The device runs for so long, and the processes are looked at every five seconds.
+    /// Runs the device for this long, and polls the processes every five seconds.
     void run(seconds duration)
     {
         const auto cycles =
@@ -67,7 +67,7 @@ TEST_F(MacOSAppTapEnd, comesWhenItsDeviceIsUnplugged)
     EXPECT_FALSE(tap->isRunning());
 }
 
-TEST_F(MacOSAppTapEnd, comesWithTheServiceAndLeavesAloneWhatHasItsIdsNow)
+TEST_F(MacOSAppTapEnd, comesWithAServiceRestartAndLeavesReusedIdsAlone)
 {
     auto tap = made();
     int changes = 0;
@@ -83,7 +83,7 @@ TEST_F(MacOSAppTapEnd, comesWithTheServiceAndLeavesAloneWhatHasItsIdsNow)
     EXPECT_THAT(asked(), ElementsAre("stop nothing", "destroy proc of nothing"));
 }
 
-TEST_F(MacOSAppTapEnd, isNoEndOfThoseWhoListen)
+TEST_F(MacOSAppTapEnd, doesNotEndListeners)
 {
     int devices = 0;
     int processes = 0;
@@ -105,7 +105,7 @@ TEST_F(MacOSAppTapEnd, isNoEndOfThoseWhoListen)
     EXPECT_GT(processes, 0);
 }
 
-TEST_F(MacOSAppTapEnd, hearsOfRestartsOnlyWhileThereIsSomethingToLose)
+TEST_F(MacOSAppTapEnd, listensForRestartsOnlyWhileThereAreObjectsToLose)
 {
     auto tap = made();
     EXPECT_THAT(doubles::journal(), Contains("listen to srst of system"));
@@ -145,16 +145,16 @@ TEST_F(MacOSAppTapEnd, doesNotComeWhileItsAppIsPaused)
     EXPECT_FALSE(tap->isRunning());
 }
 
-TEST_F(MacOSAppTapEnd, takesTwiceAsLongEachTimeThatANewTapDoesNotHelp)
+TEST_F(MacOSAppTapEnd, doublesItsDelayEachTimeANewTapDoesNotHelp)
 {
     play(0);
-    for (const auto patience : {seconds(10), seconds(20), seconds(40)}) {
+    for (const auto tolerance : {seconds(10), seconds(20), seconds(40)}) {
         const auto tap = made();
-        (void)audio.processes(ReadMic::no);  // Before it has had a cycle.
-        run(patience - seconds(1));
-        EXPECT_TRUE(tap->isRunning()) << patience.count();
+        (void)audio.processes(ReadMic::no);  // Before its first cycle.
+        run(tolerance - seconds(1));
+        EXPECT_TRUE(tap->isRunning()) << tolerance.count();
         run(seconds(2));
-        EXPECT_FALSE(tap->isRunning()) << patience.count();
+        EXPECT_FALSE(tap->isRunning()) << tolerance.count();
     }
 
     const auto tap = made();
@@ -166,7 +166,7 @@ TEST_F(MacOSAppTapEnd, takesTwiceAsLongEachTimeThatANewTapDoesNotHelp)
     EXPECT_FALSE(tap->isRunning()) << "sound has come, and all is as before";
 }
 
-TEST_F(MacOSAppTapEnd, countsNoSilenceOfAnotherApp)
+TEST_F(MacOSAppTapEnd, ignoresTheSilenceOfOtherApps)
 {
     const auto tap = AppTap::create(audio, {other}, {.id = speakers, .uid = "speakers", .name = "A device"},
         TapScope::everyStream, parameters, "Films");

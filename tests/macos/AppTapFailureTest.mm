@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Each step of building a tap can be refused: what was built is undone, no more and no less, and the step is named.
+// Each step of building a tap can fail: exactly what was built is torn down, and the error names the step.
 #include "tests/macos/AppTapStage.h"
 
 namespace fadeloom {
@@ -16,7 +16,7 @@ class MacOSAppTapInputs : public AppTapStage { };
 
 class MacOSAppTapFailure : public AppTapStage, public ::testing::WithParamInterface<Refusal> { };
 
-TEST_P(MacOSAppTapFailure, undoesWhatWasBuilt)
+TEST_P(MacOSAppTapFailure, tearsDownWhatWasBuilt)
 {
     const Refusal& refusal = GetParam();
     world.failNext(refusal.call, refusal.status);
@@ -98,7 +98,7 @@ TEST_F(MacOSTapFormat, countsWhenTheAggregateHasNoRate)
 TEST_F(MacOSAppTapInputs, leavesTheTapOnWhenTheAggregateHasFewerInputsThanItsDevice)
 {
     const auto desk = world.plug({.uid = "desk", .inputs = {2, 2, 8}});
-    world.inputsOfAggregates = 2;  // A device that hides some while an aggregate has it.
+    world.inputsOfAggregates = 2;  // A device that hides some while it is in an aggregate.
 
     const auto tap = createOn("desk", desk);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A player on an output device of the audio world, and the tap that the engine makes of it. For Objective-C++ only.
+// A player on an output device of the audio world, and the engine's tap for it. For Objective-C++ only.
 #pragma once
 
 #include "engine/AppTap.h"
@@ -40,7 +40,7 @@ protected:
         return AppTap::create(audio, {player}, {.id = device, .uid = uid, .name = "A device"},
             TapScope::everyStream, parameters, "Music");
     }
-    /// What was asked since this was asked last, without who was listened to.
+    /// The calls since the last query, without those of listeners.
     static Lines asked()
     {
         Lines lines = std::exchange(doubles::journal(), {});

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the engine's tap asks of CoreAudio, in which order, and in which words.
+// The CoreAudio calls of the engine's tap, in order, with their arguments.
 #include "tests/macos/AppTapStage.h"
 
 #include <set>
@@ -28,7 +28,7 @@ const std::vector<std::string> steps = {
 const std::vector<std::string> undoneAll = {
     "stop aggregate", "destroy proc of aggregate", "destroy aggregate", "destroy tap"};
 
-TEST_F(MacOSAppTap, isBuiltInThisOrder)
+TEST_F(MacOSAppTap, isBuiltInOrder)
 {
     const auto tap = create();
 
@@ -36,7 +36,7 @@ TEST_F(MacOSAppTap, isBuiltInThisOrder)
     EXPECT_EQ(asked(), steps);
 }
 
-TEST_F(MacOSAppTap, isTakenDownInTheOppositeOrder)
+TEST_F(MacOSAppTap, isTornDownInReverseOrder)
 {
     auto tap = create();
     ASSERT_TRUE(tap);
@@ -47,7 +47,7 @@ TEST_F(MacOSAppTap, isTakenDownInTheOppositeOrder)
     EXPECT_EQ(asked(), undoneAll);
 }
 
-TEST_F(MacOSAppTap, refusedTeardownGoesOnToTheEnd)
+TEST_F(MacOSAppTap, refusedTeardownContinuesToTheEnd)
 {
     auto tap = create();
     ASSERT_TRUE(tap);
@@ -85,7 +85,7 @@ TEST_F(MacOSAppTap, describesItsTap)
     EXPECT_THAT(onlyTap().uuid, MatchesRegex("[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}"));
 }
 
-TEST_F(MacOSAppTap, describesItsAggregateDeviceByEightEntries)
+TEST_F(MacOSAppTap, describesItsAggregateDeviceWithEightEntries)
 {
     const auto tap = create();
     ASSERT_TRUE(tap);

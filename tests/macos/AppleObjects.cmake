@@ -1,20 +1,19 @@
 # SPDX-License-Identifier: MIT
-# Compiles every source of the program for the processors of a Mac, with our declarations in place of the platform's
-# headers and Debian's libc++, musl and Qt in place of its libraries. Nothing is linked: it shows that a source is right
-# in the platform's dialect and ABI, and that it asks for nothing that the oldest supported system lacks.
+# Compiles every source of the program for the architectures of a Mac, with our declarations in place of the platform's
+# headers and Debian's libc++, musl and Qt in place of its libraries. Nothing is linked: it shows that a source is valid
+# with the platform's language options and ABI, and that it uses nothing newer than the oldest supported system.
 #
-# target macosObjects. What belongs together is compiled in batches; a batch that compiles leaves
-# objects/TRIPLE/BATCH.o behind (an empty one where no code is made), and objects/batches lists what is to be there: the
-# triple, the batch, its sources.
+# Target macosObjects. Related sources are compiled in batches; a batch that compiles leaves objects/TRIPLE/BATCH.o (an
+# empty one if it contains no code), and objects/batches lists what is expected: the triple, the batch, its sources.
 set(library /usr/lib/llvm-19)
 set(own ${CMAKE_CURRENT_BINARY_DIR}/objects)
 file(MAKE_DIRECTORY ${own}/libraries ${own}/types/bits)
 
-# Libraries that are folders of headers.
+# Header-only libraries.
 foreach(name IN ITEMS nlohmann gtest gmock)
     file(CREATE_LINK /usr/include/${name} ${own}/libraries/${name} SYMBOLIC)
 endforeach()
-# The basic types are as large as on a Mac, and are the same ones: overloads and formats depend on it.
+# The basic types have the same sizes and identities as on a Mac: overloads and formats depend on that.
 file(READ /usr/include/x86_64-linux-musl/bits/alltypes.h types)
 foreach(change IN ITEMS
         "#define _Int64 long->#define _Int64 long long" "typedef signed _Int64   intmax_t->typedef long intmax_t"
@@ -51,11 +50,11 @@ foreach(module IN ITEMS Core Gui Network OpenGL Qml QmlIntegration QmlModels Qui
     list(APPEND dialect -isystem ${qt}/Qt${module})
 endforeach()
 
-# The folders of the program as on a Mac, and what is to be tested there.
+# The program's folders on a Mac, and the tests that run there.
 set(folders base platform engine engine/kernels settings log control shell commands ui platform/simulated platform/qt platform/macos
     app app/macos)
 set(batches)
-function(addBatch name)  # The sources, below the project.
+function(addBatch name)  # The sources, relative to the project.
     set(${name}_sources ${ARGN} PARENT_SCOPE)
     set(batches ${batches} ${name} PARENT_SCOPE)
 endfunction()
@@ -63,7 +62,7 @@ foreach(folder IN LISTS folders)
     string(REPLACE "/" "_" name ${folder})
     file(GLOB plain CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp)
     file(GLOB objective CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/src/${folder}/*.mm)
-    # The same loops for two kinds of processors share a unit with nothing else.
+    # The same loops for two instruction sets must not share a translation unit with anything else.
     foreach(source IN LISTS plain)
         if(source MATCHES "RenderKernels")
             cmake_path(GET source STEM stem)
@@ -71,8 +70,8 @@ foreach(folder IN LISTS folders)
             addBatch(${stem} ${source})
         endif()
     endforeach()
-    # Sources that are never compiled together by a build share names: those of CoreAudio with ours, of ui each with
-    # its neighbours.
+    # Sources that are never compiled together in a build may use the same names: those of CoreAudio and ours, those of
+    # ui and each other.
     list(LENGTH plain count)
     set(size 8)
     if(folder STREQUAL platform/macos)
@@ -92,7 +91,7 @@ foreach(folder IN LISTS folders)
             addBatch(${name}_${part} ${${name}_part${part}})
         endif()
     endforeach()
-    # Classes of Objective-C share one space of names, their sources do not.
+    # Objective-C classes share one namespace, their sources do not.
     if(objective)
         addBatch(${name}_objective ${objective})
     endif()
@@ -137,9 +136,9 @@ foreach(processor IN ITEMS arm64 x86_64)
                 endif()
             endif()
         endif()
-        # Code is made of what depends on the processor, or is the platform's.
+        # Code is generated only for what depends on the architecture, or is specific to the platform.
         set(depth -fsyntax-only)
-        if(batch MATCHES "base|engine|RenderKernels|platform_macos|coreaudio")
+        if(batch MATCHES "base|engine|RenderKernels|platform_macos")
             set(depth -c)
         endif()
         file(CONFIGURE OUTPUT ${file} CONTENT "${unit}" @ONLY)

@@ -26,7 +26,7 @@ TEST_F(MacOSApplication, isDrawnAsChosen)
     EXPECT_THAT(done(), ElementsAre("appearance dark aqua", "appearance aqua", "appearance of the system"));
 }
 
-TEST_F(MacOSApplication, hearsOfEachAppearance)
+TEST_F(MacOSApplication, followsEachAppearance)
 {
     std::vector<bool> heard;
     {
@@ -43,7 +43,7 @@ TEST_F(MacOSApplication, hearsOfEachAppearance)
     EXPECT_THAT(heard, ElementsAre(true, false, true));
 }
 
-TEST_F(MacOSApplication, comesToTheFront)
+TEST_F(MacOSApplication, isActivated)
 {
     own.activate();
 
@@ -67,7 +67,7 @@ TEST_F(MacOSApplication, showsItsCreditsCentredWithALink)
     EXPECT_STREQ(static_cast<NSString*>(runs[1].second[@"link"]).UTF8String, "https://fadeloom.example");
 }
 
-TEST_F(MacOSApplication, letsAFolderBeChosen)
+TEST_F(MacOSApplication, promptsForAFolder)
 {
     Paths chosen;
     const auto note = [&](const auto& folder) { chosen.push_back(folder); };
@@ -89,7 +89,7 @@ TEST_F(MacOSApplication, letsAFolderBeChosen)
     EXPECT_THAT(done(), ElementsAre("activate", "panel opens"));
 }
 
-TEST_F(MacOSApplication, letsAnApplicationBeChosen)
+TEST_F(MacOSApplication, promptsForAnApplication)
 {
     desktop.installed = {{"com.example.calls", "/Applications/Calls.app"}};
     std::vector<std::optional<std::string>> chosen;
@@ -112,7 +112,7 @@ TEST_F(MacOSApplication, letsAnApplicationBeChosen)
     EXPECT_THAT(chosen, ElementsAre("com.example.calls", std::nullopt, std::nullopt));
 }
 
-TEST_F(MacOSApplication, asksInAnAlert)
+TEST_F(MacOSApplication, showsAnAlert)
 {
     std::vector<std::size_t> answers;
     const Alert alert{.title = "New version", .text = "1.2 is there.", .buttons = {"Download", "Later"}};

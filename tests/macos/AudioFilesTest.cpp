@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The audio files of macOS keep the contract of audio files, and a recording makes its calls in order.
+// The contract of audio files for those of macOS, and the order of a recording's calls.
 #include "engine/Recording.h"
 #include "platform/macos/ExtendedAudioFiles.h"
 #include "platform/macos/WaveFormats.h"
@@ -108,7 +108,7 @@ TEST_F(MacOSRecording, whoseFormatIsRefusedIsClosed)
     EXPECT_THAT(journal(), ElementsAre(created, formatted, disposed));
 }
 
-TEST_F(MacOSRecording, triesAgainWithoutRoomAndKeepsTheFirstFailure)
+TEST_F(MacOSRecording, retriesWhenFullAndKeepsTheFirstFailure)
 {
     const auto recording = record();
     ASSERT_TRUE(recording);
@@ -122,7 +122,7 @@ TEST_F(MacOSRecording, triesAgainWithoutRoomAndKeepsTheFirstFailure)
     (*recording)->finish();
 }
 
-TEST_F(MacOSRecording, thatNobodyFinishedIsClosedWithItsFiles)
+TEST_F(MacOSRecording, thatWasNotFinishedIsClosedWithItsFiles)
 {
     {
         ExtendedAudioFiles others;
@@ -156,7 +156,7 @@ TEST_F(MacOSRecording, whoseFileCannotBeCompletedHasFailed)
     EXPECT_EQ((*recording)->failure(), AudioFileError{-34});
 }
 
-TEST_F(MacOSRecording, hasErrorsInWordsWithTheirCharacters)
+TEST_F(MacOSRecording, describesErrorsWithTheirFourCharacterCode)
 {
     EXPECT_EQ(files.describe({-50}), "OSStatus -50");
     EXPECT_EQ(files.describe({kAudioFileUnsupportedDataFormatError}), "OSStatus 1718449215 ('fmt?')");

@@ -52,7 +52,7 @@ TEST_F(AudioProcessesTest, areListedInTheSystemsOrderWithWhatTheyDo)
             AudioProcess{30, 300, "org.music", true, false}, AudioProcess{20, 200, "org.call", false, true}));
 }
 
-TEST_F(AudioProcessesTest, microphoneIsNotReadUnlessAskedFor)
+TEST_F(AudioProcessesTest, theMicrophoneIsReadOnlyOnRequest)
 {
     table.set(20, inputRuns, std::uint32_t{1});
 
@@ -77,7 +77,7 @@ TEST_F(AudioProcessesTest, processWithoutABundleIdentifierHasAnEmptyOne)
     EXPECT_EQ(processes.all(ReadMic::no)[1].bundleID, "");
 }
 
-TEST_F(AudioProcessesTest, whoAProcessIsIsReadOnceAndWhatItDoesEveryTime)
+TEST_F(AudioProcessesTest, identityIsReadOnceAndStateEveryTime)
 {
     for (int poll = 0; poll < 3; ++poll)
         (void)processes.all(ReadMic::yes);
@@ -88,7 +88,7 @@ TEST_F(AudioProcessesTest, whoAProcessIsIsReadOnceAndWhatItDoesEveryTime)
     EXPECT_EQ(table.readCount(30, inputRuns), 3);
 }
 
-TEST_F(AudioProcessesTest, aProcessThatIsGoneIsForgotten)
+TEST_F(AudioProcessesTest, anEndedProcessIsForgotten)
 {
     (void)processes.all(ReadMic::no);
     table.setList(kAudioObjectSystemObject, processList, {30});

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Devices, processes and listeners as the rest of the program reads them.
+// Devices, processes and listeners through the audio system interface.
 #include "platform/macos/CoreAudioSystem.h"
 #include "platform/macos/HAL.h"
 #include "platform/macos/OutputDevices.h"
@@ -67,7 +67,7 @@ TEST_F(MacOSAudioSystem, hasNoDefaultOutputWithoutADevice)
     EXPECT_EQ(audio.defaultOutput(), "speakers");
 }
 
-TEST_F(MacOSAudioSystem, placesStereoWhereTheDeviceWantsIt)
+TEST_F(MacOSAudioSystem, usesTheDevicesPreferredStereoChannels)
 {
     const auto interface = world.plug({.uid = "interface", .stereoPair = {3, 4}});
     const auto odd = world.plug({.uid = "odd", .stereoPair = {0, 0}});
@@ -128,7 +128,7 @@ TEST_F(MacOSAudioSystem, readsNoTextFromANumber)
     EXPECT_EQ(HAL::string(speakers, kAudioProcessPropertyPID), std::nullopt);
 }
 
-TEST_F(MacOSAudioSystem, announcesAChangeOnTheMainQueueAndTakesTheSameListenerBack)
+TEST_F(MacOSAudioSystem, announcesAChangeOnTheMainQueueAndRemovesTheSameListener)
 {
     int calls = 0;
     auto subscription = audio.whenOutputDevicesChange([&] { ++calls; });
@@ -144,7 +144,7 @@ TEST_F(MacOSAudioSystem, announcesAChangeOnTheMainQueueAndTakesTheSameListenerBa
     EXPECT_THAT(world.listeners, IsEmpty());
 }
 
-TEST_F(MacOSAudioSystem, doesNotAnnounceWhatWasOnItsWayWhenTheSubscriptionEnded)
+TEST_F(MacOSAudioSystem, doesNotAnnounceACallInFlightWhenTheSubscriptionEnded)
 {
     int calls = 0;
     auto subscription = audio.whenOutputDevicesChange([&] { ++calls; });
@@ -156,7 +156,7 @@ TEST_F(MacOSAudioSystem, doesNotAnnounceWhatWasOnItsWayWhenTheSubscriptionEnded)
     EXPECT_EQ(calls, 0);
 }
 
-TEST_F(MacOSAudioSystem, letsGoOfAListenerThatWasRefused)
+TEST_F(MacOSAudioSystem, releasesARefusedListener)
 {
     const auto held = std::make_shared<int>(1);
     world.failNext("listen to dev# of system", kAudioHardwareIllegalOperationError);
@@ -179,7 +179,7 @@ TEST_F(MacOSAudioSystem, givesTheStatusOfARefusedListener)
     EXPECT_EQ(listener.error(), OSStatus{kAudioHardwareIllegalOperationError});
 }
 
-TEST_F(MacOSAudioSystem, listensToEachProcessWhileItIsThereAndSomebodyWantsToHear)
+TEST_F(MacOSAudioSystem, listensToEachProcessWhileItExistsAndThereAreSubscribers)
 {
     int calls = 0;
     world.addProcess({.pid = 501});
@@ -207,7 +207,7 @@ TEST_F(MacOSAudioSystem, listensToEachProcessWhileItIsThereAndSomebodyWantsToHea
     EXPECT_THAT(world.listeners, IsEmpty());
 }
 
-TEST_F(MacOSAudioSystem, doesNotAskAgainForAListenerThatWasRefused)
+TEST_F(MacOSAudioSystem, doesNotRetryARefusedListener)
 {
     world.addProcess({.pid = 501});
     world.failNext("listen to piro of process", kAudioHardwareIllegalOperationError);

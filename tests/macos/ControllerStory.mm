@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The whole controller on the adapters of macOS, from an application that begins to play to the end of the program.
+// The complete controller on the adapters of macOS, from an app that starts playing to shutdown.
 #include "control/AudioController.h"
 #include "log/EngineLog.h"
 #include "platform/HttpClient.h"
@@ -53,7 +53,7 @@ protected:
         world.reset();
         world.plug({.uid = "speakers", .name = "Speakers"});
         doubles::launch("Music", 501, "/Applications/Music.app");
-        // A helper without an application of its own plays for it.
+        // A helper that is not an application plays for it.
         doubles::responsiblePids() = {{601, 501}};
         world.addProcess({.pid = 601, .isRunningOutput = true, .amplitude = 0.5F});
         controller.emplace(platform, engineLog, "1.2.3");
@@ -112,7 +112,7 @@ protected:
     std::optional<AudioController> controller;
 };
 
-TEST_F(MacOSController, takesAnAppWhoseHelperPlays)
+TEST_F(MacOSController, tapsAnAppWhoseHelperPlays)
 {
     ASSERT_EQ(controller->state().apps->size(), 1U);
     EXPECT_EQ(controller->state().apps->front().name, "Music");
@@ -129,7 +129,7 @@ TEST_F(MacOSController, takesAnAppWhoseHelperPlays)
             HasSubstr("tap ready: com.example.Music")));
 }
 
-TEST_F(MacOSController, showsAPictureWhenItIsDrawn)
+TEST_F(MacOSController, showsAnIconOnceItIsRendered)
 {
     EXPECT_TRUE(controller->state().apps->front().icon.file.empty());
     pass(0ms);
@@ -142,7 +142,7 @@ TEST_F(MacOSController, retargetsTheTapWhenAnotherHelperPlays)
     doubles::responsiblePids()[602] = 501;
 
     world.addProcess({.pid = 602, .isRunningOutput = true, .amplitude = 0.5F});
-    pass(10ms);  // The listener to the list of processes has it polled.
+    pass(10ms);  // The listener for the process list triggers a poll.
     world.settleProperties();
 
     ASSERT_TRUE(world.taps.contains(tap));
@@ -160,7 +160,7 @@ TEST_F(MacOSController, followsTheDefaultOutput)
     EXPECT_THAT(world.aggregates.begin()->second.procs.begin()->second.inputIsOn, ElementsAre(0, 1));
 }
 
-TEST_F(MacOSController, takesItsAppsAgainWhenTheAudioServiceHasRestarted)
+TEST_F(MacOSController, tapsItsAppsAgainAfterAnAudioServiceRestart)
 {
     world.restartService();
     pass(10ms);
@@ -170,7 +170,7 @@ TEST_F(MacOSController, takesItsAppsAgainWhenTheAudioServiceHasRestarted)
     EXPECT_TRUE(controller->parametersOf("com.example.Music")->audioSeen);
 }
 
-TEST_F(MacOSController, givesEverythingBackWithinAPollWhenThePermissionIsWithdrawn)
+TEST_F(MacOSController, releasesEverythingWithinAPollWhenThePermissionIsRevoked)
 {
     tcc.preflightAnswer = 1;
     pass(AudioController::pollInterval);
@@ -183,7 +183,7 @@ TEST_F(MacOSController, givesEverythingBackWithinAPollWhenThePermissionIsWithdra
     EXPECT_EQ(world.taps.size(), 1U);
 }
 
-TEST_F(MacOSController, asksForThePermissionAndTakesTheAppOnceItIsGranted)
+TEST_F(MacOSController, requestsThePermissionAndTapsTheAppOnceItIsGranted)
 {
     tcc.preflightAnswer = 2;
     pass(AudioController::pollInterval);
@@ -197,7 +197,7 @@ TEST_F(MacOSController, asksForThePermissionAndTakesTheAppOnceItIsGranted)
     EXPECT_EQ(world.taps.size(), 1U);
 }
 
-TEST_F(MacOSController, tellsWhatTheAudioSystemRefused)
+TEST_F(MacOSController, reportsWhatTheAudioSystemRefused)
 {
     world.setDefaultOutput("speakers");
     tcc.preflightAnswer = 1;
@@ -209,7 +209,7 @@ TEST_F(MacOSController, tellsWhatTheAudioSystemRefused)
     EXPECT_EQ(errors.at("com.example.Music").step, TapStep("Create aggregate device"));
 }
 
-TEST_F(MacOSController, recordsIntoAWholeFile)
+TEST_F(MacOSController, recordsToACompleteFile)
 {
     controller->startRecording("com.example.Music");
     world.runCycle();
@@ -223,7 +223,7 @@ TEST_F(MacOSController, recordsIntoAWholeFile)
     EXPECT_THAT(done(), Contains(AllOf(HasSubstr("reveal"), HasSubstr("/Music/Fadeloom Recordings/Music"))));
 }
 
-TEST_F(MacOSController, savesAndClosesEverythingAtItsEnd)
+TEST_F(MacOSController, savesAndClosesEverythingOnShutdown)
 {
     controller->startRecording("com.example.Music");
     change([](SettingsData& settings) { settings.volumeLimit = 1.5F; });
@@ -235,7 +235,7 @@ TEST_F(MacOSController, savesAndClosesEverythingAtItsEnd)
     EXPECT_THAT(fileNamed("settings.json"), HasSubstr("\"volumeLimit\""));
 }
 
-TEST_F(MacOSController, startsAtLoginOnlyWhenTheSystemSaysSo)
+TEST_F(MacOSController, startsAtLoginOnlyIfTheSystemSaysSo)
 {
     controller->setLaunchAtLogin(true);
     EXPECT_TRUE(*controller->state().launchAtLogin);

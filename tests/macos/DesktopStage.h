@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The ground of tests that need a desktop. For Objective-C++ only.
+// The fixture of tests that need a desktop. For Objective-C++ only.
 #pragma once
 
 #include "tests/macos/doubles/Desktop.h"
@@ -20,7 +20,7 @@ class DesktopStage : public ::testing::Test {
 protected:
     ~DesktopStage() override { doubles::endDesktop(); }
 
-    /// What was done since this was asked last.
+    /// The journal since the last query.
     static std::vector<std::string> done() { return std::exchange(doubles::journal(), {}); }
     static NSApplication* application() { return NSApp; }
 

@@ -73,7 +73,7 @@ TEST(HAL, listIsEmptyWhenItHasNoEntryOrCannotBeRead)
     EXPECT_EQ(table.readCount(object, list), 1) << "only a list that has grown is asked for again";
 }
 
-TEST(HAL, listThatGrowsWhileItIsReadIsAskedForAgain)
+TEST(HAL, aListThatGrowsWhileItIsReadIsReadAgain)
 {
     PropertyTable table;
     table.setList(object, list, {1});

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program without a window as it starts on macOS, on Qt's own main loop.
+// The program without a window, started on macOS with Qt's own main loop.
 #include "app/HeadlessProgram.h"
 #include "platform/macos/OneInstance.h"
 #include "tests/macos/DesktopStage.h"
@@ -46,8 +46,8 @@ protected:
         char* arguments[] = {name, nullptr};
         return runHeadless(1, arguments, false);
     }
-    /// Looks every few milliseconds, and ends the program once it holds or three seconds are over: before the program
-    /// would look by itself.
+    /// Checks every few milliseconds, and ends the program once the condition holds or after three seconds: before the
+    /// program would poll.
     static void endOnce(const std::function<bool()>& condition)
     {
         auto* const looks = new QTimer(QCoreApplication::instance());
@@ -66,7 +66,7 @@ protected:
     doubles::AudioWorld& world = doubles::AudioWorld::current();
 };
 
-TEST_F(MacOSHeadlessProgram, takesAnAppThatBeginsToPlayAfterItsStart)
+TEST_F(MacOSHeadlessProgram, tapsAnAppThatStartsPlayingLater)
 {
     bool isTaken = false;
     doubles::whenProgramRuns() = [&] {
@@ -82,7 +82,7 @@ TEST_F(MacOSHeadlessProgram, takesAnAppThatBeginsToPlayAfterItsStart)
     EXPECT_TRUE(std::filesystem::exists(folder.path() / "Library/Application Support/Fadeloom/engine.log"));
 }
 
-TEST_F(MacOSHeadlessProgram, startsBesideNoOther)
+TEST_F(MacOSHeadlessProgram, doesNotStartTwice)
 {
     OneInstance other(folder.path() / "Library/Application Support/Fadeloom");
     ASSERT_EQ(other.claim(true), OneInstance::Start::first);
@@ -93,7 +93,7 @@ TEST_F(MacOSHeadlessProgram, startsBesideNoOther)
     EXPECT_THAT(::testing::internal::GetCapturedStderr(), HasSubstr("it is running already"));
 }
 
-TEST_F(MacOSHeadlessProgram, saysThatItHasNoFolderForItsSettings)
+TEST_F(MacOSHeadlessProgram, reportsAMissingSettingsFolder)
 {
     desktop.folders.clear();
 

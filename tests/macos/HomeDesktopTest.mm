@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's desktop and panel on macOS, put together as in the program, with Qt's windows on a display that nobody
-// sees.
+// The program's desktop and panel on macOS, assembled as in the program, with Qt's windows on an offscreen display.
 #include "app/macos/HomeDesktop.h"
 #include "app/macos/HomePanel.h"
 #include "tests/macos/DesktopStage.h"
@@ -22,7 +21,7 @@ class MacOSHomeDesktop : public DesktopStage {
 protected:
     MacOSHomeDesktop() { home.emplace(); }
 
-    /// A panel with content of this size, made when it is asked for.
+    /// A panel with content of this size, created on demand.
     void makePanel()
     {
         panel.emplace(*home);
@@ -68,7 +67,7 @@ TEST_F(MacOSHomeDesktop, givesThePopoverTheSizeOfItsContent)
     EXPECT_EQ(popoverSize().width, 380);
     EXPECT_EQ(popoverSize().height, 520);
 
-    content->setHeight(600);  // A row has opened.
+    content->setHeight(600);  // A row has expanded.
     for (int turn = 0; turn < 1000 && popoverSize().height != 600; ++turn)
         QCoreApplication::processEvents();
 
@@ -90,19 +89,20 @@ TEST_F(MacOSHomeDesktop, closesItsPanelWithEscape)
     panel.reset();
 }
 
-TEST_F(MacOSHomeDesktop, tellsOfTheLookAndOfTheEndOfTheSession)
+TEST_F(MacOSHomeDesktop, reportsTheAppearanceAndTheEndOfTheSession)
 {
     std::vector<std::string> told;
-    home->whenLookChanges(
-        [&](const DesktopLook& look) { told.emplace_back(look.isDark ? "dark" : "light"); });
+    home->whenAppearanceChanges([&](const DesktopAppearance& appearance) {
+        told.emplace_back(appearance.isDark ? "dark" : "light");
+    });
     home->whenSessionEnds([&] { told.emplace_back("session ends"); });
-    EXPECT_FALSE(home->look().isDark);
+    EXPECT_FALSE(home->appearance().isDark);
 
     DesktopStage::application().systemAppearance = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
     doubles::post("workspace", NSWorkspaceWillPowerOffNotification);
 
     EXPECT_THAT(told, ElementsAre("dark", "session ends"));
-    EXPECT_TRUE(home->look().isDark);
+    EXPECT_TRUE(home->appearance().isDark);
     home.reset();
     EXPECT_TRUE(desktop.observers.empty());
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Codes, keys and layouts of the platform, as our declarations have them, against literal values.
+// Codes, keys and layouts of the platform in our declarations, compared with literal values.
 //
-// Two columns are the same number in two notations, so that a slip of the pen in either is seen.
+// The two columns are the same number in two notations, so that a typo in either is detected.
 #include "platform/AudioBuffers.h"
 #include "platform/macos/TccPermission.h"
 #include "tests/macos/doubles/AudioWorld.h"
@@ -112,7 +112,7 @@ const std::vector<Number> numbers = {
     {NUMBER(NSCachesDirectory), 13},
 };
 
-TEST(MacOSLiterals, numbersAreWhatTheyAre)
+TEST(MacOSLiterals, constantsHaveTheirValues)
 {
     for (const Number& each : numbers) {
         EXPECT_EQ(each.declared, each.number) << each.name;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The audio system of macOS, on doubles of the platform, keeps the contract of the platform interfaces.
+// The platform contract for the audio system of macOS, on doubles of the platform.
 #include "platform/macos/CoreAudioSystem.h"
 #include "tests/macos/QueueMainLoop.h"
 #include "tests/macos/doubles/AudioWorld.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Runs the tests, each with an empty journal and an autorelease pool, and fails one that leaves an object behind.
+// Runs the tests, each with an empty journal and an autorelease pool, and fails those that leak an object.
 #include "tests/macos/doubles/Dispatch.h"
 #include "tests/macos/doubles/Journal.h"
 #include "tests/macos/doubles/Runtime.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The item in the menu bar and its menu.
+// The menu bar item and its menu.
 #include "platform/macos/MenuBarItem.h"
 #include "tests/macos/DesktopStage.h"
 
@@ -43,7 +43,7 @@ TEST_F(MacOSMenuBar, showsATintedPictureUnderItsName)
     EXPECT_STREQ(button().accessibilityLabel.UTF8String, "Fadeloom");
 }
 
-TEST_F(MacOSMenuBar, tellsOfALeftClick)
+TEST_F(MacOSMenuBar, reportsALeftClick)
 {
     [button() click:NSEventTypeLeftMouseUp modifiers:0];
 
@@ -58,7 +58,8 @@ TEST_F(MacOSMenuBar, opensItsMenuOnARightClickAndWithControl)
 
     EXPECT_THAT(std::exchange(happened, {}), ElementsAre("menu will open", "menu will open"));
     EXPECT_THAT(done(), ElementsAre("menu opens", "menu opens"));
-    EXPECT_EQ(NSStatusBar.systemStatusBar.onlyItem.menu, nil);  // Or the next left click would open it.
+    // Otherwise the next left click would open it.
+    EXPECT_EQ(NSStatusBar.systemStatusBar.onlyItem.menu, nil);
     [button() click:NSEventTypeLeftMouseUp modifiers:0];
     EXPECT_THAT(happened, ElementsAre("clicked"));
 }
@@ -70,7 +71,7 @@ TEST_F(MacOSMenuBar, opensItsMenuByControlOrOptionWhereClicksAreGestures)
     EXPECT_THAT(std::exchange(happened, {}), ElementsAre("menu will open", "menu will open"));
 
     [button() clickByGesture:0];
-    // Which is what VoiceOver holds while it presses.
+    // VoiceOver holds these while it presses.
     [button() clickByGesture:NSEventModifierFlagControl | NSEventModifierFlagOption];
     EXPECT_THAT(std::exchange(happened, {}), ElementsAre("clicked", "clicked"));
 
@@ -103,7 +104,7 @@ TEST_F(MacOSMenuBar, opensNoMenuAfterItsEnd)
     action = nil;
 }
 
-TEST_F(MacOSMenuBar, hasTheEntriesOfTheMomentInItsMenu)
+TEST_F(MacOSMenuBar, hasTheCurrentEntriesInItsMenu)
 {
     std::vector<std::string> titles;
     desktop.whenMenuOpens = [&](NSMenu* menu) {
@@ -121,7 +122,7 @@ TEST_F(MacOSMenuBar, hasTheEntriesOfTheMomentInItsMenu)
     EXPECT_THAT(happened, ElementsAre("menu will open", "settings"));
 }
 
-TEST_F(MacOSMenuBar, letsAChoiceBeMadeAfterTheMenuHasClosed)
+TEST_F(MacOSMenuBar, appliesAChoiceAfterTheMenuHasClosed)
 {
     NSMenuItem* chosen = nil;
     desktop.whenMenuOpens = [&](NSMenu* menu) { chosen = menu.itemArray[0]; };

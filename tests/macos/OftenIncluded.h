@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the sources include most often of libraries: read once for each processor.
+// The library headers included most often: precompiled once per architecture.
 #pragma once
 
 #include <QColor>
@@ -14,6 +14,10 @@
 #include <QStringList>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
+#include <fcntl.h>
+#include <nlohmann/json.hpp>
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -29,7 +33,6 @@
 #include <cstring>
 #include <ctime>
 #include <expected>
-#include <fcntl.h>
 #include <filesystem>
 #include <functional>
 #include <iostream>
@@ -38,7 +41,6 @@
 #include <map>
 #include <memory>
 #include <mutex>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <set>
 #include <span>
@@ -46,6 +48,5 @@
 #include <string_view>
 #include <system_error>
 #include <thread>
-#include <unistd.h>
 #include <utility>
 #include <vector>

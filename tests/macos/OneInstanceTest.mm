@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program beside another instance of itself.
+// The program alongside another instance.
 #include "platform/macos/OneInstance.h"
 #include "tests/macos/DesktopStage.h"
 #include "tests/support/TemporaryFolder.h"
@@ -24,7 +24,7 @@ protected:
     std::filesystem::path place = folder.path() / "Fadeloom";
 };
 
-TEST_F(MacOSInstance, isTheOnlyOneOfItsUser)
+TEST_F(MacOSInstance, isUniquePerUser)
 {
     std::optional<OneInstance> first(std::in_place, place);
     ASSERT_EQ(first->claim(true), Start::first);
@@ -36,7 +36,7 @@ TEST_F(MacOSInstance, isTheOnlyOneOfItsUser)
     EXPECT_EQ(OneInstance(place).claim(true), Start::first);
 }
 
-TEST_F(MacOSInstance, knowsOneWithoutAPanel)
+TEST_F(MacOSInstance, detectsOneWithoutAPanel)
 {
     OneInstance first(place);
     ASSERT_EQ(first.claim(false), Start::first);
@@ -44,7 +44,7 @@ TEST_F(MacOSInstance, knowsOneWithoutAPanel)
     EXPECT_EQ(OneInstance(place).claim(true), Start::besideHeadless);
 }
 
-TEST_F(MacOSInstance, hasTheOtherOnesPanelOpened)
+TEST_F(MacOSInstance, opensTheOtherOnesPanel)
 {
     int opened = 0;
     OneInstance first(place);
@@ -60,7 +60,7 @@ TEST_F(MacOSInstance, hasTheOtherOnesPanelOpened)
         done(), ElementsAre("post com.fadeloom.app.open at once", "post com.fadeloom.app.open at once"));
 }
 
-TEST_F(MacOSInstance, waitsForOneThatEnds)
+TEST_F(MacOSInstance, waitsForOneThatIsExiting)
 {
     std::optional<OneInstance> first(std::in_place, place);
     ASSERT_EQ(first->claim(true), Start::first);
@@ -73,7 +73,7 @@ TEST_F(MacOSInstance, waitsForOneThatEnds)
     EXPECT_EQ(OneInstance(place).claim(true), Start::first);
 }
 
-TEST_F(MacOSInstance, followsTheOneThatHasStartedIt)
+TEST_F(MacOSInstance, succeedsTheOneThatHasStartedIt)
 {
     std::optional<OneInstance> first(std::in_place, place);
     ASSERT_EQ(first->claim(true), Start::first);
@@ -86,7 +86,7 @@ TEST_F(MacOSInstance, followsTheOneThatHasStartedIt)
     EXPECT_EQ(OneInstance(place).claim(true), Start::first);
 }
 
-TEST_F(MacOSInstance, startsWhereNothingCanBeLocked)
+TEST_F(MacOSInstance, startsIfLockingIsImpossible)
 {
     std::ofstream(place) << "no folder";
 

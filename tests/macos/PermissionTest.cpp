@@ -15,7 +15,7 @@ namespace {
 
 using State = AudioPermission::State;
 
-/// Keeps what is posted until the test runs it.
+/// Holds posted tasks until the test runs them.
 class KeptLoop final : public MainLoop {
 public:
     void post(Task task) override { posted.push_back(std::move(task)); }
@@ -35,7 +35,7 @@ protected:
     AudioPermission state{permission, loop};
 };
 
-TEST_F(MacOSPermission, hasTheMeaningOfTheAnswer)
+TEST_F(MacOSPermission, mapsTheStatus)
 {
     const std::vector<std::pair<int, State>> meanings = {
         {0, State::granted}, {1, State::denied}, {2, State::notDetermined}, {7, State::notDetermined}};
@@ -47,7 +47,7 @@ TEST_F(MacOSPermission, hasTheMeaningOfTheAnswer)
     EXPECT_FALSE(tcc.hadOptions);
 }
 
-TEST_F(MacOSPermission, isAnsweredOnTheMainLoopWhereverTheSystemAnswers)
+TEST_F(MacOSPermission, isAnsweredOnTheMainLoopFromAnyThread)
 {
     for (const bool isGranted : {true, false}) {
         std::vector<bool> answers;
@@ -64,7 +64,7 @@ TEST_F(MacOSPermission, isAnsweredOnTheMainLoopWhereverTheSystemAnswers)
     }
 }
 
-TEST_F(MacOSPermission, letsGoOfItsRequestWhenItIsAnswered)
+TEST_F(MacOSPermission, releasesItsRequestOnceAnswered)
 {
     const auto held = std::make_shared<int>(1);
 

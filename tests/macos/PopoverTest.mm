@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The popover below the item in the menu bar.
+// The popover below the menu bar item.
 #include "platform/macos/AppKitPopover.h"
 #include "platform/macos/MenuBarItem.h"
 #include "tests/macos/DesktopStage.h"
@@ -24,7 +24,7 @@ protected:
         done();
     }
     NSView* content() { return (__bridge NSView*)popover->contentView(); }
-    /// As a user presses and lets go of the button on the item, whose action then asks what is to be done.
+    /// Presses and releases the mouse button on the item, like a user, and then runs its action.
     void pressItem()
     {
         desktop.mouse = {1010, 910};
@@ -36,7 +36,7 @@ protected:
     std::vector<std::string> happened;
 };
 
-TEST_F(MacOSPopover, opensBelowTheItemWithTheKeyboard)
+TEST_F(MacOSPopover, opensBelowTheItemWithTheFocus)
 {
     content().subviews = @[ [[NSView alloc] initWithFrame:NSZeroRect] ];
     popover->setAnimated(false);
@@ -51,7 +51,7 @@ TEST_F(MacOSPopover, opensBelowTheItemWithTheKeyboard)
     EXPECT_EQ(doubles::lastPopover().anchor, (__bridge NSView*)item.button());
 }
 
-TEST_F(MacOSPopover, isAnimatedWhenThatIsWanted)
+TEST_F(MacOSPopover, isAnimatedIfEnabled)
 {
     popover->setAnimated(true);
 
@@ -60,7 +60,7 @@ TEST_F(MacOSPopover, isAnimatedWhenThatIsWanted)
     EXPECT_THAT(done(), ElementsAre("popover opens slowly", "make key", "keys to nobody"));
 }
 
-TEST_F(MacOSPopover, takesTheKeyboardOnceMoreWhenItHasAppearedAndWhenTheProgramIsActive)
+TEST_F(MacOSPopover, takesTheFocusAgainWhenItHasAppearedAndWhenTheProgramIsActive)
 {
     popover->show();
     done();
@@ -76,9 +76,9 @@ TEST_F(MacOSPopover, takesTheKeyboardOnceMoreWhenItHasAppearedAndWhenTheProgramI
     EXPECT_THAT(done(), IsEmpty());
 }
 
-TEST_F(MacOSPopover, makesItsContentWhenItOpensForTheFirstTime)
+TEST_F(MacOSPopover, createsItsContentWhenFirstOpened)
 {
-    popover->whenFirstNeeded([this] { happened.emplace_back("make content"); });
+    popover->whenFirstShown([this] { happened.emplace_back("make content"); });
     EXPECT_THAT(happened, IsEmpty());
 
     for (int i = 0; i < 2; ++i) {
@@ -122,7 +122,7 @@ TEST_F(MacOSPopover, isOpenedByAClickLongAfterThePressThatHasClosedIt)
     EXPECT_FALSE(popover->isShown());
 }
 
-TEST_F(MacOSPopover, tellsWhenItHasClosed)
+TEST_F(MacOSPopover, reportsWhenItHasClosed)
 {
     popover->show();
 
@@ -133,7 +133,7 @@ TEST_F(MacOSPopover, tellsWhenItHasClosed)
     EXPECT_THAT(happened, ElementsAre("will show", "did close"));
 }
 
-TEST_F(MacOSPopover, handsOutAViewWhoseContentStaysAtItsUpperEdge)
+TEST_F(MacOSPopover, providesAViewWhoseContentStaysAtItsUpperEdge)
 {
     NSView* const handedOut = content();
     ASSERT_TRUE(handedOut != nil);
@@ -145,7 +145,7 @@ TEST_F(MacOSPopover, handsOutAViewWhoseContentStaysAtItsUpperEdge)
     EXPECT_TRUE(handedOut.isFlipped);
 }
 
-TEST_F(MacOSPopover, growsAtOnceAlsoWhenItOpensSlowly)
+TEST_F(MacOSPopover, resizesImmediatelyEvenWhileAnimating)
 {
     popover->setAnimated(true);
     popover->show();
@@ -159,7 +159,7 @@ TEST_F(MacOSPopover, growsAtOnceAlsoWhenItOpensSlowly)
     EXPECT_TRUE(doubles::lastPopover().animates);
 }
 
-TEST_F(MacOSPopover, endsWithoutTellingItsOwnerWhoMayBeGone)
+TEST_F(MacOSPopover, isDestroyedWithoutCallingItsOwner)
 {
     popover->show();
     done();

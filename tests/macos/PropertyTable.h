@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The audio hardware layer as nothing but a table of properties, byte for byte, that can be made to misbehave.
+// The audio hardware layer as a mere table of properties, byte for byte, with fault injection.
 #pragma once
 
 #include "platform/macos/HAL.h"
@@ -18,7 +18,7 @@
 
 namespace fadeloom {
 
-/// Answers in place of the audio world while it lives.
+/// Replaces the audio world's properties during its lifetime.
 class PropertyTable final : public doubles::PropertyAnswers {
 public:
     PropertyTable() { doubles::AudioWorld::current().answers = this; }
@@ -57,16 +57,16 @@ public:
     {
         return properties_.at(keyOf(object, address)).bytes;
     }
-    /// How often the value was asked for, successfully or not.
+    /// The number of reads, successful or not.
     [[nodiscard]] int readCount(AudioObjectID object, const AudioObjectPropertyAddress& address) const
     {
         const auto entry = readCounts_.find(keyOf(object, address));
         return entry == readCounts_.end() ? 0 : entry->second;
     }
 
-    /// Called between the question for a size and the reading of the value.
+    /// Called between the size query and the read.
     std::function<void(std::span<const std::byte> asked)> beforeRead;
-    OSStatus readError = kAudioHardwareNoError;  // When not 0, every reading fails with it.
+    OSStatus readError = kAudioHardwareNoError;  // If not 0, every read fails with it.
     OSStatus writeError = kAudioHardwareNoError;
 
     OSStatus willRead(AudioObjectID object, const AudioObjectPropertyAddress& address,

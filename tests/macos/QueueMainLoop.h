@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A main loop on the main queue of the doubles: it turns, and its time passes, when a test lets it.
+// A main loop on the doubles' main queue: a test runs its iterations and advances its time.
 #pragma once
 
 #include "platform/MainLoop.h"

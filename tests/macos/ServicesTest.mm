@@ -54,12 +54,12 @@ TEST_F(MacOSServices, loginItemIsSwitchedOnAndOffOnce)
     EXPECT_THAT(done(), ElementsAre("register", "unregister"));
 }
 
-TEST_F(MacOSServices, loginItemTellsWhyItWasRefused)
+TEST_F(MacOSServices, loginItemReportsWhyItWasRefused)
 {
     MainAppLoginItem item;
     desktop.loginItemError = doubles::errorSaying(@"Der Vorgang ist nicht erlaubt.");
 
-    const LoginItemError refused = SystemWords{"Der Vorgang ist nicht erlaubt."};
+    const LoginItemError refused = SystemMessage{"Der Vorgang ist nicht erlaubt."};
     EXPECT_EQ(item.registerItem().error(), refused);
     desktop.loginItem = SMAppServiceStatusRequiresApproval;
     EXPECT_EQ(item.unregisterItem().error(), refused);
@@ -76,7 +76,7 @@ TEST_F(MacOSServices, elevenCallAppsAreKnown)
         {"Signal", {"org.whispersystems.signal-desktop"}},
         {"Google Meet", {"com.google.Chrome.app.kjgfgldnnfoeklkmfkjfagphfepbbdan"}}};
 
-    EXPECT_EQ(callApps.wellKnown(), all);
+    EXPECT_EQ(callApps.knownApps(), all);
     EXPECT_TRUE(callApps.formerDefaults().empty());
     EXPECT_EQ(callApps.identifiersOf("us.zoom.xos"), std::vector<std::string>{"us.zoom.xos"});
 }
@@ -94,7 +94,7 @@ TEST_F(MacOSServices, defaultsKeepALanguage)
     EXPECT_EQ(defaults.stringList("AppleLanguages"), std::nullopt);
 }
 
-TEST_F(MacOSServices, defaultsThatAreNoListOfTextsAreNone)
+TEST_F(MacOSServices, defaultsThatAreNotAListOfStringsAreIgnored)
 {
     const StandardUserDefaults defaults;
     for (id value in @[ @"pl", @[ @"pl", @1U ], @1U, @{} ]) {
@@ -189,14 +189,14 @@ std::unique_ptr<ContractDefaultsWorld> makeMacOSDefaultsWorld()
     return std::make_unique<MacOSDefaultsWorld>();
 }
 
-TEST_F(MacOSServices, aQueueWorksWhenNothingElseHasTo)
+TEST_F(MacOSServices, aQueueRunsInTheBackground)
 {
     const DispatchQueue queue("com.fadeloom.test");
 
     EXPECT_EQ(doubles::lastQuality(), QOS_CLASS_UTILITY);
 }
 
-TEST_F(MacOSServices, theEndOfTheSessionIsToldBeforeItComes)
+TEST_F(MacOSServices, theEndOfTheSessionIsReportedInAdvance)
 {
     int ends = 0;
     {
@@ -210,7 +210,7 @@ TEST_F(MacOSServices, theEndOfTheSessionIsToldBeforeItComes)
     EXPECT_TRUE(desktop.observers.empty());
 }
 
-TEST_F(MacOSServices, aQueueThatEndsDoesWhatIsDueAndDropsTheRest)
+TEST_F(MacOSServices, aDestroyedQueueRunsWhatIsDueAndDropsTheRest)
 {
     std::vector<int> ran;
     {

@@ -33,11 +33,11 @@ protected:
 
     AudioDeviceIOProcID procedureID() { return reinterpret_cast<AudioDeviceIOProcID>(&procedure); }
 
-    int procedure = 0;  // Its address stands for an IO procedure.
+    int procedure = 0;  // Its address is used as an IO procedure.
     PropertyTable table;
 };
 
-TEST_F(StreamUsageTest, tellsWhichStreamsAreOn)
+TEST_F(StreamUsageTest, reportsWhichStreamsAreEnabled)
 {
     table.setBytes(aggregate, usageOf, recordOf(3, {1, 0, 1}));
 
@@ -61,10 +61,9 @@ TEST_F(StreamUsageTest, isAskedForOneProcedure)
     EXPECT_EQ(asked, &procedure);
 }
 
-TEST_F(StreamUsageTest, switchesStreamsOffAndLeavesTheRestOfTheRecord)
+TEST_F(StreamUsageTest, disablesStreamsAndKeepsTheRestOfTheRecord)
 {
-    table.setBytes(
-        aggregate, usageOf, recordOf(2, {1, 1, 77}));  // One flag more than streams, as padding would be.
+    table.setBytes(aggregate, usageOf, recordOf(2, {1, 1, 77}));  // One flag more than streams, like padding.
     auto usage = read();
     ASSERT_TRUE(usage);
 

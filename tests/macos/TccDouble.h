@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A double of the privacy framework, as a library of its own.
+// A double of the privacy framework, as a separate library.
 #pragma once
 
 #include <functional>
@@ -9,9 +9,9 @@ namespace fadeloom {
 
 struct TccDouble {
     int preflightAnswer = 0;
-    std::string service{};  // That was asked for last.
+    std::string service{};  // The service of the last request.
     bool hadOptions = false;
-    std::function<void(bool isGranted)> answer{};  // Of the last request; works once.
+    std::function<void(bool isGranted)> answer{};  // Completes the last request; works once.
 };
 
 }  // namespace fadeloom

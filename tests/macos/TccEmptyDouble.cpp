@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A privacy framework that has lost its functions.
+// A privacy framework without its functions.
 int fadeloomNothing();
 int fadeloomNothing()
 {

@@ -9,7 +9,7 @@
 namespace fadeloom {
 namespace {
 
-TEST(Uuid, hasTheFormOfARandomOne)
+TEST(Uuid, isAVersion4UUID)
 {
     for (int i = 0; i < 100; ++i) {
         EXPECT_THAT(makeUuid(),
@@ -17,7 +17,7 @@ TEST(Uuid, hasTheFormOfARandomOne)
     }
 }
 
-TEST(Uuid, isNewEveryTime)
+TEST(Uuid, isUnique)
 {
     std::set<std::string> seen;
     for (int i = 0; i < 1000; ++i)

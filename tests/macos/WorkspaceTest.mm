@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Applications as AppKit tells of them, and who owns a process.
+// Applications as reported by AppKit, and the owner of a process.
 #include "control/AppResolver.h"
 #include "control/AudioPermission.h"
 #include "platform/macos/AppKitWorkspace.h"
@@ -55,7 +55,7 @@ TEST_F(MacOSWorkspace, describesARunningApplication)
     EXPECT_EQ(workspace.runningApplication(502), std::nullopt);
 }
 
-TEST_F(MacOSWorkspace, describesAnApplicationOfWhichLittleIsKnown)
+TEST_F(MacOSWorkspace, describesAnApplicationWithMissingProperties)
 {
     NSRunningApplication* bare = launch("agent", 501, "/usr/libexec/agent");
     bare.bundleIdentifier = nil;
@@ -70,7 +70,7 @@ TEST_F(MacOSWorkspace, describesAnApplicationOfWhichLittleIsKnown)
     EXPECT_EQ(workspace.runningApplication(501), expected);
 }
 
-TEST_F(MacOSWorkspace, drawsThePicturesOfThoseWhoAreAskedForOnceAndElsewhere)
+TEST_F(MacOSWorkspace, rendersRequestedIconsOnceAndOffTheMainThread)
 {
     launch("Music", 501, "/Applications/Music.app");
     launch("Films", 502, "/Applications/Films.app");
@@ -89,7 +89,7 @@ TEST_F(MacOSWorkspace, drawsThePicturesOfThoseWhoAreAskedForOnceAndElsewhere)
     EXPECT_THAT(done(), ElementsAre("draw Music at 128"));
 }
 
-TEST_F(MacOSWorkspace, hasNoPictureWhereNoneCanBeWritten)
+TEST_F(MacOSWorkspace, hasNoIconIfItCannotBeWritten)
 {
     std::ofstream(iconFolder) << "no folder";
     launch("Music", 501, "/Applications/Music.app");
@@ -103,7 +103,7 @@ TEST_F(MacOSWorkspace, hasNoPictureWhereNoneCanBeWritten)
     workspace.findIcon(music, [](const AppIcon&) { ADD_FAILURE(); });
 }
 
-TEST_F(MacOSWorkspace, findsNoPictureAfterItsEnd)
+TEST_F(MacOSWorkspace, findsNoIconAfterItsDestruction)
 {
     launch("Music", 501, "/Applications/Music.app");
     {
@@ -114,7 +114,7 @@ TEST_F(MacOSWorkspace, findsNoPictureAfterItsEnd)
     doubles::runQueues();
 }
 
-TEST_F(MacOSWorkspace, seesAnEnd)
+TEST_F(MacOSWorkspace, detectsAnExit)
 {
     NSRunningApplication* music = launch("Music", 501, "/Applications/Music.app");
     const auto asked = *workspace.runningApplication(501);
@@ -126,7 +126,7 @@ TEST_F(MacOSWorkspace, seesAnEnd)
     EXPECT_TRUE(workspace.isTerminated(asked));
 }
 
-TEST_F(MacOSWorkspace, seesAnEndBehindAnotherApplicationWithThatPid)
+TEST_F(MacOSWorkspace, detectsAnExitDespiteAReusedPid)
 {
     launch("Music", 501, "/Applications/Music.app");
     const auto asked = *workspace.runningApplication(501);
@@ -155,7 +155,7 @@ TEST_F(MacOSWorkspace, findsTheOwnerOfAProcess)
     EXPECT_EQ(ownerOf(502), "nobody");
 }
 
-TEST_F(MacOSWorkspace, doesNotKnowWhoAnswersWhenTheSystemCannotTell)
+TEST_F(MacOSWorkspace, doesNotKnowTheResponsibleProcessIfTheSystemDoesNot)
 {
     responsiblePids() = {{600, 501}};
 
@@ -163,7 +163,7 @@ TEST_F(MacOSWorkspace, doesNotKnowWhoAnswersWhenTheSystemCannotTell)
     EXPECT_EQ(workspace.responsiblePid(601), std::nullopt);
 }
 
-TEST_F(MacOSWorkspace, knowsABundleByItsExtension)
+TEST_F(MacOSWorkspace, recognizesABundleByItsExtension)
 {
     EXPECT_TRUE(workspace.isApplicationBundle("/Applications/Music.app"));
     EXPECT_FALSE(workspace.isApplicationBundle("/usr/libexec/agent"));
@@ -190,7 +190,7 @@ TEST_F(MacOSWorkspace, showsFilesAndOpensAddresses)
             "reveal file:///Users/someone/Music/Säge 1.wav", "open https://fadeloom.example/download.php"));
 }
 
-TEST_F(MacOSWorkspace, opensTheSettingsInWhichAPermissionIsChanged)
+TEST_F(MacOSWorkspace, opensThePrivacySettings)
 {
     workspace.open(std::string(AudioPermission::settingsURL));
 

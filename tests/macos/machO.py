@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Mach-O files made by hand: their heads and load commands, and nothing that runs."""
+"""Handcrafted Mach-O files: headers and load commands without code."""
 
 import struct
 
@@ -20,7 +20,7 @@ def textCommand(kind, text, before=()):
 
 
 def thin(processor="arm64", minimum="14.2", libraries=(), rpaths=(), platform=1, isOld=False):
-    """A file for one processor."""
+    """A file for one architecture."""
     commands = []
     if isOld:
         commands.append(struct.pack("<4I", VERSION_MIN_MACOS, 16, packed(minimum), packed(minimum)))
@@ -34,7 +34,7 @@ def thin(processor="arm64", minimum="14.2", libraries=(), rpaths=(), platform=1,
 
 
 def fat(*slices, isLong=False):
-    """A file for several processors; `isLong`: with 64-bit offsets."""
+    """A universal file; `isLong`: with 64-bit offsets."""
     entry = ">2I2Q2I" if isLong else ">5I"
     start = 8 + len(slices) * struct.calcsize(entry)
     head = struct.pack(">2I", 0xCAFEBABF if isLong else 0xCAFEBABE, len(slices))

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What would keep a bundle from running on another Mac is found."""
+"""Detection of what would keep a bundle from running on another Mac."""
 
 import pathlib
 import subprocess
@@ -86,7 +86,7 @@ def test_aFatFileWhoseSlicesAreElsewhereIsNamed(bundle):
     assert check(bundle)[1] == ["Contents/PlugIns/a.dylib: ends too early"]
 
 
-def test_whatIsNoProgramIsNotLookedAt(bundle):
+def test_otherFilesAreSkipped(bundle):
     write(bundle, "Contents/Resources/A.class", b"\xca\xfe\xba\xbe\x00\x00\x00\x41" + b"\0" * 40)
     write(bundle, "Contents/Resources/short", b"\xca\xfe")
     assert check(bundle)[0] == 0

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What CMake does on a Mac is configured here, with a toolchain that has it take this machine for one."""
+"""Configures the build as on a Mac, with a toolchain that makes CMake treat this machine as one."""
 
 import json
 import pathlib

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The first hour, gone through without a Mac: its tools are small scripts that do what the real ones would leave."""
+"""The first hour without a Mac: its tools are replaced by small scripts that leave the same results."""
 
 import os
 import pathlib
@@ -56,7 +56,7 @@ esac""",
 
 @pytest.fixture
 def mac(tmp_path):
-    """A copy of what the script needs, and tools for it to find."""
+    """A copy of what the script needs, and fake tools."""
     root = tmp_path / "fadeloom"
     for name in ("packaging/macos", "docs"):
         shutil.copytree(ROOT / name, root / name)
@@ -122,13 +122,13 @@ def test_aStepThatFailsEndsNothing(mac):
     assert any(line.endswith(" steps have failed.") for line in report)
 
 
-def test_aQtForOneProcessorIsTold(mac):
+def test_aQtForOneArchitectureIsReported(mac):
     (mac.qt / "lib" / "QtGui").write_bytes(machO.thin("arm64"))
     report = mac(0)
     assert "only arm64" in linesOf(report, "processors")[0]
 
 
-def test_elsewhereItSaysThatThisIsNoMac(mac):
+def test_elsewhereItSaysThatThisIsNotAMac(mac):
     report = mac(2, SYSTEM="Linux")
     assert "This is no Mac." in report
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// PipeWire, with real players and virtual devices, keeps the contract of the platform interfaces.
+// The platform contract for PipeWire, with real players and virtual devices.
 #include "platform/pipewire/PipeWireAudioSystem.h"
 #include "platform/qt/QtMainLoop.h"
 #include "tests/pipewire/RealPlayers.h"

@@ -142,7 +142,7 @@ void RealPlayers::end(ProcessID player)
 
 void RealPlayers::plug(const std::string& uid, const std::string& name, const std::string& positions)
 {
-    // Not suspended: WirePlumber 0.4 crashes when a device goes while its time to suspend has not come.
+    // No suspending: WirePlumber 0.4 crashes if a device is removed while its suspend timeout is running.
     const auto properties = "{ session.suspend-timeout-seconds=0 factory.name=support.null-audio-sink "
                             "media.class=Audio/Sink object.linger=true node.name=\""
         + uid + "\" node.description=\"" + name + "\" audio.position=[" + positions + "] }";
@@ -158,7 +158,7 @@ void RealPlayers::unplug(const std::string& uid)
 
 void RealPlayers::setDefaultOutput(const std::string& uid)
 {
-    // Removed first: setting what is set already would be no change, and nobody would look again.
+    // Removed first: writing an unchanged value would be no change, and would have no effect.
     run({"pw-metadata", "-d", "0", "default.configured.audio.sink"});
     EXPECT_EQ(run({"pw-metadata", "0", "default.configured.audio.sink", "{ \"name\": \"" + uid + "\" }",
                   "Spa:String:JSON"}),

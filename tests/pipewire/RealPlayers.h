@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Real players and devices in the audio session that surrounds the test program.
+// Real players and devices in the surrounding audio session.
 #pragma once
 
 #include "platform/Workspace.h"
@@ -11,7 +11,7 @@
 
 namespace fadeloom {
 
-/// Everything that was started or plugged in ends with the object. Fails the test when the session lacks something.
+/// The destructor ends and unplugs everything. Fails the test if the session lacks something.
 class RealPlayers {
 public:
     RealPlayers();
@@ -19,7 +19,7 @@ public:
     RealPlayers(const RealPlayers&) = delete;
     RealPlayers& operator=(const RealPlayers&) = delete;
 
-    /// An mpv on PipeWire that plays a sine of 441 Hz, both channels, without end.
+    /// An mpv on PipeWire that plays a sine of 441 Hz, both channels, endlessly.
     ProcessID startSine(float amplitude);
     void setPaused(ProcessID player, bool isPaused);
     void end(ProcessID player);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The callback in a real graph, on PipeWire's own data thread: it never allocates, waits, or calls the system.
+// The callback in a real graph, on PipeWire's own data thread: it never allocates, blocks, or makes system calls.
 #include "engine/AppTap.h"
 #include "engine/EqualizerDesign.h"
 #include "engine/Recording.h"
@@ -11,9 +11,9 @@
 #include "tests/support/RealTimeGuard.h"
 #include "tests/support/TemporaryFolder.h"
 
+#include <QCoreApplication>
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <chrono>
 #include <filesystem>
 #include <mutex>

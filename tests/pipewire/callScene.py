@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A session in which somebody can call: a microphone, music, and a silent voice."""
+"""A session for calls: a microphone, music, and a silent call app."""
 
 import numpy
 

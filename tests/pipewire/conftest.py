@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Real players, a real graph, the real program: what the tests in this folder share."""
+"""Real players, a real graph, the real program: shared by the tests in this folder."""
 
 import os
 import pathlib
@@ -14,7 +14,7 @@ sys.path.insert(0, str(ROOT / "tools"))
 from audioSession import AudioSession, waitUntil  # noqa: E402
 from fadeloomProcess import FadeloomProcess  # noqa: E402
 
-LONG = bool(os.environ.get("FADELOOM_LONG"))  # `./test --long` asks for the long form of what is slow.
+LONG = bool(os.environ.get("FADELOOM_LONG"))  # Set by `./test --long`, for the long form of slow tests.
 
 PLAYERS = {
     "pw-play": ("pw-cat", lambda file: ["pw-play", file]),
@@ -30,7 +30,7 @@ def program():
 
 
 class Stage:
-    """A session with the words that the tests speak in."""
+    """A session with the operations of the tests."""
 
     def __init__(self, session):
         self.session = session
@@ -41,7 +41,7 @@ class Stage:
         return FadeloomProcess(self.session, program(), settings, **options)
 
     def makeApp(self, name):
-        """A program of its own that can do what pw-cat can: an app with this bundle identifier. Returns its path."""
+        """A copy of pw-cat under another name: an app with this bundle identifier. Returns its path."""
         path = self.folder / name
         shutil.copy(shutil.which("pw-cat"), path)
         return str(path)
@@ -61,7 +61,7 @@ class Stage:
         return any(output in link[0] and input in link[1] for link in self.session.links())
 
     def waitForTap(self, fadeloom, bundleID, after=0):
-        """Waits until the app's sound runs through a tap; returns the number of the line that said so."""
+        """Waits until the app's audio runs through a tap; returns the number of the line that reported it."""
         number, _ = fadeloom.waitFor(f"tap ready: {bundleID} ", after=after)
         waitUntil(lambda: self.isLinked("", "com.fadeloom.tap."), "the streams of the tap")
         return number

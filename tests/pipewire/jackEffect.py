@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A JACK client that plays what it gets at half the level, until it is ended."""
+"""A JACK client that plays its input at half the level, until it is ended."""
 
 import ctypes
 import signal

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Tones to play, and how loud they are on a device."""
+"""Tones to play, and their levels on a device."""
 
 import time
 
@@ -16,7 +16,7 @@ def sineFile(stage, frequency=1000):
 
 
 def levelOn(stage, device, frequency=1000):
-    """How loud a frequency is on a device now."""
+    """The current level of a frequency on a device."""
     stage.count += 1
     name = f"level{stage.count}"
     recording = stage.session.recordDevice(name, device)

@@ -22,7 +22,7 @@ class QuietHandler(http.server.SimpleHTTPRequestHandler):
 
 
 class Meeting:
-    """Use as a context manager: Chromium in the session of `stage`, without a window. `arguments` come first."""
+    """Use as a context manager: headless Chromium in the session of `stage`. `arguments` come first."""
 
     def __init__(self, stage, *arguments):
         self.stage = stage
@@ -38,7 +38,7 @@ class Meeting:
         self.stage.session.spawn("browser", [
             "chromium", *self.arguments, "--headless=new", "--no-sandbox", "--no-first-run", "--disable-gpu",
             f"--user-data-dir={self.stage.folder}/profile", "--autoplay-policy=no-user-gesture-required",
-            # Answers the question for the microphone, which is a virtual one of the session.
+            # Accepts the prompt for the microphone, which is a virtual one of the session.
             "--use-fake-ui-for-media-stream", f"http://127.0.0.1:{self.server.server_port}/"])
         return self
 

@@ -1,12 +1,13 @@
 # SPDX-License-Identifier: MIT
-"""Programs and modules that carry sound on for others: each gives a session a sink "effect" that plays to a device."""
+"""Programs and modules that forward the audio of others: each gives a session a sink "effect" that plays to a
+device."""
 
 import pathlib
 import sys
 
 from audioSession import waitUntil
 
-HALF = 0.5  # What the effects with a gain of their own do to the sound.
+HALF = 0.5  # The gain of the effects that have one.
 
 FILTER = """
 { name = libpipewire-module-filter-chain
@@ -53,7 +54,7 @@ def toSpeakers(module, target='target.object = "speakers"'):
 
 
 def startFilterChain(session):
-    """A filter chain in a process of its own."""
+    """A filter chain in a separate process."""
     file = session.folder / "filter.conf"
     file.write_text(PROGRAM.replace("MODULE", toSpeakers(FILTER)))
     session.spawn("effect", ["pipewire", "-c", str(file)])
@@ -68,7 +69,7 @@ def startLoopback(session):
 
 
 def startLoopbackWithoutTarget(session):
-    """Follows the default, which may be its own sink: the session manager then takes the next best device."""
+    """Follows the default, which may be its own sink: the session manager then uses the next best device."""
     session.unplug("headphones")
     capture = "{ media.class=Audio/Sink node.name=effect session.suspend-timeout-seconds=0 }"
     session.spawn("effect", ["pw-loopback", "-m", "[ FL FR ]", "--capture-props", capture,
@@ -87,14 +88,14 @@ def startCombine(session):
 
 
 def startPulseLoopback(session):
-    """A sink of nobody's, whose monitor a module plays to the speakers."""
+    """A virtual sink whose monitor a module plays to the speakers."""
     session.plug("effect", "Effect")
     session.run("pactl", "load-module", "module-loopback", "source=effect.monitor", "sink=speakers")
     return 1.0
 
 
 def startJackClient(session):
-    """A JACK client, wired by hand between a sink of nobody's and the speakers."""
+    """A JACK client, linked manually between a virtual sink and the speakers."""
     session.plug("effect", "Effect")
     client = pathlib.Path(__file__).with_name("jackEffect.py")
     session.spawn("jack", ["pw-jack", sys.executable, "-B", str(client)])
@@ -117,21 +118,21 @@ EFFECTS = {
 
 
 def start(session, name):
-    """Starts an effect and waits until its sink is there; returns its gain."""
+    """Starts an effect and waits until its sink exists; returns its gain."""
     gain = EFFECTS[name](session)
     waitUntil(lambda: session.nodeId("effect", ports=True), f"the sink of {name}")
     return gain
 
 
 def configureServer(session, module):
-    """Puts a module into the configuration of a server that has not been started yet."""
+    """Adds a module to the configuration of a server that has not been started yet."""
     folder = pathlib.Path(session.environment["XDG_CONFIG_HOME"]) / "pipewire" / "pipewire.conf.d"
     folder.mkdir(parents=True, exist_ok=True)
     (folder / "effect.conf").write_text(f"context.modules = [ {toSpeakers(module)} ]\n")
 
 
 def startEasyEffects(session):
-    """As a service, on a screen that nobody sees. Its output is another sink, to which it moves every stream."""
+    """As a service, on a virtual screen. Its output is another sink, to which it moves every stream."""
     session.spawn("screen", ["Xvfb", "-displayfd", "1", "-nolisten", "tcp", "-screen", "0", "640x480x24"])
     log = session.folder / "screen.log"
     number = waitUntil(lambda: [line for line in log.read_text().splitlines() if line.isdigit()], "the X server")[0]

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A connection to a session's message bus, and the mixer's objects there."""
+"""A connection to a session's message bus, and the mixer's objects on it."""
 
 import gi
 import pytest
@@ -17,7 +17,7 @@ PROPERTIES = "org.freedesktop.DBus.Properties"
 
 
 class Bus:
-    """A connection of ours, and every signal that came over it."""
+    """A private connection, and all signals received on it."""
 
     def __init__(self, session):
         self.connection = Gio.DBusConnection.new_for_address_sync(
@@ -49,7 +49,7 @@ class Bus:
         return Gio.dbus_error_get_remote_error(raised.value)
 
     def changes(self, path, name):
-        """The values that were announced of a property."""
+        """The announced values of a property."""
         self.turn()
         return [changed[name] for where, _, signal, values in self.signals
                 if where == path and signal == "PropertiesChanged" for changed in [values[1]] if name in changed]

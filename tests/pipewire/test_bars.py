@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The snippets of docs/control.md in the bars that they are for."""
+"""The snippets of docs/control.md in their bars."""
 
 import itertools
 import os
@@ -18,7 +18,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 
 
 def snippet(name):
-    """The first block of code behind a heading of docs/control.md."""
+    """The first code block after a heading of docs/control.md."""
     text = (ROOT / "docs" / "control.md").read_text().split(f"### {name}\n", 1)[1]
     lines = itertools.dropwhile(lambda line: not line.startswith("    "), text.splitlines())
     return textwrap.dedent("\n".join(itertools.takewhile(lambda line: not line or line.startswith("    "), lines)))
@@ -29,7 +29,7 @@ def picture(stage):
 
 
 def test_waybarShowsWhatPlays(stage):
-    """The snippet of docs/control.md, drawn by waybar on sway: the picture follows the volume, and comes back with it."""
+    """The snippet of docs/control.md, displayed by waybar on sway: the text follows the volume, in both directions."""
     startSway(stage)
     environment = {"PATH": f"{CTL.parent}:{os.environ['PATH']}", "GDK_BACKEND": "wayland", "LC_ALL": "C.UTF-8"}
     configuration = stage.folder / "waybar.json"
@@ -56,7 +56,7 @@ def test_waybarShowsWhatPlays(stage):
         ctl(stage, "volume", "pw-cat", "1")
         waitUntil(lambda: picture(stage) == full, "the former picture")
         assert half != full
-    # The program has ended, and the bar shows nothing of it.
+    # The program has exited, and the bar no longer shows it.
     waitUntil(lambda: picture(stage) not in (full, half), "an empty bar")
 
 

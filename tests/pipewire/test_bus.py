@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The mixer on the session bus, as gdbus, busctl and python's GLib meet it, with a real player behind it."""
+"""The mixer on the session bus, through gdbus, busctl and Python's GLib, with a real player."""
 
 import os
 import pathlib
@@ -35,7 +35,7 @@ def bus(playing):
 
 
 def shape(node):
-    """An interface without what a person wrote beside it."""
+    """An interface without its comments."""
     return [(child.tag, child.get("name"), child.get("type"), child.get("access"), child.get("direction"),
              child.get("value"), shape(child)) for child in node]
 
@@ -159,7 +159,7 @@ def test_levelsGoToSubscribersAlone(bus, playing):
                             for _, _, name, arguments in bus.signals), "its level")
     listener.turn()
     assert "Levels" not in [name for _, _, name, _ in listener.signals]
-    bus.connection.close_sync(None)  # Whoever goes has unsubscribed.
+    bus.connection.close_sync(None)  # Disconnecting unsubscribes.
     waitUntil(lambda: "level" not in ctl(playing, "list", "apps")[1], "no measuring")
 
 
@@ -204,7 +204,7 @@ def test_aSandboxedCallerMayNotDoEverything(playing):
 
 
 def test_aDesktopFindsAnApplication(playing):
-    """Headless there is no panel, and it says so instead of doing nothing."""
+    """Headless there is no panel, which must be reported rather than ignored."""
     call = ["gdbus", "call", "--session", "--dest", NAME, "--object-path", "/com/fadeloom/app", "--method"]
 
     def error(*words):
@@ -218,7 +218,7 @@ def test_aDesktopFindsAnApplication(playing):
 
 
 def test_aCallOverTheBusStartsIt(stage):
-    """By the file that is installed, with our program in the place of the installed one."""
+    """With the installed file, for our program instead of the installed one."""
     source = FILE.parent / "com.fadeloom.app.service.in"
     services = stage.session.folder / "data" / "dbus-1" / "services"
     services.mkdir(parents=True)

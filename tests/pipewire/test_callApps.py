@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Which apps are call apps out of the box: each kind of installation, with a program that stands in for it, and a
-meeting in a real browser."""
+"""Which apps are call apps by default: each kind of installation, with a stand-in program, and a meeting in a real
+browser."""
 
 import json
 import pathlib
@@ -18,7 +18,7 @@ FORMER_LIST = ["us.zoom.xos", "com.microsoft.teams2", "com.microsoft.teams", "co
                "com.tinyspeck.slackmacgap", "Cisco-Systems.Spark", "com.skype.skype", "net.whatsapp.WhatsApp",
                "org.whispersystems.signal-desktop", "com.google.Chrome.app.kjgfgldnnfoeklkmfkjfagphfepbbdan"]
 
-# Identifier, keys of the desktop entry, arguments of its process; {program} is what stands in for the app.
+# Identifier, keys of the desktop entry, arguments of its process; {program} is the stand-in for the app.
 INSTALLATIONS = {
     "package": ("Zoom", "Exec={program} %U", []),
     "Flatpak": ("us.zoom.Zoom", "Exec={program} %U", []),
@@ -35,7 +35,7 @@ INSTALLATIONS = {
 
 
 class CallApps(CallScene):
-    """With a program that is installed in a way of its own."""
+    """With a program that is installed in a particular way."""
 
     def install(self, identifier, keys):
         self.program = self.stage.makeApp("standIn")
@@ -45,7 +45,7 @@ class CallApps(CallScene):
             f"[Desktop Entry]\nType=Application\nName=Stand-in\n{keys.format(program=self.program)}\n", encoding="utf-8")
 
     def call(self, arguments):
-        """The installed program plays and listens; its own arguments come behind the file, where they do nothing."""
+        """The installed program plays and captures; its own arguments follow the file, where they have no effect."""
         self.session.spawn("plays", [self.program, "--playback", "--", str(self.silence), *arguments])
         self.session.spawn("listens", [self.program, "--record", "--target", "microphone", "--",
                                        str(self.stage.folder / "heard.wav"), *arguments])
@@ -77,7 +77,7 @@ def test_aCallLowersTheOthersOutOfTheBox(callApps, kind):
         assert callApps.loudnessOf(1000) == pytest.approx(0.5 * 0.2, rel=0.01)
 
 
-def test_aListThatNobodyEditedIsBroughtOver(callApps):
+def test_anUneditedListIsMigrated(callApps):
     callApps.install("Zoom", "Exec={program} %U")
     with callApps.stage.fadeloom(settings({}, focus={"callApps": FORMER_LIST})) as fadeloom:
         callApps.call([])
@@ -96,7 +96,7 @@ def test_anEditedListIsLeftAlone(callApps):
     assert stored["focus"]["callApps"] == FORMER_LIST[1:]
 
 
-def test_aMeetingInABrowserIsOfferedAndTakenWithOneWord(callApps):
+def test_aMeetingInABrowserIsSuggestedAndAcceptedWithOneCommand(callApps):
     with callApps.stage.fadeloom() as fadeloom:
         callApps.stage.play("pw-play", callApps.music)
         callApps.stage.waitForTap(fadeloom, "pw-cat")

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What a call does to the other apps, from a real microphone stream to the sound at the device."""
+"""The effect of a call on the other apps, from a real microphone stream to the audio at the device."""
 
 import time
 
@@ -16,7 +16,7 @@ TIME_CONSTANT = 0.3
 
 
 class Calls(CallScene):
-    """With music that plays, and apps that can call."""
+    """With music playing, and call apps."""
 
     def __init__(self, stage):
         super().__init__(stage)
@@ -28,7 +28,7 @@ class Calls(CallScene):
             settings(apps, focus={"enabled": True, "duckLevel": DUCK, "callApps": list(callApps), **focus}))
 
     def open(self, name, file=None):
-        """The app plays, and so stands in the mixer."""
+        """The app plays, and so is in the mixer."""
         self.programs[name] = self.programs.get(name) or self.stage.makeApp(name)
         self.session.spawn(f"{name}-play", [self.programs[name], "--playback", str(file or self.silence)])
 
@@ -54,7 +54,7 @@ def envelope(recorded, frequency=1000, step=240):
 
 
 def timeConstant(levels, step, start, end):
-    """Of an exponential way from `start` to `end`, from its middle part by a straight line through the logarithm."""
+    """The time constant of an exponential from `start` to `end`, fitted to the logarithm of its middle part."""
     left = (levels - end) / (start - end)
     begin = numpy.flatnonzero(left < 0.9)[0]
     stop = begin + numpy.flatnonzero(left[begin:] < 0.1)[0]
@@ -114,7 +114,7 @@ def test_anotherCallAppIsNotLowered(calls):
     assert signals.amplitude(heard, 1000)[0] == pytest.approx(0.5 * DUCK, rel=0.01)
 
 
-def test_recordingWhatADevicePlaysIsNoCall(calls):
+def test_recordingADevicesOutputIsNotACall(calls):
     with calls.fadeloom() as fadeloom:
         calls.stage.play("pw-play", calls.music)
         calls.open("talk")
@@ -125,7 +125,7 @@ def test_recordingWhatADevicePlaysIsNoCall(calls):
         assert not any("call" in line for line in fadeloom.text())
 
         calls.hangUp("talk")
-        calls.listen("talk")  # The control: with a microphone the same app does start one.
+        calls.listen("talk")  # The control experiment: with a microphone the same app does start one.
         fadeloom.waitFor("call talk")
 
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What three shells offer behind fadeloomctl, with a real program and a real player."""
+"""Completions of three shells for fadeloomctl, with a real program and a real player."""
 
 import os
 import pathlib
@@ -42,7 +42,7 @@ def inFish(stage, line):
 
 
 def typedInZsh(stage, keys):
-    """What stands in the line of an interactive zsh once these keys were pressed."""
+    """The contents of the line of an interactive zsh after these keys."""
     process, terminal = pty.fork()
     if process == 0:
         os.chdir(stage.folder)
@@ -61,7 +61,7 @@ def typedInZsh(stage, keys):
     setup = f"PS1=; fpath=({FOLDER} $fpath); autoload -Uz compinit; compinit -u -D; unsetopt zle_bracketed_paste\n"
     os.write(terminal, (setup + "print rea''dy\n").encode())
     read("ready\r\n")
-    # The line is not run, but printed.
+    # The line is printed rather than run.
     os.write(terminal, b"bindkey '^X' print-it; print-it() { print -r \"[$BUFFER]\"; }; zle -N print-it; print go''es\n")
     read("goes\r\n")
     os.write(terminal, keys.encode() + b"\t")
@@ -87,7 +87,7 @@ def playing(sharedStage):
     ("fadeloomctl output pw-cat head", ["headphones"]), ("fadeloomctl --json watch le", ["levels"]),
     ("fadeloomctl --q", ["--quiet"]), ("fadeloomctl wat", ["watch"]), ("fadeloomctl louder x", []),
 ])
-def test_whatMayFollow(playing, complete, line, candidates):
+def test_completions(playing, complete, line, candidates):
     assert [word for word in complete(playing, line) if word] == candidates
 
 
@@ -96,9 +96,9 @@ def test_allAppsAreOfferedBehindABlank(playing):
     assert "pw-cat" in inFish(playing, "fadeloomctl volume ")
 
 
-def test_bashGetsWordsAsItWouldReadThem(playing):
+def test_bashGetsProperlyQuotedWords(playing):
     assert inBash(playing, "fadeloomctl delete-preset My") == ["My\\ Mix"]
-    assert inBash(playing, "fadeloomctl volume @pl") == ["playing"]  # The rest stands there already.
+    assert inBash(playing, "fadeloomctl volume @pl") == ["playing"]  # The rest is on the line already.
 
 
 @pytest.mark.parametrize("keys, line", [

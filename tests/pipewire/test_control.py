@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Another program gives the running one commands: what it answers, with which status, and what is heard."""
+"""Another program controls the running one: replies, exit statuses, and audible effects."""
 
 import os
 import pathlib
@@ -16,13 +16,13 @@ CTL = pathlib.Path(os.environ["FADELOOM"]).parent / "fadeloomctl"
 
 
 def ctl(stage, *words, text="", wrapper=()):
-    """The status, standard output and standard error of a command."""
+    """The exit status, standard output and standard error of a command."""
     done = subprocess.run([*wrapper, str(CTL), *words], input=text, capture_output=True, text=True, timeout=20,
                           env=stage.session.environment)
     return done.returncode, done.stdout, done.stderr
 
 
-def test_noFadeloomHasAStatusOfItsOwn(stage):
+def test_noRunningFadeloomHasADistinctStatus(stage):
     assert ctl(stage, "volume", "pw-cat") == (4, "", "fadeloomctl: Fadeloom is not running\n")
 
 
@@ -47,7 +47,7 @@ def test_aCommandIsHeardAndRead(stage):
     (["volume", "nobody", "0.5"], 5), (["default", "nowhere"], 5), (["limit", "3"], 1), (["open"], 1),
     (["volume", "a\nb"], 2), (["x" * 10000], 2),
 ])
-def test_aStatusTellsWhatIsWrong(stage, words, status):
+def test_theExitStatusIdentifiesTheError(stage, words, status):
     with stage.fadeloom(settings({"pw-cat": app()})) as fadeloom:
         fadeloom.waitFor("default speakers")
 
@@ -69,10 +69,10 @@ def test_aLineThatIsTooLongIsRefused(stage):
 
 
 def sandboxOf(stage):
-    """What starts a program in a sandbox as Flatpak makes them."""
+    """The command that starts a program in a sandbox like Flatpak's."""
     information = stage.folder / "flatpak-info"
     information.write_text("[Application]\nname=org.example.Widget\n")
-    root = stage.folder / "root"  # One of its own: a file at the real one would put every program into the sandbox.
+    root = stage.folder / "root"  # A private root: a file in the real one would sandbox every program.
     root.mkdir(exist_ok=True)
     sandbox = ["bwrap", "--bind", str(root), "/"]
     for folder in sorted(pathlib.Path("/").iterdir()):
@@ -108,7 +108,7 @@ def test_aThousandStepsASecondAreNoTrouble(stage):
 
 
 def test_aRequestCostsNextToNothing(stage):
-    """1.5 ms of processor time a request is what a held key may take; the least of several counts."""
+    """A request may take 1.5 ms of CPU time, for key repeat; the minimum of several measurements."""
     with stage.fadeloom(settings({"pw-cat": app()})) as fadeloom:
         fadeloom.waitFor("default speakers")
         costs = []
@@ -118,4 +118,4 @@ def test_aRequestCostsNextToNothing(stage):
             after = resource.getrusage(resource.RUSAGE_CHILDREN)
             costs.append(after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime)
     print("processor time of one request, in ms:", [round(cost * 1000, 2) for cost in costs])
-    assert min(costs) < 0.004  # The fork of this interpreter is in it.
+    assert min(costs) < 0.004  # Includes the fork of this interpreter.

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A thousand commands a second for ten seconds: what they cost, what they leave behind, and what is heard of them."""
+"""A thousand commands a second for ten seconds: their cost, what they leave behind, and their audible effects."""
 
 import select
 import socket
@@ -12,12 +12,12 @@ import signals
 from fadeloomProcess import app, settings
 from test_control import ctl
 
-PACE = 1000  # Commands a second.
+PACE = 1000  # Commands per second.
 SECONDS = 10
 
 
 def giveCommands(stage, lines, pace=PACE):
-    """Gives the commands at an even pace over one connection; returns how many were answered with "ok"."""
+    """Sends the commands at an even pace over one connection; returns how many were answered with "ok"."""
     connection = socket.socket(socket.AF_UNIX)
     connection.connect(stage.session.environment["XDG_RUNTIME_DIR"] + "/fadeloom.socket")
     answers = b""
@@ -44,11 +44,11 @@ def test_aThousandStepsASecondForTenSeconds(stage):
         stage.waitForTap(fadeloom, "pw-cat")
         pid = stage.session.processes[player].pid
         target = f"volume pid:{pid} ".encode()
-        giveCommands(stage, [target + b"-1%", target + b"+1%"] * 500)  # What is made at first is made.
+        giveCommands(stage, [target + b"-1%", target + b"+1%"] * 500)  # Warms up: first-time allocations are done.
         program = fadeloom.programID()
         alone = processUse.cpuSeconds(f"/proc/{program}/stat")
         time.sleep(2)
-        alone = (processUse.cpuSeconds(f"/proc/{program}/stat") - alone) / 2  # A second of its sound.
+        alone = (processUse.cpuSeconds(f"/proc/{program}/stat") - alone) / 2  # One second of its audio.
         cpu = processUse.cpuSeconds(f"/proc/{program}/stat")
         recording = stage.session.recordDevice("during", "speakers")
         writes = set()
@@ -71,7 +71,8 @@ def test_aThousandStepsASecondForTenSeconds(stage):
         growth = processUse.memory(program)[1] - memory
         print(f"{cost:.3f} ms of processor time in the program for each command, "
               f"{growth:.2f} MB more memory, {len(writes)} writes seen")
-        assert cost < 0.4  # 0.1 to 0.2 on a busy machine of two processors, more on an idle one, which runs slower.
+        # 0.1 to 0.2 on a busy machine with two processors, more on an idle one, which has a lower clock.
+        assert cost < 0.4
         assert growth < 1
         assert len(writes) <= 2 * (SECONDS + 5)
         assert ctl(stage, "volume", "pw-cat") == (0, "0.5\n", "")
@@ -81,8 +82,8 @@ def test_aThousandStepsASecondForTenSeconds(stage):
 
 
 def bentBlocks(recording):
-    """The share of blocks of 1,024 frames in which a sample lies further from the line through its neighbours than in the
-    sine alone. A step that clicked would be in every block; a machine that is too busy for the sound leaves a few."""
+    """The fraction of blocks of 1,024 frames in which a sample deviates more from the line through its neighbours than
+    in the sine itself. A step that clicked would be in every block; an overloaded machine affects a few."""
     sound = signals.read(recording)[:, 0]
     sound = sound[len(sound) // 10:-len(sound) // 10]
     bend = numpy.abs(sound[2:] - 2 * sound[1:-1] + sound[:-2]) / (0.25 * (2 * numpy.pi * 440 / 48000) ** 2)

@@ -1,11 +1,12 @@
 # SPDX-License-Identifier: MIT
-"""Programs that follow what happens, answers as JSON, settings as a whole, and what may follow a word."""
+"""Programs that watch events, replies as JSON, export and restore, and completions."""
 
 import json
 import os
 import socket
 import subprocess
 import threading
+import time
 
 from audioSession import waitUntil
 from fadeloomProcess import app, settings
@@ -14,7 +15,7 @@ from test_control import CTL, ctl
 
 
 class Watcher:
-    """A fadeloomctl that follows what happens."""
+    """A fadeloomctl that watches events."""
 
     def __init__(self, stage, *words):
         self.process = subprocess.Popen([str(CTL), *words], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
@@ -53,7 +54,7 @@ def test_answersAreJsonToo(stage):
         assert ctl(stage, "list", "apps")[1].splitlines()[1].startswith("app pw-cat pw-cat playing volume 0.4 ")
 
 
-def test_whoeverWatchesIsToldUntilTheEnd(stage):
+def test_watchersReceiveEventsUntilTheEnd(stage):
     fadeloom = stage.fadeloom(settings({"pw-cat": app()}))
     with fadeloom:
         fadeloom.waitFor("default speakers")
@@ -87,6 +88,17 @@ def test_aWatcherOutlivesTheProgramIfItIsToWait(stage):
         watcher.lines.clear()
     assert watcher.process.poll() is None
     watcher.end()
+
+
+def test_aWatcherThatNobodyReadsEndsAlsoWhileItWaits(stage):
+    process = subprocess.Popen([str(CTL), "--wait", "watch"], stdout=subprocess.PIPE, env=stage.session.environment)
+    try:
+        time.sleep(0.2)
+        assert process.poll() is None
+        process.stdout.close()
+        assert process.wait(2) == 4
+    finally:
+        process.kill()
 
 
 def test_fiftyWatchAndTheOneThatDoesNotReadIsDropped(stage):
@@ -128,7 +140,7 @@ def test_allSettingsAreExportedAndRestored(stage):
         assert ctl(stage, "volume", "pw-cat")[1] == "0.25\n"
 
 
-def test_whatMayFollowIsWhatIsThere(stage):
+def test_completionsAreTheCurrentObjects(stage):
     with stage.fadeloom(settings({"pw-cat": app()})) as fadeloom:
         stage.play("pw-play", sineFile(stage))
         stage.waitForTap(fadeloom, "pw-cat")

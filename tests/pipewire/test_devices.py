@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Where an app is heard: its chosen device, the default one, a device that goes and comes."""
+"""Where an app plays: its selected device, the default one, a device that is removed and returns."""
 
 import time
 

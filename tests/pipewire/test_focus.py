@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The app whose window is in front, on a real X server and a real sway without a screen; and a bar that shows it."""
+"""The focused app, on a real X server and a real headless sway; and a bar that shows it."""
 
 import contextlib
 import json
@@ -29,7 +29,7 @@ def startX(stage):
 
 
 def startSway(stage):
-    """sway without a screen. It does not run as root, and thinks it is somebody else."""
+    """Headless sway. It does not run as root, and sees another user id."""
     configuration = stage.session.folder / "sway.conf"
     configuration.write_text("output HEADLESS-1 resolution 640x200\nfocus_on_window_activation focus\n")
     stage.session.spawn("sway", ["bwrap", "--unshare-user", "--uid", "1000", "--gid", "1000", "--dev-bind", "/", "/",
@@ -46,7 +46,7 @@ def startSway(stage):
 
 
 def openWindow(stage, program, picture):
-    """A player with a window, which is an app of its own. Returns its name in the session."""
+    """A player with a window, which is a separate app. Returns its name in the session."""
     player = stage.folder / program
     shutil.copy(shutil.which("mpv"), player)
     stage.session.spawn(program, [str(player), "--no-config", "--ao=pulse", f"--vo={picture}", "--force-window=immediate",
@@ -94,7 +94,7 @@ def test_whateverADesktopAnswersNothingBreaks(stage, reply):
         desktop.listen()
 
         def answer():
-            with contextlib.suppress(OSError):  # It may be asked only once.
+            with contextlib.suppress(OSError):  # It may be queried only once.
                 for _ in range(2):
                     connection, _ = desktop.accept()
                     connection.recv(100)
@@ -106,8 +106,8 @@ def test_whateverADesktopAnswersNothingBreaks(stage, reply):
         assert (status, said) == (5, "") and "in front" in sentence
 
 
-def test_niriIsAskedInItsWords(stage):
-    """By its documented protocol; niri itself is not in these tests."""
+def test_niriIsQueriedWithItsProtocol(stage):
+    """With its documented protocol; niri itself is not tested."""
     with stage.fadeloom(settings({"pw-cat": app(volume=0.5)})) as fadeloom, socket.socket(socket.AF_UNIX) as desktop:
         stage.play("pw-play", sineFile(stage))
         stage.waitForTap(fadeloom, "pw-cat")

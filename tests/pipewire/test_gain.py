@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What an app's volume, mute, limiter and equalizer do to the sound that arrives at the device."""
+"""The effect of an app's volume, mute, limiter and equalizer on the audio at the device."""
 
 import time
 
@@ -12,7 +12,7 @@ from fadeloomProcess import app, settings
 
 
 def playThrough(stage, player, samples, appSettings, rate=signals.RATE, device="speakers", **global_):
-    """Plays the samples through a running tap and returns what the device played, and what was in the file."""
+    """Plays the samples through a running tap and returns the device's output, and the file's contents."""
     file = stage.folder / "signal.wav"
     written = signals.write(file, samples, rate)
     bundleID = PLAYERS[player][0]
@@ -50,7 +50,7 @@ def test_aBoostedSineIsLimitedToMinusOneDecibel(stage, player):
 
     middle = signals.steady(recorded, 1000)
     assert numpy.abs(middle).max() == pytest.approx(0.891, abs=1e-6)
-    # Limited, not clipped: the limiter's gain hardly moves within a period.
+    # Limited, not clipped: the limiter's gain hardly changes within a period.
     assert signals.typicalAmplitude(middle, 1000) == pytest.approx(0.891, rel=0.01)
 
 
@@ -58,7 +58,7 @@ def test_aBoostedSineIsLimitedToMinusOneDecibel(stage, player):
 def test_fullVolumeWithoutTheEqualizerIsBitExact(stage, player):
     recorded, written = playThrough(stage, player, signals.noise(0.9, 3), app())
 
-    # The tap takes over somewhere in the file; from there on every sample must be the file's.
+    # The tap takes over somewhere in the file; from there on every sample must equal the file's.
     middle = recorded[len(recorded) // 3:len(recorded) // 3 + signals.RATE // 2]
     start = signals.delay(middle[:, 0], written[:, 0])
     assert start >= 0
@@ -89,7 +89,7 @@ def test_aPresetHasTheResponseThatItsCurvePromises(stage, player):
     recorded, written = playThrough(
         stage, player, samples, app(eqEnabled=True, eqGains=rock, eqPresetName="Rock", eqPreamp=preamp))
 
-    # Whole periods of every one of them, in each tenth of it as well.
+    # Whole periods of each of them, also in each tenth.
     second = recorded[len(recorded) // 3:len(recorded) // 3 + signals.RATE]
     for frequency in frequencies:
         gain = signals.decibels(signals.typicalAmplitude(second, frequency, window=0.1)
@@ -117,7 +117,7 @@ def test_aChangeOfVolumeGlidesWithoutAClick(stage):
     assert numpy.abs(sounding[-4800:]).max() == pytest.approx(0.05, rel=0.01)
 
 
-def test_aToneOfMinus20DecibelsStandsAtTwoThirds(stage):
+def test_aToneOfMinus20DecibelsShowsAtTwoThirds(stage):
     file = stage.folder / "tone.wav"
     signals.write(file, signals.sine(1000, 0.1, 20))
     with stage.fadeloom(settings({"pw-cat": app()})) as fadeloom:

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Limits of the system, and what is said of them."""
+"""System limits, and how they are reported."""
 
 import os
 import time
@@ -26,7 +26,7 @@ def test_theSoftLimitOfOpenFilesIsRaised(stage):
             fadeloom.waitFor(f"tap ready: {name} ", seconds=20)
 
 
-def test_whatIsMissingIsNamedAndNothingElseSuffers(stage):
+def test_aMissingCapabilityIsNamedWithoutSideEffects(stage):
     with stage.fadeloom(settings(), wrapper=["prlimit", "--nofile=128:128"]) as fadeloom:
         fadeloom.waitFor("default speakers")
         apps = startApps(stage, 14)
@@ -37,7 +37,7 @@ def test_whatIsMissingIsNamedAndNothingElseSuffers(stage):
         assert 5 <= len(tapped) < 14
         assert not any("session manager" in line for line in fadeloom.text())
         assert len(os.listdir(f"/proc/{fadeloom.programID()}/fd")) < 128
-        stage.session.end(tapped[0])  # The connection is whole: what happens is seen.
+        stage.session.end(tapped[0])  # The connection is intact: events still arrive.
         fadeloom.waitFor(f"tap removed (app quit): {tapped[0]}", seconds=20)
         assert fadeloom.command(f"volume {tapped[1]} 0.5").startswith("ok")
 

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""What carries sound on for others is no app: with an effect in the way, apps are heard through it at their volume."""
+"""What forwards the audio of others is not an app: with an effect in the path, apps are audible through it at their
+volume."""
 
 import time
 
@@ -23,7 +24,7 @@ def playSine(stage, player="pw-play", seconds=30):
 
 
 def level(stage, device, seconds=0.6):
-    """The level of the sine that a device plays now."""
+    """The current level of the sine on a device."""
     stage.count += 1
     name = f"level{stage.count}"
     recording = stage.session.recordDevice(name, device)
@@ -34,7 +35,7 @@ def level(stage, device, seconds=0.6):
 
 
 def waitForLevel(stage, device, wanted, seconds=8):
-    """Waits until a device plays the sine at this level; a session manager takes its time to wire effects."""
+    """Waits until a device plays the sine at this level; a session manager takes its time to link effects."""
     deadline = time.monotonic() + seconds
     while True:
         heard = level(stage, device)
@@ -45,15 +46,15 @@ def waitForLevel(stage, device, wanted, seconds=8):
 def assertHeardThroughTheEffect(stage, fadeloom, bundleID, gain):
     assert waitForLevel(stage, "speakers", SOURCE * VOLUME * gain) \
         == pytest.approx([SOURCE * VOLUME * gain] * 2, rel=0.01)
-    # Attenuated before the effect, not behind it.
+    # Attenuated before the effect, not after it.
     assert level(stage, "effect") == pytest.approx([SOURCE * VOLUME] * 2, rel=0.01)
-    # It stays so.
+    # It remains so.
     assert level(stage, "speakers") == pytest.approx([SOURCE * VOLUME * gain] * 2, rel=0.01)
     assert fadeloom.command("list").startswith("ok list 1 app"), fadeloom.text()
 
 
 @pytest.mark.parametrize("effect", neighbours.EFFECTS)
-def test_anEffectThatIsThereFirstIsHeardBehindTheTap(stage, effect):
+def test_anExistingEffectIsAppliedAfterTheTap(stage, effect):
     gain = neighbours.start(stage.session, effect)
     stage.session.setDefault("effect")
     with stage.fadeloom(settings({"pw-cat": app(volume=VOLUME)})) as fadeloom:
@@ -77,7 +78,7 @@ def test_anEffectThatIsMadeTheDefaultLaterTakesTheAppsAlong(stage, effect):
 
 
 @pytest.mark.parametrize("module", [neighbours.FILTER, neighbours.LOOPBACK], ids=["filterChain", "loopback"])
-def test_anEffectOfTheServersOwnConfigurationIsNoApp(module):
+def test_anEffectInTheServersConfigurationIsNotAnApp(module):
     session = AudioSession()
     neighbours.configureServer(session, module)
     with session:
@@ -123,7 +124,7 @@ def test_aLoopbackOfTheSpeakersToTheHeadphonesIsLeftAlone(stage, kind):
         assert waitForLevel(stage, "headphones", SOURCE * VOLUME) == pytest.approx([SOURCE * VOLUME] * 2, rel=0.01)
         heard = steadySamples(stage, "speakers")
         assert signals.typicalAmplitude(heard, 1000) == pytest.approx([SOURCE * VOLUME] * 2, rel=0.01)
-        # A break or an echo would be a jump.
+        # A gap or an echo would be a jump.
         assert numpy.abs(numpy.diff(heard[:, 0])).max() < 1.05 * SOURCE * VOLUME * 2 * numpy.pi * 1000 / signals.RATE
         assert fadeloom.command("list").startswith("ok list 1 app"), fadeloom.text()
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Streams with a device of their own, and people and programs that move them."""
+"""Streams with their own device, and people and programs that move them."""
 
 import signal
 import time
@@ -12,7 +12,7 @@ from fadeloomProcess import app, settings
 
 
 def playOnHeadphones(stage, how):
-    """A player that is told where to play by its own property or by somebody else; returns its stream's id."""
+    """A player whose target is set by its own property or by somebody else; returns its stream's id."""
     session = stage.session
     file = stage.folder / "sine.wav"
     signals.write(file, signals.sine(1000, 0.4, 20))
@@ -55,8 +55,8 @@ def test_theNextRunAfterAKillReturnsAStreamToItsOwnDevice(stage, how):
     assert not stage.isLinked("pw-play:", "speakers:")
 
 
-def test_aMoveIsTakenBackOnceWithoutAFight(stage):
-    """With an output chosen for the app, a single move by somebody else does not last."""
+def test_aSingleMoveIsReverted(stage):
+    """With an output selected for the app, a single move by somebody else is reverted."""
     with stage.fadeloom(settings({"pw-cat": app(volume=0.5, outputUID="speakers")})) as fadeloom:
         file = stage.folder / "sine.wav"
         signals.write(file, signals.sine(1000, 0.4, 20))
@@ -88,7 +88,7 @@ def test_whoKeepsMovingAStreamIsLeftAlone(stage):
             moves += 1
             assert moves <= 8, fadeloom.text()
             moveTo(stage.session, stream, headphones)
-            time.sleep(1)  # A change that a tool makes is seen once the tool has gone, at the latest.
+            time.sleep(1)  # A change that a tool makes is visible once the tool has exited, at the latest.
         assert moves >= 3
         fadeloom.waitFor("out of reach: pw-cat, another program keeps moving its stream")
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""An app that chose its own device keeps it, as long as the user chooses none for it here."""
+"""An app that has chosen its own device keeps it, as long as the user selects none for it here."""
 
 import pytest
 
@@ -19,7 +19,7 @@ def playOnHeadphones(stage, player):
 
 
 @pytest.mark.parametrize("player", CHOOSING)
-def test_anAppPlaysOnTheDeviceOfItsOwnChoice(stage, player):
+def test_anAppPlaysOnTheDeviceThatItChose(stage, player):
     bundleID = playOnHeadphones(stage, player)
     waitForSound(stage, "headphones", 0.5)
 
@@ -31,7 +31,7 @@ def test_anAppPlaysOnTheDeviceOfItsOwnChoice(stage, player):
 
 
 @pytest.mark.parametrize("player", CHOOSING)
-def test_anAppThatBeginsLaterPlaysOnTheDeviceOfItsOwnChoice(stage, player):
+def test_anAppThatStartsLaterPlaysOnTheDeviceThatItChose(stage, player):
     bundleID, _ = CHOOSING[player]
     with stage.fadeloom(settings({bundleID: app(volume=0.5)})) as fadeloom:
         playOnHeadphones(stage, player)
@@ -68,7 +68,7 @@ def test_anOutputChosenHereOverridesTheAppsOwn(stage):
         assert levelOn(stage, "speakers") == 0.0
 
 
-def test_anAppThatChoseItsDeviceIsThereAfterwards(stage):
+def test_anAppThatChoseItsDeviceReturnsToIt(stage):
     with stage.fadeloom() as fadeloom:
         bundleID = playOnHeadphones(stage, "pw-cat")
         fadeloom.waitFor(f"tap ready: {bundleID} → headphones")
@@ -78,7 +78,7 @@ def test_anAppThatChoseItsDeviceIsThereAfterwards(stage):
     assert levelOn(stage, "speakers") == 0.0
 
 
-def test_anAppWhoseStreamIsTiedToItsDeviceIsHeardAsItIsAndSaysSo(stage):
+def test_anAppWithAPinnedStreamPlaysUnprocessedAndSaysSo(stage):
     bundleID, _ = CHOOSING["pw-cat"]
     with stage.fadeloom(settings({bundleID: app(volume=0.5)})) as fadeloom:
         stage.session.spawn("tied", ["pw-cat", "-p", "--target", "headphones", "-P", "node.dont-move=true",

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Recordings of real players in a real graph, sample by sample, and what may happen to them on the way."""
+"""Recordings of real players in a real graph, sample by sample, and what can happen to them."""
 
 import os
 import pathlib
@@ -23,7 +23,7 @@ def waves(stage):
 
 
 def saved(fadeloom, after=0):
-    """The path of the recording that was stopped last."""
+    """The path of the last recording that was stopped."""
     fadeloom.waitFor("recording saved", after=after)
     line = [line for line in fadeloom.text() if line.startswith("recording saved")][-1]
     return pathlib.Path(shlex.split(line)[2])
@@ -44,28 +44,28 @@ def stop(fadeloom, bundleID):
 
 
 def framesIn(tool, file):
-    """How many frames another program finds in the file."""
+    """The number of frames that another program finds in the file."""
     if tool == "sox":
         return int(subprocess.run(["soxi", "-s", str(file)], check=True, capture_output=True, text=True).stdout)
     said = subprocess.run(["sndfile-info", str(file)], check=True, capture_output=True, text=True).stdout
     return int(next(line for line in said.splitlines() if line.startswith("Frames")).split(":")[1])
 
 
-QUANTUM = 2048  # Frames a cycle at 48 kHz: players are not real-time here, and stumble at less.
+QUANTUM = 2048  # Frames per cycle at 48 kHz: players are not real-time here, and glitch with less.
 
 
 def assertIsPartOf(recorded, written):
-    """Every sample of a recording is one of the source's, in order and without a gap."""
+    """Every sample of a recording is one of the source's, in order and without gaps."""
     middle = recorded[len(recorded) // 2:len(recorded) // 2 + 4096, 0] / 2.0**23
     offset = signals.delay(middle, written[:, 0]) - len(recorded) // 2
-    source = numpy.round(written * 2.0**23).astype(numpy.int32)  # A player's 16-bit samples, exactly.
+    source = numpy.round(written * 2.0**23).astype(numpy.int32)  # The player's 16-bit samples, exactly.
     assert 0 <= offset and offset + len(recorded) <= len(source)
     numpy.testing.assert_array_equal(recorded, source[offset:offset + len(recorded)])
 
 
 @pytest.mark.parametrize("rate", [44100, 48000, 96000])
-def test_recordingsAreExactWhateverIsHeard(stage, rate):
-    """Three apps at once, each muted, equalized and lowered, at each rate of the graph."""
+def test_recordingsAreExactRegardlessOfTheSettings(stage, rate):
+    """Three apps at once, each muted, equalized and attenuated, at each rate of the graph."""
     seconds = 20
     players = {"pw-play": "pw-cat", "paplay": "pacat", "ffmpeg": "ffmpeg"}
     stage.session.setRate(rate)
@@ -98,7 +98,7 @@ def test_recordingsAreExactWhateverIsHeard(stage, rate):
 
 
 def recordedPlayer(stage, fadeloom, seconds=30, player="pw-play", bundleID="pw-cat"):
-    """Plays noise and starts to record it; returns the samples of the source."""
+    """Plays noise and starts recording it; returns the samples of the source."""
     stage.session.setQuantum(QUANTUM)
     file = stage.folder / "noise.wav"
     written = signals.write(file, signals.noise(0.5, seconds))
@@ -123,7 +123,7 @@ def test_aKilledProgramLeavesAllButTheLastSecond(stage):
 
 
 def smallDisk(folder, size):
-    """The words that start a program with a disk of `size` at the folder, which nobody else sees."""
+    """The command that starts a program with a private disk of `size` mounted on the folder."""
     private = ["unshare", "--mount"] if os.geteuid() == 0 else ["unshare", "--map-root-user", "--mount"]
     return [*private, "sh", "-c",
             f'mount -t tmpfs -o size={size} tmpfs {shlex.quote(str(folder))} && exec "$0" "$@"']

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Recordings are as long as the clock says, through pauses and on several devices."""
+"""Recordings are as long as the elapsed time, across pauses and on several devices."""
 
 import json
 import shlex
@@ -17,7 +17,7 @@ from test_takeover import sendToPlayer
 
 
 def playWithPauses(stage, name, seed):
-    """Plays noise in a player that can pause; returns the function that has it pause or go on."""
+    """Plays noise in a player that can pause; returns the function that pauses or resumes it."""
     file = stage.folder / f"{name}.wav"
     signals.write(file, signals.noise(0.5, 60, seed=seed), signals.RATE)
     socket = stage.folder / f"{name}.socket"
@@ -28,7 +28,7 @@ def playWithPauses(stage, name, seed):
 
 
 def runsOfSound(recorded, shortest=0.1):
-    """Begin and end, in seconds, of each stretch of sound; silence shorter than `shortest` seconds is part of it."""
+    """Begin and end, in seconds, of each non-silent segment; silence shorter than `shortest` seconds is ignored."""
     sounding = numpy.flatnonzero(recorded.any(axis=1))
     ends = numpy.flatnonzero(numpy.diff(sounding) > shortest * signals.RATE)
     firsts = numpy.concatenate(([0], ends + 1))
@@ -39,7 +39,7 @@ def runsOfSound(recorded, shortest=0.1):
 
 @pytest.mark.parametrize("suspendAfter", [0, 1], ids=["device runs on", "device is suspended"])
 def test_aRecordingIsAsLongAsTheClockSaysThroughPauses(suspendAfter):
-    """4 s of sound, 8 s of pause, 4 s of sound; and one that begins in a pause."""
+    """4 s of audio, 8 s of pause, 4 s of audio; and one that starts during a pause."""
     with AudioSession(defaultSinks=False) as session:
         stage = Stage(session)
         session.plug("speakers", suspendAfter=suspendAfter)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Servers that go and come, streams that must be left alone, and what others see of us."""
+"""Server restarts, streams that must be left alone, and our visibility to others."""
 
 import os
 import time
@@ -68,12 +68,12 @@ def restartSessionManager(session):
 
 
 def soundDuringARestartOfTheSessionManager(stage):
-    """What the device plays while the session manager ends and comes back, with a tapped app; None when the restarted
-    one has taken the app's stream off every link."""
+    """The device's output while the session manager is restarted, with a tapped app; None if the restarted one has
+    removed all links of the app's stream."""
     with stage.fadeloom(settings({"pw-cat": app(volume=0.5)})) as fadeloom:
         stage.play("pw-play", sineFile(stage))
         stage.waitForTap(fadeloom, "pw-cat")
-        time.sleep(1)  # It sets up a new stream for a while.
+        time.sleep(1)  # It is still setting up a new stream for a while.
         recording = stage.session.recordDevice("recording", "speakers")
         time.sleep(0.3)
 
@@ -87,8 +87,8 @@ def soundDuringARestartOfTheSessionManager(stage):
 
 
 def test_aRestartOfTheSessionManagerDoesNotInterruptATappedApp():
-    # A restarted WirePlumber 0.4 leaves streams without us unlinked every time; the tapped one goes on. But it touches
-    # the recorder's format as well, and in about one run of ten the recorder does not survive that: three attempts.
+    # A restarted WirePlumber 0.4 leaves streams unlinked every time, without us; the tapped one continues. But it also
+    # changes the recorder's format, and in about one run of ten the recorder does not survive that: three attempts.
     for _ in range(3):
         with AudioSession() as session:
             recorded = soundDuringARestartOfTheSessionManager(Stage(session))
@@ -119,7 +119,7 @@ def newAppIsLinkedAfterARestart(stage):
 
 
 def test_aNewAppIsTappedAfterARestartOfTheSessionManager(stage):
-    # The control: WirePlumber 0.4 does not always link anything after a restart, with or without us.
+    # The control experiment: WirePlumber 0.4 does not always link anything after a restart, with or without us.
     with AudioSession() as control:
         controlStage = Stage(control)
         controlStage.play("pw-play", sineFile(controlStage))
@@ -170,7 +170,7 @@ def test_aNotificationSoundIsNotAnApp(stage):
 
 
 def test_aPausedTapLetsItsDeviceSleep():
-    """Sleeping devices need the session manager's own time-out, which the other tests switch off."""
+    """Suspending requires the session manager's own timeout, which the other tests disable."""
     with AudioSession(defaultSinks=False) as session:
         stage = Stage(session)
         session.plug("speakers", suspendAfter=1)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What the program leaves on the disk of a real session: settings, presets, its entry for the login."""
+"""What the program stores on disk in a real session: settings, presets, its login entry."""
 
 import json
 import time
@@ -45,7 +45,7 @@ def test_presetsAreKeptInTheOrderOfTheLanguage(stage):
         stage.waitForTap(fadeloom, "pw-cat")
         for name in names:
             assert fadeloom.command(f'save-preset pw-cat "  {name} "') == f"ok save-preset pw-cat {word(name)}"
-        # The same but for letter case takes the place of the old one.
+        # One that differs only in case replaces the old one.
         assert fadeloom.command('save-preset pw-cat "straße"').startswith("ok")
         assert fadeloom.command('save-preset pw-cat "rock"') == \
             "error “rock” is a built-in preset name. Choose another name."

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Sounds of a twentieth of a second, each played by a process of its own: none is heard above its app's level."""
+"""Sounds of 50 ms, each played by a separate process: none is audible above its app's level."""
 
 import signal
 import time
@@ -15,8 +15,8 @@ from fadeloomProcess import app, settings
 LOUD = 0.6
 COUNT = 200 if LONG else 40
 BUSY = "while True: pass"
-# The link that has pipewire-pulse answer a client is taken down when the answer shows. On a machine that is busy with
-# other things the client's sound is faster at times, and one side of it is heard for one cycle.
+# The link that makes pipewire-pulse reply to a client is removed when the reply is visible. On a busy machine the
+# client's audio is sometimes faster, and one channel of it is audible for one cycle.
 ALLOWED = {"pw-play": 0, "paplay": COUNT // 40}
 ALLOWED_UNDER_LOAD = {"pw-play": COUNT // 40, "paplay": COUNT // 8}
 
@@ -28,7 +28,7 @@ def soundFile(stage):
 
 
 def playSounds(stage, player, count=COUNT):
-    """Plays the sound that often; returns what the device played."""
+    """Plays the sound this many times; returns the device's output."""
     file = soundFile(stage)
     recording = stage.session.recordDevice("recording", "speakers")
     time.sleep(0.3)
@@ -42,7 +42,7 @@ def playSounds(stage, player, count=COUNT):
 
 
 def bursts(recorded, threshold=0.004):
-    """The peak of each sound in the recording: what is parted by 50 ms of silence is two."""
+    """The peak of each sound in the recording; 50 ms of silence separate two."""
     level = numpy.abs(recorded).max(axis=1)
     loud = numpy.flatnonzero(level > threshold)
     if not len(loud):
@@ -89,7 +89,7 @@ def test_underLoadHardlyAnyShortSoundIsHeardAboveItsLevel(stage, player):
 
 @pytest.mark.parametrize("player", ["pw-play", "paplay"])
 def test_otherAppsDoNotWait(stage, player):
-    """With settings for another app, a short sound is over before anything of ours has touched it."""
+    """With settings for another app only, a short sound is over before anything of ours has touched it."""
     with stage.fadeloom(settings({"other": app(muted=True)})) as fadeloom:
         settle(stage, fadeloom)
 
@@ -107,9 +107,9 @@ def test_afterAKillShortSoundsAreHeardAsEver(stage, player):
         time.sleep(0.01)
         stage.session.end("fadeloom", signal.SIGKILL)
         time.sleep(0.5)
-        stage.session.end(process)  # It may still wait for the tap that is gone: a known limit.
+        stage.session.end(process)  # It may still wait for the tap that is gone: a known limitation.
 
     heard = bursts(playSounds(stage, player, 10))
 
-    assert len(heard) >= 5  # The session manager links some of them too late; why is not known yet.
+    assert len(heard) >= 5  # The session manager links some of them too late; the cause is not known yet.
     assert min(heard) == pytest.approx(LOUD, rel=0.02)

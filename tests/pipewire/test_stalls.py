@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""A program that stands still silences nobody: its applications play on, and are taken again once it goes on.
+"""A stopped program silences nobody: its applications keep playing, and are captured again once it continues.
 
-The signal rises steadily, so that every sample tells its place in the file; its level tells which way it came.
+The signal rises steadily, so that every sample identifies its position in the file; its level identifies the path.
 """
 
 import ctypes
@@ -17,14 +17,14 @@ from conftest import PLAYERS
 from fadeloomProcess import app, settings
 from test_takeover import QUARTER, heard, rampFile
 
-STOPS = 3  # The median counts: the machine may be busy with others.
-HANDOVER = 0.050  # Seconds without sound after a stop.
-NOTICED = 0.500  # Seconds without sound after the data thread hung.
-RETAKE = 0.300  # Seconds from going on until the sound runs through us again.
+STOPS = 3  # The median counts: the machine may be busy with other work.
+HANDOVER = 0.050  # Seconds of silence after a stop.
+NOTICED = 0.500  # Seconds of silence after the data thread hung.
+RETAKE = 0.300  # Seconds from continuing until the audio runs through us again.
 
 
 def stalls(stretches):
-    """Each time that the sound left us and came back: the silence before it was heard on its own way, in seconds, and
+    """For each time that the audio left us and came back: the silence before it was audible directly, in seconds, and
     the time until it was ours again, counted from the moment it had left us."""
     ways = [stretch for stretch in stretches if stretch[0] in ("direct", "tapped")]
     merged = []
@@ -41,7 +41,7 @@ def stalls(stretches):
 
 
 def stopFor(process, seconds):
-    """Stops a process; returns for how long it was."""
+    """Stops a process; returns for how long it was stopped."""
     begin = time.monotonic()
     os.kill(process, signal.SIGSTOP)
     time.sleep(seconds)
@@ -74,10 +74,10 @@ def test_aStoppedProgramLetsItsAppsPlayOn(stage):
 
 
 class FrozenThread:
-    """A thread of another process that stands still while this is entered; nobody but the tracer is told."""
+    """Suspends a thread of another process in this context; only the tracer is notified."""
 
     SEIZE, INTERRUPT, DETACH = 0x4206, 0x4207, 17
-    WAIT_FOR_ALL = 0x40000000  # Threads as well.
+    WAIT_FOR_ALL = 0x40000000  # Includes threads.
 
     def __init__(self, thread):
         self.thread = thread
@@ -157,12 +157,12 @@ def test_theGuardianSleepsAndIsLean(stage):
         assert wakeups() == before
         memory = {line.split(":")[0]: int(line.split()[1]) for line in open(f"/proc/{guardian}/smaps_rollup")
                   if "kB" in line}
-        assert memory["Private_Dirty"] < 1024  # KiB; the rest is the program's file, which both read.
+        assert memory["Private_Dirty"] < 1024  # KiB; the rest is the program's file, which both map.
         assert os.listdir(f"/proc/{guardian}/fd") == ["0", "1", "2"]
         assert len(os.listdir(f"/proc/{guardian}/task")) == 1
 
 
-def test_aKilledProgramIsKilledAsAWhole(stage):
+def test_killingTheGuardianKillsTheProgram(stage):
     with stage.fadeloom() as fadeloom:
         fadeloom.waitFor("default speakers")
         program = fadeloom.programID()

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Streams of every shape, and devices of every layout, arrive right through a tap."""
+"""Streams of every shape, and devices of every layout, arrive correctly through a tap."""
 
 import time
 
@@ -11,7 +11,7 @@ from fadeloomProcess import app, settings
 
 
 def recordTapped(stage, files, appSettings, device="speakers", channels=("FL", "FR"), seconds=1.0):
-    """Plays files, each with a pw-play, through one tap; returns a second or so of what the device plays."""
+    """Plays files, each with a pw-play, through one tap; returns about a second of the device's output."""
     with stage.fadeloom(settings({"pw-cat": appSettings})) as fadeloom:
         for file in files:
             stage.play("pw-play", file)
@@ -59,7 +59,7 @@ def test_aStreamOf44100HertzIsConverted(stage):
 
 def test_aSurroundStreamIsMixedDownToBothSides(stage):
     left = signals.sine(1000, 0.4, 5, channels=6)
-    left[:, 1:] = 0  # Front left alone.
+    left[:, 1:] = 0  # Only front left.
     file = stage.folder / "surround.wav"
     signals.write(file, left)
 

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""Taking an application over and giving it back: nothing missing, nothing doubled, nothing late.
+"""Capturing an application and releasing it: nothing missing, nothing doubled, nothing delayed.
 
-The signal rises steadily, so that every sample tells its place in the file; its level tells which way it came.
+The signal rises steadily, so that every sample identifies its position in the file; its level identifies the path.
 """
 
 import signal
@@ -20,13 +20,13 @@ QUARTER = 0.25  # The volume of the tapped app.
 
 
 def kinds(stretches):
-    """In which ways the sound came, one after the other; silence in between does not count."""
+    """The paths that the audio took, in order, ignoring silence in between."""
     ways = [kind for kind, *_ in stretches if kind != "silent"]
     return [way for place, way in enumerate(ways) if place == 0 or ways[place - 1] != way]
 
 
 def gap(stretches, before, after):
-    """How many frames are silent between the last one of `before` and the first one of `after` that follows it."""
+    """The number of silent frames between the last one of `before` and the first one of `after` that follows it."""
     for place, (kind, first, frames, *_) in enumerate(stretches):
         rest = [stretch for stretch in stretches[place + 1:] if stretch[0] != "silent"]
         if kind == before and rest and rest[0][0] == after:
@@ -35,13 +35,13 @@ def gap(stretches, before, after):
 
 
 def stumble(stretches):
-    """The longest silence in frames inside one way: the player or the machine was late there, and may be again."""
+    """The longest silence in frames within one path: the player or the machine was late there, and may be again."""
     return max((frames for (before, *_), (kind, _, frames, *_), (after, *_)
                 in zip(stretches, stretches[1:], stretches[2:]) if kind == "silent" and before == after), default=0)
 
 
 def heard(recording):
-    """The stretches of a recording from the first to the last sound."""
+    """The segments of a recording from the first to the last sound."""
     stretches = signals.stretches(signals.read(recording)[:, 0])
     while stretches and stretches[0][0] == "silent":
         stretches.pop(0)
@@ -58,7 +58,7 @@ def rampFile(stage, seconds):
 
 @pytest.mark.parametrize("player", ["pw-play", "paplay"])
 @pytest.mark.parametrize("quantum", [128, 1024])
-def test_aPlayingAppIsTakenOverAndGivenBackWithoutAGap(stage, player, quantum):
+def test_aPlayingAppIsCapturedAndReleasedWithoutAGap(stage, player, quantum):
     bundleID = PLAYERS[player][0]
     stage.session.setQuantum(quantum)
     process, _ = stage.play(player, rampFile(stage, 6))
@@ -96,8 +96,8 @@ def test_aSecondStreamOfATappedAppIsNotHeardBeside(stage, player):
         time.sleep(0.2)
         stage.session.endRecording("recording")
 
-    # Another process of the same application: until the tap has taken it in it may be heard past it, but never both
-    # ways at once, and once it is in it stays.
+    # Another process of the same application: until the tap has captured it, it may be audible directly, but never on
+    # both paths at once, and once captured it stays so.
     assert kinds(heard(recording)) in (["tapped"], ["direct", "tapped"])
 
 
@@ -122,12 +122,12 @@ def test_aNextTrackOfATappedPlayerIsCapturedFromItsFirstSample(stage):
     for stretch in heard(recording):
         kind, _, frames, *_ = stretch
         if kind == "silent" and frames > 0.2 * signals.RATE:
-            tracks.append([])  # The pause between two tracks, not a cycle that the machine missed.
+            tracks.append([])  # The pause between two tracks, not a missed cycle.
         elif kind != "silent":
             tracks = tracks or [[]]
             tracks[-1].append(stretch)
     assert [kinds(track) for track in tracks] == [["tapped"]] * 3
-    # Where the device runs already, the graph may give a player's stream its first cycle before our node has started.
+    # If the device is already running, the graph may run a player's first cycle before our node has started.
     oneCycle = 1024 * 0.05 / (1.5 * signals.RATE) * QUARTER
     for track in tracks:
         first, last = track[0][3], track[-1][4]
@@ -137,7 +137,7 @@ def test_aNextTrackOfATappedPlayerIsCapturedFromItsFirstSample(stage):
 
 @pytest.mark.parametrize("player", ["pw-play", "paplay", "ffmpeg"])
 def test_nothingIsMissingAtTheStartOfAFurtherProcess(stage, player):
-    """Another process of a tapped application is heard from its first sample on, past the tap or through it."""
+    """Another process of a tapped application is audible from its first sample on, directly or through the tap."""
     bundleID = PLAYERS[player][0]
     file = rampFile(stage, 1.5)
     silence = stage.folder / "silence.wav"
@@ -162,7 +162,7 @@ def sendToPlayer(stage, socket, line):
 
 @pytest.mark.parametrize("quantum", [128, 1024])
 def test_noDelayIsAdded(stage, quantum):
-    """The app's own port against the device's monitor, in one recording: first direct, then tapped."""
+    """The app's own port compared with the device's monitor, in one recording: first direct, then tapped."""
     stage.session.setQuantum(quantum)
     file = stage.folder / "noise.wav"
     signals.write(file, signals.noise(0.5, 6))
@@ -211,21 +211,21 @@ def test_aKilledFadeloomLeavesTheAppOnItsOwnDevice(stage, player):
 
 
 def storedState(stage):
-    """What the session manager has written down about streams, without our recorder's and the players' volumes."""
+    """What the session manager has stored about streams, without our recorder's and the players' volumes."""
     files = sorted((stage.folder / "state").rglob("*"))
     lines = [line for file in files if file.is_file() for line in file.read_text().splitlines()]
     return sorted(line for line in lines if "target" in line or "fadeloom" in line.lower())
 
 
 def test_theUsersOwnTargetOutlivesTapAndKill(stage):
-    """A stream that the user sent to the headphones goes there again after us, and so does the next one."""
+    """A stream that the user moved to the headphones returns there afterwards, and so does the next one."""
     session = stage.session
     stage.play("pw-play", rampFile(stage, 8), "player")
     stream = waitUntil(lambda: session.nodeId("pw-play"), "the stream")
     headphones = next(node for node in session.nodes() if node["props"].get("node.name") == "headphones")
     session.run("pw-metadata", str(stream), "target.object", str(headphones["props"]["object.serial"]), "Spa:Id")
     waitUntil(lambda: stage.isLinked("pw-play:", "headphones:"), "the stream on the headphones")
-    time.sleep(1.2)  # The session manager writes its memory a second after a change.
+    time.sleep(1.2)  # The session manager stores its state a second after a change.
 
     with stage.fadeloom(settings({"pw-cat": app(volume=QUARTER)})) as fadeloom:
         stage.waitForTap(fadeloom, "pw-cat")

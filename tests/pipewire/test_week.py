@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
-"""A bad week: everything that people and machines do to sound, in random order, held against a model.
+"""A bad week: everything that people and machines do to audio, in random order, checked against a model.
 
-The model says which app must be heard at which device at which level. After every step the devices are listened to. A
-run that fails names its seed and its steps: FADELOOM_SEED=N repeats it.
+The model predicts which app must be audible on which device at which level. After every step the devices are measured.
+A failed run names its seed and its steps: FADELOOM_SEED=N repeats it.
 """
 
 import os
@@ -21,7 +21,7 @@ from fadeloomProcess import settings
 SOURCE = 0.15  # Of each app, so that all of them together do not clip.
 FREQUENCIES = {"Melody": 400, "Talk": 700, "Bells": 1100}  # Whole periods in the window.
 WINDOW = 0.1
-SETTLED_WITHIN = 4.0  # Seconds; what takes longer is a fault.
+SETTLED_WITHIN = 4.0  # Seconds; anything slower is a failure.
 MINUTES = 55 if LONG else 3
 FIXED = ["speakers", "headphones"]
 
@@ -38,7 +38,7 @@ def writeLongSine(file, frequency):
 
 
 class Ear:
-    """Listens to a device all the time."""
+    """Records a device continuously."""
 
     def __init__(self, session, device):
         self.session, self.device = session, device
@@ -51,7 +51,7 @@ class Ear:
         self.file.unlink(missing_ok=True)
 
     def levels(self):
-        """The amplitude of each app in the last moment."""
+        """The recent amplitude of each app."""
         frame = 8
         size = self.file.stat().st_size
         with open(self.file, "rb") as file:
@@ -78,7 +78,7 @@ class Week:
         self.fadeloom = None
         self.steps = []
 
-    # What must be heard
+    # Expectations
 
     def expected(self, device):
         levels = {}
@@ -103,7 +103,7 @@ class Week:
                 ("\n".join(self.fadeloom.text()[-20:]) if self.fadeloom else "")
             time.sleep(WINDOW)
 
-    # What may happen
+    # Possible events
 
     def step(self):
         changes = [self.play, self.play, self.pause, self.turn, self.turn, self.mute, self.route, self.route,

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What all audio files promise, as tests over files of their kind.
+// The contract of audio files, as tests over an implementation.
 //
 //      INSTANTIATE_TEST_SUITE_P(Sndfile, AudioFilesContract, ::testing::Values(&makeSndfileFilesWorld));
 #pragma once
@@ -26,14 +26,14 @@
 
 namespace fadeloom {
 
-/// Audio files, and the means to look into them.
+/// Audio files, with access to their contents.
 class ContractFilesWorld {
 public:
     virtual ~ContractFilesWorld() = default;
     virtual AudioFiles& files() = 0;
-    /// A folder in which files can be made.
+    /// A folder in which files can be created.
     virtual std::filesystem::path folder() = 0;
-    /// What a file holds that was disposed of; absent when there is none.
+    /// The contents of a closed file; nullopt if there is none.
     [[nodiscard]] virtual std::optional<WrittenSound> read(const std::filesystem::path& location) = 0;
 };
 
@@ -49,7 +49,7 @@ protected:
             throw std::runtime_error(file.error().description() + ": " + location.string());
         return **file;
     }
-    /// Hands samples over as a device does, in cycles of a size that comes out even with nothing.
+    /// Writes samples as a device does, in cycles of an odd size.
     static void write(AudioFile& file, const std::vector<float>& samples, std::size_t cycle = 479)
     {
         for (std::size_t begin = 0; begin < samples.size(); begin += 2 * cycle) {
@@ -64,7 +64,7 @@ protected:
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(AudioFilesContract);
 
-TEST_P(AudioFilesContract, whatIsHandedOverIsInTheFile)
+TEST_P(AudioFilesContract, whatIsWrittenIsInTheFile)
 {
     for (const double rate : {8000, 44100, 48000, 96000, 192000}) {
         const Steps steps = noise(static_cast<std::size_t>(rate * 1.3), 1);
@@ -103,7 +103,7 @@ TEST_P(AudioFilesContract, whatIsBeyondFullScaleIsClipped)
         WrittenSound(48000, {highest, lowest, highest, lowest, highest, lowest, 1 << 22, -(1 << 22)}));
 }
 
-TEST_P(AudioFilesContract, whatIsNoNumberIsSilence)
+TEST_P(AudioFilesContract, nanIsSilence)
 {
     AudioFile& file = open(at("nan.wav"), 48000);
     const float none = std::numeric_limits<float>::quiet_NaN();
@@ -114,7 +114,7 @@ TEST_P(AudioFilesContract, whatIsNoNumberIsSilence)
     EXPECT_EQ(world->read(at("nan.wav")), WrittenSound(48000, {0, 1 << 22, 0, -(1 << 22)}));
 }
 
-TEST_P(AudioFilesContract, aFileWithoutSamplesIsWhole)
+TEST_P(AudioFilesContract, aFileWithoutSamplesIsComplete)
 {
     AudioFile& file = open(at("empty.wav"), 44100);
 
@@ -161,7 +161,7 @@ TEST_P(AudioFilesContract, aFileOfThatNameIsReplaced)
     EXPECT_EQ(world->read(at("same.wav")), WrittenSound(48000, shorter));
 }
 
-TEST_P(AudioFilesContract, openFilesKeepToThemselves)
+TEST_P(AudioFilesContract, openFilesAreIndependent)
 {
     const std::array rates{44100.0, 48000.0, 96000.0};
     std::array<AudioFile*, 3> opened{};
@@ -183,7 +183,7 @@ TEST_P(AudioFilesContract, openFilesKeepToThemselves)
         EXPECT_TRUE(world->read(at(std::to_string(i) + ".wav")) == WrittenSound(rates[i], steps[i])) << i;
 }
 
-TEST_P(AudioFilesContract, aFileIsWellWhileItsSamplesAreTaken)
+TEST_P(AudioFilesContract, aFileHasNoErrorWhileItAcceptsSamples)
 {
     AudioFile& file = open(at("well.wav"), 48000);
     EXPECT_EQ(file.failure(), std::nullopt);
@@ -206,7 +206,7 @@ TEST_P(AudioFilesContract, anImpossibleRateIsRefusedAndMakesNoFile)
     }
 }
 
-TEST_P(AudioFilesContract, anErrorHasWords)
+TEST_P(AudioFilesContract, anErrorHasADescription)
 {
     const std::string words = files.describe({28});
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Short questions to an audio system.
+// Convenience queries to an audio system.
 #pragma once
 
 #include "platform/AudioSystem.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What every background queue promises, as tests over a queue of its kind.
+// The contract of background queues, as tests over an implementation.
 //
 //      INSTANTIATE_TEST_SUITE_P(Simulated, BackgroundQueueContract, ::testing::Values(&makeSimulatedQueueWorld));
 #pragma once
@@ -18,12 +18,12 @@
 
 namespace fadeloom {
 
-/// A queue, and the means to let its time pass.
+/// A queue, with control over time.
 class ContractQueueWorld {
 public:
     virtual ~ContractQueueWorld() = default;
     virtual BackgroundQueue& queue() = 0;
-    /// Lets time pass until `condition` holds; false when that takes too long.
+    /// Lets time pass until `condition` holds; false if that takes too long.
     [[nodiscard]] virtual bool waitUntil(const std::function<bool()>& condition) = 0;
     virtual void letPass(std::chrono::milliseconds duration) = 0;
 };
@@ -47,7 +47,8 @@ protected:
 
     std::mutex mutex;
     std::vector<int> done;
-    std::unique_ptr<ContractQueueWorld> world = GetParam()();  // Goes first: its work notes in the above.
+    // Destroyed first: its tasks refer to the above.
+    std::unique_ptr<ContractQueueWorld> world = GetParam()();
     BackgroundQueue& queue = world->queue();
 };
 
@@ -66,7 +67,7 @@ TEST_P(BackgroundQueueContract, workRunsAfterItsDelay)
     EXPECT_TRUE(world->waitUntil([this] { return doneSoFar() == std::vector{1}; }));
 }
 
-TEST_P(BackgroundQueueContract, workDueAtOnceRunsInTheOrderGiven)
+TEST_P(BackgroundQueueContract, workDueImmediatelyRunsInOrder)
 {
     std::vector<int> expected;
     for (int i = 0; i < 500; ++i) {
@@ -97,7 +98,7 @@ TEST_P(BackgroundQueueContract, cancelledWorkDoesNotRun)
     EXPECT_THAT(doneSoFar(), ::testing::IsEmpty());
 }
 
-TEST_P(BackgroundQueueContract, runNowDoesTheWorkOnceAndAtOnce)
+TEST_P(BackgroundQueueContract, runNowRunsTheWorkOnceAndImmediately)
 {
     const auto work = queue.submit(20ms, noting(1));
 
@@ -109,7 +110,7 @@ TEST_P(BackgroundQueueContract, runNowDoesTheWorkOnceAndAtOnce)
     EXPECT_THAT(doneSoFar(), ::testing::ElementsAre(1));
 }
 
-TEST_P(BackgroundQueueContract, cancellingWorkThatIsDoneChangesNothing)
+TEST_P(BackgroundQueueContract, cancellingCompletedWorkHasNoEffect)
 {
     const auto work = queue.submit(0ms, noting(1));
     EXPECT_TRUE(world->waitUntil([this] { return doneSoFar().size() == 1; }));
@@ -120,7 +121,7 @@ TEST_P(BackgroundQueueContract, cancellingWorkThatIsDoneChangesNothing)
     EXPECT_THAT(doneSoFar(), ::testing::ElementsAre(1));
 }
 
-TEST_P(BackgroundQueueContract, workGoesOnWithoutItsHandle)
+TEST_P(BackgroundQueueContract, workContinuesWithoutItsHandle)
 {
     queue.submit(5ms, noting(1)).reset();
 
@@ -151,7 +152,7 @@ TEST_P(BackgroundQueueContract, workMayCancelItself)
     EXPECT_TRUE(world->waitUntil([this] { return doneSoFar().size() == 1; }));
 }
 
-TEST_P(BackgroundQueueContract, whatTheTaskHoldsIsReleasedWhenItIsDoneOrCancelled)
+TEST_P(BackgroundQueueContract, capturesAreReleasedWhenTheTaskIsDoneOrCancelled)
 {
     const auto held = std::make_shared<int>(1);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The ground that all contract tests stand on.
+// The fixture of all contract tests.
 #pragma once
 
 #include "tests/platform/AudioReading.h"
@@ -37,7 +37,7 @@ protected:
         EXPECT_TRUE(world->waitUntil([&] { return audio.defaultOutput() == uid; })) << uid;
     }
 
-    /// Starts a player and returns its audio process once it plays.
+    /// Starts a player and returns its audio process once it is playing.
     AudioProcess playing(float amplitude = 0.5F)
     {
         const ProcessID pid = world->startPlayer(amplitude);
@@ -45,7 +45,7 @@ protected:
         return reading.process(pid);
     }
 
-    /// Ends a player and waits until it is not listed any more.
+    /// Ends a player and waits until it is no longer listed.
     void ended(ProcessID player)
     {
         world->endPlayer(player);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A process tap with a procedure that listens, for the contract of the audio system.
+// A process tap with a measuring procedure, for the contract of the audio system.
 #pragma once
 
 #include "platform/AudioSystem.h"
@@ -13,7 +13,7 @@
 
 namespace fadeloom {
 
-/// Measures what the tap delivers and leaves the device silent. Readable from any thread.
+/// Measures the tap's output and leaves the device silent. Readable from any thread.
 class ListeningProc final : public AudioIOProc {
 public:
     void render(const CycleTime& /*time*/, AudioBuffers input, AudioBuffers output) noexcept override
@@ -50,7 +50,7 @@ public:
     std::atomic<float> lastPeak = 0;  // Of the last input buffer in the last cycle.
 };
 
-/// Captures from its making until `end`, unless the system refuses; `error` then says why.
+/// Captures from construction until `end`, unless the system refuses; `error` then gives the reason.
 class ContractTap {
 public:
     ContractTap(AudioSystem& audio, std::vector<AudioProcessID> processes, const OutputDevice& output)

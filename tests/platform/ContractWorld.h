@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// A world in which an implementation of the platform interfaces is put to the test.
+// An environment for testing an implementation of the platform interfaces.
 //
-// It may be made of real processes and a real audio server: nothing here takes effect at once, so tests wait for
+// It may consist of real processes and a real audio server: nothing takes effect immediately, so tests wait for
 // conditions and never assume them.
 #pragma once
 
@@ -16,7 +16,8 @@
 
 namespace fadeloom {
 
-/// Thread: main. Starts with no player; may start with devices of its own. What a test started ends with the world.
+/// Thread: main. Initially without players; may have its own devices. The destructor ends everything that a test
+/// started.
 class ContractWorld {
 public:
     virtual ~ContractWorld() = default;
@@ -24,26 +25,26 @@ public:
     virtual AudioSystem& audio() = 0;
     virtual MainLoop& mainLoop() = 0;
 
-    /// Starts a process that plays a sine of 441 Hz without end on both channels to the default output; returns its
-    /// pid. `amplitude`: linear, 0 to 1.
+    /// Starts a process that plays an endless sine of 441 Hz on both channels to the default output; returns its pid.
+    /// `amplitude`: linear, 0 to 1.
     virtual ProcessID startPlayer(float amplitude) = 0;
-    /// The player stays, with its audio open, and plays nothing.
+    /// The player keeps its audio open without playing.
     virtual void pausePlayer(ProcessID player) = 0;
     virtual void resumePlayer(ProcessID player) = 0;
     /// Ends the process.
     virtual void endPlayer(ProcessID player) = 0;
-    /// The bundle identifier that players go by.
+    /// The bundle identifier of players.
     virtual std::string bundleIDOf(ProcessID player) = 0;
 
     /// Connects an output device with this many channels, in one stream of 1, 2 or 6 channels.
     virtual void plug(const std::string& uid, const std::string& name, std::uint32_t channels) = 0;
     virtual void unplug(const std::string& uid) = 0;
-    /// Someone else makes the device the default output.
+    /// Another program makes the device the default output.
     virtual void setDefaultOutput(const std::string& uid) = 0;
 
-    /// Runs the main loop until `condition` holds; false when that takes too long for a working implementation.
+    /// Runs the main loop until `condition` holds; false if that takes too long for a working implementation.
     [[nodiscard]] virtual bool waitUntil(const std::function<bool()>& condition) = 0;
-    /// Runs the main loop for so long that whatever was on its way has arrived, and IO cycles would have run.
+    /// Runs the main loop long enough for everything in flight to arrive, and for IO cycles to run.
     virtual void settle() = 0;
 };
 

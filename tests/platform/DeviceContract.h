@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The contract of devices: what is listed, when it changes, and who is told.
+// The contract of devices: the list, its changes, and notifications.
 #pragma once
 
 #include "tests/platform/ContractFixture.h"
@@ -25,13 +25,13 @@ TEST_P(PlatformContract, anUnpluggedDeviceLeavesAStaleIdBehind)
     EXPECT_EQ(audio.sampleRate(device.id), 0.0);
 }
 
-TEST_P(PlatformContract, aDeviceThatNeverWasHasNoRate)
+TEST_P(PlatformContract, anUnknownDeviceHasNoRate)
 {
     EXPECT_EQ(audio.sampleRate(0), 0.0);
     EXPECT_EQ(audio.sampleRate(4'000'000'000), 0.0);
 }
 
-TEST_P(PlatformContract, aDeviceThatComesBackHasANewId)
+TEST_P(PlatformContract, aReconnectedDeviceHasANewId)
 {
     std::vector<OutputDeviceID> ids;
 
@@ -61,7 +61,7 @@ TEST_P(PlatformContract, theDevicesAreAnnouncedOnTheMainLoop)
     EXPECT_TRUE(isAlwaysCurrent);
 }
 
-TEST_P(PlatformContract, anEndedSubscriptionIsNotToldAnyMore)
+TEST_P(PlatformContract, anEndedSubscriptionIsNoLongerNotified)
 {
     int calls = 0;
     auto subscription = audio.whenOutputDevicesChange([&] { ++calls; });
@@ -73,9 +73,9 @@ TEST_P(PlatformContract, anEndedSubscriptionIsNotToldAnyMore)
     EXPECT_EQ(calls, 0);
 }
 
-TEST_P(PlatformContract, aSubscriptionThatEndsBeforeDeliveryIsNotTold)
+TEST_P(PlatformContract, aSubscriptionThatEndsBeforeDeliveryIsNotNotified)
 {
-    // Both are told of the same change; whoever is told first ends the other one.
+    // Both observe the same change; whichever is called first ends the other one.
     std::set<char> told;
     Subscription first;
     Subscription second;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What every main loop promises, as tests over a loop of its kind.
+// The contract of main loops, as tests over an implementation.
 //
 //      INSTANTIATE_TEST_SUITE_P(Qt, MainLoopContract, ::testing::Values(&makeQtLoopWorld));
 #pragma once
@@ -18,7 +18,7 @@
 
 namespace fadeloom {
 
-/// A loop, and the means to let it run.
+/// A loop, and a way to run it.
 class ContractLoopWorld {
 public:
     virtual ~ContractLoopWorld() = default;
@@ -135,7 +135,7 @@ TEST_P(MainLoopContract, aTaskMayEndItsOwnSubscription)
     const auto kept = std::make_shared<int>(7);
     every = loop.every(5ms, [&, kept] {
         every.reset();
-        order.push_back(*kept);  // The task is still whole.
+        order.push_back(*kept);  // The task is still intact.
     });
     after = loop.after(5ms, [&, kept] {
         after.reset();
@@ -148,7 +148,7 @@ TEST_P(MainLoopContract, aTaskMayEndItsOwnSubscription)
     EXPECT_EQ(kept.use_count(), 1);
 }
 
-TEST_P(MainLoopContract, aTaskMayPutANewTimerInThePlaceOfItsOwn)
+TEST_P(MainLoopContract, aTaskMayReplaceItsOwnTimer)
 {
     Subscription timer;
     timer = loop.after(5ms, [&] {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What every implementation of the audio system promises, as tests over a world of its kind.
+// The contract of the audio system, as tests over an implementation.
 //
 // A test program includes this in one source and names its world:
 //

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The contract of audio processes: who is listed, for how long, and who is told.
+// The contract of audio processes: the list, lifetimes, and notifications.
 #pragma once
 
 #include "tests/platform/ContractFixture.h"
@@ -18,7 +18,7 @@ TEST_P(PlatformContract, aPlayerAppearsAsAProcessThatPlays)
     EXPECT_THAT(audio.processes(ReadMic::yes), ::testing::Contains(process).Times(1));
 }
 
-TEST_P(PlatformContract, everyPlayerHasAnIdOfItsOwnThatNeverComesAgain)
+TEST_P(PlatformContract, everyPlayerHasAUniqueIdThatIsNeverReused)
 {
     plugged("contract.a");
     makeDefault("contract.a");
@@ -52,14 +52,14 @@ TEST_P(PlatformContract, processesAreAnnouncedOnTheMainLoop)
     EXPECT_TRUE(isAlwaysCurrent);
 }
 
-TEST_P(PlatformContract, pausingAndPlayingOnAreAnnounced)
+TEST_P(PlatformContract, pausingAndResumingAreAnnounced)
 {
     plugged("contract.a");
     makeDefault("contract.a");
     const AudioProcess process = playing();
     int calls = 0;
     const auto subscription = audio.whenProcessesChange([&] { ++calls; });
-    // Some systems watch a process from the first time that they are asked for it.
+    // Some systems watch a process only after it has been queried once.
     (void)audio.processes(ReadMic::no);
     world->settle();
     calls = 0;

@@ -19,7 +19,7 @@ protected:
 
     bool hearsAbout(const ContractTap& tap, float amplitude)
     {
-        // A cycle of a sine may miss its top by a little, and a real one may be measured while it fades in.
+        // A cycle of a sine may just miss its peak, and a real one may be measured while it fades in.
         return world->waitUntil([&] { return std::abs(tap.proc->lastPeak - amplitude) < amplitude / 10; });
     }
 
@@ -78,7 +78,7 @@ TEST_P(TapContract, theProcedureGetsTheTapAndTheDevice)
     EXPECT_EQ(tap.proc->inputFrames, tap.proc->outputFrames);
 }
 
-TEST_P(TapContract, aTapThatEndedIsNotCalledAnyMore)
+TEST_P(TapContract, anEndedTapIsNoLongerCalled)
 {
     ContractTap tap{audio, {player.id}, device};
     EXPECT_TRUE(world->waitUntil([&] { return tap.proc->cycles > 0; }));
@@ -120,8 +120,8 @@ TEST_P(TapContract, aTapFollowsAnotherListOfProcesses)
     EXPECT_TRUE(hearsAbout(tap, 0.125F));
 }
 
-// Some systems go on with silent cycles, others have none while nothing plays.
-TEST_P(TapContract, aTappedProcessThatEndsIsNotHeardAnyMore)
+// Some systems continue with silent cycles, others stop cycling while nothing plays.
+TEST_P(TapContract, aTappedProcessThatExitsIsNoLongerAudible)
 {
     const ContractTap tap{audio, {player.id}, device};
     EXPECT_TRUE(hearsAbout(tap, 0.5F));
@@ -165,7 +165,7 @@ TEST_P(TapContract, aTapOnADeviceThatIsNotThereIsRefused)
     EXPECT_EQ(tap.proc->cycles, 0);
 }
 
-TEST_P(TapContract, aTapOnADeviceThatWasUnpluggedIsRefused)
+TEST_P(TapContract, aTapOnAnUnpluggedDeviceIsRefused)
 {
     const OutputDevice gone = plugged("contract.b");
     unplugged("contract.b");

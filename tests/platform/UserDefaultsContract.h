@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What all preferences promise, as tests over preferences of their kind.
+// The contract of preferences, as tests over an implementation.
 //
 //      INSTANTIATE_TEST_SUITE_P(Qt, UserDefaultsContract, ::testing::Values(&makeQtDefaultsWorld));
 #pragma once
@@ -67,7 +67,7 @@ TEST_P(UserDefaultsContract, anyTextIsKept)
     EXPECT_EQ(defaults.stringList("Colours"), texts);
 }
 
-TEST_P(UserDefaultsContract, aNewListTakesThePlaceOfTheOld)
+TEST_P(UserDefaultsContract, aNewListReplacesTheOld)
 {
     defaults.setStringList("Colours", {"red", "blue"});
     defaults.setStringList("Colours", {"green"});

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What stands in a sound file, as tests compare it.
+// The contents of a sound file, as compared by tests.
 #pragma once
 
 #include <algorithm>
@@ -11,7 +11,7 @@
 
 namespace fadeloom {
 
-/// 24-bit samples, left and right in turn. Full scale is 2^23 steps.
+/// Interleaved 24-bit samples. Full scale is 2^23 steps.
 using Steps = std::vector<std::int32_t>;
 
 struct WrittenSound {
@@ -31,7 +31,7 @@ inline Steps noise(std::size_t frames, unsigned seed)
     return steps;
 }
 
-/// The same sound as it is handed over. Every step is a float, so nothing is left to round.
+/// The same audio as floats. Every step is representable, so nothing is rounded.
 inline std::vector<float> samplesOf(const Steps& steps)
 {
     std::vector<float> samples;

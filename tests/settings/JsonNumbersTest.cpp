@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* largest = "3.4028235e38";
 
-TEST(JsonNumbers, numberThatIsTooLargeBecomesTheLargest)
+TEST(JsonNumbers, aNumberThatIsTooLargeBecomesTheMaximum)
 {
     for (const std::string number : {"1e39", "1E+39", "3.5e38", "1e400", "1e99999999999999999999",
              "1000000000000000000000000000000000000000", "0.001e42"}) {
@@ -37,7 +37,7 @@ TEST(JsonNumbers, otherNumbersStay)
         EXPECT_EQ(withFiniteNumbers(number), number);
 }
 
-TEST(JsonNumbers, whatIsNoNumberStays)
+TEST(JsonNumbers, nanStaysNaN)
 {
     for (const std::string text :
         {"+1e400", "01e400", ".5e400", "5.e400", "1e400e1", "--1e400", "1e400.0", "-", "e400", "1e", "1e+"})

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What reading does not repair: which damage costs one app, and which costs the file.
+// What reading does not repair: which damage affects one app, and which the whole file.
 #include "settings/SettingsJson.h"
 
 #include <gmock/gmock.h>
@@ -18,7 +18,7 @@ using testing::Key;
 
 class DamagedApp : public testing::TestWithParam<const char*> { };
 
-TEST_P(DamagedApp, isDroppedAndTheOthersStay)
+TEST_P(DamagedApp, isDroppedAndTheOthersAreKept)
 {
     const auto settings = decodeSettings(R"({"apps": {"before": {"volume": 0.5}, "damaged": )"
         + std::string(GetParam()) + R"(, "later": {}}, "eqAutoHeadroom": false})");
@@ -106,7 +106,7 @@ TEST(SettingsDamage, isDescribedByWhatShouldHaveBeenThere)
         EXPECT_EQ(decodeSettings(text).error().description, description) << text;
 }
 
-TEST(SettingsDamage, nestingWithoutEndIsNoCrash)
+TEST(SettingsDamage, endlessNestingDoesNotCrash)
 {
     constexpr std::size_t depth = 200'000;
     const std::string opening(depth, '[');

@@ -47,7 +47,7 @@ TEST(AppAudioSettings, startUntouchedAndFlat)
     EXPECT_EQ(app.eqPreamp, 0.0F);
 }
 
-TEST(DefaultCallApps, nameEachWellKnownAppOnce)
+TEST(DefaultCallApps, nameEachKnownAppOnce)
 {
     SimulatedCallApps callApps;
     callApps.setFormerDefaults({"old"});
@@ -72,7 +72,7 @@ TEST(FocusSettings, listAnAppUnderAnyOfItsIdentifiers)
     EXPECT_FALSE(isCallApp(focus, app));
 }
 
-TEST(FocusSettings, rememberWhatWasDeclinedUntilItIsAdded)
+TEST(FocusSettings, rememberDeclinedAppsUntilTheyAreAdded)
 {
     FocusSettings focus;
     const std::vector<std::string> app = {"a", "b"};

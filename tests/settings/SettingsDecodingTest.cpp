@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What reading repairs, and what it takes as it is.
+// What reading repairs, and what it accepts as is.
 #include "settings/SettingsJson.h"
 
 #include <gmock/gmock.h>
@@ -23,7 +23,7 @@ SettingsData decoded(std::string_view text)
     return settings.value_or(SettingsData());
 }
 
-/// Of the app "a" in a file that holds nothing else.
+/// Of the app "a" in a file that contains nothing else.
 AppAudioSettings decodedApp(const std::string& members)
 {
     const auto settings = decoded(R"({"volumeLimit": 2, "apps": {"a": {)" + members + "}}}");
@@ -37,7 +37,7 @@ TEST(SettingsDecoding, emptyObjectIsTheDefault)
     EXPECT_EQ(decoded("\xEF\xBB\xBF {\n}\r\n\t"), SettingsData()) << "byte order mark and white space";
 }
 
-TEST(SettingsDecoding, nullStandsForADefault)
+TEST(SettingsDecoding, nullMeansTheDefault)
 {
     EXPECT_EQ(decoded(R"({"apps": null, "focus": null, "recordingsFolder": null, "knownAppNames": null,
         "userPresets": null, "appearance": null, "volumeLimit": null, "eqAutoHeadroom": null})"),
@@ -50,7 +50,7 @@ TEST(SettingsDecoding, nullStandsForADefault)
         AppAudioSettings());
 }
 
-TEST(SettingsDecoding, callAppsThatNobodyEditedAreTheDefaults)
+TEST(SettingsDecoding, uneditedCallAppsAreTheDefaults)
 {
     const DefaultCallApps defaults{.current = {"new", "newer"}, .former = {"old", "older"}};
     const auto callApps = [&](std::string_view text) {

@@ -69,7 +69,7 @@ TEST(SettingsEncoding, writesOneMemberPerLineWithKeysInOrder)
 )");
 }
 
-TEST(SettingsEncoding, leavesOutWhatIsAbsentButThePresetName)
+TEST(SettingsEncoding, omitsAbsentValuesExceptThePresetName)
 {
     SettingsData settings;
     settings.apps["a"].eqPresetName = std::nullopt;
@@ -147,7 +147,7 @@ TEST(SettingsEncoding, floatsAreShortAndComeBackAsTheyWere)
     EXPECT_EQ(decodeSettings(text), settings);
 }
 
-TEST(SettingsEncoding, anyFiniteFloatComesBackBitForBit)
+TEST(SettingsEncoding, anyFiniteFloatRoundTripsBitForBit)
 {
     std::mt19937 random(7);
     SettingsData settings;
@@ -171,7 +171,7 @@ TEST(SettingsEncoding, anyFiniteFloatComesBackBitForBit)
     }
 }
 
-TEST(SettingsEncoding, numbersThatAreNoneBecomeTheirDefaults)
+TEST(SettingsEncoding, nonFiniteNumbersBecomeTheirDefaults)
 {
     for (const float bad : {notANumber, infinite, -infinite}) {
         SettingsData settings;

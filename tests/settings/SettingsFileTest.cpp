@@ -41,12 +41,12 @@ protected:
     fs::path backup = folder.path() / "Fadeloom" / "settings.broken.json";
 };
 
-TEST_F(SettingsFileTest, isInAFolderOfItsOwn)
+TEST_F(SettingsFileTest, isInItsOwnFolder)
 {
     EXPECT_EQ(file, folder.path() / "Fadeloom" / "settings.json");
 }
 
-TEST_F(SettingsFileTest, missingFileGivesTheDefaultsInSilence)
+TEST_F(SettingsFileTest, aMissingFileSilentlyGivesTheDefaults)
 {
     EXPECT_EQ(SettingsFile::load(file, log).settings, SettingsData());
 
@@ -88,7 +88,7 @@ TEST_F(SettingsFileTest, emptyObjectLoadsWithoutABackup)
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 
-TEST_F(SettingsFileTest, oneDamagedAppIsNoReasonForABackup)
+TEST_F(SettingsFileTest, oneDamagedAppDoesNotCauseABackup)
 {
     put(R"({"apps": {"bad": {"volume": "loud"}, "good": {"volume": 0.5}}})");
 
@@ -100,7 +100,7 @@ TEST_F(SettingsFileTest, oneDamagedAppIsNoReasonForABackup)
     EXPECT_THAT(log.lines(), IsEmpty());
 }
 
-TEST_F(SettingsFileTest, fileThatIsNotUnderstoodIsBackedUpAndReportedOnce)
+TEST_F(SettingsFileTest, anInvalidFileIsBackedUpAndReportedOnce)
 {
     put("{\"volumeLimit\": 2, ");
 
@@ -113,7 +113,7 @@ TEST_F(SettingsFileTest, fileThatIsNotUnderstoodIsBackedUpAndReportedOnce)
         "Fadeloom: settings unreadable (not JSON at line 1, column 20), backup at " + backup.string());
 }
 
-TEST_F(SettingsFileTest, emptyFileIsNotUnderstood)
+TEST_F(SettingsFileTest, anEmptyFileIsInvalid)
 {
     put("");
 
@@ -144,7 +144,7 @@ TEST_F(SettingsFileTest, laterBackupReplacesTheEarlierOne)
     EXPECT_EQ(log.lines().size(), 3U);
 }
 
-TEST_F(SettingsFileTest, folderInTheBackupsPlaceGivesWay)
+TEST_F(SettingsFileTest, folderInTheBackupsPlaceIsReplaced)
 {
     fs::create_directories(backup / "deep");
     put("broken");
@@ -156,7 +156,7 @@ TEST_F(SettingsFileTest, folderInTheBackupsPlaceGivesWay)
 
 TEST_F(SettingsFileTest, isReportedEvenWhenTheBackupCannotBeMade)
 {
-    // A file that everyone can read, that is not JSON, and beside which nobody can make another.
+    // A file that everyone can read, that is not JSON, and beside which nobody can create another.
     const fs::path status = "/proc/self/status";
 
     EXPECT_EQ(SettingsFile::load(status, log).settings, SettingsData());
@@ -165,7 +165,7 @@ TEST_F(SettingsFileTest, isReportedEvenWhenTheBackupCannotBeMade)
     EXPECT_THAT(log.lines()[0].message, HasSubstr("backup at /proc/self/status.broken.json"));
 }
 
-TEST_F(SettingsFileTest, oneThatIsFarTooLargeIsNotTakenApart)
+TEST_F(SettingsFileTest, oneThatIsFarTooLargeIsNotParsed)
 {
     put("{}" + std::string(std::size_t{17} * 1024 * 1024, ' '));
 
@@ -176,7 +176,7 @@ TEST_F(SettingsFileTest, oneThatIsFarTooLargeIsNotTakenApart)
         "Fadeloom: settings unreadable (larger than 16777216 bytes), backup at " + backup.string());
 }
 
-TEST_F(SettingsFileTest, folderInTheFilesPlaceGivesTheDefaultsInSilence)
+TEST_F(SettingsFileTest, aFolderInTheFilesPlaceSilentlyGivesTheDefaults)
 {
     fs::create_directories(file);
 
@@ -229,7 +229,7 @@ TEST_F(SettingsFileTest, whatWouldBeTooLargeToReadIsNotWritten)
     EXPECT_EQ(contentOf(file), before);
 }
 
-TEST_F(SettingsFileTest, folderThatCannotBeMadeIsTold)
+TEST_F(SettingsFileTest, folderThatCannotBeCreatedIsReported)
 {
     std::ofstream(folder.path() / "Fadeloom") << "a file where the folder should be";
 

@@ -20,7 +20,7 @@ protected:
     SimulatedApplication application;
 };
 
-TEST_F(AboutPanelTest, saysWhatTheProgramIs)
+TEST_F(AboutPanelTest, describesTheProgram)
 {
     show();
 
@@ -36,7 +36,7 @@ TEST_F(AboutPanelTest, linksToTheWebPageByItsHostName)
     EXPECT_EQ(application.aboutPanel()->linkURL, "https://fadeloom.example/en");
 }
 
-TEST_F(AboutPanelTest, comesToTheFrontEachTime)
+TEST_F(AboutPanelTest, isRaisedEachTime)
 {
     show();
     show();
@@ -44,7 +44,7 @@ TEST_F(AboutPanelTest, comesToTheFrontEachTime)
     EXPECT_EQ(application.activationCount(), 2);
 }
 
-TEST_F(AboutPanelTest, speaksTheUsersLanguage)
+TEST_F(AboutPanelTest, usesTheUsersLanguage)
 {
     AboutPanel::show(
         application, [](const char* context, const char*) { return std::string(context) + " po polsku"; },

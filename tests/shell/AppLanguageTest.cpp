@@ -71,7 +71,7 @@ TEST_F(AppLanguageTest, onlyTheFirstOfAListIsTheChoice)
     EXPECT_EQ(AppLanguage::current(defaults), "en");
 }
 
-TEST_F(AppLanguageTest, aListWithoutALanguageIsNoChoice)
+TEST_F(AppLanguageTest, aListWithoutALanguageIsNotAChoice)
 {
     store({});
     EXPECT_EQ(AppLanguage::current(defaults), "system");

@@ -6,18 +6,18 @@
 namespace fadeloom {
 namespace {
 
-TEST(WithValue, putsItInItsPlace)
+TEST(WithValue, replacesThePlaceholder)
 {
     EXPECT_EQ(withValue("Fadeloom %1 is available", "1.4"), "Fadeloom 1.4 is available");
     EXPECT_EQ(withValue("%1", ""), "");
 }
 
-TEST(WithValue, leavesWhatTheValueSaysAlone)
+TEST(WithValue, doesNotReplacePlaceholdersInTheValue)
 {
     EXPECT_EQ(withValue("Fadeloom %1 is available", "%1 %2"), "Fadeloom %1 %2 is available");
 }
 
-TEST(WithValue, aTextWithoutAPlaceStaysAsItIs)
+TEST(WithValue, aTextWithoutAPlaceholderIsUnchanged)
 {
     EXPECT_EQ(withValue("Later", "1.4"), "Later");
 }

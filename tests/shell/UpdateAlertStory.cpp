@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the user is told who asks for updates.
+// The result of a check requested by the user.
 #include "tests/shell/UpdateStage.h"
 
 namespace fadeloom {
@@ -62,7 +62,7 @@ TEST_F(UpdateAlertStory, theLatestVersionIsCalledThat)
     EXPECT_THAT(world.workspace().opened(), IsEmpty());
 }
 
-TEST_F(UpdateAlertStory, aServerThatRefusesCouldNotBeAsked)
+TEST_F(UpdateAlertStory, aServerErrorIsReportedAsUnreachable)
 {
     for (const int status : {404, 500}) {
         checker->checkInteractively();
@@ -77,7 +77,7 @@ TEST_F(UpdateAlertStory, aServerThatRefusesCouldNotBeAsked)
     EXPECT_EQ(world.dialogs().alerts().size(), 2U);
 }
 
-TEST_F(UpdateAlertStory, withoutANetworkItCouldNotBeAsked)
+TEST_F(UpdateAlertStory, withoutANetworkItIsUnreachable)
 {
     world.http().goOffline();
 
@@ -87,7 +87,7 @@ TEST_F(UpdateAlertStory, withoutANetworkItCouldNotBeAsked)
     EXPECT_EQ(lastAlert().title, "Could not check for updates");
 }
 
-TEST_F(UpdateAlertStory, whatWasFoundBeforeIsOfferedAlsoWhenTheServerIsGone)
+TEST_F(UpdateAlertStory, anEarlierResultIsOfferedEvenIfTheServerIsGone)
 {
     checker->start();
     feed("1.4", "43");
@@ -98,7 +98,7 @@ TEST_F(UpdateAlertStory, whatWasFoundBeforeIsOfferedAlsoWhenTheServerIsGone)
     EXPECT_EQ(lastAlert().title, "Fadeloom 1.4 is available");
 }
 
-TEST_F(UpdateAlertStory, aSilentCheckBesideItChangesNothingOfWhatItTells)
+TEST_F(UpdateAlertStory, aConcurrentSilentCheckDoesNotAffectItsReport)
 {
     world.advance(1h);
     checker->checkInteractively();
@@ -112,7 +112,7 @@ TEST_F(UpdateAlertStory, aSilentCheckBesideItChangesNothingOfWhatItTells)
     EXPECT_EQ(world.dialogs().alerts().size(), 1U);
 }
 
-TEST_F(UpdateAlertStory, itsTextsAreLookedUp)
+TEST_F(UpdateAlertStory, itsTextsAreTranslated)
 {
     checker.emplace(
         UpdateChecker::Product{.version = "1.3", .build = "42", .endpoint = "https://updates.example"},
@@ -140,7 +140,7 @@ TEST_F(UpdateAlertStory, itsTextsAreLookedUp)
     EXPECT_THAT(lastAlert().buttons, ElementsAre("UpdateChecker %1!", "UpdateChecker %1!"));
 }
 
-TEST_F(UpdateAlertStory, anAnswerAfterItsEndOpensNothing)
+TEST_F(UpdateAlertStory, anAnswerAfterItsDestructionOpensNothing)
 {
     checker->checkInteractively();
     feed("1.4", "43");

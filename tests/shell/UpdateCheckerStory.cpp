@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How a newer version is found, without a word to the user.
+// Silent checks for a newer version.
 #include "tests/shell/UpdateStage.h"
 
 #include <vector>
@@ -35,7 +35,7 @@ TEST_F(UpdateCheckerStory, aNewerBuildIsAvailable)
     EXPECT_THAT(results, ElementsAre(true));
 }
 
-TEST_F(UpdateCheckerStory, theFeedIsAskedPolitely)
+TEST_F(UpdateCheckerStory, sendsTheExpectedRequest)
 {
     check();
 
@@ -47,7 +47,7 @@ TEST_F(UpdateCheckerStory, theFeedIsAskedPolitely)
     EXPECT_EQ(checker->downloadURL(), "https://updates.example/base/download.php");
 }
 
-TEST_F(UpdateCheckerStory, theSameBuildIsNoUpdate)
+TEST_F(UpdateCheckerStory, theSameBuildIsNotAnUpdate)
 {
     check();
     feed("1.4", "43");
@@ -59,7 +59,7 @@ TEST_F(UpdateCheckerStory, theSameBuildIsNoUpdate)
     EXPECT_THAT(results, ElementsAre(true, true));
 }
 
-TEST_F(UpdateCheckerStory, anOlderBuildIsNoUpdate)
+TEST_F(UpdateCheckerStory, anOlderBuildIsNotAnUpdate)
 {
     check();
     feed("9.9", "41");
@@ -134,7 +134,7 @@ TEST_F(UpdateCheckerStory, aBuildNumberIsAnInteger)
     EXPECT_EQ(checker->localBuild(), -7);
 }
 
-TEST_F(UpdateCheckerStory, itLooksAtTheStartAndOnceADay)
+TEST_F(UpdateCheckerStory, itChecksAtStartupAndOnceADay)
 {
     EXPECT_EQ(world.http().requests().size(), 0U);
 
@@ -151,7 +151,7 @@ TEST_F(UpdateCheckerStory, itLooksAtTheStartAndOnceADay)
     EXPECT_EQ(world.application().activationCount(), 0);
 }
 
-TEST_F(UpdateCheckerStory, whoWatchesHearsOfEachChange)
+TEST_F(UpdateCheckerStory, watchersReceiveEachChange)
 {
     std::vector<std::string> heard;
     const auto watch = checker->available().whenAssigned([&] { heard.push_back(availableVersion()); });
@@ -164,7 +164,7 @@ TEST_F(UpdateCheckerStory, whoWatchesHearsOfEachChange)
     EXPECT_THAT(heard, ElementsAre("43", "44", "none"));
 }
 
-TEST_F(UpdateCheckerStory, ofChecksThatOverlapTheLastToEndDecides)
+TEST_F(UpdateCheckerStory, ofOverlappingChecksTheLastToFinishWins)
 {
     check();
     check();
@@ -177,7 +177,7 @@ TEST_F(UpdateCheckerStory, ofChecksThatOverlapTheLastToEndDecides)
     EXPECT_THAT(results, ElementsAre(true, true));
 }
 
-TEST_F(UpdateCheckerStory, anAnswerAfterItsEndIsHeardByNobody)
+TEST_F(UpdateCheckerStory, aReplyAfterItsEndIsIgnored)
 {
     checker->start();
     checker->checkInteractively();

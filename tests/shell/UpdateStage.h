@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The stage of stories about updates: a program of build 42, and a web server that the story speaks for.
+// The fixture of stories about updates: a program of build 42, and a simulated web server.
 #pragma once
 
 #include "platform/simulated/SimulatedPlatform.h"
@@ -30,7 +30,7 @@ protected:
     }
     UpdateStage() { install("42"); }
 
-    /// The server answers the oldest open request.
+    /// Answers the oldest open request.
     void feed(const std::string& version, const std::string& build)
     {
         world.http().answer(200, R"({"version": ")" + version + R"(", "build": )" + build + "}");

@@ -6,7 +6,7 @@
 namespace fadeloom {
 namespace {
 
-TEST(HostName, isWhatStandsBetweenSchemeAndPath)
+TEST(HostName, isThePartBetweenSchemeAndPath)
 {
     EXPECT_EQ(hostName("https://fadeloom.example"), "fadeloom.example");
     EXPECT_EQ(hostName("https://fadeloom.example/a/page?b#c"), "fadeloom.example");
@@ -14,7 +14,7 @@ TEST(HostName, isWhatStandsBetweenSchemeAndPath)
     EXPECT_EQ(hostName("https://fadeloom.example?a=b@c"), "fadeloom.example");
 }
 
-TEST(HostName, isEmptyWhereThereIsNone)
+TEST(HostName, isEmptyIfThereIsNone)
 {
     EXPECT_EQ(hostName(""), "");
     EXPECT_EQ(hostName("fadeloom.example"), "");

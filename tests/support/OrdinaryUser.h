@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// While one lives, the process is an ordinary user for whom permissions count, also when root runs the tests.
+// While an instance exists, the process runs as an ordinary user subject to permissions, even if root runs the tests.
 #pragma once
 
 #include <unistd.h>
@@ -11,7 +11,7 @@ namespace fadeloom {
 
 class OrdinaryUser {
 public:
-    /// `home`: a folder that becomes this user's own.
+    /// `home`: a folder that becomes this user's home.
     explicit OrdinaryUser(const std::filesystem::path& home)
     {
         constexpr uid_t nobody = 65534;

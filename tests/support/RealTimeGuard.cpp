@@ -13,7 +13,7 @@
 #include <cstddef>
 #include <ctime>
 
-// On a Mac a program's functions do not come in between its libraries and those of the system.
+// On a Mac a program's functions do not interpose those of libraries.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || defined(__APPLE__)
 #define FADELOOM_GUARDS 0
 #elif defined(__has_feature)
@@ -40,7 +40,7 @@ std::atomic<const char*> lastViolation = "";
     lastViolation.store(function, std::memory_order_relaxed);
 }
 
-// The function of that name in the library that this program hides.
+// The interposed function of the library.
 template <typename Function>
 [[maybe_unused]] Function original(const char* name)
 {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Replaces the allocator, the locks and the blocking system calls of a test program by ones that count their calls
-// inside of real-time sections.
+// Interposes the allocator, the locks and the blocking system calls of a test program, and counts calls inside
+// real-time sections.
 //
-// Link RealTimeGuard.cpp into the test program. Under a sanitizer, which replaces the same functions, it counts nothing;
-// `isGuarding` tells.
+// Link RealTimeGuard.cpp into the test program. Under a sanitizer, which replaces the same functions, it counts
+// nothing; see `isGuarding`.
 #pragma once
 
 #include <string>
@@ -11,9 +11,9 @@
 namespace fadeloom {
 
 [[nodiscard]] bool isGuarding();
-/// Forbidden calls inside of real-time sections since the program began, on all threads.
+/// Forbidden calls inside real-time sections since startup, on all threads.
 [[nodiscard]] int realTimeViolations();
-/// The name of the last function that was called so; empty when there was none.
+/// The name of the last function called in this way; empty if there was none.
 [[nodiscard]] std::string lastRealTimeViolation();
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A folder of its own for each test, gone with all it holds when the test is over.
+// A private folder for each test, deleted with its contents afterwards.
 #pragma once
 
 #include <cstdlib>

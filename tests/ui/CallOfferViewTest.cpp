@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The line of a row that offers its app as a call app.
+// The line of a row that suggests its app as a call app.
 #include "tests/ui/PanelStage.h"
 
 #include <vector>
@@ -9,7 +9,7 @@ namespace {
 
 class CallOfferViewTest : public PanelStage { };
 
-TEST_F(CallOfferViewTest, anOfferedCallAppIsTakenWithOneClick)
+TEST_F(CallOfferViewTest, anOfferedCallAppIsAcceptedWithOneClick)
 {
     auto contents = demoContents(Theme::dark);
     contents.callOffers = {contents.apps[1].bundleID};

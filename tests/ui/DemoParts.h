@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A panel's parts in a simulated world.
+// A panel's parts on the simulated platform.
 #pragma once
 
 #include "platform/simulated/SimulatedPlatform.h"
@@ -31,7 +31,7 @@ struct DemoParts {
             .quit = [this] { ++quits; },
         };
     }
-    /// A newer version comes out, and is found.
+    /// A newer version is released, and found.
     void publish(const std::string& version)
     {
         updates.check([](bool) { });

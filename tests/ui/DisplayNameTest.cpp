@@ -25,12 +25,12 @@ TEST(DisplayName, theRememberedNameComesFirst)
     EXPECT_EQ(displayName({}, callApps, "com.example.meet.sandboxed", installed), "Meet");
 }
 
-TEST(DisplayName, theSystemsNameLosesItsEnding)
+TEST(DisplayName, theSystemsNameLosesItsExtension)
 {
     EXPECT_EQ(displayName({}, callApps, "some.app", installed), "Installed");
 }
 
-TEST(DisplayName, anUnknownAppIsCalledByItsIdentifier)
+TEST(DisplayName, anUnknownAppIsShownByItsIdentifier)
 {
     EXPECT_EQ(displayName({}, callApps, "unheard.of", installed), "unheard.of");
     EXPECT_EQ(displayName({}, callApps, "unheard.of", {}), "unheard.of");

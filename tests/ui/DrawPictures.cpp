@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Draws the panel in many states, for eyes to judge:
+// Renders the panel in many states, for visual inspection:
 //
-//   cmake --build --preset dev --target pictures      draws into build/pictures
+// cmake --build --preset dev --target pictures      renders to build/pictures
 #include "tests/ui/PictureScenes.h"
 #include "ui/PanelEngine.h"
 

@@ -15,7 +15,7 @@ protected:
     AppAudioSettings app() const { return appSettings(settings(), player); }
 };
 
-TEST_F(EQModelTest, aMovedBandIsHeardAndHasNoPresetsName)
+TEST_F(EQModelTest, aMovedBandTakesEffectAndClearsThePresetName)
 {
     eq().setGain(5, 3);
 
@@ -38,7 +38,7 @@ TEST_F(EQModelTest, theSwitchLeavesTheCurveAlone)
     EXPECT_EQ(app().eqGains.at(0), 5);
 }
 
-TEST_F(EQModelTest, thePreampIsWholeAndTouchesNothingElse)
+TEST_F(EQModelTest, thePreampIsAnIntegerAndAffectsNothingElse)
 {
     eq().setPreamp(-3.6);
 

@@ -15,12 +15,12 @@ TEST(ElapsedText, secondsHaveTwoDigits)
     EXPECT_EQ(elapsedText(12min + 30s), "12:30");
 }
 
-TEST(ElapsedText, minutesGoOnBeyondAnHour)
+TEST(ElapsedText, minutesContinueBeyondAnHour)
 {
     EXPECT_EQ(elapsedText(75min), "75:00");
 }
 
-TEST(ElapsedText, aClockThatWentBackShowsNothingYet)
+TEST(ElapsedText, aClockSetBackShowsZero)
 {
     EXPECT_EQ(elapsedText(-5s), "0:00");
 }

@@ -23,12 +23,12 @@ TEST(GainText, aSliderStoresWholeDecibelsWithinTheRange)
     EXPECT_EQ(wholeGain(-40), -12);
 }
 
-TEST(GainText, aGainThatRoundsToNothingIsFlatWithoutASign)
+TEST(GainText, aGainThatRoundsToZeroHasNoSign)
 {
     EXPECT_FALSE(std::signbit(wholeGain(-0.2)));
 }
 
-TEST(GainText, aBandSaysWhereItIsAndWhatItDoes)
+TEST(GainText, aBandIsDescribedByFrequencyAndGain)
 {
     EXPECT_EQ(bandHelp(5, 3), "1k Hz: +3 dB");
     EXPECT_EQ(bandHelp(0, 0), "32 Hz: 0 dB");

@@ -6,7 +6,7 @@
 namespace fadeloom {
 namespace {
 
-TEST(LegibleColor, measuresAsTheEyeDoes)
+TEST(LegibleColor, measuresPerceivedContrast)
 {
     EXPECT_NEAR(contrast(Qt::black, Qt::white), 21, 0.01);
     EXPECT_NEAR(contrast(Qt::white, Qt::black), 21, 0.01);
@@ -14,12 +14,12 @@ TEST(LegibleColor, measuresAsTheEyeDoes)
     EXPECT_EQ(contrast(Qt::red, Qt::red), 1);
 }
 
-TEST(LegibleColor, leavesWhatIsLegible)
+TEST(LegibleColor, keepsLegibleColours)
 {
     EXPECT_EQ(legibleBeside(QColor(0x1A, 0x3A, 0x8A), Qt::white), QColor(0x1A, 0x3A, 0x8A));
 }
 
-TEST(LegibleColor, isFoundForEveryColourOnEveryGround)
+TEST(LegibleColor, existsForEveryColourOnEveryBackground)
 {
     for (int hue = 0; hue < 360; hue += 15) {
         for (const int lightness : {0, 60, 128, 200, 255}) {

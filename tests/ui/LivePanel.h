@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A panel on a controller in which things happen: not everything can be given as fixed contents.
+// A panel on a live controller: not everything can be provided as fixed contents.
 #pragma once
 
 #include "control/AudioController.h"

@@ -16,14 +16,14 @@ const FileError full{.step = FileError::Step::write,
     .file = "/disk/file",
     .reason = make_error_code(std::errc::no_space_on_device)};
 
-/// One of each kind, and each reason that it can have.
+/// One of each kind, with each possible reason.
 std::vector<ControllerError> examples()
 {
     return {BuiltInPresetName{"Rock"}, NothingToRecord{}, RecordingNotStarted{full},
         RecordingNotStarted{TapError{.step = "Create recording file", .status = 28}},
         RecordingNotWritten{"Player", "disk full"}, RecordingRateChanged{"Player"}, SettingsNotSaved{full},
         SettingsNotSaved{SettingsTooLarge{1000}}, SettingsNotRead{full}, LoginItemRefused{full},
-        LoginItemRefused{ProgramUnknown{}}, LoginItemRefused{SystemWords{"Nie wolno."}},
+        LoginItemRefused{ProgramUnknown{}}, LoginItemRefused{SystemMessage{"Nie wolno."}},
         OutputRefused{"Headphones"}};
 }
 
@@ -49,7 +49,7 @@ QStringList allTexts()
 
 class MessageTextTest : public PanelTest { };
 
-TEST_F(MessageTextTest, theExamplesLeaveNoKindOut)
+TEST_F(MessageTextTest, theExamplesCoverEveryKind)
 {
     std::set<std::size_t> kinds;
     for (const auto& error : examples())
@@ -62,7 +62,7 @@ TEST_F(MessageTextTest, theExamplesLeaveNoKindOut)
     EXPECT_EQ(steps.size(), static_cast<std::size_t>(FileError::Step::remove) + 1);
 }
 
-TEST_F(MessageTextTest, everyErrorHasItsOwnWordsInBothLanguages)
+TEST_F(MessageTextTest, everyErrorHasItsOwnTextInBothLanguages)
 {
     const auto english = allTexts();
     const auto polish = speaking("pl");
@@ -87,7 +87,7 @@ TEST_F(MessageTextTest, aHeadlessRunSaysTheSameInEnglish)
             messageText(SettingsNotRead{error}), QString::fromStdString(englishText(SettingsNotRead{error})));
 }
 
-/// Which of the texts that an adapter can give have no translation.
+/// The texts of an adapter without a translation.
 template <typename Texts>
 QStringList untranslated(const Texts& texts)
 {
@@ -120,7 +120,7 @@ TEST_F(MessageTextTest, everyStepAndReasonOfAFailedTapIsTranslated)
     EXPECT_NE(messageText(gone).toStdString(), gone.description());
 }
 
-TEST_F(MessageTextTest, namesStandAsTheyAre)
+TEST_F(MessageTextTest, namesAreKeptVerbatim)
 {
     EXPECT_EQ(messageText(OutputRefused{"100%1 %2"}), "Could not switch output to 100%1 %2.");
     EXPECT_EQ(messageText(RecordingNotWritten{"%2", "%1"}),

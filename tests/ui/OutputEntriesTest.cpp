@@ -62,7 +62,7 @@ TEST_F(OutputEntriesTest, aChosenDeviceIsNamedAndChecked)
     EXPECT_FALSE(appOutputEntries(state, "player").front().isChecked);
 }
 
-TEST_F(OutputEntriesTest, aDeviceThatIsAwayIsSaidToBe)
+TEST_F(OutputEntriesTest, aMissingDeviceIsShownAsSuch)
 {
     choose("gone");
     EXPECT_EQ(appOutputLabel(state, "player"), "System Output");
@@ -70,7 +70,7 @@ TEST_F(OutputEntriesTest, aDeviceThatIsAwayIsSaidToBe)
     EXPECT_EQ(appOutputLabel(state, "player"), "Disconnected, muted");
 }
 
-TEST_F(OutputEntriesTest, aDeviceOfTheAppsOwnChoiceIsNamedAsThat)
+TEST_F(OutputEntriesTest, aDeviceChosenByTheAppIsLabelledAsSuch)
 {
     state.apps.assign({{.bundleID = "player", .ownOutputs = {"a"}}});
     EXPECT_EQ(appOutputLabel(state, "player"), "Speakers, chosen by the app");

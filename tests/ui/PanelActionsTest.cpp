@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Buttons that reach beyond the settings: to the audio system, the user's consent, recordings, pages.
+// Buttons with effects beyond the settings: on the audio system, the permission, recordings, pages.
 #include "tests/ui/LivePanel.h"
 #include "tests/ui/PanelStage.h"
 
@@ -21,7 +21,7 @@ protected:
         show(*live.panel, expandedApp);
         QTest::qWait(20);
     }
-    /// An entry of the menu that was opened last.
+    /// An entry of the menu opened last.
     QQuickItem* menuItem(const QString& name)
     {
         QQuickItem* found = nullptr;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Buttons and links that are pressed seldom, and what each of them changes.
+// Rarely used buttons and links, and their effects.
 #include "tests/ui/PanelStage.h"
 
 #include <algorithm>
@@ -18,7 +18,7 @@ protected:
     }
 };
 
-TEST_F(PanelButtonsTest, dismissTakesTheMessageAway)
+TEST_F(PanelButtonsTest, dismissRemovesTheMessage)
 {
     show(demoContents(Theme::dark));
     const auto message = QStringLiteral("“Rock” is a built-in preset name. Choose another name.");
@@ -33,7 +33,7 @@ TEST_F(PanelButtonsTest, dismissTakesTheMessageAway)
     EXPECT_FALSE(find(message, QAccessible::AlertMessage));
 }
 
-TEST_F(PanelButtonsTest, removeTakesACallAppOffTheList)
+TEST_F(PanelButtonsTest, removeRemovesACallApp)
 {
     showSettings();
 
@@ -46,7 +46,7 @@ TEST_F(PanelButtonsTest, removeTakesACallAppOffTheList)
     EXPECT_TRUE(button("Remove Zoom"));
 }
 
-TEST_F(PanelButtonsTest, resetListBringsTheCallAppsOfTheSystemBack)
+TEST_F(PanelButtonsTest, resetListRestoresThePlatformsCallApps)
 {
     showSettings();
 
@@ -65,7 +65,7 @@ TEST_F(PanelButtonsTest, resetAllLeavesNoAppChanged)
     EXPECT_TRUE(settings().apps.empty());
 }
 
-TEST_F(PanelButtonsTest, theVolumeLimitIsExplainedAsItIs)
+TEST_F(PanelButtonsTest, theVolumeLimitIsExplained)
 {
     const auto never = QStringLiteral("Apps can never play louder than their original level.");
     const auto boost = QStringLiteral("Boost makes apps louder than their original level.");

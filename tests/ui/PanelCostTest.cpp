@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What one step of a slider makes the panel do. Texts are counted as they are looked up: whatever is worded again,
-// a row's status or the names of presets, asks for its translation.
+// The work that one step of a slider causes in the panel. Text lookups are counted: whatever is reworded, a row's
+// status or the names of presets, looks up its translation.
 #include "tests/ui/PanelStory.h"
 #include "tests/ui/PanelTest.h"
 
@@ -16,7 +16,7 @@
 namespace fadeloom {
 namespace {
 
-/// Translates nothing, and counts what it is asked for.
+/// Translates nothing, and counts lookups.
 class CountingTranslator final : public QTranslator {
 public:
     CountingTranslator() { QCoreApplication::installTranslator(this); }
@@ -28,7 +28,7 @@ public:
         return {};
     }
     [[nodiscard]] bool isEmpty() const override { return false; }
-    /// How many texts of a context were looked up since the last call.
+    /// The number of lookups in a context since the last call.
     int take(const char* context) { return std::exchange(counts_[context], 0); }
 
 private:
@@ -54,7 +54,7 @@ TEST_F(PanelCostTest, oneVolumeStepTouchesOneRow)
     std::vector<std::unique_ptr<QSignalSpy>> rows;
     for (int i = 0; i < rowCount; ++i)
         rows.push_back(std::make_unique<QSignalSpy>(&row(i), &AppRowModel::changed));
-    const QSignalSpy look(&*panel, &PanelModel::lookChanged);
+    const QSignalSpy look(&*panel, &PanelModel::appearanceChanged);
     const QSignalSpy outputs(&*panel, &PanelModel::outputsChanged);
     const QSignalSpy banner(&*panel, &PanelModel::bannerChanged);
     const QSignalSpy page(panel->settings(), &SettingsModel::changed);
@@ -67,7 +67,7 @@ TEST_F(PanelCostTest, oneVolumeStepTouchesOneRow)
     EXPECT_EQ(look.count() + outputs.count() + banner.count() + page.count(), 0);
 }
 
-TEST_F(PanelCostTest, menusAreBuiltForThoseWhoAsk)
+TEST_F(PanelCostTest, menusAreBuiltOnDemand)
 {
     CountingTranslator texts;
 
@@ -82,7 +82,7 @@ TEST_F(PanelCostTest, menusAreBuiltForThoseWhoAsk)
     EXPECT_GT(texts.take("PresetEntries"), 0);
 }
 
-TEST_F(PanelCostTest, aLimitOfAllIsHeardByAll)
+TEST_F(PanelCostTest, theGlobalLimitAffectsAllRows)
 {
     CountingTranslator texts;
 

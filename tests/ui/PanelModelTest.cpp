@@ -8,7 +8,7 @@ namespace {
 
 class PanelModelTest : public PanelStory { };
 
-TEST_F(PanelModelTest, rowsFollowTheControllersOrderAndKeepTheirSelves)
+TEST_F(PanelModelTest, rowsFollowTheControllersOrderAndKeepTheirIdentity)
 {
     open();
     const QAbstractItemModelTester tester(
@@ -69,7 +69,7 @@ TEST_F(PanelModelTest, aDraggedVolumeSnapsAndIsLimited)
     EXPECT_TRUE(settings().apps.empty());
 }
 
-TEST_F(PanelModelTest, aStoredVolumeAboveTheMaximumShowsAsWhatPlays)
+TEST_F(PanelModelTest, aStoredVolumeAboveTheLimitIsShownClamped)
 {
     start();
     setVolumeLimit(1);
@@ -85,7 +85,7 @@ TEST_F(PanelModelTest, aStoredVolumeAboveTheMaximumShowsAsWhatPlays)
     EXPECT_EQ(row(0).percent(), "90%");
 }
 
-TEST_F(PanelModelTest, aLoweredMaximumLowersWhatIsShown)
+TEST_F(PanelModelTest, aLoweredLimitLowersTheShownVolume)
 {
     open();
     launchPlaying("Player");
@@ -141,7 +141,7 @@ TEST_F(PanelModelTest, aRecordingShowsItsTimeAndThenItsFile)
     EXPECT_THAT(panel->lastRecording().toStdString(), testing::StartsWith("Player "));
 }
 
-TEST_F(PanelModelTest, aMutedAppsMeterStandsAtNothing)
+TEST_F(PanelModelTest, aMutedAppsMeterIsAtZero)
 {
     open();
     launchPlaying("Player");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where the views are, and what they say of themselves: nothing covers another or lies out of sight.
+// The layout of the views, and their accessibility: nothing overlaps or is out of sight.
 #include "tests/ui/PanelStage.h"
 
 namespace fadeloom {
@@ -7,7 +7,7 @@ namespace {
 
 class PanelPlacesTest : public PanelStage {
 protected:
-    /// The first item of a class, by the name that it has in C++ or of its QML file.
+    /// The first item of a class, by its C++ class name or QML file name.
     QQuickItem* ofClass(const char* name, QQuickItem* in)
     {
         for (auto* const child : in->childItems()) {
@@ -18,7 +18,7 @@ protected:
         }
         return nullptr;
     }
-    /// The bubble of a hint that is open; null without one.
+    /// An open tooltip; null without one.
     QQuickItem* bubble()
     {
         auto* const overlay = ofClass("QQuickOverlay", window->contentItem());
@@ -43,14 +43,14 @@ protected:
     }
 };
 
-TEST_F(PanelPlacesTest, aHintOfOneLineHoldsItsWords)
+TEST_F(PanelPlacesTest, aSingleLineTooltipFitsItsText)
 {
     show(demoContents(Theme::dark));
 
     expectTheHintToHoldItsWords(button("Settings"));
 }
 
-TEST_F(PanelPlacesTest, aHintOfTwoLinesHoldsItsWords)
+TEST_F(PanelPlacesTest, aTwoLineTooltipFitsItsText)
 {
     show(demoContents(Theme::dark), musicID);
 
@@ -109,7 +109,7 @@ TEST_F(PanelPlacesTest, theFieldForAPresetsNameComesIntoSightInEveryRow)
     }
 }
 
-TEST_F(PanelPlacesTest, aLongVersionLeavesRoomForTheOtherButtons)
+TEST_F(PanelPlacesTest, aLongVersionLeavesSpaceForTheOtherButtons)
 {
     show(demoContents(Theme::dark));
     const std::string version(80, '9');
@@ -124,7 +124,7 @@ TEST_F(PanelPlacesTest, aLongVersionLeavesRoomForTheOtherButtons)
     auto* const words = ofClass("Label", update);
     ASSERT_TRUE(words);
     const auto rightOf = [](QQuickItem* item) { return item->mapToScene({item->width(), 0}).x(); };
-    // A row puts its items in place when it is about to be drawn.
+    // A row positions its items when it is about to be rendered.
     EXPECT_TRUE(QTest::qWaitFor([&] { return rightOf(words) <= rightOf(update); }, 2000));
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The panel's views in a window, under the hand of a test.
+// The panel's views in a window, driven by a test.
 #pragma once
 
 #include "control/AppSettings.h"
@@ -47,7 +47,7 @@ protected:
         auto* const interface = QAccessible::queryAccessibleInterface(item);
         return interface ? interface->text(QAccessible::Name) : QString();
     }
-    /// The item that assistive programs know by this name and role; null without one.
+    /// The item with this accessible name and role; null if there is none.
     QQuickItem* find(const QString& name, QAccessible::Role role, QQuickItem* in = nullptr)
     {
         for (auto* const child : (in ? in : view.get())->childItems()) {
@@ -61,13 +61,13 @@ protected:
         }
         return nullptr;
     }
-    /// A button, also one that opens a menu. Qt 6.4 calls both buttons, later ones know more.
+    /// A button or menu button. Qt 6.4 exposes both as buttons, later versions distinguish them.
     QQuickItem* button(const QString& name)
     {
         auto* const found = find(name, QAccessible::Button);
         return found ? found : find(name, QAccessible::ComboBox);
     }
-    /// Words that can be pressed; Qt 6.4 calls them a button as well.
+    /// Text that can be pressed; Qt 6.4 exposes it as a button as well.
     QQuickItem* link(const QString& name)
     {
         auto* const found = find(name, QAccessible::Link);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A panel on a controller in a simulated world.
+// A panel on a controller on the simulated platform.
 #pragma once
 
 #include "tests/control/ControllerStory.h"

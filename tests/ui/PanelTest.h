@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The stage of tests that need Qt's application: without a display, drawn by the processor.
+// The fixture of tests that need Qt's application object: without a display, with software rendering.
 #pragma once
 
 #include "ui/PanelEngine.h"
@@ -15,7 +15,7 @@
 #include <memory>
 #include <ostream>
 
-// Found by its argument's namespace: failures show words instead of bytes.
+// Found by argument-dependent lookup: failures show text instead of bytes.
 QT_BEGIN_NAMESPACE
 inline void PrintTo(const QString& text, std::ostream* stream)
 {
@@ -27,7 +27,7 @@ namespace fadeloom {
 
 class PanelTest : public testing::Test {
 public:
-    /// Does nothing from the second time on.
+    /// Idempotent.
     static void startApplication()
     {
         static int argumentCount = 1;
@@ -46,10 +46,10 @@ public:
 protected:
     static void SetUpTestSuite() { startApplication(); }
 
-    /// The interface has this language until the result is gone.
+    /// Sets the interface language until the result is destroyed.
     static std::unique_ptr<QTranslator> speaking(const char* language)
     {
-        static const PanelEngine resources;  // Keeps the linker from leaving the string tables out.
+        static const PanelEngine resources;  // Keeps the linker from dropping the string tables.
         auto translator = std::make_unique<QTranslator>();
         EXPECT_TRUE(translator->load(QStringLiteral(":/i18n/fadeloom_%1.qm").arg(QLatin1String(language))));
         QCoreApplication::installTranslator(translator.get());

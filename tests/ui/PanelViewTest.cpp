@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The views under the hand: clicks, drags, keys, and the actions of assistive programs. What counts is what the
-// controller makes of it, not how a control looks afterwards.
+// Interaction with the views: clicks, drags, keys, and accessibility actions. What is checked is the effect on the
+// controller, not how a control looks afterwards.
 #include "engine/EQPresets.h"
 #include "tests/ui/PanelStage.h"
 
@@ -57,7 +57,7 @@ TEST_F(PanelViewTest, aFaderNearTheFullLevelSnaps)
     EXPECT_EQ(values->currentValue().toDouble(), 100);
 }
 
-TEST_F(PanelViewTest, aVolumeSetByAnAssistiveProgramDoesNotCutTheFaderOff)
+TEST_F(PanelViewTest, aVolumeSetByAssistiveTechnologyKeepsTheBinding)
 {
     show(demoContents(Theme::dark));
     auto* const fader = slider("Music volume");
@@ -96,7 +96,7 @@ TEST_F(PanelViewTest, oneRowIsOpenAtATime)
     EXPECT_FALSE(button("Collapse"));
 }
 
-TEST_F(PanelViewTest, aBandFollowsTheHandInWholeDecibels)
+TEST_F(PanelViewTest, aBandIsDraggedInIntegerDecibels)
 {
     show(demoContents(Theme::dark), musicID);
     auto* const band = slider("1k hertz");
@@ -174,7 +174,7 @@ TEST_F(PanelViewTest, aPresetIsNamedAndSaved)
 
     demo->controller.applyPreset(EQPresets::flat(), "com.apple.Music");
     click(button("Equalizer preset, Flat"));
-    // Upwards from the first entry come the last ones: first "Reset to Flat".
+    // Upwards from the first entry the selection wraps to the last ones: first "Reset to Flat".
     for (int i = 0; i < 2; ++i)
         QTest::keyClick(window.get(), Qt::Key_Up);
     QTest::keyClick(window.get(), Qt::Key_Return);

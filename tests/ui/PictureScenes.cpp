@@ -183,10 +183,13 @@ std::vector<Scene> scenes()
                     contents.settings.apps["com.apple.Music"].volume = 1.25F;
                     contents.settings.appearance.glass = false;
                 }},
-        {.name = "largetext", .events = [](auto& demo) { demo.panel.setDesktopLook({.textScale = 1.5}); }},
+        {.name = "largetext",
+            .events = [](auto& demo) { demo.panel.setDesktopAppearance({.textScale = 1.5}); }},
         {.name = "contrast",
             .events =
-                [](auto& demo) { demo.panel.setDesktopLook({.hasHighContrast = true, .accent = 0xE66100}); }},
+                [](auto& demo) {
+                    demo.panel.setDesktopAppearance({.hasHighContrast = true, .accent = 0xE66100});
+                }},
         {.name = "nometers",
             .contents = [](auto& contents) { contents.settings.appearance.levelMeters = false; }},
         {.name = "error",

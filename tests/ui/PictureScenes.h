@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The panel in many states, for eyes to judge (DrawPictures) and for tests to hold (ReferencePicturesTest).
+// The panel in many states, for visual inspection (DrawPictures) and regression tests (ReferencePicturesTest).
 #pragma once
 
 #include "settings/SettingsData.h"
@@ -14,11 +14,11 @@ namespace fadeloom {
 
 struct PictureScene {
     QString name;
-    /// `scale`: pixels for each point. Null when there is no view.
+    /// `scale`: pixels per point. Null if there is no view.
     std::function<QImage(Theme theme, double scale)> draw;
 };
 
-/// Needs a QGuiApplication and `drawBySoftware`; texts are in the language that is installed.
+/// Needs a QGuiApplication and `drawBySoftware`; texts are in the installed language.
 [[nodiscard]] std::vector<PictureScene> pictureScenes();
 
 }  // namespace fadeloom

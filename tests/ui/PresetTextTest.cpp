@@ -25,7 +25,7 @@ TEST(PresetText, aCurveWithoutANameIsCustom)
     EXPECT_EQ(presetTitle("My own"), "My own");
 }
 
-TEST(PresetEntries, builtInPresetsStandInTheirGroupsInOrder)
+TEST(PresetEntries, builtInPresetsAreListedByGroupInOrder)
 {
     const auto entries = presetEntries({}, "Rock");
 

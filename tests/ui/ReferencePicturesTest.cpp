@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Every screen against a picture of it that somebody has looked at.
+// Every screen compared with a picture that was inspected.
 //
-// The pictures in tests/ui/references have one pixel for each point and 32 shades of each colour, which makes small
-// files. Squares of 4 points are compared by their mean colours: another version of Qt or of the font engine moves them
-// little, another word, line or icon a lot. What differs is left in build/results/pictures. With
-// FADELOOM_NEW_REFERENCES=1 what is drawn becomes the reference.
+// The pictures in tests/ui/references have one pixel per point and 32 shades of each colour, which keeps the files
+// small. Squares of 4 points are compared by their mean colours: another version of Qt or of the font engine changes
+// them slightly, a different word, line or icon significantly. Differing pictures are written to
+// build/results/pictures. With FADELOOM_NEW_REFERENCES=1 the rendered pictures become the references.
 #include "tests/ui/PanelTest.h"
 #include "tests/ui/PictureScenes.h"
 
@@ -28,7 +28,7 @@ struct Look {
     const char* language;
     double scale;
 
-    /// With one pixel for each point everything is the same but the sharpness of its edges: a few scenes show that.
+    /// With one pixel per point everything is the same except the sharpness of edges: a few scenes cover that.
     [[nodiscard]] bool shows(const QString& scene) const
     {
         return scale != 1 || scene == QLatin1String("mixer") || scene == QLatin1String("eq")
@@ -81,7 +81,7 @@ std::array<int, 4> meanOf(const QImage& image, int left, int top)
     return sums;
 }
 
-/// How many squares differ; all of them when the sizes do.
+/// The number of differing squares; all of them if the sizes differ.
 int difference(const QImage& one, const QImage& other)
 {
     int count = 0;

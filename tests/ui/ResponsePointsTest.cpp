@@ -23,7 +23,7 @@ TEST(ResponsePoints, thePreampLiftsTheWholeCurve)
     EXPECT_TRUE(std::ranges::all_of(points, [](double point) { return point == -6; }));
 }
 
-TEST(ResponsePoints, whatIsTooLoudStaysAtTheEdge)
+TEST(ResponsePoints, valuesBeyondTheRangeStayAtTheEdge)
 {
     const auto points = responsePoints(std::vector<float>(10, 12), 12);
 

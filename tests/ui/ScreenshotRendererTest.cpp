@@ -17,11 +17,11 @@ namespace {
 
 class ScreenshotRendererTest : public PanelTest {
 protected:
-    std::string render(const std::filesystem::path& output, const std::string& suffix, Theme look)
+    std::string render(const std::filesystem::path& output, const std::string& suffix, Theme theme)
     {
         std::ostringstream lines;
         ScreenshotRenderer::run(
-            world.platform(), engineLog, around.parts(), output, suffix, look, home, lines);
+            world.platform(), engineLog, around.parts(), output, suffix, theme, home, lines);
         return lines.str();
     }
     QImage picture(const std::string& name)
@@ -77,7 +77,7 @@ TEST_F(ScreenshotRendererTest, theTwoLooksDiffer)
     EXPECT_GT(picture("panel-light.png").pixelColor(ground).lightness(), 200);
 }
 
-TEST_F(ScreenshotRendererTest, aFolderThatIsNotThereIsToldThreeTimes)
+TEST_F(ScreenshotRendererTest, aMissingFolderIsReportedThreeTimes)
 {
     const auto lines = render(folder.path() / "nowhere", "", Theme::dark);
 

@@ -31,7 +31,7 @@ TEST_F(SettingsModelTest, anAddedAppIsOfferedNoMore)
     EXPECT_EQ(settings().focus.callApps.back(), player);
 }
 
-TEST_F(SettingsModelTest, anAppThatListensIsOfferedFirstAndInWords)
+TEST_F(SettingsModelTest, anAppThatListensIsSuggestedFirstWithAnExplanation)
 {
     launchPlaying("Accordion");
     world.startUsingMic(launchPlaying("Browser"));
@@ -129,7 +129,7 @@ TEST_F(SettingsModelTest, aLanguageIsStoredAtOnceAndAppliedByARestart)
     EXPECT_FALSE(model().needsRestart());
 }
 
-TEST_F(SettingsModelTest, theLanguagesAreThoseThatThereAreTextsFor)
+TEST_F(SettingsModelTest, theLanguagesAreTheTranslatedOnes)
 {
     const auto languages = model().languages();
 
@@ -173,10 +173,10 @@ TEST_F(SettingsModelTest, theAboutPanelLinksToTheWebPage)
     EXPECT_THAT(world.workspace().opened(), testing::ElementsAre("https://fadeloom.example/"));
 }
 
-TEST_F(SettingsModelTest, theThemeAppliesAtOnceWhateverTheSystemHas)
+TEST_F(SettingsModelTest, theThemeAppliesImmediatelyRegardlessOfTheSystem)
 {
     for (const bool isSystemDark : {false, true}) {
-        panel->setDesktopLook({.isDark = isSystemDark});
+        panel->setDesktopAppearance({.isDark = isSystemDark});
         model().setTheme(1);
         EXPECT_FALSE(panel->isDark());
         model().setTheme(2);
@@ -186,12 +186,12 @@ TEST_F(SettingsModelTest, theThemeAppliesAtOnceWhateverTheSystemHas)
     }
 }
 
-TEST_F(SettingsModelTest, whatTheDesktopAsksForHoldsBesidesTheSettings)
+TEST_F(SettingsModelTest, desktopPreferencesApplyAlongWithTheSettings)
 {
     EXPECT_TRUE(panel->animations());
     EXPECT_EQ(panel->accentFill().alpha(), 0);
 
-    panel->setDesktopLook(
+    panel->setDesktopAppearance(
         {.reducesMotion = true, .hasHighContrast = true, .textScale = 1.5, .accent = 0xE5A50A});
 
     EXPECT_FALSE(panel->animations());
@@ -201,7 +201,7 @@ TEST_F(SettingsModelTest, whatTheDesktopAsksForHoldsBesidesTheSettings)
     EXPECT_GE(contrast(panel->accentInk(), QColor(0xEF, 0xED, 0xF4)), 4.5);
 }
 
-TEST_F(SettingsModelTest, eachSwitchChangesWhatItSays)
+TEST_F(SettingsModelTest, eachSwitchChangesItsSetting)
 {
     const auto before = settings();
 

@@ -23,7 +23,7 @@ TEST_F(StatusLineTest, anAppPlaysOrIsIdle)
     EXPECT_EQ(kind(), Kind::idle);
 }
 
-TEST_F(StatusLineTest, theMostUrgentIsSaidFirst)
+TEST_F(StatusLineTest, theMostUrgentIsShownFirst)
 {
     state.callApp.assign("phone");
     EXPECT_EQ(kind(), Kind::lowered);
@@ -38,7 +38,7 @@ TEST_F(StatusLineTest, theMostUrgentIsSaidFirst)
     EXPECT_EQ(statusLine(state, app).help, "Start device failed: the device is gone");
 }
 
-TEST_F(StatusLineTest, soundThatCannotBeReachedHasItsReason)
+TEST_F(StatusLineTest, playbackThatCannotBeTappedHasAReason)
 {
     app.outOfReach = OutOfReach::fixed;
     EXPECT_EQ(kind(), Kind::outOfReach);
@@ -47,7 +47,7 @@ TEST_F(StatusLineTest, soundThatCannotBeReachedHasItsReason)
     EXPECT_EQ(statusLine(state, app).help, "Another program keeps moving this app’s sound.");
 }
 
-TEST_F(StatusLineTest, aCallAppIsNotLoweredForAnothersCall)
+TEST_F(StatusLineTest, aCallAppIsNotDuckedForAnothersCall)
 {
     state.callApp.assign("phone");
     state.settings.modify([](auto& settings) { settings.focus.callApps = {"phone", "player"}; });
@@ -55,7 +55,7 @@ TEST_F(StatusLineTest, aCallAppIsNotLoweredForAnothersCall)
     EXPECT_EQ(kind(), Kind::playing);
 }
 
-TEST_F(StatusLineTest, whatHappensToOthersIsNotSaid)
+TEST_F(StatusLineTest, theStateOfOtherAppsIsNotShown)
 {
     state.recordings.assign({{"other", {}}});
     state.missingOutput.assign({"other"});

@@ -13,7 +13,7 @@ namespace {
 
 class TranslationsTest : public PanelTest, public testing::WithParamInterface<const char*> {
 protected:
-    /// The texts without a translation, after a copy of the table was brought up to date with the sources.
+    /// The texts without a translation, after updating a copy of the table from the sources.
     QStringList untranslated()
     {
         const auto name = QStringLiteral("fadeloom_%1.ts").arg(QLatin1String(GetParam()));

@@ -21,7 +21,7 @@ TEST(VolumeText, aSliderStoresNothingAboveTheLimit)
     EXPECT_EQ(snappedVolume(-0.5, 1), 0);
 }
 
-TEST(VolumeText, percentAreWhole)
+TEST(VolumeText, percentagesAreIntegers)
 {
     EXPECT_EQ(percentText(0.854), "85%");
     EXPECT_EQ(percentText(0.855), "86%");

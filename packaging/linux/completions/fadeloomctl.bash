@@ -1,13 +1,13 @@
 # SPDX-License-Identifier: MIT
-# Completion of fadeloomctl for bash: the running program knows what may follow.
+# Completion of fadeloomctl for bash: the running program provides the candidates.
 _fadeloomctl()
 {
     local line=${COMP_LINE:0:COMP_POINT} words current parted="" breaks="" candidate
     # shellcheck disable=SC2162
-    read -a words <<< "$line"  # A backslash keeps a blank inside of a word.
+    read -a words <<< "$line"  # A backslash keeps a space inside a word.
     [[ $line == *[[:blank:]] && $line != *\\[[:blank:]] ]] && words+=("")
     current=${words[-1]}
-    # What stands before a character that parts words for bash is not replaced.
+    # bash does not replace what precedes one of its word break characters.
     for candidate in @ : =; do
         [[ $COMP_WORDBREAKS == *"$candidate"* ]] && breaks+=$candidate
     done

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Tells the session bus what has changed: Qt announces no property by itself.
+// Signals changes on the session bus: Qt emits no PropertiesChanged itself.
 #pragma once
 
 #include "app/linux/BusObjects.h"
@@ -17,10 +17,10 @@ class MainLoop;
 /// Thread: main.
 class BusAnnouncer {
 public:
-    /// How long changes are collected: a slider that is dragged gives one signal in that time.
+    /// How long changes are coalesced: dragging a slider gives one signal per interval.
     static constexpr std::chrono::milliseconds collecting{20};
 
-    /// All must outlive this.
+    /// All arguments must outlive this.
     BusAnnouncer(const QDBusConnection& connection, MainLoop& mainLoop, const AudioController& controller,
         std::string version);
     BusAnnouncer(const BusAnnouncer&) = delete;
@@ -37,7 +37,7 @@ private:
     MainLoop& mainLoop_;
     const AudioController& controller_;
     const std::string version_;
-    BusObjects objects_;  // As last announced.
+    BusObjects objects_;  // As last signalled.
     bool isCollecting_ = false;
     Subscription timer_;
     std::vector<Subscription> subscriptions_;

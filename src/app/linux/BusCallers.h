@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Who asks over the session bus, and for whom they count.
+// Determines the access of callers on the session bus.
 #pragma once
 
 #include "commands/CommandInterpreter.h"
@@ -23,11 +23,11 @@ public:
     BusCallers(const BusCallers&) = delete;
     BusCallers& operator=(const BusCallers&) = delete;
 
-    /// Does the task once it is known who `sender` is, a connection of the bus: at once, or when the bus has answered.
-    /// Tasks of one sender keep their order. A sender whom the bus does not know counts as sandboxed.
+    /// Runs the task once it is known who `sender`, a connection of the bus, is: immediately, or when the bus has
+    /// replied. Tasks of one sender keep their order. A sender unknown to the bus counts as sandboxed.
     void with(const QString& sender, Task task);
     /// Called when a sender's connection has ended.
-    void whenGone(std::function<void(const QString& sender)> gone) { gone_ = std::move(gone); }
+    void whenDisconnected(std::function<void(const QString& sender)> gone) { gone_ = std::move(gone); }
 
 private:
     void ask(const QString& sender);

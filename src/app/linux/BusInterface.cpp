@@ -6,7 +6,7 @@
 namespace fadeloom {
 namespace {
 
-/// The text of an interface's element.
+/// The XML of an interface's element.
 QString elementIn(const QString& text, const QString& name)
 {
     const auto end = QStringLiteral("</interface>\n");

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What can be asked over the session bus, as packaging/linux/dbus/com.fadeloom.app.Mixer1.xml has it: the build puts that
-// file into the program.
+// The D-Bus interface as defined in packaging/linux/dbus/com.fadeloom.app.Mixer1.xml, which the build embeds in the
+// program.
 #pragma once
 
 #include <QList>
@@ -11,7 +11,7 @@
 
 namespace fadeloom {
 
-/// The file's text.
+/// The file's contents.
 extern const char* const busInterfaceText;
 
 struct BusProperty {
@@ -23,7 +23,7 @@ struct BusProperty {
 struct BusInterface {
     QString xml;  // The element, for introspection.
     QMap<QString, BusProperty> properties;
-    QMap<QString, QString> methods;  // The signatures of what they take.
+    QMap<QString, QString> methods;  // Their input signatures.
 };
 
 /// By name.

@@ -20,7 +20,7 @@ QString text(const std::string& bytes)
     return QString::fromStdString(bytes);
 }
 
-/// The double that has the same few digits as the float.
+/// The double with the same short decimal representation as the float.
 double number(float value)
 {
     return std::round(static_cast<double>(value) * 1e6) / 1e6;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How things stand, as objects on the session bus with their properties.
+// The current state, as objects on the session bus with their properties.
 #pragma once
 
 #include "control/AudioController.h"
@@ -27,24 +27,24 @@ inline const QString outputs = root + QStringLiteral("/outputs");
 
 }  // namespace bus
 
-/// Properties by the name of their interface.
+/// Properties by interface name.
 using BusObject = QMap<QString, QVariantMap>;
 /// By path.
 using BusObjects = QMap<QDBusObjectPath, BusObject>;
 /// By the path of an app.
 using BusLevels = QMap<QDBusObjectPath, double>;
 
-/// Lets the types above be sent. Once, before they are.
+/// Registers the types above with Qt. Call once, before sending them.
 void registerBusTypes();
 
-/// The text as an element of a path: bytes that are no letter or digit of ASCII become "_" and two hexadecimal digits,
-/// the empty text "_".
+/// Escapes a text as an element of an object path: bytes that are not ASCII letters or digits become "_" and two
+/// hexadecimal digits, the empty text "_".
 [[nodiscard]] QString busElement(const std::string& text);
 [[nodiscard]] QDBusObjectPath busPathOfApp(const std::string& id);
 /// "/" for none.
 [[nodiscard]] QDBusObjectPath busPathOfOutput(const std::optional<std::string>& uid);
 
-/// The app in the mixer, or the output, that has this path.
+/// The app in the mixer, or the output, with this path.
 [[nodiscard]] std::optional<std::string> appAtBusPath(const AudioController& controller, const QString& path);
 [[nodiscard]] std::optional<OutputDevice> outputAtBusPath(
     const AudioController& controller, const QString& path);

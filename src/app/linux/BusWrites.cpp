@@ -26,7 +26,8 @@ BusOutcome setPreset(AudioController& controller, const std::string& id, const s
     for (const auto* const presets : {&EQPresets::all(), &controller.state().settings->userPresets}) {
         const auto found = std::ranges::find(*presets, name, &EQPreset::name);
         if (found != presets->end()) {
-            controller.applyPreset(EQPreset(*found), id);  // The settings change on the way.
+            // Copied, because the list may change with the settings.
+            controller.applyPreset(EQPreset(*found), id);
             return {};
         }
     }

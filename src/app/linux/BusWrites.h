@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is written to a property on the session bus.
+// Writes to properties on the session bus.
 #pragma once
 
 #include "control/AudioController.h"
@@ -11,7 +11,7 @@
 
 namespace fadeloom {
 
-/// Why something asked over the bus is not done.
+/// Why a request on the bus fails.
 struct BusError {
     QString name;
     QString text;
@@ -22,7 +22,7 @@ struct BusError {
 };
 using BusOutcome = std::expected<void, BusError>;
 
-/// The value that was meant for a property of this signature: numbers of every kind are taken for "d". Invalid if none.
+/// Converts a value to the property's signature: any number is accepted for "d". Invalid if impossible.
 [[nodiscard]] QVariant busValue(const QVariant& sent, const QString& signature);
 
 /// `value`: of the property's signature.
@@ -30,7 +30,7 @@ using BusOutcome = std::expected<void, BusError>;
     AudioController& controller, const QString& name, const QVariant& value);
 [[nodiscard]] BusOutcome writeAppProperty(
     AudioController& controller, const std::string& id, const QString& name, const QVariant& value);
-/// By so much, within the limits; returns the new volume.
+/// By this difference, clamped; returns the new volume.
 double changeVolume(AudioController& controller, const std::string& id, double delta);
 
 }  // namespace fadeloom

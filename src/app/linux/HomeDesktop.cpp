@@ -16,18 +16,19 @@ QString currentDesktop()
     return qEnvironmentVariable("XDG_CURRENT_DESKTOP");
 }
 
-/// Everything is drawn by the processor; what Qt would load for it all the same takes 50 MB.
+/// Selects software rendering; what Qt would load otherwise takes 50 MB.
 void avoidGraphicsStack()
 {
     constexpr auto variable = "QT_WAYLAND_CLIENT_BUFFER_INTEGRATION";
     if (!qEnvironmentVariableIsEmpty(variable))
         return;
     qputenv(variable, "none");
-    // Qt regrets that there is none of this name.
+    // Qt warns that there is none of this name.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.wayland.warning=false"));
 }
 
-/// Of Qt. On Wayland an ordinary window can choose neither its place nor to stay in front, which the panel has to.
+/// Selects Qt's platform plugin. On Wayland an ordinary window can neither choose its position nor stay on top, which
+/// the panel must.
 const char* preferredPlatforms()
 {
     if (LayerShell::isOffered()) {
@@ -50,14 +51,14 @@ bool HomeDesktop::prepare()
 }
 
 HomeDesktop::HomeDesktop()
-    : icon_(trayPicture(look_.look().isDark, currentDesktop()), [this] { withoutTray_(); })
+    : icon_(trayPicture(appearance_.appearance().isDark, currentDesktop()), [this] { withoutTray_(); })
 {
 }
 
-void HomeDesktop::changeLook(const DesktopLook& look)
+void HomeDesktop::changeAppearance(const DesktopAppearance& appearance)
 {
-    icon_.setPicture(trayPicture(look.isDark, currentDesktop()));
-    lookChanged_(look);
+    icon_.setPicture(trayPicture(appearance.isDark, currentDesktop()));
+    appearanceChanged_(appearance);
 }
 
 }  // namespace fadeloom

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The program on a Linux desktop: its icon in the tray, dialogs, the look.
+// The program on a Linux desktop: its tray icon, dialogs, the appearance.
 #pragma once
 
 #include "platform/qtdesktop/QtApplication.h"
 #include "platform/qtdesktop/QtDialogs.h"
 #include "platform/qtdesktop/QtTrayIcon.h"
-#include "platform/qtdesktop/SystemLook.h"
+#include "platform/qtdesktop/SystemAppearance.h"
 
 #include <functional>
 #include <utility>
@@ -15,7 +15,7 @@ namespace fadeloom {
 /// Needs a QApplication. Thread: main.
 class HomeDesktop {
 public:
-    /// Before the QApplication: how it draws. Says whether there is a display to draw on.
+    /// Selects how to draw; call before creating the QApplication. Returns whether there is a display.
     [[nodiscard]] static bool prepare();
 
     HomeDesktop();
@@ -25,25 +25,26 @@ public:
     [[nodiscard]] Application& application() { return application_; }
     [[nodiscard]] Dialogs& dialogs() { return dialogs_; }
     [[nodiscard]] QtTrayIcon& icon() { return icon_; }
-    [[nodiscard]] const DesktopLook& look() const { return look_.look(); }
-    /// Called from now on whenever windows are to look otherwise.
-    void whenLookChanges(std::function<void(const DesktopLook&)> changed)
+    [[nodiscard]] const DesktopAppearance& appearance() const { return appearance_.appearance(); }
+    /// Called whenever the desktop's appearance changes.
+    void whenAppearanceChanges(std::function<void(const DesktopAppearance&)> changed)
     {
-        lookChanged_ = std::move(changed);
+        appearanceChanged_ = std::move(changed);
     }
-    /// Never called: a session on Linux ends its programs by a signal, which they are asked by anyway.
+    /// Never called: a Linux session ends its programs with a signal, which is handled anyway.
     void whenSessionEnds(const std::function<void()>& /*ends*/) { }
     /// Called once it turns out that nobody shows the icon.
     void whenWithoutTray(std::function<void()> withoutTray) { withoutTray_ = std::move(withoutTray); }
 
 private:
-    void changeLook(const DesktopLook& look);
+    void changeAppearance(const DesktopAppearance& appearance);
 
-    std::function<void(const DesktopLook&)> lookChanged_ = [](const DesktopLook&) { };
+    std::function<void(const DesktopAppearance&)> appearanceChanged_ = [](const DesktopAppearance&) { };
     std::function<void()> withoutTray_ = [] { };
     QtApplication application_{[](auto) { }};  // The panel reads the choice from the settings.
     QtDialogs dialogs_;
-    SystemLook look_{[this](const DesktopLook& look) { changeLook(look); }};
+    SystemAppearance appearance_{
+        [this](const DesktopAppearance& appearance) { changeAppearance(appearance); }};
     QtTrayIcon icon_;
 };
 

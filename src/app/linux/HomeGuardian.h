@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Whoever gives the applications back to their devices while the program stands still on Linux.
+// The process that releases the applications while the program is stopped, on Linux.
 #pragma once
 
 #include "platform/linux/DescriptorLimit.h"
@@ -11,13 +11,12 @@
 
 namespace fadeloom {
 
-/// To be made before any thread: it splits the process in two. It also gives the program all the open files that the
-/// user may have.
+/// Create it before any thread: it forks the process. It also raises the limit of open files to the hard limit.
 class HomeGuardian {
 public:
     HomeGuardian() { raiseDescriptorLimit(); }
 
-    /// Our client of the audio server, 0 for none. Thread: any.
+    /// Our client id on the audio server, 0 for none. Thread: any.
     void holdClient(std::uint64_t client) noexcept { guardian_.hold(client); }
 
 private:

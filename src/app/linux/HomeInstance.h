@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One instance a session on Linux: a second start opens the first one's panel.
+// One instance per session on Linux: a second start opens the first one's panel.
 #pragma once
 
 #include "app/ServedControl.h"
@@ -20,7 +20,7 @@ public:
         std::function<void()> open = nullptr;
         std::function<void()> toggle = nullptr;
         std::function<void()> quit = nullptr;
-        /// What other programs reach besides; absent while nothing.
+        /// What other programs can reach as well; nullopt while there is nothing.
         std::optional<ServedControl> control = std::nullopt;
     };
 
@@ -29,15 +29,16 @@ public:
     HomeInstance(const HomeInstance&) = delete;
     HomeInstance& operator=(const HomeInstance&) = delete;
 
-    /// Becomes the one instance; else asks the other one, to show its panel if `wantsPanel`, and tells how that went.
-    [[nodiscard]] std::optional<EarlyEnd> claim(bool wantsPanel)
+    /// Becomes the only instance; otherwise asks the other one, to show its panel if wanted, and returns the
+    /// outcome.
+    [[nodiscard]] std::optional<EarlyEnd> claim(OpenPanel openPanel)
     {
-        const auto request = wantsPanel ? InstanceRequest::open : InstanceRequest::ping;
+        const auto request = openPanel == OpenPanel::yes ? InstanceRequest::open : InstanceRequest::ping;
         return secondStart(instance_.claim(request), request);
     }
-    /// What is done from now on when others ask.
+    /// Sets how requests are handled from now on.
     void serve(Actions actions);
-    /// From now on others are told to wait for the end.
+    /// From now on other instances are told to wait for the exit.
     void beginEnding() { instance_.beginEnding(); }
 
 private:

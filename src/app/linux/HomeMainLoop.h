@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The main loop on Linux, which is Qt's as it is.
+// The main loop on Linux, which is Qt's, unmodified.
 #pragma once
 
 namespace fadeloom {
 
-/// Before the application object.
+/// Call before creating the application object.
 inline void prepareMainLoop() { }
 
 }  // namespace fadeloom

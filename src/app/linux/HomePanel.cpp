@@ -13,7 +13,7 @@ namespace {
 
 const std::string leftKey = "PanelPosition";
 
-std::optional<QPoint> leftPlace()
+std::optional<QPoint> savedWindowPosition()
 {
     const auto values = homeUserDefaults().stringList(leftKey);
     if (!values || values->size() != 2)
@@ -25,7 +25,7 @@ std::optional<QPoint> leftPlace()
     return isX && isY ? std::optional(place) : std::nullopt;
 }
 
-void keepLeftPlace(QPoint place)
+void saveWindowPosition(QPoint place)
 {
     homeUserDefaults().setStringList(leftKey, {std::to_string(place.x()), std::to_string(place.y())});
 }
@@ -34,10 +34,10 @@ void keepLeftPlace(QPoint place)
 
 HomePanel::HomePanel(HomeDesktop& desktop)
     : desktop_(desktop)
-    , popover_(
-          [&desktop] { return desktop.icon().place(); }, [&desktop] { return desktop.look().reducesMotion; })
+    , popover_([&desktop] { return desktop.icon().place(); },
+          [&desktop] { return desktop.appearance().reducesMotion; })
 {
-    desktop_.whenWithoutTray([this] { beOrdinary(); });
+    desktop_.whenWithoutTray([this] { showAsOrdinaryWindow(); });
 }
 
 HomePanel::~HomePanel()
@@ -45,10 +45,10 @@ HomePanel::~HomePanel()
     desktop_.whenWithoutTray([] { });
 }
 
-void HomePanel::beOrdinary()
+void HomePanel::showAsOrdinaryWindow()
 {
     std::cerr << "fadeloom: this desktop shows no status icons; the panel is an ordinary window\n";
-    popover_.becomeOrdinaryWindow(leftPlace(), [](QPoint place) { keepLeftPlace(place); });
+    popover_.turnIntoOrdinaryWindow(savedWindowPosition(), [](QPoint place) { saveWindowPosition(place); });
     popover_.show();
 }
 

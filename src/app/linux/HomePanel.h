@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The panel beside the icon in the tray.
+// The panel beside the tray icon.
 #pragma once
 
 #include "platform/qtdesktop/QtPopover.h"
@@ -20,11 +20,11 @@ public:
     ~HomePanel();
 
     [[nodiscard]] Popover& popover() { return popover_; }
-    /// What it shows, made when it opens for the first time; its implicit size is the panel's.
+    /// The content, created when it opens for the first time; its implicit size is the panel's.
     void setContent(QtPopover::MakeContent make) { popover_.setContent(std::move(make)); }
 
 private:
-    void beOrdinary();
+    void showAsOrdinaryWindow();
 
     HomeDesktop& desktop_;
     QtPopover popover_;

@@ -58,7 +58,7 @@ Platform HomePlatform::platform()
     };
 }
 
-// Any process of the sandboxed application will do: it stands for the application alone.
+// Any process of the sandboxed application will do: it only identifies the application.
 ProcessID HomePlatform::processOf(const std::string& portalAppID) const
 {
     for (const auto& application : workspace_.runningApplications()) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// This machine as the program sees it on Linux: PipeWire, libsndfile, a freedesktop session, Qt.
+// The platform on Linux: PipeWire, libsndfile, a freedesktop session, Qt.
 #pragma once
 
 #include "app/linux/HomeGuardian.h"
@@ -30,8 +30,8 @@ using HomeLog = SyslogSystemLog;
 /// Thread: main.
 class HomePlatform {
 public:
-    /// `systemLog` also hears what the audio system's connection reports, `guardian` which of its clients we are. All
-    /// must outlive this.
+    /// `systemLog` also receives messages of the audio system's connection, `guardian` the id of our client. All
+    /// arguments must outlive this.
     HomePlatform(MainLoop& mainLoop, SystemLog& systemLog, HomeGuardian& guardian);
     HomePlatform(const HomePlatform&) = delete;
     HomePlatform& operator=(const HomePlatform&) = delete;
@@ -46,7 +46,7 @@ private:
     XdgFolders folders_;
     FileManager fileManager_;
     LinuxWorkspace workspace_;
-    LinuxWorkspace graphWorkspace_;  // Of the graph thread alone.
+    LinuxWorkspace graphWorkspace_;  // Used only on the graph thread.
     LinuxCallApps callApps_{[this](const std::string& id) { return workspace_.desktopEntry(id); }};
     AutostartLoginItem loginItem_;
     AlwaysGrantedPermission capturePermission_;

@@ -10,7 +10,7 @@
 
 namespace fadeloom {
 
-/// The user's applications and files, for a program that is on no platform of this machine.
+/// The user's applications and files, for a program that does not run on this machine's platform.
 class HomeWorkspace {
 public:
     [[nodiscard]] Workspace& workspace() { return workspace_; }

@@ -17,7 +17,7 @@ namespace {
 const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 const QString managerInterface = QStringLiteral("org.freedesktop.DBus.ObjectManager");
 
-// Qt adds the other standard ones by itself.
+// Qt adds the other standard interfaces.
 constexpr const char* managerXml = R"(<interface name="org.freedesktop.DBus.ObjectManager">
 <method name="GetManagedObjects"><arg name="objects" type="a{oa{sa{sv}}}" direction="out"/></method>
 <signal name="InterfacesAdded"><arg name="object" type="o"/><arg name="interfaces" type="a{sa{sv}}"/></signal>
@@ -56,7 +56,7 @@ MixerBus::MixerBus(const QDBusConnection& connection, const ServedControl& contr
     , callers_(connection)
     , announcer_((registerBusTypes(), connection), control.mainLoop, control.controller, control.version)
 {
-    callers_.whenGone([this](const QString& sender) { unsubscribe(sender); });
+    callers_.whenDisconnected([this](const QString& sender) { unsubscribe(sender); });
 }
 
 QString MixerBus::introspect(const QString& path) const
@@ -224,7 +224,7 @@ MixerBus::Answer MixerBus::appMethod(const QDBusMessage& message, const std::str
 
 MixerBus::Answer MixerBus::run(const QStringList& words, Caller caller)
 {
-    // What takes or gives a path: the bus is no place for one.
+    // Commands with paths are not available on the bus.
     constexpr std::array withPaths = {"recordings", "export", "restore"};
     std::vector<std::string> command;
     for (const auto& word : words)

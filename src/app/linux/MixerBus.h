@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The mixer on the session bus: objects that other programs read, write and follow.
+// The mixer on the session bus: objects that other programs read, write and watch.
 #pragma once
 
 #include "app/ServedControl.h"
@@ -20,13 +20,13 @@ namespace fadeloom {
 /// Thread: main.
 class MixerBus final : public InstanceTree {
 public:
-    /// All must outlive this. `connection`: the one that owns the name.
+    /// All arguments must outlive this. `connection`: the one that owns the name.
     MixerBus(const QDBusConnection& connection, const ServedControl& control);
     MixerBus(const MixerBus&) = delete;
     MixerBus& operator=(const MixerBus&) = delete;
 
     [[nodiscard]] QString introspect(const QString& path) const override;
-    /// Answers now or later. False for what Qt answers by itself.
+    /// Replies now or later. False for what Qt handles itself.
     bool handle(const QDBusMessage& message) override;
 
 private:

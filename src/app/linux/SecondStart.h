@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a start says and how it ends when the program runs already.
+// Messages and exit statuses of a start while another instance is running.
 #pragma once
 
 #include "app/EarlyEnd.h"
@@ -10,10 +10,10 @@
 
 namespace fadeloom {
 
-/// The folder in which the instances of a user's session meet.
+/// The folder of the session's lock and socket.
 [[nodiscard]] std::filesystem::path instanceFolder();
 
-/// Absent for the first start. `request`: what the other instance was asked for.
+/// nullopt for the first start. `request`: what the other instance was asked to do.
 [[nodiscard]] std::optional<EarlyEnd> secondStart(SingleInstance::Start start, InstanceRequest request);
 
 }  // namespace fadeloom

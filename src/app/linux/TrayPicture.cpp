@@ -48,7 +48,7 @@ QPixmap rim(int size, const QColor& color)
     return result;
 }
 
-/// Those whose bars draw symbolic icons in the colour of their text.
+/// Desktops whose bars draw symbolic icons in their text colour.
 bool recoloursIcons(const QString& desktop)
 {
     const auto names = desktop.split(QLatin1Char(':'));

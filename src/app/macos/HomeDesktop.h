@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The program on macOS: its item in the menu bar, dialogs, the look.
+// The program on macOS: its menu bar item, dialogs, the appearance.
 #pragma once
 
-#include "platform/DesktopLook.h"
+#include "platform/DesktopAppearance.h"
 #include "platform/macos/AppKitApplication.h"
 #include "platform/macos/AppKitDialogs.h"
 #include "platform/macos/AppearanceWatch.h"
@@ -17,7 +17,7 @@ namespace fadeloom {
 /// Needs a QGuiApplication. Thread: main.
 class HomeDesktop {
 public:
-    /// Before the application object. Says whether there is a display to draw on.
+    /// Call before creating the application object. Returns whether there is a display.
     [[nodiscard]] static bool prepare() { return true; }
 
     HomeDesktop() = default;
@@ -27,21 +27,21 @@ public:
     [[nodiscard]] Application& application() { return application_; }
     [[nodiscard]] Dialogs& dialogs() { return dialogs_; }
     [[nodiscard]] MenuBarItem& icon() { return icon_; }
-    [[nodiscard]] DesktopLook look() const { return {.isDark = look_.isDark()}; }
-    /// Called from now on whenever windows are to look otherwise.
-    void whenLookChanges(std::function<void(const DesktopLook&)> changed)
+    [[nodiscard]] DesktopAppearance appearance() const { return {.isDark = appearance_.isDark()}; }
+    /// Called whenever the system's appearance changes.
+    void whenAppearanceChanges(std::function<void(const DesktopAppearance&)> changed)
     {
-        lookChanged_ = std::move(changed);
+        appearanceChanged_ = std::move(changed);
     }
-    /// Called when the user logs out or shuts down, while there still is time to put things in order.
+    /// Called when the user logs out or shuts down, while there is still time to shut down cleanly.
     void whenSessionEnds(std::function<void()> ends) { sessionEnds_ = std::move(ends); }
 
 private:
-    std::function<void(const DesktopLook&)> lookChanged_ = [](const DesktopLook&) { };
+    std::function<void(const DesktopAppearance&)> appearanceChanged_ = [](const DesktopAppearance&) { };
     std::function<void()> sessionEnds_ = [] { };
     AppKitApplication application_;
     AppKitDialogs dialogs_;
-    AppearanceWatch look_{[this](bool isDark) { lookChanged_({.isDark = isDark}); }};
+    AppearanceWatch appearance_{[this](bool isDark) { appearanceChanged_({.isDark = isDark}); }};
     MenuBarItem icon_;
     PowerOffWatch powerOff_{[this] { sessionEnds_(); }};
 };

@@ -4,7 +4,7 @@
 
 namespace fadeloom {
 
-/// Taps belong to the audio system, which decides itself what becomes of them while the program stands still.
+/// Taps belong to the audio system, which decides what happens to them while the program is stopped.
 class HomeGuardian { };
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One instance for a user on macOS: a second start opens the first one's panel.
+// One instance per user on macOS: a second start opens the first one's panel.
 #pragma once
 
 #include "app/RunningAlready.h"
@@ -26,22 +26,23 @@ public:
         std::optional<ServedControl> control = std::nullopt;
     };
 
-    /// Becomes the one instance; else asks the other one, to show its panel if `wantsPanel`, and tells how that went.
-    [[nodiscard]] std::optional<EarlyEnd> claim(bool wantsPanel)
+    /// Becomes the only instance; otherwise asks the other one, to show its panel if wanted, and returns the
+    /// outcome.
+    [[nodiscard]] std::optional<EarlyEnd> claim(OpenPanel openPanel)
     {
-        const auto start = instance_.claim(wantsPanel);
+        const auto start = instance_.claim(openPanel == OpenPanel::yes);
         if (start == OneInstance::Start::first)
             return std::nullopt;
-        if (!wantsPanel)
+        if (openPanel == OpenPanel::no)
             return runningAlready::wouldCompete();
         if (start == OneInstance::Start::besideHeadless)
             return runningAlready::withoutPanel();
         instance_.askToOpen();
         return runningAlready::panelIsOpen();
     }
-    /// What is done from now on when others ask.
+    /// Sets how requests are handled from now on.
     void serve(Actions actions) { instance_.serve(std::move(actions.open)); }
-    /// From now on others wait for the end.
+    /// From now on other instances wait for the exit.
     void beginEnding() { instance_.beginEnding(); }
 
 private:

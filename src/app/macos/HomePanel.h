@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The panel in the popover below the item in the menu bar.
+// The panel in the popover below the menu bar item.
 #pragma once
 
 #include "app/macos/HomeDesktop.h"
@@ -25,10 +25,10 @@ public:
     HomePanel& operator=(const HomePanel&) = delete;
 
     [[nodiscard]] Popover& popover() { return popover_; }
-    /// What it shows, made when it opens for the first time; its implicit size is the panel's.
+    /// The content, created when it opens for the first time; its implicit size is the panel's.
     void setContent(std::function<std::unique_ptr<QQuickItem>()> make)
     {
-        popover_.whenFirstNeeded([this, make = std::move(make)] {
+        popover_.whenFirstShown([this, make = std::move(make)] {
             if (auto content = make())
                 content_.emplace(popover_, std::move(content));
         });

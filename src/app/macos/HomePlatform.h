@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// This machine as the program sees it on macOS, with requests to a web server, which are Qt's.
+// The platform on macOS, with HTTP requests through Qt.
 #pragma once
 
 #include "app/macos/HomeGuardian.h"

@@ -11,7 +11,7 @@ PopoverContent::PopoverContent(AppKitPopover& popover, std::unique_ptr<QQuickIte
     , host_(QWindow::fromWinId(reinterpret_cast<WId>(popover.contentView())))
     , view_(std::make_unique<EscapableView>([&popover] { popover.close(); }, host_.get()))
 {
-    view_->setColor(Qt::transparent);  // What the popover is made of shines through.
+    view_->setColor(Qt::transparent);  // Shows the popover's material.
     view_->setResizeMode(QQuickView::SizeViewToRootObject);
     view_->setContent({}, nullptr, content.release());
     QObject::connect(view_.get(), &QWindow::widthChanged, view_.get(), [this] { fitPopover(); });
@@ -24,7 +24,7 @@ PopoverContent::PopoverContent(AppKitPopover& popover, std::unique_ptr<QQuickIte
 PopoverContent::~PopoverContent()
 {
     view_->disconnect();
-    view_.reset();  // Before its host, which would end it as a child.
+    view_.reset();  // Before its host, which would destroy it as a child.
 }
 
 QQuickView& PopoverContent::view()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The panel inside of the popover of macOS.
+// The panel inside the macOS popover.
 #pragma once
 
 #include <QQuickItem>
@@ -12,7 +12,7 @@ namespace fadeloom {
 
 class AppKitPopover;
 
-/// A Qt window without a frame, laid into the view that the popover hands out. Its content gives the popover its size.
+/// A frameless Qt window, embedded in the view that the popover provides. Its content determines the popover's size.
 /// Needs a QGuiApplication. Thread: main.
 class PopoverContent {
 public:
@@ -28,7 +28,7 @@ private:
     void fitPopover();
 
     AppKitPopover& popover_;
-    std::unique_ptr<QWindow> host_;  // The popover's view, as Qt sees it.
+    std::unique_ptr<QWindow> host_;  // The popover's view, wrapped by Qt.
     std::unique_ptr<QQuickView> view_;
 };
 

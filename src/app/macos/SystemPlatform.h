@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What macOS itself answers: CoreAudio, AudioToolbox, AppKit. Requests to a web server come from elsewhere.
+// The services of macOS itself: CoreAudio, AudioToolbox, AppKit. HTTP is provided elsewhere.
 #pragma once
 
 #include "platform/Platform.h"
@@ -17,13 +17,13 @@
 
 namespace fadeloom {
 
-/// The folder in which the pictures of applications are kept for the panel.
+/// The folder in which application icons are cached for the panel.
 [[nodiscard]] std::filesystem::path iconFolder(const FoundationFolders& folders);
 
 /// Thread: main.
 class SystemPlatform {
 public:
-    /// The main loop has to serve the main dispatch queue, as Qt's does. All must outlive this.
+    /// The main loop must serve the main dispatch queue, as Qt's does. All arguments must outlive this.
     SystemPlatform(MainLoop& mainLoop, SystemLog& systemLog, HttpClient& http);
     SystemPlatform(const SystemPlatform&) = delete;
     SystemPlatform& operator=(const SystemPlatform&) = delete;

@@ -11,10 +11,10 @@ namespace fadeloom {
 
 namespace {
 
-using Frames = std::array<float, kernelFrames>;  // A value for each frame.
+using Frames = std::array<float, kernelFrames>;  // A value per frame.
 
-// A step that changes nothing is followed by more of the same: at the target, and where single precision stops a slow
-// glide just before it. Bits are compared, for a gain of -0 gives other samples than one of 0.
+// A step that changes nothing is followed by identical ones: at the target, and where single precision stops a slow
+// ramp just short of it. Bits are compared, because a gain of -0 gives other samples than one of 0.
 bool isSteady(GainSmoother smoother, float target)
 {
     const float before = smoother.current;
@@ -22,8 +22,8 @@ bool isSteady(GainSmoother smoother, float target)
     return std::bit_cast<std::uint32_t>(smoother.current) == std::bit_cast<std::uint32_t>(before);
 }
 
-// The release comes to a stop in the same way, mostly just below 1. Rounding keeps the order of products: when the
-// highest frame does not set the limiter off, none does.
+// The release settles in the same way, usually just below 1. Rounding preserves the order of products: if the largest
+// frame does not trigger the limiter, none does.
 bool isAtRest(const PeakLimiter& limiter, float highest)
 {
     return limiter.recovered() == limiter.reduction && !(limiter.reduction * highest > PeakLimiter::ceiling);
@@ -37,7 +37,7 @@ void glide(GainSmoother& smoother, float target, std::span<float> gains)
         const bool hasArrived = moving.approach(target);
         *gain++ = moving.current;
         if (hasArrived)
-            break;  // To go on in the same loop would make each step of it wait for the choice.
+            break;  // Continuing in the same loop would make each step depend on the branch.
     }
     std::fill(gain, gains.end(), moving.current);
     smoother = moving;

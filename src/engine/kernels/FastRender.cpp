@@ -12,7 +12,7 @@ namespace fadeloom {
 
 namespace {
 
-// Their bytes, all at once: faster than number by number. At worst, what is the same is laid out once more.
+// Compares all bytes at once, which is faster than number by number. At worst, equal sections are packed once more.
 bool areSame(const EQCoefficients& one, const EQCoefficients& other)
 {
     const auto bytes = std::as_bytes(std::span(one));
@@ -34,9 +34,9 @@ bool isAtZero(const RenderState& state)
     return true;
 }
 
-// After the sound has ended, memories fade into numbers so small that processors are slow with them, and may stay there
-// for good. This is 35 decades below what the equalizer puts out as 0, and 16 is as far as an addition looks: no sample
-// can tell. And at 0 the silence that follows costs next to nothing.
+// After the audio has ended, the filter state decays into denormals, which are slow, and may stay there permanently.
+// This threshold is 35 decades below the output that the equalizer flushes, and an addition reaches only 16: no sample
+// is affected. With zero state the silence that follows costs next to nothing.
 constexpr double inaudible = 1e-60;
 
 void flushDenormals(EQChannelState& memory)
@@ -72,7 +72,7 @@ float FastRender::render(RenderState& state, const RenderSettings& settings, std
     return highest;
 }
 
-// A flat section passes its input on, and what it remembers from before it was flat is gone after two frames.
+// A flat section passes its input through, and the state from before it was flat is gone after two frames.
 void FastRender::prepareSections(
     const RenderState& state, const EQCoefficients& sections) noexcept FADELOOM_NONBLOCKING
 {

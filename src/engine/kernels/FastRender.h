@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: MIT
-// The render path on vectors: the bits of the plain form, in a fraction of its time.
+// The vectorized render path: the bits of the plain implementation, in a fraction of the time.
 //
-// It works on many samples at a time, and leaves out what would change nothing: flat sections, the equalizer in
-// silence, gains and a limiter that stand still. docs/rendering.md tells why that is exact.
+// It processes many samples at a time, and skips work without effect: flat sections, the equalizer in silence, settled
+// gains and limiter. docs/rendering.md explains why that is exact.
 #pragma once
 
 #include "base/RealTime.h"
 #include "engine/EqualizerDesign.h"
-#include "engine/kernels/RenderKernels.h"
 #include "engine/RenderState.h"
+#include "engine/kernels/RenderKernels.h"
 #include "engine/kernels/SectionPacking.h"
 
 #include <span>
 
 namespace fadeloom {
 
-/// The path of one app. Beside the state it keeps only what follows from the last settings. Thread: IO.
+/// The path of one app. Besides the state it caches only what follows from the last settings. Thread: IO.
 class FastRender {
 public:
     explicit FastRender(const RenderKernels& kernels) noexcept
@@ -23,8 +23,8 @@ public:
     {
     }
 
-    /// As `renderPlain`. What the filters remember may differ where no sample shows it: memories below 1e-60 become 0,
-    /// and zeros may have the other sign.
+    /// Equivalent to `renderPlain`. The filter state may differ where no sample shows it: values below 1e-60 become 0,
+    /// and zeros may have the opposite sign.
     [[nodiscard]] float render(RenderState& state, const RenderSettings& settings, std::span<float> left,
         std::span<float> right) noexcept FADELOOM_NONBLOCKING;
 

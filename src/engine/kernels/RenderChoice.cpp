@@ -9,7 +9,7 @@ std::span<const RenderKernels* const> usableKernels() noexcept
 {
 #ifdef __x86_64__
     static constexpr std::array all{&baselineKernels, &avx2Kernels};
-    // Asks for the system's part as well: that it keeps the wide registers of each thread.
+    // Also checks for the system's support: saving the wide registers of each thread.
     return __builtin_cpu_supports("avx2") ? std::span(all) : std::span(all).first(1);
 #else
     static constexpr std::array all{&baselineKernels};

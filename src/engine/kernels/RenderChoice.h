@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which form of the render path this processor runs best.
+// Selects the fastest render path for this processor.
 #pragma once
 
 #include "engine/kernels/RenderKernels.h"
@@ -8,10 +8,10 @@
 
 namespace fadeloom {
 
-/// Every set of kernels that this processor can run, the best one last.
+/// All kernels that this processor can run, the best one last.
 [[nodiscard]] std::span<const RenderKernels* const> usableKernels() noexcept;
 
-/// The best kernels; null for the plain form, which a build can ask for (FADELOOM_PLAIN_RENDER).
+/// The best kernels; null for the plain implementation, which a build can select (FADELOOM_PLAIN_RENDER).
 [[nodiscard]] const RenderKernels* chosenKernels() noexcept;
 
 }  // namespace fadeloom

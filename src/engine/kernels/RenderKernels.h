@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The loops of the fast render path, compiled once for each kind of processor.
+// The inner loops of the fast render path, compiled once per instruction set.
 //
-// A unit that is compiled for newer processors shares plain data with the others and nothing else: of an inline
-// function that two units use the linker keeps one, and that could be the one that older processors cannot run. So
-// nothing in this header has a body.
+// A translation unit compiled for newer processors shares only plain data with the others: of an inline function used
+// by two units the linker keeps one copy, possibly the one that older processors cannot run. So nothing in this header
+// has a body.
 #pragma once
 
 #include "base/RealTime.h"
@@ -12,25 +12,25 @@
 
 namespace fadeloom {
 
-/// The loops go no further than this many frames at a time: what passes between them then stays in the nearest cache.
+/// The loops process at most this many frames at a time: intermediate data then stays in the L1 cache.
 inline constexpr std::size_t kernelFrames = 512;
 
-/// One run of the cascade: sections in series, one or two of them in a vector, each for left and right.
-/// They stand in slots, in the order of the sound. Vector v holds slot v in its first half, and in its second half,
-/// where it has one, slot `vectors` + v: so what a vector puts out is the next one's input as it is.
+/// One pass of the cascade: sections in series, one or two of them per vector, each for left and right. They are in
+/// slots, in signal order. Vector v holds slot v in its first half and, if it has a second half, slot `vectors` + v in
+/// that: so a vector's output is the next one's input as is.
 struct SectionPass {
     static constexpr int maximumSlots = 10;
 
     int sections;
     int halves;  // 1 or 2.
     int vectors;
-    int bands
-        [maximumSlots];  // Of each slot that has a section; what is left over at the end changes nothing.
-    /// Vector after vector b0, b1, b2, a1, a2; of each the halves, and of these left and right, which are the same.
+    // The band of each slot that has a section; unused slots at the end are identities.
+    int bands[maximumSlots];
+    /// Vector by vector b0, b1, b2, a1, a2; of each the halves, and of these left and right, which are equal.
     alignas(32) double coefficients[maximumSlots * 5 * 2];
 };
 
-/// All sections that have something to do.
+/// All active sections.
 struct PackedSections {
     static constexpr int maximumPasses = 2;
 
@@ -38,7 +38,7 @@ struct PackedSections {
     SectionPass passes[maximumPasses];
 };
 
-/// Where the sections' memories are kept, by band.
+/// The sections' state, by band.
 struct SectionMemories {
     double* leftZ1;
     double* leftZ2;
@@ -46,28 +46,28 @@ struct SectionMemories {
     double* rightZ2;
 };
 
-/// Each function takes up to `kernelFrames` frames of planar stereo and works in place. Thread: IO.
+/// Each function processes up to `kernelFrames` frames of planar stereo in place. Thread: IO.
 struct RenderKernels {
     const char* name;
-    int halves;  // The most that a vector has.
+    int halves;  // The maximum per vector.
 
-    /// Preamp and sections. A sample that is not finite after the preamp is silence.
+    /// Preamp and sections. A sample that is not finite after the preamp becomes silence.
     void (*equalize)(const PackedSections& sections, const SectionMemories& memories, float preamp,
         float* left, float* right, std::size_t frames) noexcept FADELOOM_NONBLOCKING;
-    /// Multiplies by one gain. A product that is not finite is silence. Returns the highest magnitude.
+    /// Multiplies by one gain. A product that is not finite becomes silence. Returns the maximum magnitude.
     float (*scale)(float gain, float* left, float* right, std::size_t frames) noexcept FADELOOM_NONBLOCKING;
-    /// The same, with a gain for each frame.
+    /// The same, with a gain per frame.
     float (*scaleEach)(
         const float* gains, float* left, float* right, std::size_t frames) noexcept FADELOOM_NONBLOCKING;
-    /// Writes the magnitude of each frame's louder side.
+    /// Writes the magnitude of each frame's louder channel.
     void (*magnitudes)(const float* left, const float* right, float* louder,
         std::size_t frames) noexcept FADELOOM_NONBLOCKING;
-    /// Whether every sample is 0.
+    /// Whether all samples are 0.
     bool (*areSilent)(
         const float* left, const float* right, std::size_t frames) noexcept FADELOOM_NONBLOCKING;
 };
 
-/// For every processor that the program is built for.
+/// For the baseline of every supported architecture.
 extern const RenderKernels baselineKernels;
 
 #ifdef __x86_64__

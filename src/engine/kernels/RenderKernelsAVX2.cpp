@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Compiled for processors with AVX2. On other architectures there is nothing in it.
+// Compiled for processors with AVX2. Empty on other architectures.
 #ifdef __x86_64__
 
 #include "engine/kernels/VectorKernels.h"

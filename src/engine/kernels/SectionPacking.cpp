@@ -7,10 +7,10 @@ namespace fadeloom {
 
 namespace {
 
-// A vector of sections takes three registers of the sixteen that most processors have.
+// A vector of sections takes three of the sixteen registers that most processors have.
 constexpr int maximumVectors = 5;
 
-// So few sections wait for their own last step, and not for each other: vectors twice as wide would gain nothing.
+// With so few sections the limit is the latency of each section's recursion: vectors twice as wide would gain nothing.
 constexpr int fewSections = 4;
 
 int roundedUp(int number, int parts)

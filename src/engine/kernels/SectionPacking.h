@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Lays sections out for the vectors of the render kernels.
+// Packs sections into the vectors of the render kernels.
 #pragma once
 
 #include "base/RealTime.h"
@@ -12,7 +12,7 @@ namespace fadeloom {
 
 using SectionSet = std::bitset<eqBandCount>;  // By band.
 
-/// The chosen sections, in band order, in as few passes as are fastest. `halves`: the most that a vector has.
+/// The selected sections, in band order, in the fastest number of passes. `halves`: the maximum per vector.
 [[nodiscard]] PackedSections packed(
     const EQCoefficients& sections, SectionSet chosen, int halves) noexcept FADELOOM_NONBLOCKING;
 

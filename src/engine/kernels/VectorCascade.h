@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The equalizer's sections in both channels, as many at once as the processor has lanes for.
+// The equalizer's sections in both channels, as many in parallel as the processor has lanes for.
 //
-// What section s does with frame i depends on what section s - 1 made of that frame, on what section s remembers of
-// frame i - 1, and on nothing else. So in step t section s works on frame t - s: then the sections of one step do not
-// depend on each other. Each does the operations of the plain form, on the same operands, in the same order.
+// The result of section s for frame i depends only on the output of section s - 1 for that frame, and on the state of
+// section s after frame i - 1. So in step t section s processes frame t - s: then the sections of one step are
+// independent. Each performs the operations of the plain implementation, on the same operands, in the same order.
 #pragma once
 
 #include "engine/kernels/VectorSection.h"
@@ -15,11 +15,11 @@
 namespace fadeloom {
 namespace {
 
-/// `Form`: whose step the sections take.
+/// `Form`: provides the section's step.
 template <class Form, int halves, int vectors>
 class Cascade {
 public:
-    /// Sends frames through the sections of a pass, in place. Not inlined: here compilers have all registers for it.
+    /// Runs frames through the sections of a pass, in place. Not inlined: here compilers have all registers available.
     [[gnu::noinline]] static void run(
         const SectionPass& pass, const SectionMemories& memories, Pair* frames, std::size_t count)
     {
@@ -47,12 +47,12 @@ private:
     {
     }
 
-    // All sections by one step: `frame` enters the first, what the last one puts out is returned.
+    // Advances all sections by one step: `frame` enters the first, the output of the last is returned.
     template <int... number>
     FADELOOM_INLINE Pair step(Pair frame, Sequence<number...>)
     {
         const Vector first = Slot::entered(frame, input_[0]);
-        // The last one first: each finds its input before it is replaced.
+        // The last one first: each reads its input before it is replaced.
         (advance<vectors - 1 - number>(first), ...);
         return Slot::last(input_[0]);
     }
@@ -63,15 +63,14 @@ private:
         input_[(number + 1) % vectors] = Form::step(section<number>(), z1_[number], z2_[number], x);
     }
 
-    // A vector may be read from memory that was written as its elements.
+    // A vector may alias memory that was written as its elements.
     template <int number>
     FADELOOM_INLINE const SectionVector<Vector>& section() const
     {
         return reinterpret_cast<const SectionVector<Vector>*>(pass_.coefficients)[number];
     }
 
-    // The first frames, until there is one in each section. A section whose turn has not come remembers nothing and is
-    // given nothing, so what it puts out is 0.
+    // Fills the pipeline. A section that no frame has reached yet has zero state and zero input, so it outputs 0.
     FADELOOM_INLINE void runIn(Pair* frames)
     {
         Pair out{};
@@ -97,8 +96,8 @@ private:
         z2_[number] += Slot::placed(memory.z2, half);
     }
 
-    // The same for the frames between, on a copy that nothing points to: what a section remembers is then in a register
-    // when the next frame comes. Through memory, every frame would wait for it.
+    // The steady state, on a local copy whose address is not taken: the state then stays in registers between frames.
+    // Through memory, every frame would wait for it.
     [[gnu::noinline]] static void runSteadily(Cascade& state, Pair* frames, std::size_t count)
     {
         Cascade cascade(state.pass_, state.memories_);
@@ -115,8 +114,8 @@ private:
         ((input_[number] = other.input_[number]), ...);
     }
 
-    // The last frame, until it has left the last section. A section that is done goes on with what it is given, and
-    // nobody looks at what it makes of it.
+    // Drains the pipeline, until the last frame has left the last section. Sections that are done keep running, and
+    // their results are discarded.
     FADELOOM_INLINE void runDown(Pair* frames, std::size_t count)
     {
         Pair frame = frames[count - 1];
@@ -143,7 +142,7 @@ private:
     const SectionMemories& memories_;
     Vector z1_[vectors]{};
     Vector z2_[vectors]{};
-    Vector input_[vectors]{};  // Of the next step. What stands in the first one moves on to its second half.
+    Vector input_[vectors]{};  // For the next step. What is in the first one moves on to its second half.
 };
 
 }  // namespace

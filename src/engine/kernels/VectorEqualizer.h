@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The equalizer from samples to samples: in single precision outside, in double precision in the sections.
+// The equalizer from samples to samples: single precision outside, double precision in the sections.
 #pragma once
 
 #include "base/RealTime.h"
@@ -14,7 +14,7 @@
 namespace fadeloom {
 namespace {
 
-constexpr double flushBelow = 1e-25;  // `eqOutputFlush`, whose header has functions.
+constexpr double flushBelow = 1e-25;  // `eqOutputFlush`, whose header has inline functions.
 constexpr std::int64_t withoutSignOfDouble = 0x7FFFFFFFFFFFFFFF;
 
 FADELOOM_INLINE FourFloats finiteOrSilence(FourFloats samples)
@@ -31,7 +31,7 @@ FADELOOM_INLINE Doubles flushed(Doubles samples)
     return reinterpret_cast<Doubles>(bits & ~(magnitudes < flushBelow));
 }
 
-// Of the ways to write these two, compilers make the instructions that are meant of one here, of another there.
+// Neither formulation of these two compiles to the intended instructions everywhere.
 #ifdef __AVX2__
 FADELOOM_INLINE void widen(FourFloats twoFrames, Pair* frames)
 {
@@ -59,7 +59,7 @@ FADELOOM_INLINE FourFloats flushedAndNarrowed(const Pair* frames)
 }
 #endif
 
-/// Every number of slots that there may be is a loop of its own, so that each vector is a register.
+/// Each possible number of slots gets its own loop, so that every vector is in a register.
 template <class Form>
 void runCascade(const SectionPass& pass, const SectionMemories& memories, Pair* frames, std::size_t count)
 {

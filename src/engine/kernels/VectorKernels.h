@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The render kernels as the unit that includes this compiles them.
+// The render kernels, compiled into the including translation unit.
 #pragma once
 
 #include "engine/kernels/RenderKernels.h"
@@ -9,7 +9,7 @@
 namespace fadeloom {
 namespace {
 
-/// `Form`: the section's step.
+/// `Form`: provides the section's step.
 template <class Form = Section>
 constexpr RenderKernels vectorKernels(const char* name)
 {

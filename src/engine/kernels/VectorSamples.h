@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the render path does to each sample by itself, a vector of them at a time.
+// The per-sample operations of the render path, a vector at a time.
 #pragma once
 
 #include "base/RealTime.h"
@@ -11,8 +11,8 @@
 namespace fadeloom {
 namespace {
 
-// Without their sign, the bits of floats are integers in the order of the magnitudes; from here on up they are infinite
-// or no number.
+// Without the sign, the bits of floats are integers in the order of magnitude; from here on up they are infinities and
+// NaN.
 constexpr std::int32_t withoutSign = 0x7FFFFFFF;
 constexpr std::int32_t notFinite = 0x7F800000;
 
@@ -34,7 +34,7 @@ FADELOOM_INLINE float highestOf(Bits magnitudes)
     return __builtin_bit_cast(float, highest);
 }
 
-/// Returns the highest magnitude of what is left, or `highest`.
+/// Returns the maximum magnitude of the rest, or `highest`.
 [[gnu::noinline, gnu::cold]] inline float zeroNonFinite(float* samples, std::size_t count, float highest)
 {
     for (std::size_t i = 0; i < count; ++i) {
@@ -62,7 +62,7 @@ FADELOOM_INLINE float scaled(GainsAt gainsAt, float* left, float* right, std::si
         highestLeft = higher(magnitude(l), highestLeft);
         highestRight = higher(magnitude(r), highestRight);
     });
-    // What is not finite is above all that is: the peak, which is needed anyway, tells that there is some.
+    // Non-finite values compare above all finite ones: the peak, which is needed anyway, shows whether there are any.
     const float highest = highestOf(higher(highestLeft, highestRight));
     if (highest <= __FLT_MAX__)
         return highest;
@@ -93,7 +93,7 @@ inline void magnitudes(
 
 inline bool areSilent(const float* left, const float* right, std::size_t frames) noexcept FADELOOM_NONBLOCKING
 {
-    // In steps: sound is mostly found in the first one.
+    // In chunks: non-silent audio is usually found in the first one.
     constexpr std::size_t step = 64;
     for (std::size_t first = 0; first < frames; first += step) {
         Bits seen{};

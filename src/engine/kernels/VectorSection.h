@@ -31,7 +31,7 @@ struct Section {
     }
 };
 
-/// What one section remembers of both sides.
+/// The state of one section for both channels.
 struct SectionMemory {
     Pair z1;
     Pair z2;
@@ -53,7 +53,7 @@ FADELOOM_INLINE void keep(const SectionMemory& memory, const SectionMemories& me
     memories.rightZ2[band] = memory.z2[1];
 }
 
-/// The section of one slot by itself.
+/// The section of a single slot.
 FADELOOM_INLINE SectionVector<Pair> sectionAt(int slot, const SectionPass& pass)
 {
     const auto coefficient = [&](int number) {
@@ -64,7 +64,7 @@ FADELOOM_INLINE SectionVector<Pair> sectionAt(int slot, const SectionPass& pass)
     return {coefficient(0), coefficient(1), coefficient(2), coefficient(3), coefficient(4)};
 }
 
-/// Sends frames through the sections of a pass in place, one section after the other. `Form`: whose step they take.
+/// Runs frames through the sections of a pass in place, one section after the other. `Form`: provides their step.
 template <class Form>
 void runOneByOne(const SectionPass& pass, const SectionMemories& memories, Pair* frames, std::size_t count)
 {

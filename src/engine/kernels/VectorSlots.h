@@ -25,7 +25,7 @@ template <>
 struct Slots<2> {
     using Vector = TwoPairs;
 
-    /// The frame in the first half; what was there is in the second.
+    /// Shifts the frame into the first half, whose contents move to the second.
     FADELOOM_INLINE static Vector entered(Pair frame, Vector vector)
     {
         const Vector first = __builtin_shufflevector(frame, frame, 0, 1, -1, -1);

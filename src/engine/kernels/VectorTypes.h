@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Vectors as GCC and Clang know them, as wide as the processor that a unit is compiled for.
+// Vector types of GCC and Clang, as wide as the instruction set of the translation unit.
 //
-// This header and those that build on it belong to the units that are compiled once for each kind of processor. All of
-// it is private to the unit; RenderKernels.h tells why.
+// This header and those that build on it belong to the units that are compiled once per instruction set. Everything is
+// private to the unit; RenderKernels.h explains why.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 
-/// For functions that take or give vectors: called, they would pass them through memory.
+/// For functions with vector parameters or results: out of line, they would pass them through memory.
 #define FADELOOM_INLINE [[gnu::always_inline]] inline
 
 namespace fadeloom {
@@ -31,7 +31,7 @@ using PairBits = std::int64_t __attribute__((vector_size(16)));
 using TwoPairs = double __attribute__((vector_size(32)));
 using TwoPairsBits = std::int64_t __attribute__((vector_size(32)));
 
-/// How much of a vector there is in memory: all of it, or at the end of a block the first few.
+/// How much of a vector is in memory: all of it, or at the end of a block the first few elements.
 struct Whole { };
 struct Part {
     std::size_t count;
@@ -63,7 +63,7 @@ FADELOOM_INLINE void store(Vector vector, float* samples, Part part)
     __builtin_memcpy(samples, &vector, part.count * sizeof(float));
 }
 
-/// Calls `body` for each vector of samples: with the place of its first one, and how much of it there is.
+/// Calls `body` for each vector of samples, with the index of its first one, and its size.
 template <std::size_t width, class Body>
 FADELOOM_INLINE void forEachVector(std::size_t samples, Body body)
 {

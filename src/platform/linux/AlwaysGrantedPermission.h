@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The consent to capture on a system that does not ask for one.
+// The capture permission on a system that does not require one.
 #pragma once
 
 #include "platform/CapturePermission.h"
@@ -8,10 +8,10 @@ namespace fadeloom {
 
 class AlwaysGrantedPermission final : public CapturePermission {
 public:
-    /// Absent: there is no privacy database to ask.
+    /// nullopt: there is no privacy database.
     std::optional<int> preflight() const override { return std::nullopt; }
     bool canRequest() const override { return false; }
-    /// Answers at once, on the caller's thread.
+    /// Replies immediately, on the caller's thread.
     void request(std::function<void(bool)> answered) override { answered(true); }
 };
 

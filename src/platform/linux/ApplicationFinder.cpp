@@ -15,7 +15,7 @@ ApplicationFinder::ApplicationFinder(ProcessTable& processes, const DesktopEntri
 
 const std::optional<FoundApplication>& ApplicationFinder::find(ProcessID pid)
 {
-    // The answer stands before it is known: a circle of parents, which a changing table can show, ends there.
+    // Inserted before recursing: terminates on a cycle of parents, which a changing process table can show.
     const auto [known, isNew] = found_.try_emplace(pid);
     if (isNew)
         known->second = decide(pid);
@@ -38,7 +38,7 @@ std::optional<FoundApplication> ApplicationFinder::decide(ProcessID pid)
     return application;
 }
 
-// A browser starts itself again for its helpers, without the arguments by which a web app of it is known.
+// A browser restarts itself for its helpers, without the arguments that identify its web app.
 bool ApplicationFinder::isHelper(const ProcessInfo& process)
 {
     const ProcessInfo* const parent = processes_.find(process.parent);
@@ -70,7 +70,7 @@ const DesktopEntry* ApplicationFinder::entryOfUnit(const ProcessInfo& process, c
             continue;
         if (entry->answersForChildren())
             return entry;
-        // A unit is shared by everything that was started in it: here only the first one is the application itself.
+        // A unit is shared by everything started in it: here only the first process is the application itself.
         if (entry->isTerminalEmulator || entry->wantsTerminal)
             return entry == ofProgram ? entry : nullptr;
         const ProcessInfo* const parent = processes_.find(process.parent);

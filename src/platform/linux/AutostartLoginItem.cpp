@@ -65,7 +65,8 @@ std::expected<void, LoginItemError> AutostartLoginItem::registerItem()
     fs::create_directories(folder, error);
     if (error)
         return failed(FileError::Step::createFolder, folder, error);
-    // A link to the null device masks an entry. It is switched on by going, for nothing can be written through it.
+    // A link to the null device masks an entry. It is enabled by removing it, because nothing can be written through
+    // it.
     if (fs::is_character_file(entry_, error))
         fs::remove(entry_, error);
     if (const auto replaced = AtomicFile::replace(entry_, entryText(program_)); !replaced)

@@ -11,11 +11,11 @@
 
 namespace fadeloom {
 
-/// Desktops start what their "autostart" folder names. Their tools switch an entry off without removing it; such an
-/// entry is `notRegistered`. One whose program is gone is `notFound`.
+/// Desktops start the entries of the "autostart" folder. Their tools disable an entry without removing it; such an
+/// entry is `notRegistered`. One whose program no longer exists is `notFound`.
 class AutostartLoginItem final : public LoginItem {
 public:
-    /// `program`: what is to be started, by its absolute path.
+    /// `program`: the absolute path of the program to start.
     explicit AutostartLoginItem(const Variables& variables = processVariables())
         : AutostartLoginItem(variables, startedFile(variables))
     {
@@ -23,7 +23,7 @@ public:
     AutostartLoginItem(const Variables& variables, std::filesystem::path program);
 
     Status status() const override;
-    /// Writes the entry anew, also when there is one: it may name another program, or be switched off.
+    /// Always rewrites the entry, because an existing one may name another program, or be disabled.
     std::expected<void, LoginItemError> registerItem() override;
     std::expected<void, LoginItemError> unregisterItem() override;
 

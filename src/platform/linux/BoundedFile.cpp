@@ -3,13 +3,13 @@
 
 #include "base/FileDescriptor.h"
 
-#include <algorithm>
-#include <array>
-#include <cerrno>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
 
 namespace fadeloom {
 
@@ -27,7 +27,7 @@ std::optional<std::string> readBoundedFile(const std::filesystem::path& file, st
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
-            return std::nullopt;  // A process that has just ended, as a rule.
+            return std::nullopt;  // Usually a process that has just exited.
         if (count == 0)
             break;
         content.append(piece.data(), static_cast<std::size_t>(count));

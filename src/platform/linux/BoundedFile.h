@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reads small files of other people without trusting them.
+// Reads small untrusted files.
 #pragma once
 
 #include <cstddef>
@@ -9,8 +9,8 @@
 
 namespace fadeloom {
 
-/// The first `limit` bytes of a regular file; absent when it cannot be read or is none. Never waits, as reading a pipe
-/// that someone has put in the file's place would.
+/// The first `limit` bytes of a regular file; nullopt if it cannot be read or is not one. Never blocks, as reading a
+/// pipe in the file's place would.
 [[nodiscard]] std::optional<std::string> readBoundedFile(
     const std::filesystem::path& file, std::size_t limit);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where each identifier comes from is in docs/calls.md.
+// docs/calls.md has the source of each identifier.
 #include "platform/linux/CallAppCatalogue.h"
 
 #include <array>

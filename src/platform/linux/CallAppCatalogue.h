@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// By what the well-known call apps are known again on Linux.
+// How to recognize the known call apps on Linux.
 #pragma once
 
 #include <span>
@@ -9,10 +9,10 @@ namespace fadeloom {
 
 struct KnownCallApp {
     std::string_view name;
-    std::span<const std::string_view>
-        bundleIDs;  // Desktop ids and Flatpak ids; the first stands for the app.
-    std::span<const std::string_view> sites;  // Of its web app: hosts, their subdomains included.
-    std::span<const std::string_view> chromiumIDs;  // Of its web app, as browsers of Chromium's kind name it.
+    // Desktop ids and Flatpak ids; the first represents the app.
+    std::span<const std::string_view> bundleIDs;
+    std::span<const std::string_view> sites;  // Hosts of its web app, subdomains included.
+    std::span<const std::string_view> chromiumIDs;  // Identifiers of its web app in Chromium-based browsers.
 };
 
 [[nodiscard]] std::span<const KnownCallApp> callAppCatalogue();

@@ -11,7 +11,7 @@ bool isSandboxed(pid_t process, const std::filesystem::path& processes)
 {
     const auto folder = processes / std::to_string(process);
     std::error_code error;
-    // Flatpak puts the file into the root folder that its programs see; so does the desktop portal tell them.
+    // Flatpak puts this file into the root folder of its sandboxes; the desktop portal identifies them in the same way.
     const auto status = std::filesystem::symlink_status(folder / "root" / ".flatpak-info", error);
     if (process <= 0 || status.type() != std::filesystem::file_type::not_found)
         return true;

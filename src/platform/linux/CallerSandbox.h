@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-// Whether a process that asks us for something is kept in a sandbox.
+// Whether a calling process is sandboxed.
 #pragma once
-
-#include <filesystem>
 
 #include <sys/types.h>
 
+#include <filesystem>
+
 namespace fadeloom {
 
-/// Whether it runs in a Flatpak or a Snap; a process that cannot be looked at counts as sandboxed. `processes`: where
-/// the system shows its processes. Thread: any.
+/// Whether it runs in a Flatpak or a Snap; a process that cannot be inspected counts as sandboxed. `processes`: the
+/// process file system. Thread: any.
 [[nodiscard]] bool isSandboxed(pid_t process, const std::filesystem::path& processes = "/proc");
 
 }  // namespace fadeloom

@@ -6,7 +6,7 @@
 namespace fadeloom {
 namespace {
 
-// A property of the process, like the limit itself.
+// Per process, like the limit itself.
 std::optional<rlim_t> original;
 
 }  // namespace

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
-// How many files the process may have open: each tapped application takes about a dozen.
+// The limit of open files: each tapped application takes about a dozen.
 #pragma once
 
 #include <sys/resource.h>
 
 namespace fadeloom {
 
-/// Raises the limit to what the user may have at most. The first call remembers what it was. Thread: main, before others.
+/// Raises the soft limit to the hard limit. The first call remembers the original one. Thread: main, before other
+/// threads.
 void raiseDescriptorLimit();
 
-/// While one lives, the limit is the one that the process was started with, for programs that are started meanwhile:
-/// some do badly with a higher one. What is open stays open. Thread: any, one at a time.
+/// While an instance exists, the original limit is in effect, for child processes: some do not cope with a higher one.
+/// Open files stay open. Thread: any, one at a time.
 class OriginalDescriptorLimit {
 public:
     OriginalDescriptorLimit();

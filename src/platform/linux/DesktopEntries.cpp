@@ -25,7 +25,7 @@ std::filesystem::file_time_type timeOf(const std::filesystem::path& folder)
     return error ? std::filesystem::file_time_type::min() : time;
 }
 
-/// Programs that start other ones, which their arguments name: the program alone says nothing.
+/// Launchers and interpreters, whose arguments name the actual program.
 bool isLauncher(const DesktopEntry& entry)
 {
     constexpr std::array<std::string_view, 7> launchers{
@@ -40,7 +40,7 @@ bool wasGivenArguments(const DesktopEntry& entry, const ProcessProgram& program)
     });
 }
 
-/// How well an entry fits a process that runs its program: larger is better.
+/// How well an entry matches a process that runs its program: larger is better.
 auto fitness(const DesktopEntry& entry, const ProcessProgram& program)
 {
     const bool isExact = wasGivenArguments(entry, program);
@@ -96,7 +96,7 @@ void DesktopEntries::readFolder(const std::filesystem::path& folder, const std::
 void DesktopEntries::readFile(const std::filesystem::path& file, const std::string& id)
 {
     if (entries_.contains(id))
-        return;  // A more important folder has it.
+        return;  // A folder with higher precedence has it.
     const auto text = readBoundedFile(file, longestDesktopEntry);
     auto entry = text ? parseDesktopEntry(*text, environment_.languages) : std::nullopt;
     if (!entry)
@@ -151,7 +151,7 @@ const DesktopEntry* DesktopEntries::starting(const ProcessProgram& program) cons
                 candidates.push_back(entry);
     std::erase_if(candidates,
         [&](const DesktopEntry* entry) { return isLauncher(*entry) && !wasGivenArguments(*entry, program); });
-    // Of equally good ones the first in order of ids.
+    // Ties are broken by id.
     const auto best = std::ranges::max_element(candidates, [&](const DesktopEntry* a, const DesktopEntry* b) {
         return fitness(*a, program) < fitness(*b, program);
     });

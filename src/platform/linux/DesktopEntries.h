@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The desktop entries of all installed applications, found by id and by the program that they start.
+// The desktop entries of all installed applications, searchable by id and by program.
 #pragma once
 
 #include "platform/linux/DesktopEntry.h"
@@ -19,13 +19,14 @@ public:
     /// Reads nothing yet. `environment` must outlive this.
     explicit DesktopEntries(const LinuxEnvironment& environment);
 
-    /// Reads everything at first, and again when an application has come or gone since. Ends all pointers.
+    /// Reads everything the first time, and again if an application was installed or removed since. Invalidates all
+    /// pointers.
     void refresh();
-    /// Null for none.
+    /// Null if there is none.
     [[nodiscard]] const DesktopEntry* withID(const std::string& id) const;
-    /// The entry that starts this program: the one whose window class it was given, as web apps are; else of the same
-    /// file, else of the same name. Of several, the one whose arguments the process was given, else the plainest. Null
-    /// for none.
+    /// The entry that starts this program: the one with its window class, for web apps; else of the same file, else of
+    /// the same name. Among several, the one whose arguments match the process, else the simplest. Null if there is
+    /// none.
     [[nodiscard]] const DesktopEntry* starting(const ProcessProgram& program) const;
 
 private:
@@ -37,8 +38,8 @@ private:
     [[nodiscard]] bool isCurrent() const;
 
     const LinuxEnvironment& environment_;
-    FolderTimes folderTimes_;  // Of every folder that was read, and of those that were missing.
-    std::map<std::string, DesktopEntry> entries_;  // By id; hidden ones until all is read.
+    FolderTimes folderTimes_;  // Of every folder that was read, and of missing ones.
+    std::map<std::string, DesktopEntry> entries_;  // By id; includes hidden ones until everything is read.
     std::multimap<std::filesystem::path, const DesktopEntry*> byPath_;
     std::multimap<std::string, const DesktopEntry*> byName_;
     std::map<std::string, const DesktopEntry*> byWindowClass_;

@@ -48,7 +48,7 @@ std::string unescaped(std::string_view value)
             break;
         default:
             text += '\\';
-            text += escaped;  // Not one of the format's; left to the next reader.
+            text += escaped;  // Not an escape of this format; kept for the next parser.
         }
     }
     return text;
@@ -77,7 +77,7 @@ std::string escaped(std::string_view text)
     return value;
 }
 
-/// The keys and values of one group; the first of two equal keys counts. Absent when there is no such group.
+/// The keys and values of one group; the first of two equal keys counts. nullopt if there is no such group.
 std::optional<Values> valuesOfGroup(std::string_view text, std::string_view group)
 {
     std::optional<Values> values;
@@ -137,7 +137,7 @@ struct Argument {
     bool hasFieldCode = false;
 };
 
-/// Takes the next argument off the front of `line`, which does not begin with a blank.
+/// Removes the next argument from the start of `line`, which does not begin with a space.
 Argument takeArgument(std::string_view& line)
 {
     Argument argument;
@@ -167,7 +167,8 @@ void dropEnvironment(std::vector<std::string>& command)
         return;
     const auto program = std::find_if(command.begin() + 1, command.end(),
         [](const std::string& argument) { return argument.find('=') == std::string::npos; });
-    command.erase(command.begin(), program);
+    if (program != command.end())  // Else "env" is the program.
+        command.erase(command.begin(), program);
 }
 
 }  // namespace
@@ -181,7 +182,7 @@ std::vector<std::string> parseExec(std::string_view line)
         if (line.empty())
             break;
         Argument argument = takeArgument(line);
-        // The portal's marks around forwarded files ("@@u %U @@") are field codes by another name.
+        // The portal's markers around forwarded files ("@@u %U @@") are a kind of field codes.
         if (!argument.hasFieldCode && !argument.text.starts_with("@@"))
             command.push_back(std::move(argument.text));
     }

@@ -32,7 +32,7 @@ QString qString(const std::string& text)
     return QString::fromStdString(text);
 }
 
-/// A request on its way to the thread: a file, or an address.
+/// A request for the thread: a file, or a URL.
 class Request final : public QEvent {
 public:
     explicit Request(std::filesystem::path itsFile)
@@ -52,8 +52,8 @@ public:
 
 }  // namespace
 
-/// Lives on the thread, and with it the answers that are waited for: all but the constructor, the destructor and
-/// `send` runs there.
+/// Lives on the thread, along with pending replies: everything but the constructor, the destructor and `send` runs
+/// there.
 class FileManager::Worker final : public QObject {
 public:
     Worker(SystemLog& log, const Variables& variables)
@@ -67,7 +67,7 @@ public:
     ~Worker() override
     {
         if (!thread_.isRunning())
-            return;  // Nothing was asked for, and no bus either.
+            return;  // There was no request, and thus no bus.
         thread_.quit();
         thread_.wait();
         QDBusConnection::disconnectFromBus(connectionName);
@@ -75,7 +75,7 @@ public:
 
     void send(std::unique_ptr<Request> request)
     {
-        thread_.start();  // Unless it runs.
+        thread_.start();  // Unless it is running.
         QCoreApplication::postEvent(this, request.release());
     }
 
@@ -97,7 +97,7 @@ private:
         QDBusConnection known{connectionName};
         if (known.isConnected())
             return known;
-        QDBusConnection::disconnectFromBus(connectionName);  // The bus has gone, and may have come again.
+        QDBusConnection::disconnectFromBus(connectionName);  // The bus has gone, and may have been restarted.
         return QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName);
     }
 
@@ -108,7 +108,8 @@ private:
             return openFolder(file, bus.lastError().message().toStdString());
         auto showItems = QDBusMessage::createMethodCall("org.freedesktop.FileManager1",
             "/org/freedesktop/FileManager1", "org.freedesktop.FileManager1", "ShowItems");
-        showItems << QStringList{qString(fileUri(file))} << QString{};  // The second one names no launch.
+        // The second argument is an empty startup id.
+        showItems << QStringList{qString(fileUri(file))} << QString{};
         const auto* const answer = new QDBusPendingCallWatcher{bus.asyncCall(showItems), this};
         QObject::connect(answer, &QDBusPendingCallWatcher::finished, this,
             [this, file](QDBusPendingCallWatcher* finished) {
@@ -169,7 +170,7 @@ void FileManager::reveal(const std::filesystem::path& file)
 
 void FileManager::open(const std::string& url)
 {
-    // A name before a colon, and so nothing that xdg-open would take for a file or an option.
+    // A scheme before the colon, so that xdg-open cannot mistake it for a file or an option.
     const bool hasScheme = url.find("://") != std::string::npos && std::isalpha(url.front()) != 0;
     if (hasScheme)
         worker_->send(std::make_unique<Request>(url));

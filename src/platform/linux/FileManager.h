@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The desktop's programs for files and addresses.
+// Opens files and URLs with the desktop's programs.
 #pragma once
 
 #include "platform/linux/Variables.h"
@@ -12,24 +12,24 @@ namespace fadeloom {
 
 class SystemLog;
 
-/// Asks over the session bus to have a file shown. Where nobody answers to that, the file's folder is opened instead, by
-/// xdg-open, as addresses are.
+/// Requests over the session bus that a file be shown. If nobody responds, the file's folder is opened instead, with
+/// xdg-open, like URLs.
 ///
-/// All of it happens on a thread of its own, which begins with the first request: neither a slow bus nor a slow program
-/// holds anybody up. Needs Qt's application object for as long as it lives. One at a time in a process. Thread: main.
+/// Everything runs on a separate thread, started by the first request: neither a slow bus nor a slow program blocks
+/// anybody. Needs Qt's application object for its whole lifetime. One instance per process. Thread: main.
 class FileManager {
 public:
-    /// `log` hears when something can be shown in no way; it must outlive this. `variables` say where programs are; the
-    /// bus is the process's.
+    /// `log` receives a message if something cannot be shown at all; it must outlive this. `variables` determine where
+    /// programs are; the bus is the process's.
     explicit FileManager(SystemLog& log, const Variables& variables = processVariables());
-    /// Waits for no answer.
+    /// Does not wait for replies.
     ~FileManager();
     FileManager(const FileManager&) = delete;
     FileManager& operator=(const FileManager&) = delete;
 
-    /// Shows the file, selected. Returns at once.
+    /// Selects the file in the file manager. Returns immediately.
     void reveal(const std::filesystem::path& file);
-    /// Opens an address (`https://…`) with the program that the user has chosen for it. Returns at once.
+    /// Opens a URL (`https://…`) with the user's default program. Returns immediately.
     void open(const std::string& url);
 
 private:

@@ -8,7 +8,7 @@ namespace fadeloom {
 
 std::string fileUri(const std::filesystem::path& file)
 {
-    // What no part of a URI gives a meaning to, and the slashes. More might stand for itself, but need not.
+    // Characters unreserved in every part of a URI, and slashes. Others could be left as they are, but need not.
     constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string uri = "file://";

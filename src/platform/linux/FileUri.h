@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Names files to other programs.
+// File URIs, for other programs.
 #pragma once
 
 #include <filesystem>
@@ -7,7 +7,7 @@
 
 namespace fadeloom {
 
-/// The "file:" URI of an absolute path of any bytes; it is plain ASCII.
+/// The "file:" URI of an absolute path of arbitrary bytes; pure ASCII.
 [[nodiscard]] std::string fileUri(const std::filesystem::path& file);
 
 }  // namespace fadeloom

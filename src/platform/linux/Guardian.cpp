@@ -3,20 +3,20 @@
 
 #include "platform/linux/GuardianWatch.h"
 
-#include <csignal>
-#include <fstream>
-#include <new>
-#include <string>
-
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <unistd.h>
 
+#include <csignal>
+#include <fstream>
+#include <new>
+#include <string>
+
 namespace fadeloom {
 namespace {
 
-/// A debugger that has started the program wants that one process.
+/// A debugger that started the program expects a single process.
 bool isTraced()
 {
     std::ifstream status("/proc/self/status");
@@ -28,7 +28,7 @@ bool isTraced()
     return false;
 }
 
-/// What the program has open is the program's: nobody shall wait for us at the other end of a pipe.
+/// Files belong to the child: otherwise the parent would keep the other ends of pipes waiting.
 void letGoOfFiles()
 {
     const int nothing = open("/dev/null", O_RDWR);
@@ -53,7 +53,7 @@ Guardian::Guardian(Release release, int quitSignal)
     const auto awaited = GuardianWatch::signals();
     sigset_t former;
     sigprocmask(SIG_BLOCK, &awaited, &former);
-    std::signal(SIGCHLD, SIG_DFL);  // Ignored, it would tell of no stop.
+    std::signal(SIGCHLD, SIG_DFL);  // Ignored, it would not report stops.
     const pid_t parent = getpid();
     const pid_t program = fork();
     if (program > 0) {
@@ -62,7 +62,7 @@ Guardian::Guardian(Release release, int quitSignal)
         GuardianWatch(program, quitSignal, release, *held).run();
     }
     if (program == 0) {
-        // Whoever kills the program by its number, which is the parent's, means all of it.
+        // Killing the parent's pid is meant for the program too.
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (getppid() != parent)
             _exit(0);

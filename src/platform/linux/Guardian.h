@@ -1,41 +1,41 @@
 // SPDX-License-Identifier: MIT
-// A lean parent that lets go of the applications when the program stands still.
+// A minimal parent process that releases the applications when the program is stopped.
 //
-// The sound of every tapped application runs through this program, so a program that is stopped, with Ctrl-Z or by a
-// SIGSTOP, would silence them all. Its parent sees the stop, has the audio server drop what the program held, and goes
-// on sleeping. Whoever started the program sees the parent: it ends with the program and as the program, passes on what
-// it is asked, and stops and goes on together with it.
+// All tapped applications' audio runs through this program, so stopping it, with Ctrl-Z or SIGSTOP, would silence them
+// all. Its parent notices the stop, makes the audio server drop the program's objects, and continues sleeping. To its
+// own parent it looks like the program: it ends when and how the program ends, forwards signals, and stops and
+// continues together with it.
 #pragma once
+
+#include <sys/types.h>
 
 #include <atomic>
 #include <cstdint>
 
-#include <sys/types.h>
-
 namespace fadeloom {
 
-/// Thread: main, `hold` aside.
+/// Thread: main, except for `hold`.
 class Guardian {
 public:
-    /// Releases what the program holds. Runs in a process of its own, which ends afterwards, in two seconds at most.
+    /// Releases the program's objects. Runs in a separate process, which exits afterwards, in two seconds at most.
     using Release = void (*)(std::uint64_t held, pid_t program);
 
-    /// Splits the process in two and returns in the child, which is the program from then on; the parent ends in here.
-    /// Where that cannot be done, or a debugger is watching, the process stays one and nothing is guarded.
-    /// `quitSignal`: asks the program to end, any number of times. To be called before any thread is started.
+    /// Forks the process and returns in the child, which is the program from then on; the parent never returns. If that
+    /// is impossible, or under a debugger, the process is not split and nothing is guarded. `quitSignal`: requests the
+    /// program's end, any number of times. Call before starting any thread.
     Guardian(Release release, int quitSignal);
     ~Guardian();
     Guardian(const Guardian&) = delete;
     Guardian& operator=(const Guardian&) = delete;
 
-    /// What is to be released when the program stops; 0 for nothing. Thread: any.
+    /// The object to release if the program is stopped; 0 for none. Thread: any.
     void hold(std::uint64_t what) noexcept;
 
 private:
     using Held = std::atomic<std::uint64_t>;
     static_assert(Held::is_always_lock_free);
 
-    Held* held_ = nullptr;  // In memory that parent and child share; null without a parent.
+    Held* held_ = nullptr;  // In memory shared by parent and child; null without a parent.
 };
 
 }  // namespace fadeloom

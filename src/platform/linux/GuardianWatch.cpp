@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/GuardianWatch.h"
 
-#include <cerrno>
-#include <thread>
-
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <thread>
 
 namespace fadeloom {
 namespace {
 
 using namespace std::chrono_literals;
 
-// Those who end a whole group or unit send the same signal to each process of it: what comes this soon after the first
-// is no second wish.
+// Ending a whole group or unit sends the same signal to each of its processes: one that arrives this soon after the
+// first is a duplicate.
 constexpr auto oneWish = 1s;
-// Between a signal that only takes a handler away and one that ends the program.
+// Between a signal that only removes a handler and one that ends the program.
 constexpr auto handlerGone = 50ms;
 constexpr unsigned releaseSeconds = 2;
 
@@ -61,7 +61,8 @@ void GuardianWatch::run() noexcept
             break;
         case SIGTSTP:
             isStopWanted_ = true;
-            kill(program_, SIGTSTP);  // One from the terminal has reached it already; twice is once.
+            // The terminal has already sent it to the program; a second one is harmless.
+            kill(program_, SIGTSTP);
             if (isProgramStopped_)
                 stopWithProgram();
             break;
@@ -73,7 +74,7 @@ void GuardianWatch::run() noexcept
         case SIGQUIT:
         case SIGUSR1:
         case SIGUSR2:
-            if (info.si_code != SI_KERNEL)  // Those of the terminal reach the program as well.
+            if (info.si_code != SI_KERNEL)  // Those of the terminal reach the program directly.
                 kill(program_, signal);
             break;
         default:
@@ -110,7 +111,7 @@ void GuardianWatch::release() noexcept
         release_(held, program_);
         _exit(0);
     }
-    // Before we stop ourselves: it must not be stopped with us.
+    // Before stopping ourselves, so that it is not stopped with us.
     while (helper > 0 && waitpid(helper, nullptr, 0) < 0 && errno == EINTR) { }
 }
 
@@ -119,7 +120,7 @@ void GuardianWatch::stopWithProgram() noexcept
     isStopWanted_ = false;
     isProgramStopped_ = false;
     kill(getpid(), SIGSTOP);
-    // Only we were told to go on, perhaps.
+    // Possibly only we were continued.
     kill(program_, SIGCONT);
 }
 
@@ -134,7 +135,7 @@ void GuardianWatch::askToQuit(int signal) noexcept
         kill(program_, quitSignal_);
         return;
     }
-    // The second wish ends the program as it is.
+    // The second request ends the program immediately.
     kill(program_, signal);
     std::this_thread::sleep_for(handlerGone);
     kill(program_, signal);
@@ -146,7 +147,7 @@ void GuardianWatch::endAs(int status) noexcept
         _exit(WEXITSTATUS(status));
     int signal = WTERMSIG(status);
     if (signal == quitSignal_ && askedSignal_ != 0)
-        signal = askedSignal_;  // It ended before it could handle ours.
+        signal = askedSignal_;  // It ended before it could handle the forwarded one.
     const rlimit noSecondCore{0, 0};
     setrlimit(RLIMIT_CORE, &noSecondCore);
     restoreDefault(signal);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The parent's part of a guarded program: it sleeps until a signal comes.
+// The parent of a guarded program: sleeps until a signal arrives.
 #pragma once
+
+#include <sys/types.h>
 
 #include <atomic>
 #include <chrono>
@@ -8,12 +10,10 @@
 #include <cstdint>
 #include <optional>
 
-#include <sys/types.h>
-
 namespace fadeloom {
 
-/// Memory of its own is all that it needs: it allocates nothing and has no thread. The signals of `signals()` are
-/// blocked while it is at work.
+/// Needs nothing but its own memory: it allocates nothing and has no threads. The signals of `signals()` are blocked
+/// while it runs.
 class GuardianWatch {
 public:
     using Release = void (*)(std::uint64_t held, pid_t program);
@@ -21,9 +21,9 @@ public:
     GuardianWatch(
         pid_t program, int quitSignal, Release itsRelease, const std::atomic<std::uint64_t>& held) noexcept;
 
-    /// What it waits for.
+    /// The signals that it waits for.
     [[nodiscard]] static sigset_t signals() noexcept;
-    /// Ends the process as the program ended.
+    /// Ends the process in the same way as the program.
     [[noreturn]] void run() noexcept;
 
 private:
@@ -39,7 +39,7 @@ private:
     const std::atomic<std::uint64_t>& held_;
     bool isProgramStopped_ = false;
     bool isStopWanted_ = false;  // We are to stop with the program.
-    int askedSignal_ = 0;  // The first that asked for the end.
+    int askedSignal_ = 0;  // The first one that requested the end.
     std::optional<std::chrono::steady_clock::time_point> askedAt_;
 };
 

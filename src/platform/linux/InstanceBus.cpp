@@ -84,7 +84,7 @@ private:
             return std::nullopt;
         if (message.member() == QLatin1String("Activate") || message.member() == QLatin1String("Open"))
             return InstanceRequest::open;
-        // The names of actions begin with a small letter.
+        // The names of actions are in lower case.
         const auto action = message.member() == QLatin1String("ActivateAction")
             ? message.arguments().value(0).toString()
             : QString();
@@ -125,7 +125,7 @@ InstanceBus::~InstanceBus()
 
 bool InstanceBus::claim()
 {
-    // Whoever sees the name may call at once.
+    // Whoever sees the name may call immediately.
     if (!bus_.registerVirtualObject(objectPath, object_.get()))
         return false;
     bus_.registerVirtualObject(treePath, tree_.get(), QDBusConnection::SubPath);
@@ -144,22 +144,22 @@ void InstanceBus::serve(InstanceTree* tree)
     tree_->served = tree;
 }
 
-QDBusMessage InstanceBus::call(InstanceRequest request, std::chrono::milliseconds patience)
+QDBusMessage InstanceBus::call(InstanceRequest request, std::chrono::milliseconds timeout)
 {
     auto question =
         QDBusMessage::createMethodCall(busName, objectPath, interfaceName, qName(nameOf(request)));
     question.setAutoStartService(false);
-    const auto wait = static_cast<int>(std::max(patience, std::chrono::milliseconds(1)).count());
+    const auto wait = static_cast<int>(std::max(timeout, std::chrono::milliseconds(1)).count());
     return bus_.call(question, QDBus::Block, wait);
 }
 
-bool InstanceBus::isHeldByInstance(std::chrono::milliseconds patience)
+bool InstanceBus::isHeldByInstance(std::chrono::milliseconds timeout)
 {
-    const auto reply = call(InstanceRequest::ping, patience);
+    const auto reply = call(InstanceRequest::ping, timeout);
     if (reply.type() == QDBusMessage::ReplyMessage || reply.errorName().startsWith(errorPrefix))
         return true;
     switch (QDBusError(reply).type()) {
-    case QDBusError::ServiceUnknown:  // It has just left: the name can be taken now.
+    case QDBusError::ServiceUnknown:  // It has just exited: the name is free now.
         return true;
     case QDBusError::NoReply:
     case QDBusError::Timeout:
@@ -182,9 +182,9 @@ bool InstanceBus::runsOurExecutable() const
     return !ours.isEmpty() && executable(QString::number(owner.value())) == ours;
 }
 
-std::optional<InstanceAnswer> InstanceBus::ask(InstanceRequest request, std::chrono::milliseconds patience)
+std::optional<InstanceAnswer> InstanceBus::ask(InstanceRequest request, std::chrono::milliseconds timeout)
 {
-    const auto reply = call(request, patience);
+    const auto reply = call(request, timeout);
     if (reply.type() == QDBusMessage::ReplyMessage)
         return InstanceAnswer::done;
     if (!reply.errorName().startsWith(errorPrefix))

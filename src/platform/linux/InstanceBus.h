@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where instances of the program meet: a name on the session bus.
+// Communication between instances: a name on the session bus.
 #pragma once
 
 #include "platform/linux/InstanceRequest.h"
@@ -13,50 +13,50 @@
 
 namespace fadeloom {
 
-/// Objects below "/com/fadeloom/app/Mixer1", and that one. Thread: main.
+/// The object "/com/fadeloom/app/Mixer1", and those below it. Thread: main.
 class InstanceTree {
 public:
     virtual ~InstanceTree() = default;
 
-    /// What is at this path, as elements of introspection.
+    /// The introspection XML of the object at this path.
     [[nodiscard]] virtual QString introspect(const QString& path) const = 0;
-    /// Answers now or later. False for what Qt answers by itself.
+    /// Replies now or later. False for what Qt handles itself.
     virtual bool handle(const QDBusMessage& message) = 0;
 };
 
-/// The name is "com.fadeloom.app", the object "/com/fadeloom/app", the interface called as the name; its methods "Open",
-/// "Toggle", "Quit" and "Ping" take and give nothing. Errors are "com.fadeloom.app.Error.NoPanel" and "….Ending". The object
-/// has the interface "org.freedesktop.Application" as well, by which a desktop starts programs.
+/// The name is "com.fadeloom.app", the object "/com/fadeloom/app", the interface is called like the name; its methods
+/// "Open", "Toggle", "Quit" and "Ping" have no arguments and no result. Errors are "com.fadeloom.app.Error.NoPanel" and
+/// "….Ending". The object also has the interface "org.freedesktop.Application", with which a desktop starts programs.
 ///
-/// Needs Qt's application object; questions are answered by its running event loop. Thread: the one that makes it.
+/// Needs Qt's application object; calls are handled by its running event loop. Thread: the one that creates it.
 class InstanceBus {
 public:
-    /// Connects, on a connection of its own.
+    /// Connects, on a private connection.
     explicit InstanceBus(AnswerInstanceRequest answer);
-    /// Gives the name back.
+    /// Releases the name.
     ~InstanceBus();
     InstanceBus(const InstanceBus&) = delete;
     InstanceBus& operator=(const InstanceBus&) = delete;
 
     [[nodiscard]] bool isConnected() const { return bus_.isConnected(); }
     [[nodiscard]] QDBusConnection connection() const { return bus_; }
-    /// Puts the object there, then takes the name. False when somebody has it.
+    /// Registers the object, then requests the name. False if it is taken.
     [[nodiscard]] bool claim();
-    /// Whether an instance of the program has the name, and no other program: it answers as one, or does not answer in
-    /// time and runs our executable. Waits for that.
-    [[nodiscard]] bool isHeldByInstance(std::chrono::milliseconds patience);
-    /// Asks whoever has the name. Absent when nobody answers in time; waits for that.
+    /// Whether the name belongs to an instance of the program rather than another program: it replies like one, or does
+    /// not reply in time and runs our executable. Blocks for that.
+    [[nodiscard]] bool isHeldByInstance(std::chrono::milliseconds timeout);
+    /// Sends a request to the owner of the name. nullopt without a reply in time; blocks for that.
     [[nodiscard]] std::optional<InstanceAnswer> ask(
-        InstanceRequest request, std::chrono::milliseconds patience);
+        InstanceRequest request, std::chrono::milliseconds timeout);
 
-    /// What is answered below; nothing is while it is null.
+    /// Handles calls to the objects below; none are handled while it is null.
     void serve(InstanceTree* tree);
 
 private:
     class Object;
     class Tree;
 
-    [[nodiscard]] QDBusMessage call(InstanceRequest request, std::chrono::milliseconds patience);
+    [[nodiscard]] QDBusMessage call(InstanceRequest request, std::chrono::milliseconds timeout);
     [[nodiscard]] bool runsOurExecutable() const;
 
     const QString connectionName_;

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/InstanceLock.h"
 
-#include <cerrno>
-#include <utility>
-
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <utility>
 
 namespace fadeloom {
 namespace {
@@ -30,7 +30,7 @@ InstanceLock::~InstanceLock()
     release();
 }
 
-InstanceLock::Outcome InstanceLock::tryToTake()
+InstanceLock::Outcome InstanceLock::tryToLock()
 {
     constexpr int attempts = 10;  // The file may be removed by its last owner between opening and locking it.
     for (int attempt = 0; attempt < attempts; ++attempt) {
@@ -40,7 +40,7 @@ InstanceLock::Outcome InstanceLock::tryToTake()
             return Outcome::unusable;
         if (::flock(descriptor->get(), LOCK_EX | LOCK_NB) != 0)
             return errno == EWOULDBLOCK ? Outcome::heldByAnother : Outcome::unusable;
-        if (isStillInPlace(descriptor->get())) {
+        if (isStillNamed(descriptor->get())) {
             descriptor_ = std::move(descriptor);
             return Outcome::taken;
         }
@@ -56,7 +56,7 @@ void InstanceLock::release()
     descriptor_.reset();
 }
 
-bool InstanceLock::isStillInPlace(int descriptor) const
+bool InstanceLock::isStillNamed(int descriptor) const
 {
     struct stat ours{};
     struct stat named{};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A file that one process at a time has locked.
+// A lock file, held by one process at a time.
 #pragma once
 
 #include "base/FileDescriptor.h"
@@ -9,31 +9,31 @@
 
 namespace fadeloom {
 
-/// The kernel frees the lock when its process ends, however it ends. Thread: one.
+/// The kernel releases the lock when its process ends, for any reason. Thread: one.
 class InstanceLock {
 public:
     enum class Outcome {
         taken,  // It is ours now.
         heldByAnother,
-        unusable,  // Something else has the file's name, or nothing can be made or locked there.
+        unusable,  // Something else has the file's name, or nothing can be created or locked there.
     };
 
     explicit InstanceLock(std::filesystem::path file);
-    /// Frees it.
+    /// Releases it.
     ~InstanceLock();
     InstanceLock(const InstanceLock&) = delete;
     InstanceLock& operator=(const InstanceLock&) = delete;
 
-    /// Waits for nobody: neither for a lock that another process holds nor for the other end of a pipe.
-    [[nodiscard]] Outcome tryToTake();
-    /// Frees a lock that is ours, and removes its file.
+    /// Never blocks: neither on a lock held by another process nor on the other end of a pipe.
+    [[nodiscard]] Outcome tryToLock();
+    /// Releases our lock, and removes its file.
     void release();
 
 private:
-    [[nodiscard]] bool isStillInPlace(int descriptor) const;
+    [[nodiscard]] bool isStillNamed(int descriptor) const;
 
     const std::filesystem::path file_;
-    std::unique_ptr<FileDescriptor> descriptor_;  // There while the lock is ours.
+    std::unique_ptr<FileDescriptor> descriptor_;  // Set while we hold the lock.
 };
 
 }  // namespace fadeloom

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// What one instance of the program asks of another, and what it is told.
+// Requests between instances of the program, and their replies.
 #pragma once
+
+#include <sys/types.h>
 
 #include <array>
 #include <functional>
@@ -9,21 +11,19 @@
 #include <string>
 #include <string_view>
 
-#include <sys/types.h>
-
 namespace fadeloom {
 
 enum class InstanceRequest {
     open,  // Show the panel.
     toggle,  // Show the panel, or close it.
     quit,
-    ping,  // Nothing but an answer.
+    ping,  // Only replies.
 };
 
 enum class InstanceAnswer {
     done,
     noPanel,  // It runs without one.
-    ending,  // It will be gone in a moment.
+    ending,  // It is exiting.
 };
 
 struct InstanceRequestName {
@@ -52,22 +52,22 @@ inline constexpr std::array<InstanceAnswerName, 3> instanceAnswerNames = {{
 [[nodiscard]] std::optional<InstanceRequest> instanceRequestNamed(std::string_view name);
 [[nodiscard]] std::optional<InstanceAnswer> instanceAnswerNamed(std::string_view name);
 
-/// Does what is asked, as far as that can be done. Thread: main.
+/// Handles a request, as far as possible. Thread: main.
 using AnswerInstanceRequest = std::function<InstanceAnswer(InstanceRequest)>;
 
-/// A command of another program.
+/// A command from another program.
 struct InstanceCommand {
     std::string line;
-    pid_t caller = 0;  // Its process; 0 for an unknown one.
-    bool isSandboxed = true;  // As its process was when it connected.
+    pid_t caller = 0;  // Its process; 0 if unknown.
+    bool isSandboxed = true;  // Determined when its process connected.
     bool wantsJson = false;
 };
-/// Does what it says; returns its answer in one line, which begins with the kind of answer. Thread: main.
+/// Executes it; returns its one-line reply, which begins with the kind of reply. Thread: main.
 using RunInstanceCommand = std::function<std::string(const InstanceCommand& command)>;
 
 using SendInstanceLine = std::function<void(const std::string& line)>;
-/// Has what happens sent, as the command's line says, for as long as the result lives; null when nothing comes after
-/// what was sent at once. Thread: main.
+/// Sends events, as specified by the command's line, for as long as the result exists; null if nothing follows what was
+/// sent immediately. Thread: main.
 using WatchInstance =
     std::function<std::shared_ptr<void>(const InstanceCommand& command, SendInstanceLine send)>;
 

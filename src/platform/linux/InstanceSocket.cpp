@@ -9,11 +9,10 @@
 #include <QPointer>
 #include <QTimer>
 #include <QVariant>
+#include <sys/socket.h>
 
 #include <string>
 #include <utility>
-
-#include <sys/socket.h>
 
 namespace fadeloom {
 
@@ -34,7 +33,7 @@ int left(const QDeadlineTimer& deadline)
     return static_cast<int>(deadline.remainingTime());
 }
 
-/// The process at the other end; 0 when the system does not tell.
+/// The peer's process; 0 if the system does not report it.
 pid_t processOf(const QLocalSocket& connection)
 {
     ucred credentials{};
@@ -145,7 +144,7 @@ void InstanceSocket::watch(QLocalSocket& connection, const InstanceCommand& comm
 {
     if (watches_.size() == mostWatchers)
         return refuse(connection, "refused error too many programs watch already");
-    // Whoever falls behind is dropped in a later turn: the one who sends is not to lose its watch while it sends.
+    // Dropped in a later iteration: the sender must not lose its watch while it sends.
     const QPointer<QLocalSocket> reader(&connection);
     const auto send = [reader](const std::string& line) {
         if (!reader || reader->state() != QLocalSocket::ConnectedState || reader->bytesToWrite() > mostUnread)
@@ -162,9 +161,9 @@ void InstanceSocket::watch(QLocalSocket& connection, const InstanceCommand& comm
 }
 
 std::optional<InstanceAnswer> InstanceSocket::ask(
-    InstanceRequest request, std::chrono::milliseconds patience) const
+    InstanceRequest request, std::chrono::milliseconds timeout) const
 {
-    const QDeadlineTimer deadline(patience);
+    const QDeadlineTimer deadline(timeout);
     QLocalSocket socket;
     socket.connectToServer(file_);
     if (!socket.waitForConnected(left(deadline)))

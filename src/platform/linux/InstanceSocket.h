@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Where instances of the program meet without a session bus, and where other programs give it commands: a socket in the
-// user's runtime folder.
+// A socket in the user's runtime directory, through which instances communicate without a session bus, and other
+// programs send commands.
 #pragma once
 
 #include "platform/linux/InstanceRequest.h"
@@ -20,18 +20,18 @@ class QLocalSocket;
 
 namespace fadeloom {
 
-/// A request and its answer are a line each: a name of InstanceRequest.h and one in answer, or "Run" or "Json" with the
-/// words of a command, after which the connection stays for more; the form of the answer is what they differ in. After
-/// "Watch" with its words the connection is sent lines until one side ends it, or the reader falls behind. Only the user
-/// can reach the socket. Needs Qt's application object; questions are answered by its running event loop. Thread: the
-/// one that makes it.
+/// A request and its reply are one line each: a name of InstanceRequest.h and one in reply, or "Run" or "Json", which
+/// select the format of the reply, with the words of a command, after which the connection stays open. After "Watch"
+/// with its words the connection receives lines until either side closes it, or the reader falls behind. Only the user
+/// can reach the socket. Needs Qt's application object; requests are handled by its running event loop. Thread: the one
+/// that creates it.
 class InstanceSocket {
 public:
-    static constexpr qint64 longestLine = 256 * 1024;  // Bytes: all settings of a long life in one line.
+    static constexpr qint64 longestLine = 256 * 1024;  // Bytes: enough for the largest settings on one line.
     static constexpr qint64 mostUnread = 256 * 1024;  // What a caller may leave unread.
     static constexpr int mostConnections = 64;
     static constexpr std::size_t mostWatchers = 64;
-    /// How long a connection may say nothing.
+    /// How long a connection may be idle.
     static constexpr std::chrono::seconds longestSilence{10};
 
     InstanceSocket(const std::filesystem::path& file, AnswerInstanceRequest answer, RunInstanceCommand run,
@@ -39,13 +39,13 @@ public:
     InstanceSocket(const InstanceSocket&) = delete;
     InstanceSocket& operator=(const InstanceSocket&) = delete;
 
-    /// Answers from now on. Only the one instance may call this: it takes the place of a socket that was left behind.
+    /// Starts listening. Only for the first instance: it replaces a stale socket.
     void listen();
-    /// Sends what is left to those that watch, and closes their connections.
+    /// Flushes and closes the connections of watchers.
     void endWatches();
-    /// Asks whoever listens. Absent when nobody answers in time; waits for that.
+    /// Sends a request to the listening instance. nullopt without a reply in time; blocks for that.
     [[nodiscard]] std::optional<InstanceAnswer> ask(
-        InstanceRequest request, std::chrono::milliseconds patience) const;
+        InstanceRequest request, std::chrono::milliseconds timeout) const;
 
 private:
     void accept();
@@ -57,7 +57,7 @@ private:
     const AnswerInstanceRequest answer_;
     const RunInstanceCommand run_;
     const WatchInstance watch_;
-    int connections_ = 0;  // But for those that watch.
+    int connections_ = 0;  // Without watchers.
     std::map<QLocalSocket*, std::shared_ptr<void>> watches_;
     QLocalServer server_;
 };

@@ -22,7 +22,7 @@ bool isOfSite(std::string_view host, std::string_view site)
         || (host.ends_with(site) && host.size() > site.size() && host[host.size() - site.size() - 1] == '.');
 }
 
-/// Some web apps of Firefox tell nothing but their name.
+/// Some web apps of Firefox have no URL, only their name.
 bool isNamed(const DesktopEntry& entry, std::string_view name)
 {
     return entry.id.starts_with("FFPWA-") && entry.site.empty() && entry.name == name;
@@ -36,7 +36,7 @@ bool isWebAppOf(const DesktopEntry& entry, const KnownCallApp& app)
 
 }  // namespace
 
-const std::vector<CallApp>& LinuxCallApps::wellKnown() const
+const std::vector<CallApp>& LinuxCallApps::knownApps() const
 {
     static const std::vector<CallApp> apps = [] {
         std::vector<CallApp> result;
@@ -58,7 +58,7 @@ std::vector<std::string> LinuxCallApps::formerDefaults() const
 
 std::vector<std::string> LinuxCallApps::identifiersOf(const std::string& bundleID) const
 {
-    if (const auto* const app = callAppWith(wellKnown(), bundleID))
+    if (const auto* const app = callAppWith(knownApps(), bundleID))
         return identifiersWith(bundleID, app);
     const auto entry = entryWithID_(bundleID);
     const auto catalogue = callAppCatalogue();
@@ -66,7 +66,7 @@ std::vector<std::string> LinuxCallApps::identifiersOf(const std::string& bundleI
         catalogue, [&](const KnownCallApp& app) { return entry && isWebAppOf(*entry, app); });
     if (known == catalogue.end())
         return {bundleID};
-    return identifiersWith(bundleID, &wellKnown()[static_cast<std::size_t>(known - catalogue.begin())]);
+    return identifiersWith(bundleID, &knownApps()[static_cast<std::size_t>(known - catalogue.begin())]);
 }
 
 }  // namespace fadeloom

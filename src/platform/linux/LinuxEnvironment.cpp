@@ -3,10 +3,10 @@
 
 #include "platform/linux/TextParts.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <string_view>
-
-#include <unistd.h>
 
 namespace fadeloom {
 

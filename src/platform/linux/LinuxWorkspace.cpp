@@ -10,17 +10,16 @@
 
 #include <QFile>
 #include <QProcess>
+#include <unistd.h>
 
 #include <set>
 #include <utility>
-
-#include <unistd.h>
 
 namespace fadeloom {
 
 namespace {
 
-/// The icon of a desktop entry: a file by its path, or a name of the theme, which some write with an ending.
+/// The icon of a desktop entry: a file by its path, or a theme name, which some entries write with an extension.
 std::optional<AppIcon> iconOf(const DesktopEntry& entry)
 {
     if (entry.icon.empty())
@@ -67,7 +66,7 @@ RunningApplication LinuxWorkspace::describe(
         return application;
     }
     const auto program = programOf(process).path;
-    // An executable of a sandbox, or one that was replaced on disk, is still reached through its process.
+    // An executable in a sandbox, or one that was replaced on disk, is still accessible through its process.
     application.bundleLocation =
         isProgram(program) ? program : environment_.processes / std::to_string(pid) / "exe";
     application.localizedName = found.bundleID;

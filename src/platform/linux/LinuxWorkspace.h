@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The applications of a Linux session: desktop entries, and executables where there are none.
+// The applications of a Linux session: desktop entries, or executables without one.
 #pragma once
 
 #include "platform/Workspace.h"
@@ -16,11 +16,11 @@ class FileManager;
 class ProcessTable;
 
 /// An application's bundle identifier is its desktop id, or the name of its executable; its bundle location is the
-/// desktop entry's file, or the executable. Only the user's own processes are seen. How a process's application is
-/// found is told in ApplicationFinder.h.
+/// desktop entry's file, or the executable. Only the user's own processes are visible. ApplicationFinder.h describes
+/// how a process's application is found.
 class LinuxWorkspace final : public Workspace {
 public:
-    /// `fileManager` must outlive this. `ownProgram`: how a further instance of this program is started.
+    /// `fileManager` must outlive this. `ownProgram`: how to start another instance of this program.
     LinuxWorkspace(LinuxEnvironment environment, FileManager& fileManager,
         std::string ownBundleID = "com.fadeloom.app", StartCommand ownProgram = ownCommand());
     LinuxWorkspace(const LinuxWorkspace&) = delete;
@@ -38,12 +38,12 @@ public:
     std::optional<std::string> installedName(const std::string& bundleID) const override;
     /// The desktop entry of an installed application.
     [[nodiscard]] std::optional<DesktopEntry> desktopEntry(const std::string& bundleID) const;
-    /// Started with the arguments of this one; reports before it returns.
+    /// Started with this process's arguments; reports before it returns.
     void openNewInstance(std::function<void()> reported) override;
 
-    /// The bundle identifier of a process's application; empty for no process of the user's. `portalAppID`: what the
-    /// audio server knows of a sandboxed client, whose pid may mean nothing out here; it counts when it is not empty.
-    /// Thread: main, or the one thread that has this object for nothing else.
+    /// The bundle identifier of a process's application; empty if it is not a process of the user. `portalAppID`: the
+    /// audio server's application id for a sandboxed client, whose pid may be meaningless outside; takes precedence
+    /// unless empty. Thread: main, or the one thread that exclusively uses this object.
     [[nodiscard]] std::string bundleIdentifier(ProcessID pid, const std::string& portalAppID) const;
 
 private:
@@ -53,8 +53,8 @@ private:
     const LinuxEnvironment environment_;
     FileManager& fileManager_;
     const std::string ownBundleID_;
-    const StartCommand ownProgram_;  // Found at the start: an update may put another file in its place.
-    mutable DesktopEntries entries_{environment_};  // Kept up to date by every question.
+    const StartCommand ownProgram_;  // Determined at startup: an update may replace the file.
+    mutable DesktopEntries entries_{environment_};  // Refreshed by every query.
 };
 
 }  // namespace fadeloom

@@ -16,7 +16,7 @@ std::string fileName(std::string_view path)
     return std::string{path.substr(path.find_last_of('/') + 1)};
 }
 
-/// Whether a program is an interpreter of scripts; "python3.11" is "python".
+/// Whether a program is a script interpreter; "python3.11" counts as "python".
 bool isInterpreter(std::string_view name)
 {
     constexpr std::array<std::string_view, 14> interpreters{"bash", "dash", "fish", "gjs", "guile", "ksh",
@@ -25,7 +25,7 @@ bool isInterpreter(std::string_view name)
     return std::ranges::find(interpreters, name) != interpreters.end();
 }
 
-/// The place of the script among an interpreter's arguments; their count when it was given none.
+/// The index of the script among an interpreter's arguments; their count if there is none.
 std::size_t scriptAt(const std::vector<std::string>& arguments)
 {
     for (std::size_t i = 1; i < arguments.size(); ++i) {

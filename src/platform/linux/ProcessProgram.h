@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a process runs: its executable, or the script that its interpreter was given.
+// The program of a process: its executable, or the script that its interpreter runs.
 #pragma once
 
 #include "platform/linux/ProcessTable.h"
@@ -11,20 +11,21 @@
 namespace fadeloom {
 
 struct ProcessProgram {
-    /// Empty when unknown.
+    /// Empty if unknown.
     std::filesystem::path path{};
-    /// Names without folders that the process goes by, the best first; never empty.
+    /// File names by which the program may be known, the best first; never empty.
     std::vector<std::string> names{};
-    /// What follows the program on its command line.
+    /// The remaining arguments of the command line.
     std::vector<std::string> arguments{};
-    bool isInterpreter = false;  // An interpreter that runs no script.
+    bool isInterpreter = false;  // An interpreter without a script.
 
-    /// Whether `name`, of a program without its folder, is one of the names. The system cuts one of them short.
+    /// Whether `name`, a program's file name, is one of the names. The system truncates one of them.
     [[nodiscard]] bool isCalled(const std::string& name) const;
 };
 
-/// A known interpreter (a shell, Python, Perl, …) counts as the script that is the first argument which is no option,
-/// so a player written in Python is not Python; given a command instead of a script ("-c"), it counts as itself.
+/// For a known interpreter (a shell, Python, Perl, …) the program is the script, its first argument that is not an
+/// option, so a player written in Python is not Python; given a command instead of a script ("-c"), it is the
+/// interpreter itself.
 [[nodiscard]] ProcessProgram programOf(const ProcessInfo& process);
 
 }  // namespace fadeloom

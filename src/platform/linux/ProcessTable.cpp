@@ -22,10 +22,10 @@ std::optional<Number> number(std::string_view text)
     return error == std::errc{} && end == text.data() + text.size() ? std::optional{value} : std::nullopt;
 }
 
-/// Fills what the "stat" file says. False for a process that has ended or a text that is none of this file's.
+/// Parses a "stat" file. False for a process that has exited, or malformed text.
 bool readStat(std::string_view text, ProcessInfo& info)
 {
-    // The name stands in parentheses and may hold blanks and parentheses itself.
+    // The name is in parentheses and may itself contain spaces and parentheses.
     const auto open = text.find('(');
     const auto close = text.rfind(')');
     if (open == std::string_view::npos || close == std::string_view::npos || close < open)
@@ -80,7 +80,7 @@ std::string flatpakIDOf(const std::filesystem::path& folder)
     return {};
 }
 
-/// Browsers put one text in the place of their arguments, parted by blanks.
+/// Browsers replace their arguments by a single text, separated by spaces.
 std::vector<std::string> argumentsOf(std::string_view commandLine, const std::string& executable)
 {
     const auto first = commandLine.substr(0, commandLine.find('\0'));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's processes, read from the process file system, each at most once in the life of a table.
+// The user's processes, read from the process file system, each at most once in the lifetime of a table.
 #pragma once
 
 #include "platform/Workspace.h"
@@ -17,23 +17,23 @@ namespace fadeloom {
 struct ProcessInfo {
     ProcessID pid = -1;
     ProcessID parent = -1;
-    std::uint64_t startTime = 0;  // Ticks since the machine started: tells processes apart that share a pid.
+    std::uint64_t startTime = 0;  // Ticks since boot: distinguishes processes that reuse a pid.
     std::string shortName{};  // At most 15 bytes, chosen by the process.
-    std::filesystem::path executable{};  // Empty when the system does not tell.
-    std::vector<std::string> arguments{};  // The first is the name it was called by.
-    std::string unit{};  // The systemd unit that was made for its application; empty for none.
+    std::filesystem::path executable{};  // Empty if the system does not report it.
+    std::vector<std::string> arguments{};  // The first is the name that it was started with.
+    std::string unit{};  // The systemd unit created for its application; empty if there is none.
     std::string flatpakID{};  // Empty outside of a Flatpak sandbox.
 };
 
-/// A short-lived view. Processes of other users, and those that end meanwhile, are absent.
+/// A short-lived snapshot. Processes of other users, and those that exit meanwhile, are missing.
 class ProcessTable {
 public:
     /// `environment` must outlive this.
     explicit ProcessTable(const LinuxEnvironment& environment);
 
-    /// Null for no process of the user's. The pointer lives as long as the table.
+    /// Null if it is not a process of the user. The pointer is valid for the lifetime of the table.
     [[nodiscard]] const ProcessInfo* find(ProcessID pid);
-    /// Every number in the table of the system, in order, whoever's process it is.
+    /// All pids of the system, in order, of any user.
     [[nodiscard]] std::vector<ProcessID> pids() const;
 
 private:

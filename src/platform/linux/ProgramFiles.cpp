@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/ProgramFiles.h"
 
+#include <unistd.h>
+
 #include <fstream>
 #include <utility>
-
-#include <unistd.h>
 
 namespace fadeloom {
 
@@ -43,7 +43,7 @@ std::filesystem::path ownExecutable()
 
 std::filesystem::path startedFile(const Variables& variables, const std::filesystem::path& executable)
 {
-    // Programs inherit the variables of an AppImage that starts them: they are ours only if we are unpacked there.
+    // Children of an AppImage inherit its variables: they apply to us only if we are unpacked there.
     const auto unpacked = folderNamed(variables, "APPDIR", {});
     if (unpacked.empty() || !isInside(executable, unpacked))
         return executable;
@@ -55,7 +55,7 @@ StartCommand ownCommand()
     StartCommand command{startedFile(processVariables()), {}};
     std::ifstream words{"/proc/self/cmdline", std::ios::binary};
     std::string word;
-    std::getline(words, word, '\0');  // The program.
+    std::getline(words, word, '\0');  // Skips the program.
     while (std::getline(words, word, '\0'))
         command.arguments.push_back(word);
     return command;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Programs as files: which file is one, where a name leads, and which one we are.
+// Executable files: lookup by name, and our own.
 #pragma once
 
 #include "platform/linux/Variables.h"
@@ -13,26 +13,26 @@ namespace fadeloom {
 /// Whether it is a regular file that this process may execute.
 [[nodiscard]] bool isProgram(const std::filesystem::path& file);
 
-/// The program that the first word of a command means: a file by its absolute path, else the first of that name in
-/// `folders`. Empty for none.
+/// Resolves the first word of a command: a file by its absolute path, else the first of that name in `folders`. Empty
+/// if there is none.
 [[nodiscard]] std::filesystem::path findProgram(
     const std::string& name, const std::vector<std::filesystem::path>& folders);
 
-/// The executable of this process; empty when the system does not tell.
+/// The executable of this process; empty if the system does not report it.
 [[nodiscard]] std::filesystem::path ownExecutable();
 
-/// The file by which `executable`, this process's own, is started again: the AppImage that it was unpacked from for as
-/// long as it runs, else itself.
+/// The file with which `executable`, this process's own, is restarted: the AppImage that contains it while that runs,
+/// else itself.
 [[nodiscard]] std::filesystem::path startedFile(
     const Variables& variables, const std::filesystem::path& executable = ownExecutable());
 
-/// How a program is started.
+/// How to start a program.
 struct StartCommand {
     std::filesystem::path program;
     std::vector<std::string> arguments;  // Without the program itself.
 };
 
-/// That of this process, as it was started.
+/// The one that started this process.
 [[nodiscard]] StartCommand ownCommand();
 
 }  // namespace fadeloom

@@ -7,7 +7,7 @@ namespace fadeloom {
 
 namespace {
 
-/// The length of the UTF-8 character at the beginning of `bytes`, which is not empty; 0 when there is none.
+/// The length of the UTF-8 character at the start of `bytes`, which is not empty; 0 if it is invalid.
 std::size_t characterLength(std::string_view bytes)
 {
     const auto byte = [bytes](std::size_t i) { return static_cast<std::uint8_t>(bytes[i]); };
@@ -20,7 +20,7 @@ std::size_t characterLength(std::string_view bytes)
     for (std::size_t i = 1; i < length; ++i)
         if ((byte(i) & 0xC0) != 0x80)
             return 0;
-    // Longer forms than needed, halves of pairs, and numbers beyond the last character.
+    // Overlong encodings, surrogates, and values beyond the last code point.
     const bool isWrong = (first == 0xE0 && byte(1) < 0xA0) || (first == 0xED && byte(1) > 0x9F)
         || (first == 0xF0 && byte(1) < 0x90) || (first == 0xF4 && byte(1) > 0x8F);
     return isWrong ? 0 : length;

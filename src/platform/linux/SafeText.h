@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Makes text that can be shown, logged and stored out of bytes that anyone may have chosen.
+// Sanitizes untrusted bytes for display, logs and storage.
 #pragma once
 
 #include <cstddef>
@@ -8,8 +8,8 @@
 
 namespace fadeloom {
 
-/// UTF-8 without control characters, at most `longest` bytes: controls become blanks, what is not UTF-8 becomes "?",
-/// and the rest is cut off between characters.
+/// UTF-8 without control characters, at most `longest` bytes: controls become spaces, invalid UTF-8 becomes "?", and
+/// the rest is truncated at a character boundary.
 [[nodiscard]] std::string safeText(std::string_view bytes, std::size_t longest = 255);
 
 }  // namespace fadeloom

@@ -28,7 +28,7 @@ SingleInstance::SingleInstance(const std::filesystem::path& runtimeFolder)
     , socket_(std::make_unique<InstanceSocket>(
           runtimeFolder / "fadeloom.socket", [this](InstanceRequest request) { return answer(request); },
           [this](const InstanceCommand& command) {
-              const auto run = actions_.run;  // A command may end what serves it.
+              const auto run = actions_.run;  // A command may destroy the server of the command.
               return run && !isEnding_ ? run(command) : busyAnswer();
           },
           [this](const InstanceCommand& command, const SendInstanceLine& send) -> std::shared_ptr<void> {
@@ -62,16 +62,16 @@ QDBusConnection SingleInstance::bus() const
 
 SingleInstance::Start SingleInstance::claim(InstanceRequest request)
 {
-    QDeadlineTimer deadline(patience);
+    QDeadlineTimer deadline(timeout);
     bool isAwaitingEnd = false;
-    while (!tryToBeFirst()) {
+    while (!tryToClaim()) {
         const auto answer = ask(request, left(deadline));
         if (answer == InstanceAnswer::done)
             return Start::answered;
         if (answer == InstanceAnswer::noPanel)
             return Start::withoutPanel;
         if (answer == InstanceAnswer::ending && !std::exchange(isAwaitingEnd, true))
-            deadline.setRemainingTime(patienceWithEnding);
+            deadline.setRemainingTime(endingTimeout);
         if (deadline.hasExpired())
             return Start::unanswered;
         std::this_thread::sleep_for(pause);
@@ -79,14 +79,14 @@ SingleInstance::Start SingleInstance::claim(InstanceRequest request)
     return Start::first;
 }
 
-bool SingleInstance::tryToBeFirst()
+bool SingleInstance::tryToClaim()
 {
-    const auto outcome = lock_.tryToTake();
+    const auto outcome = lock_.tryToLock();
     if (outcome == InstanceLock::Outcome::heldByAnother)
         return false;
-    // Where nothing can be locked, whoever answers is the first.
+    // If locking is impossible, whichever instance replies is the first.
     const bool isAnswered = outcome == InstanceLock::Outcome::unusable
-        && socket_->ask(InstanceRequest::ping, patience).has_value();
+        && socket_->ask(InstanceRequest::ping, timeout).has_value();
     if (isAnswered || isAnotherOnBus()) {
         lock_.release();
         return false;
@@ -95,16 +95,17 @@ bool SingleInstance::tryToBeFirst()
     return true;
 }
 
-// Takes the name on the bus, unless an instance has it that runs with another runtime folder, and maybe the same sound.
+// Requests the bus name, unless it belongs to an instance with another runtime directory, possibly on the same audio
+// session.
 bool SingleInstance::isAnotherOnBus()
 {
-    return bus_->isConnected() && !bus_->claim() && bus_->isHeldByInstance(patience);
+    return bus_->isConnected() && !bus_->claim() && bus_->isHeldByInstance(timeout);
 }
 
 std::optional<InstanceAnswer> SingleInstance::ask(InstanceRequest request, std::chrono::milliseconds wait)
 {
     const QDeadlineTimer deadline(wait);
-    // The socket first: it is the user's own, and a name on the bus may be a stranger's who never answers.
+    // The socket first: it belongs to the user, whereas a bus name may belong to a stranger that never replies.
     if (const auto answer = socket_->ask(request, wait))
         return answer;
     if (!bus_->isConnected())

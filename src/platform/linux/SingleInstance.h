@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// One instance of the program in a session: two would take each other's applications away.
+// Ensures one instance per session: two would capture each other's applications.
 //
-// A lock in the user's runtime folder decides who is the first. A second start reaches the first one through a socket
-// in that folder, or where there is none over the session bus, to have the panel shown. A stranger who has the lock's
-// file, the socket's file or the name on the bus keeps nobody from starting.
+// A lock in the user's runtime directory decides which is the first. A second start contacts the first one through a
+// socket in that directory, or else over the session bus, to open its panel. A foreign file in place of the lock or the
+// socket, or a foreign owner of the bus name, does not prevent startup.
 #pragma once
 
 #include "platform/linux/InstanceLock.h"
@@ -25,17 +25,17 @@ class InstanceBus;
 class InstanceSocket;
 class InstanceTree;
 
-/// Needs Qt's application object. Thread: the one that makes it.
+/// Needs Qt's application object. Thread: the one that creates it.
 class SingleInstance {
 public:
-    /// How a start turned out.
+    /// The outcome of a start.
     enum class Start {
-        first,  // This is the one instance now.
-        answered,  // There is another one, which has done what it was asked.
+        first,  // This is the first instance.
+        answered,  // There is another one, which has handled the request.
         withoutPanel,  // The other one cannot: it has no panel.
-        unanswered,  // The other one says nothing.
+        unanswered,  // The other one does not reply.
     };
-    /// What others may ask of this instance. Without an action it has no panel.
+    /// What other processes may request of this instance. Without actions it has no panel.
     struct Actions {
         std::function<void()> open = nullptr;
         std::function<void()> toggle = nullptr;
@@ -45,30 +45,30 @@ public:
         InstanceTree* tree = nullptr;  // On the session bus.
     };
 
-    static constexpr std::chrono::milliseconds patience{2'000};  // With an instance that should answer.
-    static constexpr std::chrono::milliseconds patienceWithEnding{
-        10'000};  // With one that said that it ends.
+    static constexpr std::chrono::milliseconds timeout{2'000};  // For a reply from a running instance.
+    // For an instance that said that it is exiting.
+    static constexpr std::chrono::milliseconds endingTimeout{10'000};
 
-    /// `runtimeFolder`: the user's own, and the same for all instances that are to meet. Claims nothing yet.
+    /// `runtimeFolder`: the user's own, and the same for all instances that must find each other. Claims nothing yet.
     explicit SingleInstance(const std::filesystem::path& runtimeFolder);
-    /// The next start is the first.
+    /// Allows the next start to be the first.
     ~SingleInstance();
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
 
-    /// Becomes the one instance, else asks the other one. Waits for its answer; one that is about to end is waited for,
-    /// and followed.
+    /// Becomes the first instance, otherwise sends the request to the other one. Blocks for its reply; an instance that
+    /// is exiting is waited for, and succeeded.
     [[nodiscard]] Start claim(InstanceRequest request);
-    /// What is done from now on when others ask, which they can once the event loop runs.
+    /// Sets how requests are handled from now on; they arrive once the event loop runs.
     void serve(Actions actions);
-    /// Where others reach it on the session bus; not connected where there is none, or it is not ours.
+    /// The connection that owns the bus name; not connected if there is no bus, or the name is not ours.
     [[nodiscard]] QDBusConnection bus() const;
-    /// From now on others are told to wait for the end.
+    /// From now on other instances are told to wait for the exit.
     void beginEnding() { isEnding_ = true; }
 
 private:
     [[nodiscard]] std::string busyAnswer() const;
-    [[nodiscard]] bool tryToBeFirst();
+    [[nodiscard]] bool tryToClaim();
     [[nodiscard]] bool isAnotherOnBus();
     [[nodiscard]] std::optional<InstanceAnswer> ask(InstanceRequest request, std::chrono::milliseconds wait);
     [[nodiscard]] InstanceAnswer answer(InstanceRequest request);

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/SyslogSystemLog.h"
 
+#include <syslog.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <string>
 #include <utility>
 
-#include <syslog.h>
-
 namespace fadeloom {
 
 namespace {
 
-// A level goes before its text as one character, so that both wait together.
+// The level precedes its text as one character, so that both are queued together.
 constexpr char errorMark = 'E';
 constexpr char noticeMark = 'N';
 
@@ -38,14 +38,14 @@ SyslogSystemLog::SyslogSystemLog(Echo echo)
 SyslogSystemLog::~SyslogSystemLog()
 {
     if (writer_.close())
-        closelog();  // A thread that is stuck in the log holds it.
+        closelog();  // A thread that is blocked in the log still uses it.
 }
 
 void SyslogSystemLog::write(Level level, std::string_view message)
 {
     std::string text(1, level == Level::error ? errorMark : noticeMark);
     text += message;
-    std::ranges::replace(text, '\0', ' ');  // It would end the message.
+    std::ranges::replace(text, '\0', ' ');  // It would terminate the message.
     writer_.write(std::move(text));
 }
 

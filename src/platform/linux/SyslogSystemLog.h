@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The machine's log through syslog, which the journal reads as well.
+// The system log through syslog, which the journal also reads.
 #pragma once
 
 #include "base/TextWriter.h"
@@ -7,7 +7,7 @@
 
 namespace fadeloom {
 
-/// One at a time in a process: the log has one connection and one name.
+/// One instance per process: the log has one connection and one name.
 class SyslogSystemLog final : public SystemLog {
 public:
     /// Whether messages also go to standard error.
@@ -18,7 +18,7 @@ public:
     SyslogSystemLog(const SyslogSystemLog&) = delete;
     SyslogSystemLog& operator=(const SyslogSystemLog&) = delete;
 
-    /// Waits for nobody, also where nothing takes the machine's messages: then they are dropped and counted.
+    /// Never blocks, even if nothing reads the system log: messages are then dropped and counted.
     void write(Level level, std::string_view message) override;
 
 private:

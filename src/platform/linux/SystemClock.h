@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The clock and the time zone of the system.
+// The system's clock and time zone.
 #pragma once
 
 #include "platform/WallClock.h"
 
 namespace fadeloom {
 
-/// The zone is the one that "TZ" names, else the system's; a change of either counts at once.
+/// The zone is that of "TZ", else the system's; changes of either take effect immediately.
 class SystemClock final : public WallClock {
 public:
     std::chrono::system_clock::time_point now() const override { return std::chrono::system_clock::now(); }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Cuts text at a separator.
+// Splits text at a separator.
 #pragma once
 
 #include <algorithm>
@@ -8,7 +8,7 @@
 
 namespace fadeloom {
 
-/// The parts between separators, empty ones included, except behind a separator at the very end. They are views.
+/// The parts between separators, including empty ones, except after a trailing separator. They are views.
 [[nodiscard]] inline std::vector<std::string_view> parts(std::string_view text, char separator)
 {
     std::vector<std::string_view> parts;

@@ -19,7 +19,7 @@ std::optional<int> hexDigit(char c)
     return c >= 'A' && c <= 'F' ? std::optional{c - 'A' + 10} : std::nullopt;
 }
 
-/// Undoes "\x2d" and its kind.
+/// Undoes escapes such as "\x2d".
 std::string unescaped(std::string_view name)
 {
     std::string text;
@@ -50,7 +50,7 @@ std::vector<std::string> idsOfSnap(std::string_view unit)
         return {};
     std::string_view app = unit.substr(dot + 1);
     std::vector<std::string> ids;
-    // An app's name has no dot; it may have dashes, and the random part has them too.
+    // An app's name has no dot; it may contain dashes, and so may the random part.
     for (app = before(app, app.find('.')); !app.empty(); app = before(app, app.rfind('-'))) {
         ids.push_back(std::string{package} + "_" + std::string{app});
         if (app.rfind('-') == std::string_view::npos)
@@ -65,7 +65,7 @@ std::string applicationUnit(std::string_view groups)
 {
     std::string_view unit;
     for (const auto line : parts(groups, '\n')) {
-        // "<hierarchy>:<controllers>:<path>"; of many hierarchies only systemd's own names units.
+        // "<hierarchy>:<controllers>:<path>"; of several hierarchies only systemd's own names units.
         if (!line.starts_with("0::") && line.find(":name=systemd:") == std::string_view::npos)
             continue;
         for (const auto part : parts(line, '/'))
@@ -85,11 +85,11 @@ std::vector<std::string> desktopIDsOfUnit(std::string_view unit)
     if (!unit.starts_with("app-"))
         return {};
     unit.remove_prefix(std::string_view{"app-"}.size());
-    // A random part follows the id: behind the last dash of a scope, behind the "@" of a service.
+    // A random part follows the id: after the last dash of a scope, after the "@" of a service.
     const bool isScope = unit.ends_with(".scope");
     unit = before(unit, unit.rfind('.'));
     unit = before(unit, unit.rfind(isScope ? '-' : '@'));
-    // "<launcher>-<id>" or "<id>": dashes inside of either should be escaped, but not every launcher does.
+    // "<launcher>-<id>" or "<id>": dashes inside either should be escaped, but not every launcher does so.
     std::vector<std::string> ids;
     while (!unit.empty()) {
         ids.push_back(unescaped(unit));

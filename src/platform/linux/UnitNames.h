@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which application a systemd unit was made for.
+// Identifies the application of a systemd unit.
 #pragma once
 
 #include <string>
@@ -8,11 +8,12 @@
 
 namespace fadeloom {
 
-/// The unit that a launcher made for one application: the innermost part of a process's control group whose name says
-/// so ("app-….scope", "app-….service", "snap.….scope"). Empty for none. `groups`: the text of its "cgroup" file.
+/// The unit that a launcher created for one application: the innermost component of a process's control group with a
+/// name of that form ("app-….scope", "app-….service", "snap.….scope"). Empty if there is none. `groups`: the contents
+/// of its "cgroup" file.
 [[nodiscard]] std::string applicationUnit(std::string_view groups);
 
-/// The desktop ids that such a unit may stand for, the likeliest first.
+/// The desktop ids that such a unit may denote, the likeliest first.
 [[nodiscard]] std::vector<std::string> desktopIDsOfUnit(std::string_view unit);
 
 }  // namespace fadeloom

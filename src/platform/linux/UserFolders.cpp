@@ -23,7 +23,7 @@ bool skip(std::string_view& text, std::string_view expected)
     return isThere;
 }
 
-/// What a line assigns to `key`, between its quotes; absent for any other line.
+/// The quoted value that a line assigns to `key`; nullopt for any other line.
 std::optional<std::string_view> quotedValue(std::string_view line, std::string_view key)
 {
     skipBlanks(line);
@@ -36,7 +36,7 @@ std::optional<std::string_view> quotedValue(std::string_view line, std::string_v
     return skip(line, "\"") ? std::optional{line} : std::nullopt;
 }
 
-/// The text up to the closing quote, escapes undone; absent without that quote.
+/// The text up to the closing quote, unescaped; nullopt without that quote.
 std::optional<std::string> unquoted(std::string_view value)
 {
     std::string text;

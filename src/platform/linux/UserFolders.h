@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The folders that a user chose for music, pictures and the like.
+// The user's folders for music, pictures and the like.
 #pragma once
 
 #include <filesystem>
@@ -8,11 +8,11 @@
 
 namespace fadeloom {
 
-/// The folder that `text`, the content of "user-dirs.dirs", names for `key`, such as "XDG_MUSIC_DIR". Absent when it
-/// names none, or the home folder itself, which says that there is to be none.
+/// The folder that `text`, the contents of "user-dirs.dirs", assigns to `key`, such as "XDG_MUSIC_DIR". nullopt if there
+/// is none, or it is the home folder itself, which means that there is to be none.
 ///
-/// The file is a shell's, but only two forms count: a path in double quotes that begins with "$HOME/" or "/". Lines of
-/// any other form are passed over; of several good ones the last counts.
+/// The file has shell syntax, but only two forms are supported: a path in double quotes that begins with "$HOME/" or
+/// "/". Lines of any other form are ignored; of several valid ones the last counts.
 [[nodiscard]] std::optional<std::filesystem::path> userFolder(
     std::string_view text, std::string_view key, const std::filesystem::path& home);
 

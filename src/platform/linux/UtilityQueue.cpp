@@ -16,7 +16,7 @@ using Clock = std::chrono::steady_clock;
 
 }  // namespace
 
-/// What waits, by the time it is due, and who is at work. One mutex guards all of it, the pieces included.
+/// The pending items by due time, and the running one. One mutex guards everything, including the items.
 class UtilityQueue::Schedule {
 public:
     using Key = std::pair<Clock::time_point, std::uint64_t>;
@@ -24,16 +24,16 @@ public:
     void add(const std::shared_ptr<Item>& item, std::chrono::milliseconds delay);
     void cancel(Item& item);
     void runNow(Item& item);
-    /// The worker thread's life.
+    /// The worker thread's main function.
     void work();
     void stop();
-    /// Forgets what waits; whoever holds a piece of it may still run it.
+    /// Drops pending items; whoever holds one of them may still run it.
     void drop();
 
 private:
     using Lock = std::unique_lock<std::mutex>;
 
-    /// Runs the item, which waits, on this thread. The lock is open while its task runs.
+    /// Runs a pending item on this thread. The lock is not held while its task runs.
     void perform(Lock& lock, Item& item);
     [[nodiscard]] bool isDue() const
     {
@@ -48,7 +48,7 @@ private:
     std::condition_variable changed_;
     std::map<Key, std::shared_ptr<Item>> waiting_;
     std::uint64_t lastNumber_ = 0;
-    std::thread::id busyThread_;  // Who runs a piece of work now.
+    std::thread::id busyThread_;  // The thread that is running an item.
     bool isStopping_ = false;
 };
 
@@ -75,7 +75,7 @@ public:
 
 void UtilityQueue::Schedule::add(const std::shared_ptr<Item>& item, std::chrono::milliseconds delay)
 {
-    // A year is for ever; more would leave the clock's range.
+    // A year is as good as forever; more would overflow the clock.
     delay = std::clamp<std::chrono::milliseconds>(
         delay, std::chrono::milliseconds{0}, std::chrono::hours{24 * 365});
     {
@@ -88,7 +88,7 @@ void UtilityQueue::Schedule::add(const std::shared_ptr<Item>& item, std::chrono:
 
 void UtilityQueue::Schedule::cancel(Item& item)
 {
-    std::shared_ptr<Item> kept;  // Released after the lock, and so is the task.
+    std::shared_ptr<Item> kept;  // Released after the lock, and with it the task.
     std::function<void()> task;
     const Lock lock{mutex_};
     if (item.state != Item::State::waiting)
@@ -123,7 +123,7 @@ void UtilityQueue::Schedule::runNow(Item& item)
     changed_.wait(lock, [&] { return item.state != Item::State::waiting || isFreeFor(thread); });
     if (item.state == Item::State::waiting)
         perform(lock, item);
-    // A piece of work that asks for itself would wait for ever.
+    // A task that waits for itself would deadlock.
     changed_.wait(lock, [&] { return item.state == Item::State::done || item.runner == thread; });
 }
 
@@ -157,7 +157,8 @@ void UtilityQueue::Schedule::stop()
 
 void UtilityQueue::Schedule::drop()
 {
-    std::map<Key, std::shared_ptr<Item>> dropped;  // Released after the lock: tasks hold whatever they hold.
+    // Released after the lock: destroying tasks may have side effects.
+    std::map<Key, std::shared_ptr<Item>> dropped;
     const Lock lock{mutex_};
     dropped.swap(waiting_);
 }

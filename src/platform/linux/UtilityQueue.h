@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A background queue on a thread of its own.
+// A background queue with its own thread.
 #pragma once
 
 #include "platform/BackgroundQueue.h"
@@ -9,11 +9,11 @@
 
 namespace fadeloom {
 
-/// Pieces of work never run at the same time, not even when one of them is run by `runNow`. They must not throw.
+/// Tasks never run concurrently, not even with `runNow`. They must not throw.
 class UtilityQueue final : public BackgroundQueue {
 public:
     UtilityQueue();
-    /// Does what is due by now, then drops the rest.
+    /// Runs what is due, then drops the rest.
     ~UtilityQueue() override;
     UtilityQueue(const UtilityQueue&) = delete;
     UtilityQueue& operator=(const UtilityQueue&) = delete;
@@ -24,7 +24,7 @@ private:
     class Schedule;
     class Item;
 
-    std::shared_ptr<Schedule> schedule_;  // Shared with the pieces of work, which may outlive the queue.
+    std::shared_ptr<Schedule> schedule_;  // Shared with the handles, which may outlive the queue.
     std::jthread thread_;
 };
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/Variables.h"
 
-#include <array>
-#include <cstdlib>
-
 #include <pwd.h>
 #include <unistd.h>
+
+#include <array>
+#include <cstdlib>
 
 namespace fadeloom {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The process's environment variables, behind a function so that tests bring their own.
+// Environment variables, behind a function so that tests can provide their own.
 #pragma once
 
 #include <filesystem>
@@ -9,15 +9,15 @@
 
 namespace fadeloom {
 
-/// A variable's value; absent when it is not set, or set to nothing.
+/// A variable's value; nullopt if it is unset or empty.
 using Variables = std::function<std::optional<std::string>(const char* name)>;
 
 [[nodiscard]] Variables processVariables();
 
-/// The user's home: "HOME", else the account's entry, else the root folder.
+/// The user's home: "HOME", else from the user database, else the root folder.
 [[nodiscard]] std::filesystem::path homeFolder(const Variables& variables);
 
-/// A folder that a variable names by an absolute path; `otherwise` when it names none.
+/// The absolute path in a variable; `otherwise` if there is none.
 [[nodiscard]] std::filesystem::path folderNamed(
     const Variables& variables, const char* name, const std::filesystem::path& otherwise);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The web page that a desktop entry opens.
+// Extracts the web page that a desktop entry opens.
 #pragma once
 
 #include <span>
@@ -8,16 +8,16 @@
 
 namespace fadeloom {
 
-/// The host of the first web address in a text, in lower case; empty for none.
+/// The host of the first URL in a text, in lower case; empty if there is none.
 [[nodiscard]] std::string hostOf(std::string_view text);
 
-/// The same of the "Exec" lines of a whole desktop entry, its actions included.
+/// The same for the "Exec" lines of a whole desktop entry, including its actions.
 [[nodiscard]] std::string hostOfExec(std::string_view content);
 
-/// The identifier that a browser of Chromium's kind is told to open as an app; empty for none.
+/// The identifier that a Chromium-based browser is told to open as an app; empty if there is none.
 [[nodiscard]] std::string chromiumIDOf(std::span<const std::string> command);
 
-/// The window class that a program is told to have ("--class=X" or "--class X"); empty for none.
+/// The window class on a program's command line ("--class=X" or "--class X"); empty if there is none.
 [[nodiscard]] std::string windowClassOf(std::span<const std::string> arguments);
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's folders, where the freedesktop rules for base and user directories put them.
+// The user's folders, according to the freedesktop specifications for base and user directories.
 #pragma once
 
 #include "platform/StandardFolders.h"
@@ -11,9 +11,9 @@ class XdgFolders final : public StandardFolders {
 public:
     explicit XdgFolders(Variables variables = processVariables());
 
-    /// "$XDG_CONFIG_HOME" when that is an absolute path, else "~/.config".
+    /// "$XDG_CONFIG_HOME" if that is an absolute path, else "~/.config".
     std::filesystem::path applicationSupport() const override;
-    /// What "user-dirs.dirs" names, else "~/Music". Read anew each time.
+    /// As configured in "user-dirs.dirs", else "~/Music". Read each time.
     std::filesystem::path music() const override;
 
 private:

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// A target for controls and menu entries that calls a function. For Objective-C++ only.
+// A target for controls and menu items that calls a function. For Objective-C++ only.
 #pragma once
 
 #import <Foundation/Foundation.h>
 
 #include <functional>
 
-/// Controls do not keep their targets.
+/// Controls do not retain their targets.
 @interface FadeloomAction : NSObject
 - (instancetype)initWithFunction:(std::function<void()>)function;
 - (void)act:(id)sender;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Bringing the program's windows in front of those of others. For Objective-C++ only.
+// Activates the program, in front of others. For Objective-C++ only.
 #pragma once
 
 #import <AppKit/AppKit.h>
 
 namespace fadeloom {
 
-/// The call's successor waits for the program in front to give way, which none does for one without a Dock icon.
+/// The replacement for this call requires the active program to yield, which none does for one without a Dock icon.
 inline void comeToFront()
 {
 #pragma clang diagnostic push

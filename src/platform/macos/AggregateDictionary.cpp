@@ -11,7 +11,7 @@
 namespace fadeloom {
 namespace {
 
-/// A dictionary in the making: it keeps what its values need until it is made.
+/// A dictionary builder, which keeps the values' objects alive until it is done.
 class Entries {
 public:
     void add(const char* key, CFTypeRef value)

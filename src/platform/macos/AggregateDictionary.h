@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a tap's aggregate device is made of, in the words of the audio hardware layer.
+// The description of a tap's aggregate device, with the keys of the audio hardware layer.
 #pragma once
 
 #include "platform/macos/CFRef.h"
@@ -8,7 +8,7 @@
 
 namespace fadeloom {
 
-/// A private device that joins one tap to one output device, which gives the clock.
+/// A private device that combines one tap with one output device, which provides the clock.
 struct AggregateDescription {
     std::string name;
     std::string uid;

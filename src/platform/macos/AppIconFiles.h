@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pictures of applications as files, which is how pictures leave this folder.
+// Application icons as files, the form in which icons leave this folder.
 #pragma once
 
 #include "platform/Workspace.h"
@@ -18,21 +18,21 @@ class AppIconFiles {
 public:
     using Found = std::function<void(const AppIcon&)>;
 
-    /// `folder` is made when it is needed.
+    /// `folder` is created on demand.
     explicit AppIconFiles(std::filesystem::path folder);
     AppIconFiles(const AppIconFiles&) = delete;
     AppIconFiles& operator=(const AppIconFiles&) = delete;
     ~AppIconFiles();
 
-    /// An application's picture, drawn and written off the main thread, once for each bundle. `found` is not called when
-    /// it has none, or it cannot be written.
+    /// An application's icon, rendered and written off the main thread, once per bundle. `found` is not called if it
+    /// has none, or it cannot be written.
     void find(NSRunningApplication* application, Found found);
 
 private:
     struct Bundles;
 
     const std::filesystem::path folder_;
-    const std::shared_ptr<Bundles> bundles_;  // Which a picture that is being drawn looks for at its end.
+    const std::shared_ptr<Bundles> bundles_;  // Accessed when rendering finishes.
     DispatchQueue queue_{"com.fadeloom.icons"};
 };
 

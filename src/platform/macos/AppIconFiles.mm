@@ -16,7 +16,7 @@
 namespace fadeloom {
 namespace {
 
-// Pixels: the panel shows it at 28 points, of up to three pixels each.
+// Pixels: the panel shows it at 28 points, with up to three pixels each.
 constexpr double side = 128;
 
 NSData* pngOf(NSImage* image)
@@ -32,7 +32,7 @@ NSData* pngOf(NSImage* image)
 std::optional<AppIcon> written(NSRunningApplication* application, const std::filesystem::path& file)
 {
     @autoreleasepool {
-        std::error_code ignored;  // Writing fails then, too.
+        std::error_code ignored;  // Writing fails then too.
         std::filesystem::create_directories(file.parent_path(), ignored);
         if (![pngOf(application.icon) writeToURL:nsURL(file) atomically:YES])
             return std::nullopt;
@@ -42,7 +42,7 @@ std::optional<AppIcon> written(NSRunningApplication* application, const std::fil
 
 }  // namespace
 
-/// What is known of bundles, by their location.
+/// The state of each bundle, by location.
 struct AppIconFiles::Bundles {
     struct Bundle {
         bool isDrawn = false;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The program's windows as a whole.
+// Properties of all windows of the program.
 #pragma once
 
 #include "platform/Application.h"
 
 namespace fadeloom {
 
-/// Needs the application object, which Qt makes.
+/// Needs the application object, which Qt creates.
 class AppKitApplication final : public Application {
 public:
     void setAppearance(Appearance appearance) override;

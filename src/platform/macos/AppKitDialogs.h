@@ -6,7 +6,7 @@
 
 namespace fadeloom {
 
-/// Alerts return when they are answered; the panels return at once.
+/// Alerts block until they are answered; the panels return immediately.
 class AppKitDialogs final : public Dialogs {
 public:
     void chooseFolder(

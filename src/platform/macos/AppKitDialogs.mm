@@ -13,7 +13,7 @@
 namespace fadeloom {
 namespace {
 
-/// Shows a panel for one choice in front of other programs. `done` gets the place, or nothing after a cancel.
+/// Shows a panel for a single choice in front of other programs. `done` gets the location, or nil if cancelled.
 void open(NSOpenPanel* panel, const std::filesystem::path& start, std::function<void(NSURL*)> done)
 {
     panel.allowsMultipleSelection = NO;
@@ -23,7 +23,7 @@ void open(NSOpenPanel* panel, const std::filesystem::path& start, std::function<
         NSModalResponse response) { done(response == NSModalResponseOK ? panel.URLs.firstObject : nil); }];
 }
 
-/// A message that was closed by other means than its buttons counts as its last one.
+/// A message that was closed other than with its buttons counts as its last one.
 std::size_t buttonOf(NSModalResponse response, std::size_t count)
 {
     const std::size_t last = count == 0 ? 0 : count - 1;

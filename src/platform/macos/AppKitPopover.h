@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The panel below the menu bar.
+// The panel's popover below the menu bar.
 #pragma once
 
 #include "platform/Popover.h"
@@ -12,7 +12,7 @@ namespace fadeloom {
 
 class MenuBarItem;
 
-/// Closes when the user clicks elsewhere. Its content is drawn by others, into a view that it hands out.
+/// Closes on a click elsewhere. Its content is drawn by others, into a view that it provides.
 class AppKitPopover final : public Popover {
 public:
     /// `item` must outlive this.
@@ -21,16 +21,16 @@ public:
     AppKitPopover& operator=(const AppKitPopover&) = delete;
     ~AppKitPopover() override;
 
-    /// An `NSView` that stays the popover's.
+    /// An `NSView`, owned by the popover.
     [[nodiscard]] void* contentView() const;
-    /// What fills the view, called once, before it is shown for the first time.
-    void whenFirstNeeded(std::function<void()> makeContent) { makeContent_ = std::move(makeContent); }
+    /// Fills the view; called once, before it is first shown.
+    void whenFirstShown(std::function<void()> makeContent) { makeContent_ = std::move(makeContent); }
     /// Points.
     void setContentSize(double width, double height);
 
     void show() override;
     void close() override;
-    /// Also while the click lasts that has closed it by a press on the item.
+    /// Also true during the click whose press on the item has closed it.
     bool isShown() const override;
     void setAnimated(bool isAnimated) override;
     void whenShown(std::function<void()> willShow) override;

@@ -8,7 +8,7 @@
 #include <optional>
 #include <utility>
 
-/// Content lies at its upper edge and grows downwards, as Qt's windows do.
+/// Content is anchored to the upper edge and grows downwards, like Qt's windows.
 @interface FadeloomPopoverView : NSView
 @end
 
@@ -74,7 +74,7 @@ public:
         popover.contentViewController = content;
         popover.behavior = NSPopoverBehaviorTransient;
         popover.delegate = delegate;
-        // Both may come long after `show` has returned.
+        // Both may happen long after `show` has returned.
         delegate->didShow = [this] { takeKeyboard(); };
         delegate->willClose = [this] { noteClose(); };
         activeObserver_ =
@@ -88,7 +88,7 @@ public:
     ~Parts()
     {
         [NSNotificationCenter.defaultCenter removeObserver:activeObserver_];
-        popover.delegate = nil;  // Its end must not be told to somebody half gone.
+        popover.delegate = nil;  // Closing must not be reported to a partly destroyed object.
         [popover close];
     }
 
@@ -104,14 +104,14 @@ public:
         [popover performClose:nil];
         closedByPress_ = std::nullopt;
     }
-    /// A press on the item closes the popover, as any elsewhere; what follows it is the click that is to close it.
+    /// A press on the item closes the popover, like any press outside it; the click that follows must not reopen it.
     [[nodiscard]] bool isBeingClosedByClick() const
     {
         return closedByPress_ && NSProcessInfo.processInfo.systemUptime - *closedByPress_ < clickTime;
     }
 
     NSPopover* const popover;
-    FadeloomPopoverDelegate* const delegate;  // Which the popover does not keep.
+    FadeloomPopoverDelegate* const delegate;  // Not retained by the popover.
 
 private:
     void takeKeyboard() const
@@ -120,7 +120,8 @@ private:
             return;
         NSView* content = popover.contentViewController.view;
         [content.window makeKeyWindow];
-        [content.window makeFirstResponder:content.subviews.firstObject];  // Whoever draws gets the keys.
+        // The content view receives the keys.
+        [content.window makeFirstResponder:content.subviews.firstObject];
     }
     void noteClose()
     {
@@ -129,7 +130,7 @@ private:
             closedByPress_ = NSProcessInfo.processInfo.systemUptime;
     }
 
-    static constexpr NSTimeInterval clickTime = 1;  // Seconds that a button is held, at most.
+    static constexpr NSTimeInterval clickTime = 1;  // The maximum duration of a press, in seconds.
 
     const MenuBarItem& item_;
     id activeObserver_ = nil;
@@ -150,7 +151,7 @@ void* AppKitPopover::contentView() const
 
 void AppKitPopover::setContentSize(double width, double height)
 {
-    // A row that opens has its place at once; the content is drawn for no size in between.
+    // Expanding a row resizes the popover immediately; intermediate sizes are never drawn.
     NSPopover* popover = parts_->popover;
     const BOOL isAnimated = popover.animates;
     popover.animates = NO;

@@ -13,7 +13,7 @@ class AppIconFiles;
 
 class AppKitWorkspace final : public Workspace {
 public:
-    /// `iconFolder`: where pictures of applications are kept while the program runs.
+    /// `iconFolder`: where application icons are cached while the program runs.
     explicit AppKitWorkspace(std::filesystem::path iconFolder);
     AppKitWorkspace(const AppKitWorkspace&) = delete;
     AppKitWorkspace& operator=(const AppKitWorkspace&) = delete;

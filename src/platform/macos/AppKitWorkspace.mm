@@ -6,11 +6,10 @@
 #include "platform/macos/OneInstance.h"
 
 #import <AppKit/AppKit.h>
+#include <unistd.h>
 
 #include <bit>
 #include <utility>
-
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {
@@ -28,7 +27,7 @@ ActivationPolicy policyOf(NSRunningApplication* application)
     return ActivationPolicy::prohibited;
 }
 
-/// The moment of its launch; 0 when the system does not tell.
+/// The time of its launch; 0 if the system does not report it.
 std::uint64_t launchMarkOf(NSRunningApplication* application)
 {
     NSDate* launched = application.launchDate;
@@ -43,7 +42,7 @@ RunningApplication describe(NSRunningApplication* application)
         .bundleLocation = pathOf(application.bundleURL),
         .activationPolicy = policyOf(application),
         .localizedName = textOf(application.localizedName),
-        .icon = std::nullopt,  // Drawn for those who are shown.
+        .icon = std::nullopt,  // Rendered only for those that are shown.
         .launchMark = launchMarkOf(application),
     };
 }
@@ -149,7 +148,7 @@ void AppKitWorkspace::openNewInstance(std::function<void()> reported)
         NSWorkspaceOpenConfiguration* configuration = [NSWorkspaceOpenConfiguration configuration];
         configuration.createsNewApplicationInstance = YES;
         configuration.environment = @{nsText(OneInstance::successorVariable) : @"1"};
-        // The answer comes on whichever thread the system likes.
+        // The reply arrives on an arbitrary thread.
         [NSWorkspace.sharedWorkspace openApplicationAtURL:NSBundle.mainBundle.bundleURL
                                             configuration:configuration
                                         completionHandler:^(NSRunningApplication*, NSError*) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Whether windows are drawn dark or light.
+// Whether the system's appearance is dark or light.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,7 @@ namespace fadeloom {
 /// Needs the application object. Thread: main.
 class AppearanceWatch {
 public:
-    /// `changed` is called whenever the answer may be another one.
+    /// `changed` is called whenever the result may differ.
     explicit AppearanceWatch(std::function<void(bool isDark)> changed);
     AppearanceWatch(const AppearanceWatch&) = delete;
     AppearanceWatch& operator=(const AppearanceWatch&) = delete;

@@ -34,7 +34,7 @@ std::vector<AudioProcess> AudioProcesses::all(ReadMic readMic)
             .isUsingMic = readMic == ReadMic::yes && isOn(id, kAudioProcessPropertyIsRunningInput),
         });
     }
-    // Only when it has outgrown the list: most polls find the processes of the last one.
+    // Pruned only when it is larger than the list: most polls find the processes of the previous one.
     if (identities_.size() > ids.size())
         forgetAllBut(ids);
     return processes;

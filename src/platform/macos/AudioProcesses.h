@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The processes that have opened audio, and what each is doing now.
+// The processes that use audio, and their current state.
 #pragma once
 
 #include "platform/AudioProcess.h"
@@ -12,12 +12,12 @@
 
 namespace fadeloom {
 
-/// Reads the list of audio processes. Who a process is never changes, so it is read once and remembered; what it does
-/// is read every time. Thread: main.
+/// Reads the list of audio processes. A process's identity never changes, so it is cached; its state is read every
+/// time. Thread: main.
 class AudioProcesses {
 public:
-    /// Every audio process, in the system's order; empty when the list cannot be read. Without `ReadMic::yes` no
-    /// process is asked for its microphone and none is said to use it.
+    /// All audio processes, in the system's order; empty if the list cannot be read. Without `ReadMic::yes` microphone
+    /// use is neither queried nor reported.
     [[nodiscard]] std::vector<AudioProcess> all(ReadMic readMic);
 
 private:

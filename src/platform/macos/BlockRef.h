@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// One counted reference to a block, for C++ that is not compiled as Objective-C.
+// A counted reference to a block, for C++ that is not compiled as Objective-C.
 #pragma once
 
 #include <Block.h>
 
 namespace fadeloom {
 
-/// Keeps a block on the heap, where its address stays the same: whoever takes a block back compares addresses.
+/// Keeps a block on the heap at a stable address: removing a block compares addresses.
 template <typename Block>
 class BlockRef {
 public:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One counted reference to an object of CoreFoundation.
+// A counted reference to a CoreFoundation object.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -8,12 +8,12 @@
 
 namespace fadeloom {
 
-/// Releases it at its end. Null releases nothing.
+/// Released by the destructor. Null releases nothing.
 template <typename Ref>
 class CFRef {
 public:
     CFRef() = default;
-    /// Takes over a reference that the caller owns: one of a function with Create or Copy in its name, or a property's.
+    /// Takes ownership of a reference: from a function with Create or Copy in its name, or of a property.
     static CFRef adopt(Ref owned) { return CFRef(owned); }
     CFRef(CFRef&& other) noexcept
         : object_(std::exchange(other.object_, nullptr))

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Texts on their way into CoreFoundation and out of it.
+// String conversion from and to CoreFoundation.
 #pragma once
 
 #include "platform/macos/CFRef.h"
@@ -9,9 +9,9 @@
 
 namespace fadeloom {
 
-/// `text`: UTF-8; what is not becomes an empty text.
+/// `text`: UTF-8; invalid text becomes an empty one.
 [[nodiscard]] CFRef<CFStringRef> cfText(std::string_view text);
-/// `text` stays the caller's.
+/// `text` remains the caller's.
 [[nodiscard]] std::string textOf(CFStringRef text);
 
 }  // namespace fadeloom

@@ -13,7 +13,7 @@
 
 namespace fadeloom {
 
-/// The processes one by one, while anybody wants to hear of them.
+/// Watches individual processes while there are subscribers.
 struct CoreAudioSystem::ProcessWatch {
     AudioProcesses processes;
     Observers observers;
@@ -27,7 +27,7 @@ CoreAudioSystem::CoreAudioSystem()
 
 CoreAudioSystem::~CoreAudioSystem() = default;
 
-// What cannot be listened to is seen by whoever asks regularly.
+// Callers also poll, so a property that cannot be listened to is not lost.
 Subscription CoreAudioSystem::listen(AudioObjectPropertySelector selector, Listener listener)
 {
     struct Listening {
@@ -49,7 +49,7 @@ Subscription CoreAudioSystem::listen(AudioObjectPropertySelector selector, Liste
             listener();
         }
     });
-    // A subscription's end is copyable, as every std::function.
+    // std::function must be copyable, even to end a subscription.
     return Subscription([listening]() mutable { listening.reset(); });
 }
 
@@ -58,14 +58,14 @@ std::vector<AudioProcess> CoreAudioSystem::processes(ReadMic readMic)
     auto processes = processWatch_->processes.all(readMic);
     if (!processWatch_->observers.isEmpty())
         processWatch_->listeners.sync(processes);
-    silentTaps_.look(processes);
+    silentTaps_.check(processes);
     return processes;
 }
 
 Subscription CoreAudioSystem::whenProcessesChange(Listener listener)
 {
     auto watched = std::make_shared<Subscription>(processWatch_->observers.add(listener));
-    // Ids of before are those of others now.
+    // Old ids may now belong to other objects.
     auto restarts = std::make_shared<Subscription>(restarts_.add([watch = std::weak_ptr(processWatch_)] {
         if (const auto alive = watch.lock()) {
             alive->processes = {};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The audio system of macOS. It passes questions on and remembers nothing but who a process is: the system does.
+// The audio system of macOS. It forwards queries and caches only process identities: the rest is the system's state.
 #pragma once
 
 #include "platform/AudioSystem.h"
@@ -12,8 +12,8 @@
 
 namespace fadeloom {
 
-/// Listeners are called from the main dispatch queue, which the main loop serves; all of them once more when the audio
-/// service has restarted.
+/// Listeners are called on the main dispatch queue, which the main loop serves; all of them once after a restart of the
+/// audio service.
 class CoreAudioSystem final : public AudioSystem {
 public:
     CoreAudioSystem();
@@ -38,7 +38,7 @@ private:
 
     ServiceRestarts restarts_;
     SilentTaps silentTaps_;
-    std::shared_ptr<ProcessWatch> processWatch_;  // Shared with subscriptions, which hold it weakly.
+    std::shared_ptr<ProcessWatch> processWatch_;  // Shared with subscriptions, which hold a weak reference.
 };
 
 }  // namespace fadeloom

@@ -17,7 +17,7 @@ namespace {
 
 constexpr UInt32 sampleBits = 32;
 
-// A buffer of the audio system and one of ours are the same bytes.
+// The audio system's buffers and ours have the same layout.
 static_assert(sizeof(AudioBuffer) == sizeof(::AudioBuffer));
 static_assert(offsetof(AudioBuffer, channels) == offsetof(::AudioBuffer, mNumberChannels));
 static_assert(offsetof(AudioBuffer, byteSize) == offsetof(::AudioBuffer, mDataByteSize));
@@ -46,7 +46,7 @@ std::unexpected<TapError> failed(TapStep step, OSStatus status)
     return std::unexpected(TapError{.step = step, .status = status});
 }
 
-// The time of the input, which is the captured sound; without a valid one, that of the cycle itself.
+// The time of the input, which is the captured audio; if that is invalid, the time of the cycle itself.
 CycleTime cycleTime(AudioObjectID clock, const AudioTimeStamp& input, const AudioTimeStamp& now) noexcept
 {
     constexpr UInt32 needed = kAudioTimeStampSampleHostTimeValid;
@@ -59,19 +59,19 @@ CycleTime cycleTime(AudioObjectID clock, const AudioTimeStamp& input, const Audi
 }  // namespace
 
 std::expected<std::unique_ptr<CoreAudioTap>, TapError> CoreAudioTap::create(
-    const TapRequest& request, const AudioIOProcFactory& makeIOProc, TapSurroundings surroundings)
+    const TapRequest& request, const AudioIOProcFactory& makeIOProc, TapContext surroundings)
 {
-    // The constructor is private, which std::make_unique cannot reach.
+    // The constructor is private, so std::make_unique cannot call it.
     std::unique_ptr<CoreAudioTap> tap(new CoreAudioTap(request.output, surroundings));
     if (auto built = tap->build(request, makeIOProc); !built)
-        return std::unexpected(std::move(built.error()));  // Its destructor takes down what there is.
+        return std::unexpected(std::move(built.error()));  // Its destructor tears down what exists.
     tap->watch();
     return tap;
 }
 
-CoreAudioTap::CoreAudioTap(OutputDevice output, TapSurroundings surroundings)
+CoreAudioTap::CoreAudioTap(OutputDevice output, TapContext surroundings)
     : output_(std::move(output))
-    , surroundings_(surroundings)
+    , context_(surroundings)
 {
 }
 
@@ -152,7 +152,7 @@ TapFormat CoreAudioTap::formatOf(const AudioStreamBasicDescription& format) cons
 
 OSStatus CoreAudioTap::createIOProc(std::shared_ptr<AudioIOProc> proc, std::size_t tapBufferCount)
 {
-    // Without a queue the block runs on the device's IO thread itself. It is copied, and the procedure with it, until
+    // Without a queue the block runs directly on the device's IO thread. It is copied, along with the procedure, until
     // the audio system has destroyed it.
     AudioDeviceIOProcID created = nullptr;
     const auto clock = aggregate_;
@@ -169,8 +169,8 @@ OSStatus CoreAudioTap::createIOProc(std::shared_ptr<AudioIOProc> proc, std::size
     return status;
 }
 
-// A microphone that ran along would light its indicator and bring a headset into its worse mode; and the system ends a
-// program that opens one without saying why.
+// An active microphone would light its indicator and switch a headset to its low-quality mode; and the system
+// terminates a program that opens one without a usage description.
 std::expected<void, TapError> CoreAudioTap::disableDeviceInputs()
 {
     constexpr auto input = kAudioObjectPropertyScopeInput;
@@ -189,7 +189,7 @@ std::expected<void, TapError> CoreAudioTap::disableDeviceInputs()
     if (usage->streamCount() < 2)
         return {};  // The tap's, and none of the device's.
 
-    // The aggregate lists the device's streams first; the last one is the tap and stays on.
+    // The aggregate lists the device's streams first; the last one is the tap and remains enabled.
     const std::size_t disabled = std::min(usage->streamCount() - 1, deviceInputs);
     for (std::size_t stream = 0; stream < disabled; ++stream)
         usage->switchOff(stream);
@@ -208,31 +208,31 @@ void CoreAudioTap::watch()
     });
     if (listener)
         deviceListener_ = std::move(*listener);
-    restarts_ = surroundings_.restarts.add([this] { abandon(); });
-    looks_ = surroundings_.silentTaps.whenLooking([this] { lookForSilence(); });
+    restarts_ = context_.restarts.add([this] { abandon(); });
+    checks_ = context_.silentTaps.whenChecking([this] { checkForSilence(); });
 }
 
-void CoreAudioTap::lookForSilence()
+void CoreAudioTap::checkForSilence()
 {
-    auto& taps = surroundings_.silentTaps;
+    auto& taps = context_.silentTaps;
     const SilentTaps::Key key{description_.processes, output_.uid};
     const std::uint64_t silent = silence_->silentFrames();
     if (silent < silentWhilePaused_)
         silentWhilePaused_ = 0;
-    if (silence_->hasHeard())
-        taps.noteSound(key);
+    if (silence_->hasHadSound())
+        taps.soundArrived(key);
     if (!taps.isAnyPlaying(description_.processes))
         silentWhilePaused_ = silent;
     if (!isRunning_)
         return;
-    const auto patience = static_cast<double>(taps.patienceWith(key).count());
-    if (static_cast<double>(silent - silentWhilePaused_) < patience * sampleRate_)
+    const auto tolerance = static_cast<double>(taps.toleratedSilence(key).count());
+    if (static_cast<double>(silent - silentWhilePaused_) < tolerance * sampleRate_)
         return;
-    taps.noteRenewal(key);
+    taps.tapReplaced(key);
     isRunning_ = false;
 }
 
-// What has our ids now is not ours.
+// Our ids may now belong to other objects.
 void CoreAudioTap::abandon()
 {
     isRunning_ = false;

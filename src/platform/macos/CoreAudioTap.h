@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // One tap on macOS.
 //
-// A process tap mixes the processes and keeps them silent elsewhere while it is read. A private aggregate device joins
-// the tap to the output device, which gives the clock. An IO procedure on it runs what the program asked for. They are
-// made in this order and taken down in the opposite one.
+// A process tap mixes the processes and mutes them elsewhere while it is read. A private aggregate device combines the
+// tap with the output device, which provides the clock. An IO procedure on it runs the program's procedure. They are
+// created in this order and torn down in reverse.
 //
-// Three things end a tap from outside: its device goes, the audio service restarts, or it delivers zeros while its
-// processes play. It then has no rate, and whoever owns it makes a new one.
+// Three external events end a tap: its device is removed, the audio service restarts, or it delivers zeros while its
+// processes play. It then has no rate, and its owner creates a new one.
 #pragma once
 
 #include "platform/ProcessTap.h"
@@ -28,8 +28,8 @@ namespace fadeloom {
 
 class PropertyListener;
 
-/// What taps have from their audio system, which outlives them.
-struct TapSurroundings {
+/// State that taps share with their audio system, which outlives them.
+struct TapContext {
     ServiceRestarts& restarts;
     SilentTaps& silentTaps;
 };
@@ -37,9 +37,9 @@ struct TapSurroundings {
 /// Thread: main.
 class CoreAudioTap final : public ProcessTap {
 public:
-    /// Builds everything and starts the sound; after a failure nothing of it is left, and the error names the step.
+    /// Builds everything and starts the device; after a failure nothing of it is left, and the error names the step.
     [[nodiscard]] static std::expected<std::unique_ptr<CoreAudioTap>, TapError> create(
-        const TapRequest& request, const AudioIOProcFactory& makeIOProc, TapSurroundings surroundings);
+        const TapRequest& request, const AudioIOProcFactory& makeIOProc, TapContext surroundings);
     CoreAudioTap(const CoreAudioTap&) = delete;
     CoreAudioTap& operator=(const CoreAudioTap&) = delete;
     ~CoreAudioTap() override;
@@ -49,7 +49,7 @@ public:
     [[nodiscard]] bool setProcesses(const std::vector<AudioProcessID>& processes) override;
 
 private:
-    CoreAudioTap(OutputDevice output, TapSurroundings surroundings);
+    CoreAudioTap(OutputDevice output, TapContext surroundings);
 
     [[nodiscard]] std::expected<void, TapError> build(
         const TapRequest& request, const AudioIOProcFactory& makeIOProc);
@@ -59,11 +59,11 @@ private:
     [[nodiscard]] OSStatus createIOProc(std::shared_ptr<AudioIOProc> proc, std::size_t tapBufferCount);
     [[nodiscard]] std::expected<void, TapError> disableDeviceInputs();
     void watch();
-    void lookForSilence();
+    void checkForSilence();
     void abandon();
 
     const OutputDevice output_;
-    const TapSurroundings surroundings_;
+    const TapContext context_;
     bool isRunning_ = false;
     double sampleRate_ = 0;
     int disabledInputs_ = 0;
@@ -74,10 +74,10 @@ private:
 
     // Shared with the block, which the system keeps until no cycle can reach it.
     const std::shared_ptr<SilenceCount> silence_ = std::make_shared<SilenceCount>();
-    std::uint64_t silentWhilePaused_ = 0;  // Frames of the silence that were no fault.
+    std::uint64_t silentWhilePaused_ = 0;  // Frames of silence during which no process was playing.
     std::unique_ptr<PropertyListener> deviceListener_;
     Subscription restarts_;
-    Subscription looks_;
+    Subscription checks_;
 };
 
 }  // namespace fadeloom

@@ -9,7 +9,7 @@
 
 namespace fadeloom {
 
-/// One counted reference to the system's queue.
+/// A counted reference to the system's queue.
 class DispatchQueue::Handle {
 public:
     explicit Handle(const char* label)
@@ -29,7 +29,7 @@ private:
     const dispatch_queue_t queue_;
 };
 
-/// Whoever takes the task out runs it or drops it, and nobody else finds it there.
+/// Whoever extracts the task runs or drops it; nobody else finds it there.
 class DispatchQueue::Item final : public Work {
 public:
     Item(std::shared_ptr<Handle> queue, std::function<void()> task)
@@ -84,7 +84,7 @@ std::shared_ptr<BackgroundQueue::Work> DispatchQueue::submit(
     auto item = std::make_shared<Item>(handle_, std::move(task));
     const dispatch_block_t due = ^{ item->runWhenDue(); };
     if (delay.count() <= 0) {
-        dispatch_async(handle_->get(), due);  // In the order given, which timers do not promise.
+        dispatch_async(handle_->get(), due);  // In the order submitted, which timers do not guarantee.
     } else {
         const auto later = std::chrono::nanoseconds(delay).count();
         dispatch_after(dispatch_time(DISPATCH_TIME_NOW, later), handle_->get(), due);

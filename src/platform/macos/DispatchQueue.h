@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-// A background queue of the system's, on whichever thread it likes.
+// A background queue, backed by a dispatch queue.
 #pragma once
 
 #include "platform/BackgroundQueue.h"
 
 namespace fadeloom {
 
-/// Pieces of work never run at the same time, not even when one of them is run by `runNow`. They must not throw.
+/// Tasks never run concurrently, not even with `runNow`. They must not throw.
 class DispatchQueue final : public BackgroundQueue {
 public:
-    /// `label`: under this name the system's tools show it.
+    /// `label`: shown by the system's tools.
     explicit DispatchQueue(const char* label);
-    /// Does what is due by now, then drops the rest.
+    /// Runs what is due, then drops the rest.
     ~DispatchQueue() override;
     DispatchQueue(const DispatchQueue&) = delete;
     DispatchQueue& operator=(const DispatchQueue&) = delete;
@@ -22,7 +22,7 @@ private:
     class Handle;
     class Item;
 
-    const std::shared_ptr<Handle> handle_;  // Shared with the pieces of work, which may outlive the queue.
+    const std::shared_ptr<Handle> handle_;  // Shared with the handles, which may outlive the queue.
 };
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One library that is opened while the program runs, because it may not be there.
+// A library that is loaded at run time, because it may not exist.
 #pragma once
 
 #include <dlfcn.h>
@@ -20,7 +20,7 @@ public:
             dlclose(handle_);
     }
 
-    /// Null without the library, and when it has no such function. Valid for as long as this lives.
+    /// Null if the library or the function does not exist. Valid for the lifetime of this object.
     template <typename Function>
     [[nodiscard]] Function* function(const char* name) const
     {

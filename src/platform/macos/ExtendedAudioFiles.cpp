@@ -16,7 +16,7 @@ ExtendedAudioFiles::~ExtendedAudioFiles() = default;
 
 bool ExtendedAudioFiles::isTaken(const std::filesystem::path& location) const
 {
-    std::error_code unknown;  // Then creating the file fails, too, and says why.
+    std::error_code unknown;  // Creating the file fails then too, with a reason.
     return std::filesystem::exists(std::filesystem::symlink_status(location, unknown));
 }
 

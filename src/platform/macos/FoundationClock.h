@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The machine's clock, and its time zone.
+// The system's clock and time zone.
 #pragma once
 
 #include "platform/WallClock.h"

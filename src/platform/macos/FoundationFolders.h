@@ -10,7 +10,7 @@ class FoundationFolders final : public StandardFolders {
 public:
     std::filesystem::path applicationSupport() const override;
     std::filesystem::path music() const override;
-    /// Where programs keep what they can make again. Thread: any.
+    /// The folder for caches. Thread: any.
     [[nodiscard]] std::filesystem::path caches() const;
 };
 

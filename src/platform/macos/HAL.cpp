@@ -9,7 +9,7 @@
 namespace fadeloom::HAL {
 namespace {
 
-// A list that has outgrown its size this many times in a row is being changed faster than it can be read.
+// A list that has grown between size query and read this many times in a row changes faster than it can be read.
 constexpr int arrayAttempts = 4;
 
 }  // namespace
@@ -47,7 +47,7 @@ std::optional<std::string> string(AudioObjectID object, AudioObjectPropertySelec
     UInt32 size = sizeof owned;
     const OSStatus status = AudioObjectGetPropertyData(object, &where, 0, nullptr, &size, &owned);
     if (status != kAudioHardwareNoError
-        || size != sizeof owned)  // A number is no text that could be released.
+        || size != sizeof owned)  // A number is not an object that could be released.
         return std::nullopt;
     const auto text = CFRef<CFStringRef>::adopt(owned);
     return text ? std::optional(textOf(text.get())) : std::nullopt;
@@ -61,7 +61,7 @@ std::vector<AudioObjectID> getArray(
         const auto listSize = size(object, where);
         if (!listSize || *listSize == 0)
             return {};
-        // Rounded up, so that an odd size still fits; only whole ids are handed on.
+        // Rounded up, so that an odd size still fits; only complete ids are returned.
         std::vector<AudioObjectID> ids((*listSize + sizeof(AudioObjectID) - 1) / sizeof(AudioObjectID));
         const auto bytesRead = read(object, where, std::as_writable_bytes(std::span(ids)).first(*listSize));
         if (bytesRead) {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Typed reading and writing of audio object properties.
+// Typed access to audio object properties.
 //
-// Sizes, raw bytes and status codes end here: a property that cannot be read is absent or empty, so that one driver
-// that misbehaves leaves out its own device and nothing else.
+// Encapsulates sizes, raw bytes and status codes: a property that cannot be read is absent or empty, so that a
+// misbehaving driver affects only its own device.
 #pragma once
 
 #include <CoreAudio/CoreAudio.h>
@@ -25,24 +25,24 @@ namespace fadeloom::HAL {
     return {selector, scope, kAudioObjectPropertyElementMain};
 }
 
-/// Size of a property's value in bytes.
+/// The size of a property's value in bytes.
 [[nodiscard]] std::expected<std::size_t, OSStatus> size(
     AudioObjectID object, const AudioObjectPropertyAddress& address);
-/// Reads a value into `value` and returns how many bytes it took.
+/// Reads a value into `value` and returns its size in bytes.
 [[nodiscard]] std::expected<std::size_t, OSStatus> read(
     AudioObjectID object, const AudioObjectPropertyAddress& address, std::span<std::byte> value);
 [[nodiscard]] OSStatus write(
     AudioObjectID object, const AudioObjectPropertyAddress& address, std::span<const std::byte> value);
 
-/// Text of an object, global scope. Absent when the object has no such text or cannot be read.
+/// A string property of an object, global scope. nullopt if the object has no such property or it cannot be read.
 [[nodiscard]] std::optional<std::string> string(AudioObjectID object, AudioObjectPropertySelector selector);
 
-/// A list of object ids. Empty when it cannot be read. A list that grows while it is read is asked for again, a few
+/// A list of object ids. Empty if it cannot be read. If the list grows while it is read, the read is retried a few
 /// times.
 [[nodiscard]] std::vector<AudioObjectID> getArray(
     AudioObjectID object, AudioObjectPropertySelector selector, AudioObjectPropertyScope scope);
 
-/// A value of fixed size. Absent when it cannot be read or is not exactly as large as `T`.
+/// A value of fixed size. nullopt if it cannot be read or its size is not that of `T`.
 template <typename T>
 [[nodiscard]] std::optional<T> value(AudioObjectID object, const AudioObjectPropertyAddress& address)
 {

@@ -5,14 +5,14 @@
 
 namespace fadeloom {
 
-const std::vector<CallApp>& MacOSCallApps::wellKnown() const
+const std::vector<CallApp>& MacOSCallApps::knownApps() const
 {
     return firstCallApps();
 }
 
 std::vector<std::string> MacOSCallApps::identifiersOf(const std::string& bundleID) const
 {
-    return identifiersWith(bundleID, callAppWith(wellKnown(), bundleID));
+    return identifiersWith(bundleID, callAppWith(knownApps(), bundleID));
 }
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The well-known call apps of macOS, by their bundle identifiers.
+// The known call apps of macOS, by bundle identifier.
 #pragma once
 
 #include "platform/CallApps.h"
@@ -8,7 +8,7 @@ namespace fadeloom {
 
 class MacOSCallApps : public CallApps {
 public:
-    [[nodiscard]] const std::vector<CallApp>& wellKnown() const override;
+    [[nodiscard]] const std::vector<CallApp>& knownApps() const override;
     [[nodiscard]] std::vector<std::string> formerDefaults() const override { return {}; }
     [[nodiscard]] std::vector<std::string> identifiersOf(const std::string& bundleID) const override;
 };

@@ -12,7 +12,7 @@ std::expected<void, LoginItemError> outcome(BOOL isDone, NSError* error)
 {
     if (isDone)
         return {};
-    return std::unexpected(SystemWords{textOf(error.localizedDescription).value_or("")});
+    return std::unexpected(SystemMessage{textOf(error.localizedDescription).value_or("")});
 }
 
 }  // namespace

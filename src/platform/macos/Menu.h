@@ -8,7 +8,7 @@
 
 namespace fadeloom {
 
-/// The menu keeps what its entries call.
+/// The menu retains what its items call.
 [[nodiscard]] NSMenu* nsMenu(const StatusMenu& entries);
 
 }  // namespace fadeloom

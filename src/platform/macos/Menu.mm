@@ -18,7 +18,7 @@ NSMenuItem* itemOf(const StatusMenuEntry& entry)
                                            keyEquivalent:nsText(entry.key)];
     FadeloomAction* action = [[FadeloomAction alloc] initWithFunction:entry.action];
     item.target = action;
-    item.representedObject = action;  // Which it keeps, as it does not its target.
+    item.representedObject = action;  // Retained, unlike the target.
     item.state = entry.isChecked ? NSControlStateValueOn : NSControlStateValueOff;
     return item;
 }

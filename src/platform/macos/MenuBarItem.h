@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's item in the menu bar.
+// The program's menu bar item.
 #pragma once
 
 #include "base/LifeToken.h"
@@ -9,8 +9,8 @@
 
 namespace fadeloom {
 
-/// Its picture is the resource "MenuBarIcon", which the system tints; without it the item is empty. A right click opens
-/// the menu, and a click with Control or Option held, and an action for screen readers.
+/// Its icon is the resource "MenuBarIcon", which the system tints; without it the item is empty. The menu opens on a
+/// right click, a click with Control or Option held, and through an accessibility action.
 class MenuBarItem final : public StatusItem {
 public:
     MenuBarItem();
@@ -24,7 +24,7 @@ public:
     void whenMenuOpens(std::function<void()> willOpen) override;
     void setMenu(std::function<StatusMenu()> build) override;
 
-    /// Its button, an `NSStatusBarButton` that stays the item's; null before `show`.
+    /// Its button, an `NSStatusBarButton` owned by the item; null before `show`.
     [[nodiscard]] void* button() const;
 
 private:

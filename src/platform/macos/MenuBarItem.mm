@@ -25,9 +25,9 @@ bool isOfMouse(NSEvent* event)
     }
 }
 
-/// Where a click is a gesture, the event of the moment may be any, or none: then the keyboard itself is asked. Control
-/// and Option together are how VoiceOver presses what it reads.
-bool asksForMenu(NSEvent* event)
+/// For accessibility presses, the current event may be any, or none: then the keyboard state is queried instead.
+/// Control and Option together are VoiceOver's own modifiers.
+bool isMenuClick(NSEvent* event)
 {
     const bool isMouse = event != nil && isOfMouse(event);
     if (isMouse && (event.type == NSEventTypeRightMouseUp || event.type == NSEventTypeRightMouseDown))
@@ -40,10 +40,10 @@ bool asksForMenu(NSEvent* event)
 
 }  // namespace
 
-/// One place in the menu bar.
+/// The status item.
 class MenuBarItem::Shown {
 public:
-    Shown(NSString* name, std::function<void()> clicked, std::function<void()> asksForMenu)
+    Shown(NSString* name, std::function<void()> clicked, std::function<void()> isMenuClick)
         : item_([NSStatusBar.systemStatusBar statusItemWithLength:NSSquareStatusItemLength])
         , action_([[FadeloomAction alloc] initWithFunction:std::move(clicked)])
     {
@@ -56,7 +56,7 @@ public:
         button.target = action_;
         button.action = @selector(act:);
         [button sendActionOn:NSEventMaskLeftMouseUp | NSEventMaskRightMouseUp];
-        offerMenu(std::move(asksForMenu));
+        offerMenu(std::move(isMenuClick));
     }
     Shown(const Shown&) = delete;
     Shown& operator=(const Shown&) = delete;
@@ -64,7 +64,7 @@ public:
 
     [[nodiscard]] NSStatusBarButton* button() const { return item_.button; }
 
-    /// Returns when the menu has closed. With a menu of its own the item would open it on every click.
+    /// Returns when the menu has closed. If the menu were assigned to the item, every click would open it.
     void open(NSMenu* menu)
     {
         item_.menu = menu;
@@ -73,14 +73,14 @@ public:
     }
 
 private:
-    /// To screen readers, which have no right button. The menu opens later: whoever asks waits for the answer.
-    void offerMenu(std::function<void()> asksForMenu)
+    /// For screen readers, which have no right click. Deferred, because the caller waits for the reply.
+    void offerMenu(std::function<void()> isMenuClick)
     {
         NSString* name = NSAccessibilityActionDescription(NSAccessibilityShowMenuAction);
         NSAccessibilityCustomAction* action = [[NSAccessibilityCustomAction alloc]
             initWithName:name == nil ? @"show menu" : name
                  handler:^{
-                     dispatch_async(dispatch_get_main_queue(), ^{ asksForMenu(); });
+                     dispatch_async(dispatch_get_main_queue(), ^{ isMenuClick(); });
                      return YES;
                  }];
         item_.button.accessibilityCustomActions = @[ action ];
@@ -124,7 +124,7 @@ void* MenuBarItem::button() const
 void MenuBarItem::clicked()
 {
     @autoreleasepool {
-        if (asksForMenu(NSApp.currentEvent))
+        if (isMenuClick(NSApp.currentEvent))
             openMenu();
         else
             clicked_();

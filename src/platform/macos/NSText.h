@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Texts and places of files on their way into Foundation and out of it. For Objective-C++ only.
+// String and path conversion from and to Foundation. For Objective-C++ only.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -10,7 +10,7 @@
 
 namespace fadeloom {
 
-/// `text`: UTF-8; what is not becomes an empty text.
+/// `text`: UTF-8; invalid text becomes an empty one.
 inline NSString* nsText(const std::string& text)
 {
     NSString* made = [NSString stringWithUTF8String:text.c_str()];
@@ -29,7 +29,7 @@ inline NSURL* nsURL(const std::filesystem::path& file)
     return [NSURL fileURLWithPath:nsText(file.native())];
 }
 
-/// Without a slash at its end, which the address of a folder has.
+/// Without the trailing slash of a folder's URL.
 inline std::optional<std::filesystem::path> pathOf(NSURL* location)
 {
     if (const char* bytes = location.path.UTF8String)

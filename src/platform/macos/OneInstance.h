@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// One instance of the program for a user: two would take each other's applications away.
+// Ensures one instance per user: two would capture each other's applications.
 //
-// The system itself opens a bundle only once. This is for who starts the executable inside of it, and for an instance
-// without a window beside the one with the panel. A lock on a file decides who is the first; a second start has the
-// panel of the first opened by a notification.
+// The system itself opens a bundle only once. This covers starting the executable inside it, and an instance without a
+// window besides the one with the panel. A file lock decides which is the first; a second start makes the first one
+// open its panel through a notification.
 #pragma once
 
 #include "base/FileDescriptor.h"
@@ -20,30 +20,30 @@ namespace fadeloom {
 class OneInstance {
 public:
     enum class Start {
-        first,  // This is the one instance now.
+        first,  // This is the first instance.
         besidePanel,  // There is another one, with a panel.
-        besideHeadless,  // There is another one, without.
+        besideHeadless,  // There is another one, without a panel.
     };
 
-    /// In the environment of an instance that follows one which is about to end.
+    /// Set in the environment of an instance that succeeds an exiting one.
     static constexpr const char* successorVariable = "FADELOOM_SUCCEEDS";
-    static constexpr std::chrono::milliseconds patience{10'000};  // With one that ends.
+    static constexpr std::chrono::milliseconds timeout{10'000};  // For an exiting instance.
 
-    /// `folder`: the user's own, and the same for all instances; an empty one is none.
+    /// `folder`: the user's own, and the same for all instances; empty for none.
     explicit OneInstance(std::filesystem::path folder);
     OneInstance(const OneInstance&) = delete;
     OneInstance& operator=(const OneInstance&) = delete;
-    /// The next start is the first.
+    /// Allows the next start to be the first.
     ~OneInstance();
 
-    /// Becomes the one instance, if there is no other. Waits for one that ends. Where the lock's file cannot be made,
-    /// every start is the first.
+    /// Becomes the first instance, if there is no other. Waits for one that is exiting. If the lock file cannot be
+    /// created, every start is the first.
     [[nodiscard]] Start claim(bool hasPanel);
-    /// Has the other instance open its panel.
+    /// Makes the other instance open its panel.
     void askToOpen() const;
-    /// What is done from now on when another one asks for that.
+    /// Sets the handler of such a request from another instance.
     void serve(std::function<void()> open);
-    /// From now on others wait for the end.
+    /// From now on other instances wait for the exit.
     void beginEnding();
 
 private:

@@ -2,21 +2,20 @@
 #include "platform/macos/OneInstance.h"
 
 #import <Foundation/Foundation.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <system_error>
 #include <thread>
 #include <utility>
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 namespace fadeloom {
 namespace {
 
-// What the file says of the instance that has the lock.
+// The file's contents describe the instance that holds the lock.
 constexpr char withPanel = 'p';
 constexpr char withoutPanel = 'h';
 constexpr char ending = 'e';
@@ -26,7 +25,7 @@ NSNotificationName const openRequest = @"com.fadeloom.app.open";
 
 }  // namespace
 
-/// Hears the others, who may be of another build: the name is all that they share.
+/// Receives notifications from other instances, possibly of another build: only the name is shared.
 class OneInstance::Requests {
 public:
     explicit Requests(std::function<void()> open)
@@ -56,14 +55,14 @@ OneInstance::Start OneInstance::claim(bool hasPanel)
 {
     if (file_.parent_path().empty())
         return Start::first;
-    std::error_code ignored;  // Opening fails then, too.
+    std::error_code ignored;  // Opening fails then too.
     std::filesystem::create_directories(file_.parent_path(), ignored);
     lock_.emplace(::open(file_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!lock_->isOpen())
         return Start::first;
 
     const bool isSuccessor = std::getenv(successorVariable) != nullptr;
-    const auto end = std::chrono::steady_clock::now() + patience;
+    const auto end = std::chrono::steady_clock::now() + timeout;
     while (!tryToLock()) {
         const char kind = kindOfOther();
         if ((kind != ending && !isSuccessor) || std::chrono::steady_clock::now() >= end)
@@ -94,7 +93,7 @@ void OneInstance::note(char kind)
 void OneInstance::askToOpen() const
 {
     @autoreleasepool {
-        // At once: to a program that is not the active one, others are kept back.
+        // Deliver immediately: otherwise notifications to an inactive program are held back.
         [NSDistributedNotificationCenter.defaultCenter postNotificationName:openRequest
                                                                      object:nil
                                                                    userInfo:nil

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The end of the user's session, before it comes.
+// Notification before the user's session ends.
 #pragma once
 
 #include <functional>
@@ -10,8 +10,8 @@ namespace fadeloom {
 /// Thread: main.
 class PowerOffWatch {
 public:
-    /// `willEnd` is called when the user logs out or shuts down. What has to be done is done when it returns: the system
-    /// may end the program at any moment afterwards.
+    /// `willEnd` is called when the user logs out or shuts down. It must complete the shutdown before it returns: the
+    /// system may terminate the program at any time afterwards.
     explicit PowerOffWatch(std::function<void()> willEnd);
     PowerOffWatch(const PowerOffWatch&) = delete;
     PowerOffWatch& operator=(const PowerOffWatch&) = delete;

@@ -24,7 +24,7 @@ void ProcessListeners::sync(std::span<const AudioProcess> current)
         const auto [entry, isNew] = listeners_.try_emplace(id);
         if (!isNew)
             continue;
-        // A process that cannot be listened to is not asked again: the regular poll sees its changes all the same.
+        // A process that cannot be listened to is not retried: the regular poll detects its changes anyway.
         for (const AudioObjectPropertySelector selector :
             {kAudioProcessPropertyIsRunningOutput, kAudioProcessPropertyIsRunningInput}) {
             if (auto listener = PropertyListener::add(id, HAL::address(selector), changed_))

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Hears each audio process start and stop playing, and start and stop using the microphone.
+// Listens to each audio process starting and stopping to play, and to use the microphone.
 #pragma once
 
 #include "platform/AudioProcess.h"
@@ -19,7 +19,7 @@ public:
     /// `changed` is called on the main queue after each change of any process.
     explicit ProcessListeners(std::function<void()> changed);
 
-    /// Listens to these audio processes and to no others. Those that went are let go before new ones are heard.
+    /// Listens to exactly these audio processes. Listeners of ended ones are removed before new ones are added.
     void sync(std::span<const AudioProcess> current);
 
 private:

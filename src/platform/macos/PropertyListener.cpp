@@ -8,7 +8,7 @@ namespace fadeloom {
 std::expected<std::unique_ptr<PropertyListener>, OSStatus> PropertyListener::add(
     AudioObjectID object, const AudioObjectPropertyAddress& address, std::function<void()> listener)
 {
-    auto told = std::make_shared<Told>(std::move(listener));
+    auto told = std::make_shared<Callback>(std::move(listener));
     std::unique_ptr<PropertyListener> added(new PropertyListener(object, address, std::move(told)));
     const OSStatus status = AudioObjectAddPropertyListenerBlock(
         object, &added->address_, dispatch_get_main_queue(), added->block_.get());
@@ -19,12 +19,12 @@ std::expected<std::unique_ptr<PropertyListener>, OSStatus> PropertyListener::add
 }
 
 PropertyListener::PropertyListener(
-    AudioObjectID object, const AudioObjectPropertyAddress& address, std::shared_ptr<Told> told)
+    AudioObjectID object, const AudioObjectPropertyAddress& address, std::shared_ptr<Callback> told)
     : object_(object)
     , address_(address)
-    , told_(told)
+    , callback_(told)
     , block_(^(UInt32, const AudioObjectPropertyAddress*) {
-        const auto kept = told;  // The listener may end its own subscription, and this block with it.
+        const auto kept = told;  // The listener may end its own subscription, and with it this block.
         if (!kept->isOver)
             kept->listener();
     })
@@ -33,7 +33,7 @@ PropertyListener::PropertyListener(
 
 PropertyListener::~PropertyListener()
 {
-    told_->isOver = true;
+    callback_->isOver = true;
     if (isAdded_)
         AudioObjectRemovePropertyListenerBlock(object_, &address_, dispatch_get_main_queue(), block_.get());
 }

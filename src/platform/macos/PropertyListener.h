@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One listener to one property of one audio object.
+// A listener for one property of one audio object.
 #pragma once
 
 #include "platform/macos/BlockRef.h"
@@ -12,7 +12,7 @@
 
 namespace fadeloom {
 
-/// Hears on the main queue, until its end. Thread: main.
+/// Called on the main queue, until it is destroyed. Thread: main.
 class PropertyListener {
 public:
     [[nodiscard]] static std::expected<std::unique_ptr<PropertyListener>, OSStatus> add(
@@ -22,18 +22,18 @@ public:
     ~PropertyListener();
 
 private:
-    /// Outlives the listener: a call that is on its way to the main queue when it ends still arrives.
-    struct Told {
+    /// Outlives the listener: a call already queued when it ends still arrives.
+    struct Callback {
         std::function<void()> listener;
         bool isOver = false;
     };
 
     PropertyListener(
-        AudioObjectID object, const AudioObjectPropertyAddress& address, std::shared_ptr<Told> told);
+        AudioObjectID object, const AudioObjectPropertyAddress& address, std::shared_ptr<Callback> told);
 
     const AudioObjectID object_;
     const AudioObjectPropertyAddress address_;
-    const std::shared_ptr<Told> told_;
+    const std::shared_ptr<Callback> callback_;
     const BlockRef<AudioObjectPropertyListenerBlock> block_;
     bool isAdded_ = false;
 };

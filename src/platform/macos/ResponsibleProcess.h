@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Who answers for a process: the application that launched a helper.
+// The process responsible for another one: the application that launched a helper.
 #pragma once
 
 #include "platform/Workspace.h"
@@ -8,12 +8,12 @@
 
 namespace fadeloom {
 
-/// The system's function for it is not public; it is looked up once, and may be missing.
+/// The system function is not public; it is looked up once, and may be missing.
 class ResponsibleProcess {
 public:
     ResponsibleProcess();
 
-    /// Absent when the system cannot tell.
+    /// nullopt if the system does not know.
     [[nodiscard]] std::optional<ProcessID> of(ProcessID pid) const;
 
 private:

@@ -34,7 +34,7 @@ void ServiceRestarts::listen(const std::shared_ptr<Watch>& watch)
             const auto alive = weakly.lock();
             if (!alive)
                 return;
-            alive->listener.reset();  // It was lost with the others.
+            alive->listener.reset();  // It was lost along with the others.
             listen(alive);
             alive->observers.notify();
         });

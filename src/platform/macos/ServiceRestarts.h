@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Restarts of the audio service.
 //
-// With the service go all objects that we had made there and everyone who listened. The ids of what was there may come
-// again, for other objects.
+// A restart destroys all objects that we created in the service, and all listeners. Old ids may be reused for other
+// objects.
 #pragma once
 
 #include "base/Observers.h"
@@ -14,7 +14,7 @@ namespace fadeloom {
 
 class PropertyListener;
 
-/// Listens while anybody wants to hear. Thread: main.
+/// Listens while there are subscribers. Thread: main.
 class ServiceRestarts {
 public:
     ServiceRestarts();

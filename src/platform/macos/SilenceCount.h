@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How long a tap has delivered nothing but zeros.
+// For how long a tap has delivered only zeros.
 #pragma once
 
 #include "base/RealTime.h"
@@ -14,10 +14,10 @@ namespace fadeloom {
 
 class SilenceCount {
 public:
-    /// One cycle's buffers of the tap. Thread: the device's IO thread.
+    /// Counts one cycle's buffers of the tap. Thread: the device's IO thread.
     void note(AudioBuffers tap) noexcept FADELOOM_NONBLOCKING
     {
-        // Only this thread writes. Relaxed: a number on its own, read by whoever looks now and then.
+        // Only this thread writes. Relaxed: an independent number, read occasionally.
         if (isSilent(tap)) {
             const std::uint64_t former = silentFrames_.load(std::memory_order_relaxed);
             silentFrames_.store(former + framesOf(tap), std::memory_order_relaxed);
@@ -27,11 +27,11 @@ public:
         }
     }
 
-    /// Since the last sample that was not zero. Thread: any.
+    /// Frames since the last non-zero sample. Thread: any.
     [[nodiscard]] std::uint64_t silentFrames() const { return silentFrames_.load(std::memory_order_relaxed); }
 
-    /// Whether there ever was such a sample. Thread: any.
-    [[nodiscard]] bool hasHeard() const { return hasHeard_.load(std::memory_order_relaxed); }
+    /// Whether there ever was a non-zero sample. Thread: any.
+    [[nodiscard]] bool hasHadSound() const { return hasHeard_.load(std::memory_order_relaxed); }
 
 private:
     static bool isSilent(AudioBuffers tap) noexcept FADELOOM_NONBLOCKING

@@ -5,7 +5,7 @@
 
 namespace fadeloom {
 
-void SilentTaps::look(std::span<const AudioProcess> processes)
+void SilentTaps::check(std::span<const AudioProcess> processes)
 {
     std::set<AudioProcessID> present;
     playing_.clear();
@@ -14,10 +14,10 @@ void SilentTaps::look(std::span<const AudioProcess> processes)
         if (process.isPlaying)
             playing_.insert(process.id);
     }
-    std::erase_if(patience_, [&](const auto& each) {
+    std::erase_if(toleratedSilence_, [&](const auto& each) {
         return std::ranges::none_of(each.first.first, [&](auto id) { return present.contains(id); });
     });
-    looks_.notify();
+    checks_.notify();
 }
 
 bool SilentTaps::isAnyPlaying(std::span<const AudioProcessID> processes) const
@@ -25,15 +25,15 @@ bool SilentTaps::isAnyPlaying(std::span<const AudioProcessID> processes) const
     return std::ranges::any_of(processes, [this](auto id) { return playing_.contains(id); });
 }
 
-std::chrono::seconds SilentTaps::patienceWith(const Key& key) const
+std::chrono::seconds SilentTaps::toleratedSilence(const Key& key) const
 {
-    const auto known = patience_.find(key);
-    return known == patience_.end() ? firstPatience : known->second;
+    const auto known = toleratedSilence_.find(key);
+    return known == toleratedSilence_.end() ? initialTolerance : known->second;
 }
 
-void SilentTaps::noteRenewal(const Key& key)
+void SilentTaps::tapReplaced(const Key& key)
 {
-    patience_[key] = std::min(patienceWith(key) * 2, longestPatience);
+    toleratedSilence_[key] = std::min(toleratedSilence(key) * 2, maximumTolerance);
 }
 
 }  // namespace fadeloom

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Taps that deliver zeros while their applications play.
+// Detects taps that deliver zeros while their applications play.
 //
-// A tap may fall silent for good although its application is heard by the system. It cannot be told from an application
-// that plays silence, so a tap is made anew after a while, and each time that this has not helped, after twice as long.
+// A tap may fall silent permanently although its application is playing. That is indistinguishable from an application
+// that plays silence, so a tap is replaced after some time, and each time that has not helped, after twice that time.
 #pragma once
 
 #include "base/Observers.h"
@@ -19,36 +19,36 @@
 
 namespace fadeloom {
 
-/// What all taps share for that. Thread: main.
+/// Shared by all taps. Thread: main.
 class SilentTaps {
 public:
-    static constexpr std::chrono::seconds firstPatience{10};
-    static constexpr std::chrono::seconds longestPatience{3600};
+    static constexpr std::chrono::seconds initialTolerance{10};
+    static constexpr std::chrono::seconds maximumTolerance{3600};
 
-    /// By processes and output: the next tap has the same.
+    /// By processes and output: the replacement of a tap has the same.
     using Key = std::pair<std::vector<AudioProcessID>, std::string>;
 
-    /// Has the taps look at themselves: this is what the processes do now.
-    void look(std::span<const AudioProcess> processes);
-    /// `lookAtIt` is called each time, until the subscription ends.
-    [[nodiscard]] Subscription whenLooking(std::function<void()> lookAtIt)
+    /// Makes the taps check themselves against the current state of the processes.
+    void check(std::span<const AudioProcess> processes);
+    /// `check` is called each time, until the subscription ends.
+    [[nodiscard]] Subscription whenChecking(std::function<void()> check)
     {
-        return looks_.add(std::move(lookAtIt));
+        return checks_.add(std::move(check));
     }
 
-    /// Whether one of these plays.
+    /// Whether any of these plays.
     [[nodiscard]] bool isAnyPlaying(std::span<const AudioProcessID> processes) const;
-    /// How long zeros of such a tap are borne.
-    [[nodiscard]] std::chrono::seconds patienceWith(const Key& key) const;
-    /// Zeros were borne long enough, and the tap is made anew.
-    void noteRenewal(const Key& key);
-    /// Sound has come.
-    void noteSound(const Key& key) { patience_.erase(key); }
+    /// For how long zeros from such a tap are tolerated.
+    [[nodiscard]] std::chrono::seconds toleratedSilence(const Key& key) const;
+    /// The tap has exceeded that time, and is replaced.
+    void tapReplaced(const Key& key);
+    /// Audio has arrived.
+    void soundArrived(const Key& key) { toleratedSilence_.erase(key); }
 
 private:
-    Observers looks_;
+    Observers checks_;
     std::set<AudioProcessID> playing_;
-    std::map<Key, std::chrono::seconds> patience_;
+    std::map<Key, std::chrono::seconds> toleratedSilence_;
 };
 
 }  // namespace fadeloom

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A status of the platform, in words.
+// Formats a status code of the platform.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace fadeloom {
 
-/// "OSStatus -50", or "OSStatus 560947818 ('!obj')" when the number is four printable characters.
+/// "OSStatus -50", or "OSStatus 560947818 ('!obj')" if the number is four printable characters.
 [[nodiscard]] std::string statusText(std::int32_t status);
 
 }  // namespace fadeloom

@@ -17,7 +17,7 @@ namespace {
 using Record = AudioHardwareIOProcStreamUsage;
 using Flag = std::uint32_t;
 
-// The record's tail has no type of its own, so fields are copied in and out at their offsets.
+// The variable-length tail of the record has no type, so fields are accessed at their offsets.
 template <typename Field>
 Field fieldAt(std::span<const std::byte> record, std::size_t offset)
 {
@@ -56,7 +56,7 @@ std::optional<StreamUsage> StreamUsage::read(
     if (!size || *size < sizeof(Record))
         return std::nullopt;
 
-    // The record says on the way in which procedure it is asked for.
+    // The query's buffer carries the procedure that it is for.
     std::vector<std::byte> record(*size);
     setFieldAt(record, offsetof(Record, mIOProc), proc);
     const auto bytesRead = HAL::read(device, address(scope), record);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The privacy database's word on capturing what other applications play.
+// The privacy database's permission to capture other applications' audio.
 #pragma once
 
 #include "platform/CapturePermission.h"
@@ -9,7 +9,7 @@
 
 namespace fadeloom {
 
-/// No public function asks for this permission, so the two that do are looked up, once, and may be missing.
+/// No public function covers this permission, so two private ones are looked up, once, and may be missing.
 class TccPermission final : public CapturePermission {
 public:
     static constexpr const char* framework = "/System/Library/PrivateFrameworks/TCC.framework/Versions/A/TCC";

@@ -14,7 +14,7 @@ UnifiedLog::UnifiedLog()
 
 void UnifiedLog::write(Level level, std::string_view message)
 {
-    // Without "public" a text is hidden from its readers.
+    // Without "public" the text is redacted.
     const auto type = level == Level::error ? OS_LOG_TYPE_ERROR : OS_LOG_TYPE_DEFAULT;
     os_log_with_type(log_, type, "%{public}s", std::string(message).c_str());
 }

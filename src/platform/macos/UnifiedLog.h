@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The machine's log.
+// The unified log.
 #pragma once
 
 #include "platform/SystemLog.h"
@@ -15,7 +15,7 @@ public:
     void write(Level level, std::string_view message) override;
 
 private:
-    os_log_s* const log_;  // The system keeps it for as long as the program runs.
+    os_log_s* const log_;  // Never released by the system.
 };
 
 }  // namespace fadeloom

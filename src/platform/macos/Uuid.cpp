@@ -9,7 +9,7 @@ namespace fadeloom {
 std::string makeUuid()
 {
     constexpr std::string_view digits = "0123456789ABCDEF";
-    // x: any digit; y: one of the four digits that the variant leaves open.
+    // x: any digit; y: one of the four digits allowed by the variant.
     constexpr std::string_view shape = "xxxxxxxx-xxxx-4xxx-yxxx-xxxxxxxxxxxx";
 
     std::random_device source;

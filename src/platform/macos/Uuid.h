@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Names that nobody else has.
+// Globally unique names.
 #pragma once
 
 #include <string>
 
 namespace fadeloom {
 
-/// A new random UUID (version 4) in its text form, 36 characters in upper case. Thread: any but the IO thread.
+/// A new random UUID (version 4) as text, 36 characters in upper case. Thread: any but the IO thread.
 [[nodiscard]] std::string makeUuid();
 
 }  // namespace fadeloom

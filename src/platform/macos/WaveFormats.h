@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The two formats of a recording: on the disk, and of the samples that are handed over.
+// The two formats of a recording: in the file, and of the samples that are written.
 #pragma once
 
 #include <CoreAudio/CoreAudioTypes.h>
 
 namespace fadeloom {
 
-/// Stereo, interleaved and packed. `sampleRate`: hertz. `sampleFlag`: how its bits are read.
+/// Stereo, interleaved and packed. `sampleRate`: hertz. `sampleFlag`: the sample type.
 [[nodiscard]] constexpr AudioStreamBasicDescription packedStereoFormat(
     double sampleRate, AudioFormatFlags sampleFlag, UInt32 bitsPerSample)
 {
@@ -24,13 +24,13 @@ namespace fadeloom {
     };
 }
 
-/// On the disk: 24-bit integers.
+/// In the file: 24-bit integers.
 [[nodiscard]] constexpr AudioStreamBasicDescription waveFileFormat(double sampleRate)
 {
     return packedStereoFormat(sampleRate, kAudioFormatFlagIsSignedInteger, 24);
 }
 
-/// As samples are handed over: floats.
+/// As written by us: floats.
 [[nodiscard]] constexpr AudioStreamBasicDescription waveClientFormat(double sampleRate)
 {
     return packedStereoFormat(sampleRate, kAudioFormatFlagIsFloat, 32);

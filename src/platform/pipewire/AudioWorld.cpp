@@ -18,7 +18,7 @@ auto find(const Things& things, const Key& key, Projection projection) -> const 
 }
 
 std::optional<OutOfReach> outOfReach(
-    const GraphNode& stream, const AudioWorldBuilder::StreamKnowledge& knowledge)
+    const GraphNode& stream, const AudioWorldBuilder::StreamQueries& knowledge)
 {
     if (!isTappable(stream))
         return OutOfReach::fixed;
@@ -64,7 +64,7 @@ AudioChanges changesBetween(const AudioWorld& before, const AudioWorld& after)
     };
 }
 
-AudioWorld AudioWorldBuilder::build(const Graph& graph, const StreamKnowledge& knowledge)
+AudioWorld AudioWorldBuilder::build(const Graph& graph, const StreamQueries& knowledge)
 {
     AudioWorld world;
     addDevices(graph, world);
@@ -86,9 +86,9 @@ void AudioWorldBuilder::addDevices(const Graph& graph, AudioWorld& world)
     for (const auto& [nodeID, node] : graph.nodes) {
         const auto ports = node.isSink() ? graph.inputPorts(nodeID) : std::vector<GraphPort>{};
         if (ports.empty() || ports.size() < node.inputPortCount)
-            continue;  // No device, or one whose ports are still appearing.
+            continue;  // Not a device, or one whose ports are still appearing.
 
-        // A device whose channels change is another device: whoever plays to it must place its sound anew.
+        // A change of channels makes it another device: audio must be mapped to it again.
         auto layout = layoutOf(ports);
         present.insert(node.serial);
         auto& known = devices_[node.serial];
@@ -107,7 +107,7 @@ void AudioWorldBuilder::addDevices(const Graph& graph, AudioWorld& world)
     std::ranges::sort(world.devices, {}, &AudioWorld::Device::serial);
 }
 
-void AudioWorldBuilder::addProcesses(const Graph& graph, const StreamKnowledge& knowledge, AudioWorld& world)
+void AudioWorldBuilder::addProcesses(const Graph& graph, const StreamQueries& knowledge, AudioWorld& world)
 {
     struct Activity {
         bool hasStream = false;
@@ -135,7 +135,7 @@ void AudioWorldBuilder::addProcesses(const Graph& graph, const StreamKnowledge& 
             activity.ownOutputs.emplace(device->name());
     }
 
-    // One picture for each process, whichever of its clients comes first.
+    // One entry per process, whichever of its clients comes first.
     std::map<ProcessKey, AudioWorld::Process> pictures;
     for (const auto& [id, client] : graph.clients) {
         if (!client.hasInfo)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The graph in the words of the audio system: output devices and audio processes.
+// The graph in terms of the audio system: output devices and audio processes.
 #pragma once
 
 #include "platform/AudioProcess.h"
@@ -16,7 +16,7 @@
 
 namespace fadeloom {
 
-/// A moment's picture; a plain value that any thread may read.
+/// An immutable snapshot; a plain value that any thread may read.
 struct AudioWorld {
     struct Device {
         OutputDeviceID id = 0;
@@ -28,15 +28,15 @@ struct AudioWorld {
 
         friend bool operator==(const Device&, const Device&) = default;
     };
-    /// One process of the machine with all its clients. It stays while the process lives, also when it has closed its
-    /// last client: a player that opens another for its next track is taken hold of from the first sample on. A
-    /// client whose process cannot be told is a process of its own, for as long as it is there.
+    /// One process of the machine with all its clients. It exists as long as the process, even after its last client
+    /// has closed: a player that opens a new client for its next track is captured from the first sample. A client
+    /// whose process is unknown is treated as a process, for its own lifetime.
     struct Process {
         AudioProcessID id = 0;
         std::int32_t pid = -1;
         std::string portalAppID;  // Set for sandboxed applications.
         std::set<GraphSerial> clients;
-        /// The uids of the devices that its streams would play to without us; empty while it has none.
+        /// The uids of the devices that its streams would play to without us; empty while it has no stream.
         std::set<std::string> ownOutputs;
         std::optional<OutOfReach> outOfReach;
         bool isPlaying = false;
@@ -46,7 +46,7 @@ struct AudioWorld {
     };
 
     std::vector<Device> devices;  // In the order in which they appeared.
-    OutputDeviceID defaultDevice = 0;  // 0 when there is none.
+    OutputDeviceID defaultDevice = 0;  // 0 if there is none.
     std::vector<Process> processes;  // By id, which is the order in which they appeared.
 
     [[nodiscard]] const Device* device(OutputDeviceID id) const;
@@ -57,7 +57,7 @@ struct AudioWorld {
 
 /// The kinds of change that are announced.
 struct AudioChanges {
-    bool processes = false;  // Which there are, or what one of them does.
+    bool processes = false;  // Which ones there are, or the state of one of them.
     bool outputDevices = false;
     bool defaultOutput = false;
 
@@ -67,13 +67,13 @@ struct AudioChanges {
 };
 [[nodiscard]] AudioChanges changesBetween(const AudioWorld& before, const AudioWorld& after);
 
-/// Builds it, and gives out the ids. Thread: the graph thread.
+/// Builds snapshots, and assigns the ids. Thread: the graph thread.
 class AudioWorldBuilder {
 public:
     struct Questions {
-        /// Whether the process runs the program that its client names: pids are reused.
+        /// Whether the process runs the program that its client claims: pids are reused.
         std::function<bool(std::int32_t pid, const std::string& binary)> runs;
-        /// Asks to be told by `processEnded`. False when that cannot be had.
+        /// Requests a call of `processEnded`. False if that is impossible.
         std::function<bool(std::int32_t pid)> watch;
     };
 
@@ -82,16 +82,16 @@ public:
     {
     }
 
-    struct StreamKnowledge {
+    struct StreamQueries {
         ChosenTargetOf chosenTarget;
-        /// Whether a stream waits for us: it would play, and counts as playing.
+        /// Whether a stream is held: it would play, and counts as playing.
         std::function<bool(const GraphNode& stream)> isHeld;
         /// Whether a stream is left to another program, which keeps moving it.
         std::function<bool(const GraphNode& stream)> isLeftAlone;
     };
-    [[nodiscard]] AudioWorld build(const Graph& graph, const StreamKnowledge& knowledge);
+    [[nodiscard]] AudioWorld build(const Graph& graph, const StreamQueries& knowledge);
     void processEnded(std::int32_t pid);
-    /// Another server counts its serials anew.
+    /// A restarted server reuses serials.
     void forget();
 
 private:
@@ -100,7 +100,7 @@ private:
         OutputDeviceID id = 0;
     };
 
-    /// What makes two clients one process: the pid, where it can be believed; else the client itself.
+    /// Identifies the process of a client: the pid, if it is credible; else the client itself.
     struct ProcessKey {
         std::int32_t pid = -1;
         GraphSerial client = 0;
@@ -109,18 +109,18 @@ private:
     };
     struct KnownProcess {
         AudioProcessID id = 0;
-        bool isWatched = false;  // Stays without a client until it ends.
+        bool isWatched = false;  // Kept without clients until it exits.
     };
 
     void addDevices(const Graph& graph, AudioWorld& world);
-    void addProcesses(const Graph& graph, const StreamKnowledge& knowledge, AudioWorld& world);
+    void addProcesses(const Graph& graph, const StreamQueries& knowledge, AudioWorld& world);
     [[nodiscard]] const ProcessKey& keyOf(const GraphClient& client);
 
     Questions questions_;
-    std::uint32_t lastID_ = 0;  // Of devices and processes; each is given once.
+    std::uint32_t lastID_ = 0;  // Of devices and processes; never reused.
     std::map<GraphSerial, KnownDevice> devices_;
     std::map<ProcessKey, KnownProcess> processes_;  // Those that have, or have had, a stream.
-    std::map<GraphSerial, ProcessKey> keys_;  // By client; found out once.
+    std::map<GraphSerial, ProcessKey> keys_;  // By client; determined once.
 };
 
 }  // namespace fadeloom

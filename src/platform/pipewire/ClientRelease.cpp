@@ -36,7 +36,7 @@ struct ReleaseRun {
         if (clientWord(id, serial) != run.client || (owner && *owner != run.process))
             return;
         pw_registry_destroy(run.registry, id);
-        run.sync();  // Until the server has done that.
+        run.sync();  // Until the server has processed that.
     }
     static void onDone(void* self, std::uint32_t id, int sequence)
     {
@@ -74,7 +74,7 @@ void releaseClient(std::uint64_t client, pid_t process)
     pw_registry_add_listener(run.registry, &registryListener, &registryEvents, &run);
     run.sync();
     pw_main_loop_run(run.loop);
-    // The process ends now; there is nothing to take down.
+    // The process exits now; no cleanup is needed.
 }
 
 }  // namespace fadeloom

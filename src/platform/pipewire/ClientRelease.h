@@ -1,29 +1,28 @@
 // SPDX-License-Identifier: MIT
-// Has the server drop everything that a connection of another process holds, which cannot do so itself.
+// Makes the server drop everything that another process's connection holds, when that process cannot.
 //
-// Destroying a client's object is the quickest way back to how everything was: the server removes the client's nodes
-// and links in one go, and the session manager leads the streams to their devices. The client learns that its
-// connection is gone, and connects anew once it can.
+// Destroying a client's object is the fastest way to restore the original state: the server removes the client's nodes
+// and links at once, and the session manager routes the streams to their devices. The client finds its connection gone,
+// and reconnects when it can.
 #pragma once
 
 #include "platform/pipewire/Graph.h"
 
-#include <cstdint>
-
 #include <sys/types.h>
+
+#include <cstdint>
 
 namespace fadeloom {
 
-/// A client of the graph in one word, which is never 0: its id, and as much of its serial as finds the id given to
-/// another client since.
+/// A client of the graph as one word, which is never 0: its id, and enough of its serial to detect reuse of the id.
 [[nodiscard]] constexpr std::uint64_t clientWord(GraphID id, GraphSerial serial)
 {
     constexpr int idBits = 32;
     return serial << idBits | id;
 }
 
-/// Destroys the client if it is still this one, and says that it belongs to `process`. Connects to the server and waits
-/// for it; for a process that has nothing else to do.
+/// Destroys the client if it is still the same one and belongs to `process`. Connects to the server and blocks; for a
+/// process with nothing else to do.
 void releaseClient(std::uint64_t client, pid_t process);
 
 }  // namespace fadeloom

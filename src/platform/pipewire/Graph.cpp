@@ -13,12 +13,15 @@ namespace {
 
 GraphID idOf(const GraphProperties& properties, std::string_view key)
 {
-    constexpr GraphID none = 0xffffffff;  // PipeWire's own word for it.
+    constexpr GraphID none = 0xffffffff;  // PipeWire's invalid id.
     return static_cast<GraphID>(numberOf(properties, key).value_or(none));
 }
 
-std::vector<GraphPort> portsOf(const Graph& graph, GraphID nodeID, bool isOutput)
+enum class Direction { input, output };
+
+std::vector<GraphPort> portsOf(const Graph& graph, GraphID nodeID, Direction direction)
 {
+    const bool isOutput = direction == Direction::output;
     std::vector<GraphPort> ports;
     for (const auto& [id, port] : graph.ports) {
         if (port.nodeID == nodeID && port.isOutput == isOutput && !port.isMonitor && port.isAudio)
@@ -113,12 +116,12 @@ const GraphNode* Graph::nodeWithSerial(GraphSerial serial) const
 
 std::vector<GraphPort> Graph::outputPorts(GraphID nodeID) const
 {
-    return portsOf(*this, nodeID, true);
+    return portsOf(*this, nodeID, Direction::output);
 }
 
 std::vector<GraphPort> Graph::inputPorts(GraphID nodeID) const
 {
-    return portsOf(*this, nodeID, false);
+    return portsOf(*this, nodeID, Direction::input);
 }
 
 const GraphLink* Graph::link(GraphID outputPort, GraphID inputPort) const
@@ -148,7 +151,7 @@ std::string Graph::defaultSinkName() const
     if (spa_json_enter_object(&outer, &object) <= 0)
         return {};
 
-    // A text is never longer decoded than written.
+    // Decoding never makes a text longer.
     std::string text(json.size() + 1, '\0');
     const auto capacity = static_cast<int>(text.size());
     while (spa_json_get_string(&object, text.data(), capacity) > 0) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The mirror of the PipeWire graph: plain values, as the registry and the info events told them.
+// The mirror of the PipeWire graph: plain values, as received in registry and info events.
 //
-// PipeWire reuses an id within milliseconds, so whatever outlives one event is keyed by id *and* serial.
+// PipeWire reuses ids within milliseconds, so anything that outlives one event is keyed by id *and* serial.
 #pragma once
 
 #include <cstdint>
@@ -17,16 +17,16 @@ using GraphID = std::uint32_t;
 using GraphSerial = std::uint64_t;
 using GraphProperties = std::map<std::string, std::string, std::less<>>;
 
-/// A property's text; empty when there is none.
+/// A property's text; empty if it is not set.
 [[nodiscard]] std::string_view propertyOf(const GraphProperties& properties, std::string_view key);
-/// A property's number; absent when there is none or it is not a whole number.
+/// A property's number; nullopt if it is not set or not a whole number.
 [[nodiscard]] std::optional<std::int64_t> numberOf(const GraphProperties& properties, std::string_view key);
 
 struct GraphClient {
     GraphID id = 0;
     GraphSerial serial = 0;
     GraphProperties properties;
-    bool hasInfo = false;  // The info event has come; before it some properties are missing.
+    bool hasInfo = false;  // An info event was received; before that some properties are missing.
 };
 
 struct GraphNode {
@@ -36,7 +36,7 @@ struct GraphNode {
     GraphSerial serial = 0;
     GraphProperties properties;
     State state = State::creating;
-    std::uint32_t inputPortCount = 0;  // How many there will be, once all have appeared.
+    std::uint32_t inputPortCount = 0;  // The final number, once all have appeared.
     bool hasInfo = false;
 
     [[nodiscard]] std::string_view mediaClass() const { return propertyOf(properties, "media.class"); }
@@ -53,7 +53,7 @@ struct GraphNode {
 struct GraphPort {
     GraphID id = 0;
     GraphID nodeID = 0;
-    GraphID index = 0;  // The port's number in its node and direction.
+    GraphID index = 0;  // The port's index in its node and direction.
     bool isOutput = false;
     bool isMonitor = false;
     bool isAudio = false;
@@ -70,11 +70,11 @@ struct GraphLink {
     GraphID inputPort = 0;
 };
 
-/// As the registry tells of them.
+/// As announced by the registry.
 [[nodiscard]] GraphPort portFrom(GraphID id, const GraphProperties& properties);
 [[nodiscard]] GraphLink linkFrom(GraphID id, const GraphProperties& properties);
 
-/// Everything that is there now. Thread: the graph thread, or any thread that holds its lock.
+/// The current state of the graph. Thread: the graph thread, or any thread that holds its lock.
 struct Graph {
     std::map<GraphID, GraphClient> clients;
     std::map<GraphID, GraphNode> nodes;
@@ -86,18 +86,18 @@ struct Graph {
     GraphProperties settings;
 
     [[nodiscard]] const GraphNode* node(GraphID id) const;
-    /// The node only when it is still the one with this serial.
+    /// The node, if it still is the one with this serial.
     [[nodiscard]] const GraphNode* node(GraphID id, GraphSerial serial) const;
     [[nodiscard]] const GraphNode* nodeNamed(std::string_view name) const;
     [[nodiscard]] const GraphNode* nodeWithSerial(GraphSerial serial) const;
-    /// A node's audio ports of one direction without monitors, by their number.
+    /// A node's audio ports of one direction without monitors, by index.
     [[nodiscard]] std::vector<GraphPort> outputPorts(GraphID nodeID) const;
     [[nodiscard]] std::vector<GraphPort> inputPorts(GraphID nodeID) const;
     [[nodiscard]] const GraphLink* link(GraphID outputPort, GraphID inputPort) const;
     [[nodiscard]] std::string_view metadataValue(GraphID subject, std::string_view key) const;
-    /// The name in the JSON value of "default.audio.sink"; empty when there is none.
+    /// The name in the JSON value of "default.audio.sink"; empty if there is none.
     [[nodiscard]] std::string defaultSinkName() const;
-    /// The rate that the graph runs at unless a driver says otherwise, in hertz.
+    /// The graph's default rate, in hertz, which a driver may override.
     [[nodiscard]] double graphRate() const;
 };
 

@@ -25,8 +25,8 @@ GraphNode::State stateFrom(pw_node_state state)
     return GraphNode::State::error;
 }
 
-// An info event repeats the properties whole, but leaves out some that the registry told (such as the ones the
-// kernel vouches for), so they are laid over what is known.
+// An info event repeats all properties except some from the registry (such as those verified by the kernel), so they
+// are merged into the known ones.
 void overlay(GraphProperties& properties, const spa_dict* dictionary)
 {
     for (auto& [key, value] : propertiesFrom(dictionary))

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A proxy for one node or client of the graph, whose info events keep its mirror entry up to date.
+// A proxy for one node or client of the graph, which updates its mirror entry from info events.
 #pragma once
 
 #include "platform/pipewire/Graph.h"

@@ -17,7 +17,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A server that restarts is back within a fraction of a second; one that was never there need not be asked as often.
+// A restarting server is back within a fraction of a second; one that never existed need not be tried as often.
 constexpr auto quickRetry = 200ms;
 constexpr auto slowRetry = 1000ms;
 constexpr int quickRetries = 25;
@@ -50,7 +50,7 @@ GraphConnection::~GraphConnection()
     callBackTimer_.reset();
     pw_loop_destroy_source(pw_thread_loop_get_loop(loop_), update_);
     pw_context_destroy(context_);
-    heartbeat_.reset();  // After the data loop's thread, which the context ends.
+    heartbeat_.reset();  // After the data loop's thread, which ends with the context.
     pw_thread_loop_destroy(loop_);
     pw_deinit();
 }
@@ -138,8 +138,8 @@ void GraphConnection::disconnect()
     pw_core_disconnect(std::exchange(core_, nullptr));
 }
 
-/// The data loop has stalled, and with it the sound of every application: the server drops all that we have, as if we
-/// had ended.
+/// The data loop has stalled, and with it the audio of every application: the server drops all our objects, as if we
+/// had exited.
 void GraphConnection::releaseEverything()
 {
     if (!mirror_ || !mirror_->ownClient())
@@ -150,7 +150,7 @@ void GraphConnection::releaseEverything()
 
 void GraphConnection::update()
 {
-    // Taking filters down waits for the data loop.
+    // Destroying filters would block on the data loop.
     if (heartbeat_->isStalled())
         return;
     if (isLost_) {
@@ -171,7 +171,7 @@ void GraphConnection::onCoreDone(void* self, std::uint32_t id, int sequence)
 void GraphConnection::onCoreError(
     void* self, std::uint32_t id, int /*sequence*/, int result, const char* /*message*/)
 {
-    // Everything else that arrives here is a race with an object that has just gone.
+    // All other errors that arrive here are races with an object that has just been removed.
     if (id != PW_ID_CORE || result != -EPIPE)
         return;
     auto& connection = *static_cast<GraphConnection*>(self);

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The connection to the PipeWire server: its thread, its timers, and another try when it is lost.
+// The connection to the PipeWire server: its thread, timers and reconnection.
 //
-// Everything is handled on one thread of its own, the graph thread. Whoever calls from another thread holds its lock
-// (`GraphLock`). Events only change the mirror; what follows from them is done once for a whole burst, in
-// `graphChanged`.
+// Everything runs on a dedicated thread, the graph thread. Callers on other threads hold its lock (`GraphLock`). Events
+// only update the mirror; their consequences are handled once per burst, in `graphChanged`.
 #pragma once
 
 #include "platform/pipewire/GraphEvents.h"
@@ -11,13 +10,13 @@
 #include "platform/pipewire/Heartbeat.h"
 #include "platform/pipewire/LoopTimer.h"
 
+#include <spa/utils/hook.h>
+
 #include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
-
-#include <spa/utils/hook.h>
 
 struct pw_context;
 struct pw_core;
@@ -33,7 +32,7 @@ public:
     GraphConnection(const GraphConnection&) = delete;
     GraphConnection& operator=(const GraphConnection&) = delete;
 
-    /// Starts the graph thread, which connects and keeps trying.
+    /// Starts the graph thread, which connects and keeps retrying.
     void start();
     /// Ends the graph thread, then the connection, which is the last event.
     void stop();
@@ -43,20 +42,20 @@ public:
 
     /// Empty while there is no server.
     [[nodiscard]] const Graph& graph() const;
-    /// Absent while there is no server.
+    /// nullopt while there is no server.
     [[nodiscard]] pw_core* core() const { return isLost_ ? nullptr : core_; }
     [[nodiscard]] bool hasSessionManager() const { return mirror_ && mirror_->hasSessionManager(); }
 
-    /// Writes a metadata value, or removes it when `value` is absent. The mirror follows at once.
+    /// Writes a metadata value, or removes it if `value` is nullopt. The mirror is updated immediately.
     void setMetadata(
         GraphID subject, const std::string& key, const char* type, const std::optional<std::string>& value);
-    /// Removes an object of the graph that is not ours, such as a link.
+    /// Destroys an object of the graph that is not ours, such as a link.
     void destroyGlobal(GraphID id);
-    /// While sound runs through us: has our whole connection given up when the data loop stalls.
+    /// While audio runs through us: gives up our whole connection if the data loop stalls.
     void watchDataLoop(bool isNeeded) { heartbeat_->setActive(isNeeded); }
-    /// Asks for one `graphChanged` in the thread's next turn.
+    /// Requests one `graphChanged` in the thread's next iteration.
     void requestUpdate();
-    /// Asks for one `graphChanged` after `delay`; the earliest time asked for holds.
+    /// Requests one `graphChanged` after `delay`; the earliest requested time wins.
     void callBackIn(std::chrono::milliseconds delay);
 
 private:
@@ -81,7 +80,7 @@ private:
     pw_core* core_ = nullptr;
     spa_hook coreListener_{};
     std::unique_ptr<GraphMirror> mirror_;  // While there is a core.
-    bool isLost_ = false;  // The server has gone; to be cleaned up in the loop's next turn.
+    bool isLost_ = false;  // The server has gone; cleaned up in the loop's next iteration.
 };
 
 /// Holds the graph thread's lock.

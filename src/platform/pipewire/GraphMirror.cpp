@@ -3,9 +3,14 @@
 
 #include "platform/pipewire/ClientRelease.h"
 
+#include <pipewire/client.h>
 #include <pipewire/core.h>
 #include <pipewire/extensions/metadata.h>
+#include <pipewire/link.h>
+#include <pipewire/node.h>
+#include <pipewire/port.h>
 #include <pipewire/proxy.h>
+#include <pipewire/type.h>
 
 #include <chrono>
 #include <cstring>
@@ -17,8 +22,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// While a client binds the metadata, the server holds back what changes from the clients that have bound it already,
-// and never sends it. So once the tool that made a change has gone, the metadata is bound again.
+// While a client binds the metadata, the server withholds changes from the clients that have already bound it, and
+// never sends them. So after the tool that made a change has gone, the metadata is bound again.
 constexpr auto rebindDelay = 300ms;
 
 }  // namespace
@@ -110,7 +115,7 @@ void GraphMirror::globalAppeared(GraphID id, const char* type, const GraphProper
 void GraphMirror::nodeAppeared(GraphID id, GraphSerial serial, const GraphProperties& properties)
 {
     auto& node = graph_.nodes[id] = {.id = id, .serial = serial, .properties = properties};
-    // Only the info event says which nodes belong together, so every node that makes or takes sound is bound.
+    // Only the info event tells which nodes belong together, so every node that produces or consumes audio is bound.
     if (node.mediaClass().find("Audio") != std::string_view::npos)
         bindings_[id] = std::make_unique<GraphBinding>(registry_, node, [this, id] { nodeChanged(id); });
     if (node.isOutputStream())
@@ -147,7 +152,7 @@ void GraphMirror::globalVanished(GraphID id)
         rebindTimer_.start(rebindDelay);
     graph_.ports.erase(id);
     graph_.links.erase(id);
-    graph_.metadata.erase(id);  // The id may be given to another object at once.
+    graph_.metadata.erase(id);  // The id may be reused immediately.
     if (metadata_ && metadata_->id() == id) {
         metadata_.reset();
         metadataSync_ = -1;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
-// Keeps a `Graph` equal to the server's, for as long as there is a connection.
+// Keeps a `Graph` in sync with the server, for the lifetime of a connection.
 #pragma once
 
 #include "platform/pipewire/GraphBinding.h"
 #include "platform/pipewire/GraphEvents.h"
 #include "platform/pipewire/LoopTimer.h"
 #include "platform/pipewire/MetadataBinding.h"
+
+#include <spa/utils/hook.h>
 
 #include <cstdint>
 #include <functional>
@@ -14,8 +16,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include <spa/utils/hook.h>
 
 struct pw_core;
 struct pw_loop;
@@ -27,7 +27,8 @@ namespace fadeloom {
 /// Thread: the graph thread, or one that holds its lock.
 class GraphMirror {
 public:
-    /// Begins to listen to the registry of `core`. `changed` is called after each change. All must outlive this.
+    /// Starts listening to the registry of `core`. `changed` is called after each change. All arguments must outlive
+    /// this.
     GraphMirror(pw_core* core, pw_loop* loop, const GraphEvents& events, std::function<void()> changed);
     ~GraphMirror();
     GraphMirror(const GraphMirror&) = delete;
@@ -38,12 +39,12 @@ public:
     /// The graph's object for our own connection, once it is known.
     [[nodiscard]] std::optional<GraphID> ownClient() const { return ownClient_; }
 
-    /// Writes a metadata value, or removes it when `value` is absent. The mirror follows at once.
+    /// Writes a metadata value, or removes it if `value` is nullopt. The mirror is updated immediately.
     void setMetadata(
         GraphID subject, const std::string& key, const char* type, const std::optional<std::string>& value);
-    /// Removes an object from the server's graph.
+    /// Destroys an object of the server's graph.
     void destroyGlobal(GraphID id);
-    /// The core has answered everything up to this sequence number.
+    /// The core has processed everything up to this sequence number.
     void coreDone(int sequence);
 
 private:
@@ -67,7 +68,7 @@ private:
     const std::function<void()> changed_;
     Graph graph_;
     std::optional<GraphID> ownClient_;
-    int metadataSync_ = -1;  // The sequence after which the metadata is known in full.
+    int metadataSync_ = -1;  // The sequence number after which the metadata is completely known.
     bool hasSessionManager_ = false;
 
     pw_registry* const registry_;

@@ -43,7 +43,7 @@ ClientIdentity identityOf(const GraphClient& client)
         identity.pid = pidIn(properties, "pipewire.sec.pid");
         identity.trust = ClientIdentity::Trust::verified;
     } else if (identity.portalAppID.empty()) {
-        // The kernel's answer names pipewire-pulse here, so only the client's own word is left.
+        // The kernel reports pipewire-pulse here, so only the client's own claim is left.
         identity.pid = pidIn(properties, "application.process.id");
         identity.trust = ClientIdentity::Trust::claimed;
     }

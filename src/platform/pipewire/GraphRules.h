@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the properties of clients, streams and devices mean for us: pure questions about the mirror.
+// Interprets the properties of clients, streams and devices: pure functions of the mirror.
 #pragma once
 
 #include "platform/pipewire/Graph.h"
@@ -11,19 +11,19 @@
 
 namespace fadeloom {
 
-/// Names of our nodes. Unique per run: session managers remember streams' targets by name.
+/// Names of our nodes. Unique per run, because session managers remember streams' targets by name.
 inline constexpr std::string_view parkNamePrefix = "com.fadeloom.park.";
 inline constexpr std::string_view tapNamePrefix = "com.fadeloom.tap.";
 
-/// Who is behind a client, as far as its properties tell.
+/// The process behind a client, as far as its properties tell.
 struct ClientIdentity {
-    /// How far the pid may be believed. `verified`: checked by the kernel. `claimed`: said by the client itself, to be
-    /// held against `binary` before use. `unknown`: there is none, as of a client on another machine.
+    /// How far the pid can be trusted. `verified`: by the kernel. `claimed`: by the client itself, to be checked
+    /// against `binary`. `unknown`: there is none, such as for a client on another machine.
     enum class Trust { verified, claimed, unknown };
 
     std::int32_t pid = -1;
     Trust trust = Trust::unknown;
-    std::string binary;  // What the client says its program is called.
+    std::string binary;  // The client's claim of its program name.
     std::string portalAppID;  // Set by the server for sandboxed clients.
 
     friend bool operator==(const ClientIdentity&, const ClientIdentity&) = default;
@@ -31,40 +31,40 @@ struct ClientIdentity {
 
 [[nodiscard]] ClientIdentity identityOf(const GraphClient& client);
 
-/// Whether a stream is an application's sound that we may take hold of. Not so: streams that insist on their target
-/// or their format (moving them would end them), and event sounds, which belong to the desktop.
+/// Whether a stream is application audio that we may capture. Excluded are streams pinned to their target or format
+/// (moving would end them), and event sounds, which belong to the desktop.
 [[nodiscard]] bool isTappable(const GraphNode& stream);
-/// Whether a stream counts as its client's sound at all: every output stream but event sounds.
+/// Whether a stream counts as its client's audio at all: every output stream except event sounds.
 [[nodiscard]] bool isAppSound(const GraphNode& stream);
-/// Whether a stream runs and is not held back by its client.
+/// Whether a stream is running and not corked.
 [[nodiscard]] bool isPlaying(const GraphNode& stream);
-/// Whether an input stream listens to a microphone now: it runs, and is neither a level meter nor a recorder of
-/// what a device plays.
+/// Whether an input stream is capturing a microphone: it is running, and is neither a level meter nor a recorder of a
+/// device's output.
 [[nodiscard]] bool isUsingMicrophone(const Graph& graph, const GraphNode& stream);
 
-/// Whether pipewire-pulse still has to be shown a link to a real sink before it answers the client. Until then the
-/// client waits and its stream carries no audio.
+/// Whether pipewire-pulse is waiting for a link to a real sink before it replies to the client. Until then the client
+/// waits and its stream carries no audio.
 [[nodiscard]] bool needsDoorbell(const GraphNode& stream);
 
-/// Which side of the stereo mix a stream's channel belongs to.
+/// The side of the stereo mix that a stream's channel belongs to.
 enum class TapSide { left, right, both };
 [[nodiscard]] TapSide sideOf(std::string_view channel);
 
-/// The channels of a device, in port order, and the pair that stereo sound belongs on.
+/// A device's channels, in port order, and its stereo pair.
 struct DeviceLayout {
     std::vector<std::string> channels;
-    std::uint32_t left = 1;  // Numbered from 1; the same twice for a mono device.
+    std::uint32_t left = 1;  // Numbered from 1; both are the same for a mono device.
     std::uint32_t right = 2;
 
     friend bool operator==(const DeviceLayout&, const DeviceLayout&) = default;
 };
-/// FL and FR where they are named; else the one channel of a mono device twice; else the first two.
+/// FL and FR if they are named; else the one channel of a mono device twice; else the first two.
 [[nodiscard]] DeviceLayout layoutOf(const std::vector<GraphPort>& inputPorts);
 
-/// The name people read for a device.
+/// The display name of a device.
 [[nodiscard]] std::string displayNameOf(const GraphNode& device);
 
-/// A JSON object {"name": TEXT}, as the default device is written.
+/// A JSON object {"name": TEXT}, the format of the default device.
 [[nodiscard]] std::string defaultDeviceValue(const std::string& nodeName);
 
 }  // namespace fadeloom

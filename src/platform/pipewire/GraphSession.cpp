@@ -2,13 +2,12 @@
 #include "platform/pipewire/GraphSession.h"
 
 #include <pipewire/thread-loop.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <thread>
-
-#include <unistd.h>
 
 namespace fadeloom {
 
@@ -16,12 +15,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// How long the start may wait for the first picture.
+// How long startup may wait for the first snapshot.
 constexpr auto startTimeout = 300ms;
-// How long the end may wait for the applications to be back on their own devices.
+// How long shutdown may wait for the applications to be back on their own devices.
 constexpr auto stopTimeout = 1000ms;
-// A device's new rate shows only in its first cycle, of which no event tells; so each burst of events is followed by
-// one more look.
+// A device's new rate becomes visible only in its first cycle, which causes no event; so each burst of events is
+// followed by another check.
 constexpr auto recheckDelay = 150ms;
 
 bool runs(std::int32_t pid, const std::string& binary)
@@ -42,7 +41,7 @@ GraphSession::GraphSession(Callbacks callbacks)
     , world_(std::make_shared<AudioWorld>())
 {
     connection_.start();
-    // Whoever asks first finds the devices there, as with any other audio system.
+    // The first query should find the devices, as with any other audio system.
     const auto deadline = std::chrono::steady_clock::now() + startTimeout;
     while (!isReady_.load(std::memory_order_acquire) && std::chrono::steady_clock::now() < deadline)
         std::this_thread::sleep_for(1ms);
@@ -199,7 +198,7 @@ void GraphSession::streamAppeared(const GraphNode& stream)
 
 void GraphSession::clientChanged(const GraphClient& client)
 {
-    // Known beforehand, its streams can be held at once; one that was faster is held now.
+    // If known beforehand, its streams can be held immediately; one that was faster is held now.
     if (applications_.contains(client.serial) || !isToBeHeld(client))
         return;
     for (const auto& [id, node] : connection_.graph().nodes) {
@@ -256,7 +255,7 @@ void GraphSession::stalled()
 void GraphSession::connected()
 {
     callbacks_.report(SystemLog::Level::notice, "connected to PipeWire");
-    // The first question reads every desktop entry there is; the first sound is not to wait for that.
+    // The first lookup reads all desktop entries; the first sound must not wait for that.
     if (callbacks_.application)
         static_cast<void>(callbacks_.application(getpid(), {}));
 }

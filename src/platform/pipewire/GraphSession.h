@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The graph's side of the adapter: what happens on the graph thread, and the few calls that cross over to it.
+// The graph thread's part of the adapter, and the few calls that cross over to it.
 #pragma once
 
 #include "platform/SystemLog.h"
@@ -18,34 +18,34 @@
 
 namespace fadeloom {
 
-/// Thread: main, but for the private side.
+/// Thread: main, except for the private members.
 class GraphSession {
 public:
     struct Callbacks {  // Called on the graph thread.
         std::function<void(const AudioChanges&)> changed;
         std::function<void(SystemLog::Level, std::string)> report;
-        /// The application of a process that has just come, or of a sandboxed client.
+        /// The application of a process that has just appeared, or of a sandboxed client.
         std::function<std::string(std::int32_t pid, const std::string& portalAppID)> application;
         std::function<void(std::uint64_t)> ownClient;  // As `GraphEvents::ownClientChanged`.
     };
 
     explicit GraphSession(Callbacks callbacks);
-    /// Gives every application back first.
+    /// Releases all applications first.
     ~GraphSession();
     GraphSession(const GraphSession&) = delete;
     GraphSession& operator=(const GraphSession&) = delete;
 
     [[nodiscard]] std::shared_ptr<const AudioWorld> world() const;
-    /// The rate in which a device is driven, in hertz.
+    /// The rate at which a device is driven, in hertz.
     [[nodiscard]] double rateOf(const AudioWorld::Device& device) const;
     [[nodiscard]] bool isConnected() const;
-    /// Whether the session manager is there to carry it out.
+    /// Whether there is a session manager to carry it out.
     bool setDefaultDevice(const std::string& nodeName);
 
-    /// The applications whose new streams wait for a tap, by the names that `application` gives.
+    /// The applications whose new streams are held for a tap, by the names that `application` returns.
     void holdStreamsOf(std::set<std::string> applications);
 
-    /// Null when there is no server, or the device has gone.
+    /// Null if there is no server, or the device has gone.
     [[nodiscard]] TapPath* startPath(std::set<AudioProcessID> processes, const AudioWorld::Device& device,
         std::shared_ptr<AudioIOProc> proc, StreamScope scope = StreamScope::every);
     [[nodiscard]] std::size_t pathCount() const;
@@ -66,7 +66,7 @@ private:
     [[nodiscard]] bool isToBeHeld(const GraphClient& client);
     void publish(AudioWorld next);
     [[nodiscard]] bool watch(std::int32_t pid);
-    /// Whether a device is driven at another rate than when this was asked last.
+    /// Whether a device's rate has changed since the previous call.
     [[nodiscard]] bool updateRates(const AudioWorld& world);
 
     Callbacks callbacks_;
@@ -75,12 +75,12 @@ private:
     AudioWorldBuilder builder_;
     std::map<std::int32_t, std::unique_ptr<ProcessExit>> exits_;  // By pid.
     std::set<std::string> heldApplications_;
-    std::map<GraphSerial, std::string> applications_;  // By client; found out once.
+    std::map<GraphSerial, std::string> applications_;  // By client; determined once.
     std::map<OutputDeviceID, double> rates_;
-    std::atomic<bool> isReady_ = false;  // There is a picture, or nothing to draw one of.
+    std::atomic<bool> isReady_ = false;  // There is a snapshot, or nothing to take one of.
     bool isRecheckDue_ = false;
 
-    mutable std::mutex worldMutex_;  // Held for the copy of a pointer; the IO thread never meets it.
+    mutable std::mutex worldMutex_;  // Held only while copying a pointer; never taken by the IO thread.
     std::shared_ptr<const AudioWorld> world_;
 };
 

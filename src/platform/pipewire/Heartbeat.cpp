@@ -3,26 +3,25 @@
 
 #include <pipewire/data-loop.h>
 #include <pipewire/loop.h>
+#include <pthread.h>
+#include <unistd.h>
 
 #include <ctime>
 #include <fstream>
 #include <string>
 #include <utility>
 
-#include <pthread.h>
-#include <unistd.h>
-
 namespace fadeloom {
 
 namespace {
 
-/// Whether a thread of ours runs or waits for nothing but a processor.
-bool isReadyToRun(pid_t thread)
+/// Whether our thread is running or runnable.
+bool isRunnable(pid_t thread)
 {
     std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
     std::string line;
     std::getline(file, line);
-    const auto name = line.rfind(')');  // The name before it may hold anything.
+    const auto name = line.rfind(')');  // The name before it may contain anything.
     return name != std::string::npos && line.compare(name, 3, ") R") == 0;
 }
 
@@ -69,7 +68,7 @@ int Heartbeat::onBeat(spa_loop* /*loop*/, bool /*async*/, std::uint32_t beat, co
     heartbeat.thread_.store(gettid(), std::memory_order_relaxed);
     clockid_t clock = 0;
     if (pthread_getcpuclockid(pthread_self(), &clock) == 0)
-        heartbeat.workClock_.store(clock, std::memory_order_relaxed);
+        heartbeat.cpuClock_.store(clock, std::memory_order_relaxed);
     heartbeat.answered_.store(beat, std::memory_order_relaxed);
     return 0;
 }
@@ -83,7 +82,7 @@ void Heartbeat::check()
             isStalled_ = true;
             callbacks_.stalled();
         }
-        return;  // One question at a time: they would fill the loop's queue.
+        return;  // One ping at a time: more would fill the loop's queue.
     }
     misses_ = 0;
     if (std::exchange(isStalled_, false)) {
@@ -91,22 +90,20 @@ void Heartbeat::check()
         callbacks_.recovered();
     }
     ++asked_;
-    workedAtQuestion_ = timeWorked();
+    cpuTimeAtPing_ = cpuTime();
     pw_data_loop_invoke(dataLoop_, &onBeat, asked_, nullptr, 0, false, this);
 }
 
-// Ready to run since the question, and hardly ever running. A thread that hangs waits for something or works all the
-// time.
+// Runnable since the ping, and hardly running. A thread that hangs is either blocked or busy.
 bool Heartbeat::isStarved() const
 {
-    return isReadyToRun(thread_.load(std::memory_order_relaxed))
-        && timeWorked() - workedAtQuestion_ < interval / 2;
+    return isRunnable(thread_.load(std::memory_order_relaxed)) && cpuTime() - cpuTimeAtPing_ < interval / 2;
 }
 
-std::chrono::nanoseconds Heartbeat::timeWorked() const
+std::chrono::nanoseconds Heartbeat::cpuTime() const
 {
     timespec worked{};
-    clock_gettime(workClock_.load(std::memory_order_relaxed), &worked);
+    clock_gettime(cpuClock_.load(std::memory_order_relaxed), &worked);
     return std::chrono::seconds(worked.tv_sec) + std::chrono::nanoseconds(worked.tv_nsec);
 }
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Notices when the thread that all sound runs through does no work any more.
+// Detects when the thread that all audio runs through stalls.
 #pragma once
+
+#include <sys/types.h>
 
 #include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <ctime>
 #include <functional>
-
-#include <sys/types.h>
 
 struct pw_data_loop;
 struct pw_loop;
@@ -17,28 +17,28 @@ struct spa_source;
 
 namespace fadeloom {
 
-/// Asks the data loop for an answer again and again. Thread: that of `loop`.
+/// Pings the data loop periodically. Thread: that of `loop`.
 class Heartbeat {
 public:
     static constexpr std::chrono::milliseconds interval{80};
-    /// So many intervals without an answer are a stall.
+    /// This many intervals without a reply are a stall.
     static constexpr int missesAllowed = 4;
-    /// The same for a thread that wants to work and is given no processor: on a loaded machine that passes, and to let
-    /// go of the applications would end their recordings.
+    /// The same for a thread that is starved of CPU: on a loaded machine that passes, and releasing the applications
+    /// would end their recordings.
     static constexpr int missesAllowedWhenStarved = 12;
 
     struct Callbacks {
         std::function<void()> stalled;
-        std::function<void()> recovered;  // After `stalled`, once there is an answer.
+        std::function<void()> recovered;  // After `stalled`, once there is a reply.
     };
 
-    /// At rest at first. Must outlive the data loop's thread.
+    /// Initially inactive. Must outlive the data loop's thread.
     Heartbeat(pw_loop* loop, pw_data_loop* dataLoop, Callbacks callbacks);
     ~Heartbeat();
     Heartbeat(const Heartbeat&) = delete;
     Heartbeat& operator=(const Heartbeat&) = delete;
 
-    /// Runs, or rests: then it costs nothing. A stall is followed to its end either way.
+    /// Inactive, it costs nothing. A stall is tracked to its end in either case.
     void setActive(bool isActive);
     [[nodiscard]] bool isStalled() const { return isStalled_; }
 
@@ -47,7 +47,7 @@ private:
     static int onBeat(
         spa_loop* loop, bool async, std::uint32_t beat, const void* data, std::size_t size, void* self);
     void check();
-    [[nodiscard]] std::chrono::nanoseconds timeWorked() const;
+    [[nodiscard]] std::chrono::nanoseconds cpuTime() const;
     [[nodiscard]] bool isStarved() const;
     void setTimer(bool isRunning);
 
@@ -59,12 +59,12 @@ private:
     bool isStalled_ = false;
     int misses_ = 0;
     std::uint32_t asked_ = 0;
-    std::chrono::nanoseconds workedAtQuestion_{};
-    std::atomic<std::uint32_t> answered_ =
-        0;  // Relaxed, as the next: they promise nothing about other memory.
-    // The data loop's thread and its processor time's clock; 0 before its first answer.
+    std::chrono::nanoseconds cpuTimeAtPing_{};
+    // Relaxed, like the next: they guard no other memory.
+    std::atomic<std::uint32_t> answered_ = 0;
+    // The data loop's thread and the clock of its CPU time; 0 before its first reply.
     std::atomic<pid_t> thread_ = 0;
-    std::atomic<clockid_t> workClock_ = 0;
+    std::atomic<clockid_t> cpuClock_ = 0;
 };
 
 }  // namespace fadeloom

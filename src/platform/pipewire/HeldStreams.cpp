@@ -9,7 +9,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A tap is made within a tenth of that. Where none comes, the application is heard late rather than never.
+// A tap is created within a tenth of that. Without one, the application is audible late rather than never.
 constexpr auto holdFor = 1000ms;
 
 }  // namespace

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// New streams of applications that must not be heard past their tap, not even for one cycle.
+// Holds new streams of applications that must not bypass their tap, not even for one cycle.
 //
-// A program that starts for each of its sounds is over before a tap for it has been made. So its stream is sent to the
-// park in the very event that tells of it, some milliseconds before the session manager looks for a device. There it
-// waits without a cycle, and so without losing a sample, until a tap takes it over, or for a while at most.
+// A program that starts for each of its sounds exits before a tap for it could be created. So its stream is sent to the
+// park in the very event that announces it, some milliseconds before the session manager selects a device. There it is
+// not driven, and so loses no sample, until a tap takes it over, or for a limited time.
 #pragma once
 
 #include "platform/pipewire/GraphConnection.h"
@@ -21,13 +21,13 @@ public:
 
     /// Sends a new stream to the park.
     void hold(const GraphNode& stream, const std::string& parkName);
-    /// A tap has it now: its target is the tap's business.
+    /// A tap has taken it over, and manages its target.
     void handOver(GraphID stream);
     /// Lets the session manager place it.
     void release(GraphID stream);
-    /// Releases what has been held for too long, and forgets what has gone.
+    /// Releases streams held for too long, and drops removed ones.
     void update();
-    /// The metadata is gone, and with it every target.
+    /// The metadata is gone, and with it all targets.
     void clear() { held_.clear(); }
     [[nodiscard]] bool has(const GraphNode& stream) const;
 

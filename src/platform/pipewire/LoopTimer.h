@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A timer of a PipeWire loop that expires once.
+// A one-shot timer of a PipeWire loop.
 #pragma once
 
 #include <chrono>
@@ -20,7 +20,7 @@ public:
     LoopTimer(const LoopTimer&) = delete;
     LoopTimer& operator=(const LoopTimer&) = delete;
 
-    /// Expires after `delay`, which is greater than 0, and no more at an earlier time that was set.
+    /// Expires after `delay`, which is greater than 0; replaces a previously set time.
     void start(std::chrono::milliseconds delay);
 
 private:

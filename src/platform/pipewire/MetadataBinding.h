@@ -13,10 +13,10 @@
 
 namespace fadeloom {
 
-/// Told of every value that is there first, then of every change. Thread: the graph thread or one that holds its lock.
+/// Receives all existing values first, then every change. Thread: the graph thread or one that holds its lock.
 class MetadataBinding {
 public:
-    /// `key` is null when a subject lost all its values, `value` when one was removed.
+    /// `key` is null if a subject lost all its values, `value` if one was removed.
     using Changed = std::function<void(GraphID subject, const char* key, const char* value)>;
 
     MetadataBinding(pw_registry* registry, GraphID id, Changed changed);
@@ -25,7 +25,7 @@ public:
     MetadataBinding& operator=(const MetadataBinding&) = delete;
 
     [[nodiscard]] GraphID id() const { return id_; }
-    /// Writes a value, or removes it when `value` is absent.
+    /// Writes a value, or removes it if `value` is nullopt.
     void set(
         GraphID subject, const std::string& key, const char* type, const std::optional<std::string>& value);
 

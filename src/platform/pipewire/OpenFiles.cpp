@@ -10,7 +10,7 @@
 
 namespace fadeloom {
 
-std::optional<std::size_t> FilesOfTaps::limitWithoutRoom(std::size_t taps)
+std::optional<std::size_t> DescriptorBudget::limitWithoutRoom(std::size_t taps)
 {
     rlimit limit{};
     if (getrlimit(RLIMIT_NOFILE, &limit) != 0)
@@ -23,8 +23,8 @@ std::optional<std::size_t> FilesOfTaps::limitWithoutRoom(std::size_t taps)
         return std::nullopt;
     const auto count = static_cast<std::size_t>(std::distance(open, {}));
     if (taps == 0)
-        besidesTaps_ = count;
-    const auto expected = std::max(count, besidesTaps_ + taps * filesOfTap);
+        otherDescriptors_ = count;
+    const auto expected = std::max(count, otherDescriptors_ + taps * filesOfTap);
     return expected + filesOfTap + filesInReserve > limit.rlim_cur
         ? std::optional<std::size_t>(limit.rlim_cur)
         : std::nullopt;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Whether there is room for the files that a tap needs.
+// Whether there are enough file descriptors for another tap.
 #pragma once
 
 #include <cstddef>
@@ -7,21 +7,21 @@
 
 namespace fadeloom {
 
-/// What one tap takes: twelve that libpipewire opens for a node with its four ports and their links, eventfds and shared
-/// memory that the server hands over one by one, and the pidfd of the application's process.
+/// The descriptors of one tap: twelve that libpipewire opens for a node with its four ports and their links, eventfds
+/// and shared memory that the server sends one by one, and the pidfd of the application's process.
 inline constexpr std::size_t filesOfTap = 13;
-/// What is kept free for everything else: a connection that cannot take what the server hands over is lost.
+/// Reserve for everything else: a connection that cannot receive descriptors from the server is lost.
 inline constexpr std::size_t filesInReserve = 16;
 
-/// What taps take is known before it is there: the server hands their files over a moment after they are made, when
-/// the next ones may be made already. Thread: main.
-class FilesOfTaps {
+/// Predicts what taps will take: the server sends their descriptors a moment after they are created, possibly after the
+/// next ones are created. Thread: main.
+class DescriptorBudget {
 public:
-    /// The process's limit of open files, if it leaves no room for one more tap beside the `taps` that there are.
+    /// The process's limit of open files, if it leaves no room for one more tap besides the existing `taps`.
     [[nodiscard]] std::optional<std::size_t> limitWithoutRoom(std::size_t taps);
 
 private:
-    std::size_t besidesTaps_ = 0;  // Counted when there was no tap.
+    std::size_t otherDescriptors_ = 0;  // Counted when there was no tap.
 };
 
 }  // namespace fadeloom

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The links that we make ourselves. Said whole what is wanted, it makes what is missing and drops the rest.
+// Our own links. Given the complete wanted set, creates what is missing and drops the rest.
 //
-// Links belong to our client: they go with it.
+// Links belong to our client: they disappear with it.
 #pragma once
 
 #include "platform/pipewire/Graph.h"
@@ -22,7 +22,7 @@ struct WantedLink {
     GraphID outputPort = 0;
     GraphID inputNode = 0;
     GraphID inputPort = 0;
-    bool isPassive = false;  // A passive link does not keep its device awake.
+    bool isPassive = false;  // A passive link does not keep its device from suspending.
 
     friend auto operator<=>(const WantedLink&, const WantedLink&) = default;
 };
@@ -30,21 +30,21 @@ struct WantedLink {
 /// Thread: the graph thread or one that holds its lock.
 class OwnLinks {
 public:
-    /// `changed` is called when a link has come a step further.
+    /// `changed` is called when a link's state has advanced.
     explicit OwnLinks(std::function<void()> changed);
     ~OwnLinks();
     OwnLinks(const OwnLinks&) = delete;
     OwnLinks& operator=(const OwnLinks&) = delete;
 
-    /// Returns whether a link was refused and will be tried again: call once more after `retryDelay`.
+    /// Returns whether a link was refused and must be retried: call again after `retryDelay`.
     bool reconcile(pw_core* core, const std::set<WantedLink>& wanted);
     /// Whether a link between these ports is one of ours.
     [[nodiscard]] bool has(GraphID outputPort, GraphID inputPort) const;
-    /// Whether the link is set up and carries what it is given.
+    /// Whether the link is established and carries audio.
     [[nodiscard]] bool isActive(const WantedLink& link) const;
-    /// Drops every link between these nodes at once.
+    /// Drops all links between these nodes immediately.
     void drop(GraphID outputNode, GraphID inputNode);
-    /// Forgets everything; the server has gone or goes.
+    /// Drops everything; the server is gone or going.
     void clear();
 
     static constexpr std::chrono::milliseconds retryDelay{100};

@@ -16,10 +16,10 @@ Park::Park(pw_core* core, std::string name, std::function<void()> changed)
     , changed_(std::move(changed))
     , listener_(std::make_unique<spa_hook>())
 {
-    // The priorities keep the park from ever being chosen as a default device. Nothing about it is to be remembered:
-    // newer session managers are told so, older ones pass over nodes whose volume belongs to a device's route; media.name
-    // is constant for the sake of any that remembers all the same. No suspending: WirePlumber 0.4 crashes when a node
-    // goes while its time to suspend has not come.
+    // The priorities keep the park from ever being selected as default device. Nothing about it must be remembered:
+    // newer session managers have a property for that, older ones skip nodes whose volume belongs to a device's route;
+    // media.name is constant in case one remembers it anyway. No suspending: WirePlumber 0.4 crashes if a node is
+    // removed while its suspend timeout is running.
     auto* properties = pw_properties_new(PW_KEY_MEDIA_CLASS, "Audio/Sink/Internal", PW_KEY_NODE_NAME,
         name_.c_str(), PW_KEY_MEDIA_NAME, "Fadeloom", PW_KEY_NODE_VIRTUAL, "true", PW_KEY_NODE_PASSIVE,
         "true", PW_KEY_PRIORITY_SESSION, "-100", PW_KEY_PRIORITY_DRIVER, "0", PW_KEY_NODE_WANT_DRIVER,
@@ -38,7 +38,7 @@ Park::Park(pw_core* core, std::string name, std::function<void()> changed)
     *listener_ = {};
     pw_stream_add_listener(stream_, listener_.get(), &events, this);
 
-    // Stereo: the session manager then makes every parked stream mix itself down to two channels.
+    // Stereo: the session manager then makes every parked stream downmix to two channels.
     spa_audio_info_raw info{};
     info.format = SPA_AUDIO_FORMAT_F32P;
     info.channels = 2;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The place where the session manager puts the streams of tapped applications.
+// The sink to which the session manager routes the streams of tapped applications.
 //
-// It is a sink to the session manager and to nobody else, and throws away what it gets. Its use is that the session
-// manager itself takes an application off its device, keeps it off, and puts it back the moment the park is gone: if
-// this program is killed, every application is heard again without any help of ours.
+// Only the session manager treats it as a sink, and it discards its input. Its purpose is that the session manager
+// itself moves an application off its device, keeps it off, and moves it back as soon as the park is gone: if this
+// program is killed, every application becomes audible again without our help.
 #pragma once
 
 #include "platform/pipewire/Graph.h"
@@ -21,7 +21,7 @@ namespace fadeloom {
 /// Thread: the graph thread or one that holds its lock.
 class Park {
 public:
-    /// `changed` is called when the node has come a step further.
+    /// `changed` is called when the node's state has advanced.
     Park(pw_core* core, std::string name, std::function<void()> changed);
     ~Park();
     Park(const Park&) = delete;

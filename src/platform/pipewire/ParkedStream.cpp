@@ -25,7 +25,7 @@ ParkedStream::ParkedStream(GraphConnection& connection, const GraphNode& stream)
 
 void ParkedStream::write(const char* key, const std::optional<std::string>& value)
 {
-    // Metadata knows no "remove what is not there": the server tells nobody, so no echo would come.
+    // Removing a metadata value that does not exist is not reported by the server, so no echo would come.
     const bool isThere = !connection_.graph().metadataValue(id_, key).empty();
     if (!value && !isThere)
         return;
@@ -33,7 +33,7 @@ void ParkedStream::write(const char* key, const std::optional<std::string>& valu
     connection_.setMetadata(id_, key, key == targetNode ? "Spa:Id" : "Spa:String", value);
 }
 
-bool ParkedStream::keepOn(const std::string& parkName)
+bool ParkedStream::ensureParkedOn(const std::string& parkName)
 {
     if (connection_.graph().metadataValue(id_, targetObject) == parkName) {
         rememberUsersNode();
@@ -55,7 +55,7 @@ bool ParkedStream::keepOn(const std::string& parkName)
     return true;
 }
 
-void ParkedStream::giveBack()
+void ParkedStream::restoreTarget()
 {
     if (!chosen_.object.empty()) {
         if (chosen_.node.empty())
@@ -65,7 +65,7 @@ void ParkedStream::giveBack()
         write(targetObject, std::nullopt);
     }
     if (!chosen_.node.empty()) {
-        // Removed first: writing the value that is there already would be no change, and would not be stored.
+        // Removed first: writing an unchanged value would be no change, and would not be stored.
         write(targetNode, std::nullopt);
         write(targetNode, chosen_.node);
     }
@@ -82,7 +82,7 @@ void ParkedStream::metadataChanged(const std::string& key, const std::string& va
     }
     if (key == targetNode) {
         if (value == rememberedNode_)
-            return;  // Told again, because the metadata was asked for anew.
+            return;  // Repeated, because the metadata was bound again.
         chosen_.node = value;
         rememberUsersNode();
     } else if (!value.starts_with(parkNamePrefix)) {

@@ -41,8 +41,7 @@ public:
     {
         if (const auto session = session_.lock())
             session->stopPath(path_);
-        // In a later turn: a tap that is rebuilt takes its streams over from the old one, which must not give them
-        // back in between.
+        // Deferred: a rebuilt tap takes over the streams of the old one, which must not release them in between.
         mainLoop_.post([session = session_] {
             if (const auto alive = session.lock())
                 alive->releaseStopped();
@@ -128,7 +127,7 @@ const PipeWireAudioSystem::Identity& PipeWireAudioSystem::identityOf(const Audio
     if (isNew) {
         auto& identity = entry->second;
         identity.pid = process.pid;
-        // A sandboxed client of pipewire-pulse knows only its pid inside.
+        // A sandboxed client of pipewire-pulse knows only its pid inside the sandbox.
         if (process.pid < 0 && !process.portalAppID.empty() && options_.portalProcess)
             identity.pid = options_.portalProcess(process.portalAppID);
         identity.bundleID = options_.bundleIdentifier(identity.pid, process.portalAppID);
@@ -168,7 +167,7 @@ double PipeWireAudioSystem::sampleRate(OutputDeviceID device) const
 
 HostTime PipeWireAudioSystem::hostTime() const
 {
-    // The server reads the same clock, which is that of std::chrono::steady_clock as well.
+    // The server uses the same clock, which is also that of std::chrono::steady_clock.
     return std::chrono::steady_clock::now().time_since_epoch();
 }
 
@@ -213,8 +212,8 @@ std::expected<std::unique_ptr<ProcessTap>, TapError> PipeWireAudioSystem::create
         .tapBufferCount = 2,
         .isTapInterleaved = false,
     };
-    // Before the server hands anything over: what finds no room is lost, and the connection with it.
-    if (const auto limit = filesOfTaps_.limitWithoutRoom(session_->pathCount()))
+    // Before the server sends anything: descriptors beyond the limit are lost, and with them the connection.
+    if (const auto limit = descriptorBudget_.limitWithoutRoom(session_->pathCount()))
         return failed("of %1 files that may be open, too few are left", std::to_string(*limit));
     auto* path =
         session_->startPath({request.processes.begin(), request.processes.end()}, *device, makeIOProc(format),

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The audio system on PipeWire.
 //
-// Processes with audio streams are its processes, sinks its devices. A tap is a private node in the same graph cycle
-// as application and device; see TapRouter.h for how the sound is taken and given back. If this program dies, the
-// session manager puts every application back on its own device by itself.
+// Processes with audio streams are its processes, sinks its devices. A tap is a private node in the same graph cycle as
+// application and device; TapRouter.h describes how streams are captured and released. If this program dies, the
+// session manager moves every application back to its own device.
 #pragma once
 
 #include "platform/AudioSystem.h"
@@ -27,24 +27,23 @@ class MainLoop;
 class PipeWireAudioSystem final : public AudioSystem {
 public:
     struct Options {
-        /// The bundle identifier of a process; the second argument is the application id that the server vouches
-        /// for, when the client is sandboxed. Called on the main thread.
+        /// The bundle identifier of a process; the second argument is the application id that the server vouches for,
+        /// if the client is sandboxed. Called on the main thread.
         std::function<std::string(ProcessID, const std::string& portalAppID)> bundleIdentifier{};
-        /// The same on the graph thread, about a process that has just come.
+        /// The same on the graph thread, for a process that has just appeared.
         std::function<std::string(ProcessID, const std::string& portalAppID)> newBundleIdentifier{};
-        /// The process of a sandboxed application, whose own pid means nothing outside; -1 when there is none.
+        /// The process of a sandboxed application, whose own pid is meaningless outside; -1 if there is none.
         std::function<ProcessID(const std::string& portalAppID)> portalProcess{};
-        /// What the user of the log should know: connection made and lost, streams that cannot be moved. Called on
-        /// the main thread.
+        /// Messages for the log: connected and disconnected, streams that cannot be moved. Called on the main thread.
         std::function<void(SystemLog::Level, std::string)> report{};
-        /// Which client of the server we are (`clientWord`), 0 for none: whoever destroys it gives every application
-        /// back to its own device. Called on the graph thread.
+        /// Our client on the server (`clientWord`), 0 for none: destroying it releases every application to its own
+        /// device. Called on the graph thread.
         std::function<void(std::uint64_t client)> ownClient{};
     };
 
-    /// Connects by itself, and keeps trying while no server is there.
+    /// Connects automatically, and keeps retrying while there is no server.
     PipeWireAudioSystem(MainLoop& mainLoop, Options options);
-    /// Gives every application back to its own device first; waits for that, for a second at most.
+    /// Releases every application to its own device first; blocks for that, for a second at most.
     ~PipeWireAudioSystem() override;
 
     [[nodiscard]] std::vector<AudioProcess> processes(ReadMic readMic) override;
@@ -64,7 +63,7 @@ private:
     class Tap;
     struct Announcements;
 
-    /// Who a process is never changes, and takes files to find out: it is asked once.
+    /// A process's identity never changes, and takes file accesses to find out: it is cached.
     struct Identity {
         ProcessID pid = -1;
         std::string bundleID;
@@ -75,10 +74,11 @@ private:
 
     MainLoop& mainLoop_;
     Options options_;
-    std::shared_ptr<Announcements> announcements_;  // Shared with posted notifications, which hold it weakly.
+    // Shared with posted notifications, which hold a weak reference.
+    std::shared_ptr<Announcements> announcements_;
     std::map<AudioProcessID, Identity> identities_;
-    FilesOfTaps filesOfTaps_;
-    std::shared_ptr<GraphSession> session_;  // A tap that is stopped lets go of its streams in a later turn.
+    DescriptorBudget descriptorBudget_;
+    std::shared_ptr<GraphSession> session_;  // A stopped tap releases its streams in a later iteration.
 };
 
 }  // namespace fadeloom

@@ -14,7 +14,7 @@ ProcessExit::ProcessExit(pw_loop* loop, std::int32_t pid, std::function<void()> 
     : loop_(loop)
     , ended_(std::move(ended))
 {
-    // A descriptor that becomes readable when the process ends, and that no other process can take over.
+    // A pidfd becomes readable when the process ends, and is immune to reuse of the pid.
     const int descriptor = static_cast<int>(syscall(SYS_pidfd_open, pid, 0));
     if (descriptor < 0)
         return;
@@ -23,7 +23,7 @@ ProcessExit::ProcessExit(pw_loop* loop, std::int32_t pid, std::function<void()> 
         loop, descriptor, SPA_IO_IN, closesDescriptor,
         [](void* self, int, std::uint32_t) {
             auto& me = *static_cast<ProcessExit*>(self);
-            pw_loop_update_io(me.loop_, me.source_, 0);  // It stays readable for good.
+            pw_loop_update_io(me.loop_, me.source_, 0);  // It stays readable forever.
             if (const auto told = std::exchange(me.ended_, nullptr))
                 told();
         },

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Watches a process of this machine for its end.
+// Watches a process for its exit.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ public:
     ProcessExit(const ProcessExit&) = delete;
     ProcessExit& operator=(const ProcessExit&) = delete;
 
-    /// False when there is no such process, or the system cannot watch it.
+    /// False if there is no such process, or the system cannot watch it.
     [[nodiscard]] bool isWatching() const { return source_ != nullptr; }
 
 private:

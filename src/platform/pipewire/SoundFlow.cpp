@@ -11,13 +11,13 @@ namespace fadeloom {
 
 namespace {
 
-// What belongs together, and what goes in and out of it.
+// The inputs and outputs of a group of nodes.
 struct Passage {
     std::vector<GraphID> inlets;
     std::vector<GraphID> outlets;
 };
 
-// The program behind a client: its process, as far as that can be known; else the client itself.
+// The program behind a client: its process, as far as that is known; else the client itself.
 std::string programOf(const Graph& graph, const GraphNode& node)
 {
     const auto id = node.clientID();
@@ -35,14 +35,14 @@ SoundFlow::SoundFlow(const Graph& graph)
     addLinks(graph);
     addGroups(graph);
     addPrograms(graph);
-    for (const auto& [from, targets] : ways_)
-        fed_.insert(targets.begin(), targets.end());
+    for (const auto& [from, targets] : edges_)
+        receivers_.insert(targets.begin(), targets.end());
 }
 
 void SoundFlow::addLinks(const Graph& graph)
 {
     for (const auto& [id, link] : graph.links)
-        ways_[link.outputNode].insert(link.inputNode);
+        edges_[link.outputNode].insert(link.inputNode);
 }
 
 void SoundFlow::addGroups(const Graph& graph)
@@ -60,7 +60,7 @@ void SoundFlow::addGroups(const Graph& graph)
     }
     for (const auto& [name, passage] : passages) {
         for (const auto inlet : passage.inlets)
-            ways_[inlet].insert(passage.outlets.begin(), passage.outlets.end());
+            edges_[inlet].insert(passage.outlets.begin(), passage.outlets.end());
     }
 }
 
@@ -75,7 +75,7 @@ void SoundFlow::addPrograms(const Graph& graph)
     };
     for (const auto& [id, node] : graph.nodes) {
         const bool isStream = node.isOutputStream() || node.isInputStream();
-        // The halves of a loopback belong to their group, not to the server that runs them all in one process.
+        // The halves of a loopback belong to their group, not to the server that runs all of them in one process.
         const auto client = node.clientID();
         if (!client || !propertyOf(node.properties, "node.link-group").empty())
             continue;
@@ -86,26 +86,26 @@ void SoundFlow::addPrograms(const Graph& graph)
     }
     for (const auto& [name, passage] : passages) {
         for (const auto inlet : passage.inlets)
-            ways_[inlet].insert(passage.outlets.begin(), passage.outlets.end());
+            edges_[inlet].insert(passage.outlets.begin(), passage.outlets.end());
     }
 }
 
 void SoundFlow::lead(GraphID stream, GraphID device)
 {
-    ways_[stream] = {device};
-    fed_.insert(device);
+    edges_[stream] = {device};
+    receivers_.insert(device);
 }
 
-bool SoundFlow::comesBack(GraphID device, GraphID stream) const
+bool SoundFlow::wouldFeedBack(GraphID device, GraphID stream) const
 {
-    if (!fed_.contains(stream))
-        return false;  // So it is with players.
+    if (!receivers_.contains(stream))
+        return false;  // The usual case for players.
     std::set<GraphID> reached{device};
     std::vector<GraphID> open{device};
     while (!open.empty() && !reached.contains(stream)) {
-        const auto ways = ways_.find(std::exchange(open.back(), 0));
+        const auto ways = edges_.find(std::exchange(open.back(), 0));
         open.pop_back();
-        if (ways == ways_.end())
+        if (ways == edges_.end())
             continue;
         for (const auto next : ways->second) {
             if (reached.insert(next).second)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Where sound goes in the graph, by every way there is: links, link groups, effects, programs that play what they
-// capture. It answers whether one more way would make a circle.
+// The flow of audio in the graph, along every kind of path: links, link groups, effects, programs that play what they
+// capture. Determines whether another connection would create a feedback loop.
 #pragma once
 
 #include "platform/pipewire/Graph.h"
@@ -10,23 +10,23 @@
 
 namespace fadeloom {
 
-/// A moment's picture of the ways, which follows no changes of the graph. Streams may be thought elsewhere than they are.
+/// A snapshot of the paths, which does not follow changes of the graph. Streams can be hypothetically moved.
 class SoundFlow {
 public:
     explicit SoundFlow(const Graph& graph);
 
-    /// From now on the stream is taken to play to this device and nowhere else.
+    /// From now on the stream is assumed to play to this device only.
     void lead(GraphID stream, GraphID device);
-    /// Whether what the device is given comes out of the stream again: leading the one to the other would be a circle.
-    [[nodiscard]] bool comesBack(GraphID device, GraphID stream) const;
+    /// Whether the device's input comes out of the stream again: connecting them would create a feedback loop.
+    [[nodiscard]] bool wouldFeedBack(GraphID device, GraphID stream) const;
 
 private:
     void addLinks(const Graph& graph);
     void addGroups(const Graph& graph);
     void addPrograms(const Graph& graph);
 
-    std::map<GraphID, std::set<GraphID>> ways_;  // From a node to those that its sound goes to.
-    std::set<GraphID> fed_;  // Nodes that something goes to.
+    std::map<GraphID, std::set<GraphID>> edges_;  // From a node to those that receive its audio.
+    std::set<GraphID> receivers_;  // Nodes that receive audio.
 };
 
 }  // namespace fadeloom

@@ -21,7 +21,7 @@ const AudioWorld::Process* processOf(const Graph& graph, const AudioWorld& world
     return client == graph.clients.end() ? nullptr : world.processOfClient(client->second.serial);
 }
 
-// A running tap before a stopped one: it is the one that takes over.
+// A running tap has precedence over a stopped one: it is the one that takes over.
 const TapRoute* tapFor(
     const std::vector<const TapRoute*>& taps, AudioProcessID process, const GraphNode* ownDevice)
 {
@@ -44,7 +44,7 @@ StreamRouting routeStreams(const Graph& graph, const AudioWorld& world,
     const Carriers carriers{graph};
     std::vector<Candidate> candidates;
     for (const auto& [id, node] : graph.nodes) {
-        // What a stream insists on is told by its info event only.
+        // Whether a stream is pinned is known only from its info event.
         if (!node.isOutputStream() || !node.hasInfo || !isTappable(node) || carriers.contains(node))
             continue;
         const auto* process = processOf(graph, world, node);
@@ -57,15 +57,15 @@ StreamRouting routeStreams(const Graph& graph, const AudioWorld& world,
 
     StreamRouting routing;
     SoundFlow flow{graph};
-    // All of them at home at first. What is led elsewhere after that, one by one, finds the others where they will be.
+    // All of them start on their own devices. Each rerouted stream then sees the others where they will be.
     for (const auto& candidate : candidates) {
         if (candidate.ownDevice)
             flow.lead(candidate.stream, candidate.ownDevice->id);
     }
     for (const auto& [stream, tap, device] : candidates) {
         const bool isAtHome = device && device->serial == tap->deviceSerial;
-        if (!isAtHome && flow.comesBack(tap->deviceNode, stream)) {
-            routing.circles.insert(stream);
+        if (!isAtHome && flow.wouldFeedBack(tap->deviceNode, stream)) {
+            routing.feedbackLoops.insert(stream);
             continue;
         }
         flow.lead(stream, tap->deviceNode);

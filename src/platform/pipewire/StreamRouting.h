@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which stream runs through which tap. One function decides it for all streams together, from values alone.
+// Assigns streams to taps: a pure function that decides for all streams together.
 #pragma once
 
 #include "platform/pipewire/AudioWorld.h"
@@ -11,10 +11,10 @@
 
 namespace fadeloom {
 
-/// Which streams of its processes a tap is for.
+/// Which streams of its processes a tap captures.
 enum class StreamScope {
-    every,  // All of them, wherever they would play by themselves.
-    ofTheDevice,  // Those that would play on the tap's device by themselves.
+    every,  // All of them, wherever they would play without us.
+    ofTheDevice,  // Those that would play on the tap's device without us.
 };
 
 /// One tap: from the streams of some processes to one device.
@@ -23,17 +23,18 @@ struct TapRoute {
     GraphID deviceNode = 0;
     GraphSerial deviceSerial = 0;
     StreamScope scope = StreamScope::every;
-    bool isStopped = false;  // It renders no more, and hands its streams to another tap that wants them.
+    // It no longer renders, and hands its streams over to any other tap that wants them.
+    bool isStopped = false;
 };
 
 struct StreamRouting {
     std::map<GraphID, const TapRoute*> routes;  // By stream.
-    /// Streams that stay where they are, because what their tap's device plays comes out of them again.
-    std::set<GraphID> circles;
+    /// Streams that stay where they are, because the audio of their tap's device feeds back into them.
+    std::set<GraphID> feedbackLoops;
 };
 
-/// No two decisions together make a circle: sound that a program captures from a device is never led back into it,
-/// unless it goes there without us.
+/// No combination of decisions creates a feedback loop: audio that a program captures from a device is never routed
+/// back to it, unless it already flows there without us.
 [[nodiscard]] StreamRouting routeStreams(const Graph& graph, const AudioWorld& world,
     const std::vector<const TapRoute*>& taps, const ChosenTargetOf& chosenTarget);
 

@@ -17,7 +17,7 @@ struct Target {
     NumberIs number = NumberIs::serial;
 };
 
-// The first word that is said counts, even when it names nothing.
+// The first entry that is set counts, even if it names no existing node.
 Target firstTarget(const GraphNode& stream, const ChosenTarget& chosen)
 {
     const std::array targets{

@@ -54,7 +54,8 @@ TapFilter::~TapFilter()
 
 bool TapFilter::connect(pw_core* core, const std::string& name)
 {
-    // No media.class and no node.latency: the one would put the node into mixers, the other would speed up everybody.
+    // No media.class and no node.latency: the former would list the node in mixers, the latter would shorten
+    // everybody's cycles.
     auto* properties = pw_properties_new(PW_KEY_MEDIA_TYPE, "Audio", PW_KEY_MEDIA_CATEGORY, "Filter",
         PW_KEY_MEDIA_ROLE, "DSP", PW_KEY_NODE_NAME, name.c_str(), PW_KEY_NODE_VIRTUAL, "true",
         PW_KEY_NODE_PASSIVE, "true", nullptr);
@@ -118,7 +119,7 @@ void TapFilter::process(const spa_io_position& position) noexcept FADELOOM_NONBL
     for (std::size_t i = 0; i < 2; ++i) {
         inputs[i] = static_cast<float*>(pw_filter_get_dsp_buffer(inputPorts_[i], frames));
         if (!inputs[i])
-            inputs[i] = silence_.data();  // Nothing is linked there.
+            inputs[i] = silence_.data();  // Not linked.
         if (outputPorts_[i])
             outputs[i] = static_cast<float*>(pw_filter_get_dsp_buffer(outputPorts_[i], frames));
     }
@@ -149,7 +150,7 @@ void TapFilter::renderThrough(AudioIOProc& proc, const CycleTime& time, const Si
         AudioBuffer{1, bytes, inputs[0]},
         AudioBuffer{1, bytes, inputs[1]},
     };
-    // The procedure sees every channel of the device; only those of the stereo pair have a buffer.
+    // The procedure sees all channels of the device; only those of the stereo pair have a buffer.
     const auto channels = layout_.channels.size();
     for (std::size_t channel = 0; channel < channels; ++channel) {
         void* data = nullptr;

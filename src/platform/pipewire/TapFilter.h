@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The node in which one tap meets its output device: two inputs, the device's stereo pair as outputs.
+// The node of one tap in the graph: two inputs, and the output device's stereo pair as outputs.
 //
-// It runs in the same graph cycle as the application and the device, so what comes in leaves in the same cycle and
-// no delay is added. It has no media class: session managers and volume mixers do not see it.
+// It runs in the same graph cycle as the application and the device, so it adds no latency. It has no media class:
+// session managers and volume mixers ignore it.
 #pragma once
 
 #include "platform/ProcessTap.h"
@@ -22,11 +22,11 @@ struct spa_io_position;
 
 namespace fadeloom {
 
-/// Thread: the graph thread or one that holds its lock, but for what says otherwise.
+/// Thread: the graph thread or one that holds its lock, unless stated otherwise.
 class TapFilter {
 public:
-    /// `layout`: the channels of the device that is played to. Connects at once; the node appears a little later.
-    /// `changed` is called when the node has come a step further. On failure `isConnected` is false.
+    /// `layout`: the channels of the output device. Connects immediately; the node appears a little later. `changed` is
+    /// called when the node's state has advanced. On failure `isConnected` is false.
     TapFilter(pw_core* core, const std::string& name, const DeviceLayout& layout,
         std::shared_ptr<AudioIOProc> proc, std::function<void()> changed);
     ~TapFilter();
@@ -34,16 +34,16 @@ public:
     TapFilter& operator=(const TapFilter&) = delete;
 
     [[nodiscard]] bool isConnected() const { return filter_ != nullptr; }
-    /// The node's id once the server has given one.
+    /// The node's id once the server has assigned one.
     [[nodiscard]] std::optional<GraphID> nodeID() const;
-    /// How many outputs there are: 2, or 1 for a mono device. Output 0 plays `layout.left`, output 1 `layout.right`.
+    /// The number of outputs: 2, or 1 for a mono device. Output 0 plays `layout.left`, output 1 `layout.right`.
     [[nodiscard]] int outputCount() const { return outputCount_; }
 
-    /// A closed gate plays silence: the tap must not be heard while its application still is.
+    /// A closed gate outputs silence: the tap must not be audible while its application still is directly.
     void setGateOpen(bool isOpen) { isGateOpen_.store(isOpen, std::memory_order_relaxed); }
-    /// Ends the calls of the procedure. When this returns none is running. Thread: any; waits for one cycle at most.
+    /// Stops calling the procedure. When this returns it is not running. Thread: any; blocks for one cycle at most.
     void stopRendering();
-    /// After `stopRendering`: plays what comes in as it is, while the application is handed back to its own output.
+    /// After `stopRendering`: passes the input through, while the application is released to its own output.
     void passThrough() { isPassingThrough_.store(true, std::memory_order_relaxed); }
 
     /// The rate of the last cycle in hertz; 0 before the first one. Thread: any.
@@ -51,9 +51,9 @@ public:
 
 private:
     static constexpr std::size_t maximumChannels = 64;
-    static constexpr std::uint32_t maximumFrames = 8192;  // The server's own limit for one cycle.
+    static constexpr std::uint32_t maximumFrames = 8192;  // The server's own limit per cycle.
 
-    using Sides = std::array<float*, 2>;  // Left and right; null where nothing is linked.
+    using Sides = std::array<float*, 2>;  // Left and right; null if not linked.
 
     static void onProcess(void* self, spa_io_position* position);
     void process(const spa_io_position& position) noexcept FADELOOM_NONBLOCKING;
@@ -73,10 +73,10 @@ private:
     std::array<AudioBuffer, maximumChannels> outputBuffers_{};
     std::array<float, maximumFrames> silence_{};
 
-    const std::shared_ptr<AudioIOProc> sharedProc_;  // Kept for as long as a cycle may reach it.
+    const std::shared_ptr<AudioIOProc> sharedProc_;  // Kept alive while a cycle may reach it.
     // Shared with the IO thread. `proc_` and `isInCycle_` are sequentially consistent as a pair: either the IO thread
-    // sees that the procedure is gone, or `stopRendering` sees that a cycle is under way and waits for its end. The
-    // others are words of their own, with nothing behind them: relaxed, and seen in the next cycle.
+    // sees that the procedure is gone, or `stopRendering` sees that a cycle is in progress and waits for its end. The
+    // others are independent words that guard nothing: relaxed, and visible in the next cycle.
     std::atomic<AudioIOProc*> proc_;
     std::atomic<bool> isInCycle_ = false;
     std::atomic<bool> isGateOpen_ = false;

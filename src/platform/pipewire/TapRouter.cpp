@@ -75,14 +75,14 @@ void TapRouter::update(const AudioWorld& world)
 
     forgetVanishedStreams();
     const auto wanted = wantedPaths(world);
-    takeHoldOfStreams(wanted);
+    captureStreams(wanted);
     for (auto& stream : streams_) {
         const auto found = wanted.find(stream.parked.id());
         if (!stream.isBeingGivenBack)
             follow(stream, found == wanted.end() ? nullptr : found->second);
     }
     held_.update();
-    finishGivingBack();
+    finishReleasing();
     setGates();
     if (links_.reconcile(connection_.core(), wantedLinks()))
         connection_.callBackIn(OwnLinks::retryDelay);
@@ -95,7 +95,7 @@ void TapRouter::forgetVanishedStreams()
     streams_.remove_if([&](const Stream& stream) {
         return !connection_.graph().node(stream.parked.id(), stream.parked.serial());
     });
-    for (auto* serials : {&leftAlone_, &circles_})
+    for (auto* serials : {&leftAlone_, &reportedLoops_})
         std::erase_if(
             *serials, [&](GraphSerial serial) { return !connection_.graph().nodeWithSerial(serial); });
 }
@@ -135,7 +135,7 @@ void TapRouter::setGates()
             return runsThrough(stream) && isRunning(stream) && isDirect(stream)
                 && !hasAnotherSettledStream(stream);
         });
-        // Once its last stream is back on a device a released path falls silent, before its filter is really gone.
+        // Once its last stream is back on a device, a released path falls silent, before its filter is actually gone.
         const bool isOver = path.isReleased && std::ranges::none_of(streams_, runsThrough);
         path.filter->setGateOpen(!isHeardTwice && !isOver);
     }
@@ -157,7 +157,7 @@ void TapRouter::sessionManagerAppeared()
 
 void TapRouter::sessionManagerVanished()
 {
-    // The next one could not adopt it: some generations then stop linking anything.
+    // The next one could not adopt it: some versions then stop linking anything.
     park_.reset();
     held_.clear();
 }
@@ -176,7 +176,7 @@ void TapRouter::disconnected()
     streams_.clear();
     held_.clear();
     leftAlone_.clear();
-    circles_.clear();
+    reportedLoops_.clear();
     park_.reset();
     for (auto& path : paths_)
         path.filter.reset();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The links of a tap: what they have to be, when they are ready, and the session manager's that they make superfluous.
+// The links of a tap: the wanted ones, when they are ready, and the session manager's that they replace.
 #include "platform/pipewire/TapRouter.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A link that is cut while the session manager still sets it up can bring some generations down with it.
+// Cutting a link that the session manager is still setting up can crash some versions of it.
 constexpr auto cutAfter = 250ms;
 
 }  // namespace
@@ -38,7 +38,7 @@ std::optional<TapRouter::FilterPorts> TapRouter::portsOf(const TapPath& path) co
         .inputs = connection_.graph().inputPorts(*node),
         .outputs = connection_.graph().outputPorts(*node),
     };
-    // By name: the two sides must not be confused, whatever numbers the ports got.
+    // By name: the two sides must not be swapped, whatever ids the ports have.
     std::ranges::sort(ports.inputs, {}, &GraphPort::name);
     std::ranges::sort(ports.outputs, {}, &GraphPort::name);
     if (ports.inputs.size() != 2
@@ -83,8 +83,8 @@ void TapRouter::addStreamLinks(
     const auto id = stream.parked.id();
     const auto streamPorts = connection_.graph().outputPorts(id);
 
-    // A stream that is still heard directly joins others only when it no longer is: closing the gate would interrupt
-    // them.
+    // A stream that is still audible directly is mixed with others only once it no longer is: closing the gate would
+    // interrupt them.
     const bool mustWait =
         !stream.isBeingGivenBack && isDirect(stream) && isRunning(stream) && hasAnotherSettledStream(stream);
     for (const auto& port : streamPorts) {

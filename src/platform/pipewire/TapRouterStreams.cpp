@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The streams of the taps: which ones are taken, kept and given back.
+// The streams of the taps: which ones are captured, kept and released.
 #include "platform/pipewire/TapRouter.h"
 
 #include <algorithm>
@@ -11,18 +11,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A session manager moves a stream within milliseconds, on a busy machine in a second. One that has not by then is not
-// going to.
+// A session manager moves a stream within milliseconds, on a busy machine within a second. If it has not by then, it is
+// not going to.
 constexpr auto stuckAfter = 2000ms;
-// How long a stream that is given back may stay on our links while no session manager takes it.
+// How long a released stream may stay on our links while no session manager takes it.
 constexpr auto giveUpAfter = 1000ms;
 // How long a stream that has changed its device waits for a tap there.
 constexpr auto pathWithin = 500ms;
 
-/// Why a stream that is to be ours stays on its device.
-std::string whyStuck(const GraphNode& stream)
+/// Why a stream that should be ours stays on its device.
+std::string reasonNotCaptured(const GraphNode& stream)
 {
-    // No session manager cares for such a stream: whoever made its links keeps them.
+    // No session manager manages such a stream: whoever created its links keeps them.
     const auto autoconnect = propertyOf(stream.properties, "node.autoconnect");
     if (autoconnect != "true" && autoconnect != "1")
         return "the links of a stream were made by hand and stay; its application is heard as it is";
@@ -51,8 +51,8 @@ TapRouter::WantedPaths TapRouter::wantedPaths(const AudioWorld& world)
     }
     const auto routing =
         routeStreams(graph, world, routes, [this](const GraphNode& stream) { return chosenTarget(stream); });
-    for (const auto stream : routing.circles) {
-        if (circles_.insert(graph.node(stream)->serial).second)
+    for (const auto stream : routing.feedbackLoops) {
+        if (reportedLoops_.insert(graph.node(stream)->serial).second)
             report_("a stream is not led to a device whose sound its program captures");
     }
     WantedPaths wanted;
@@ -70,7 +70,7 @@ TapRouter::Stream* TapRouter::streamWith(GraphID id)
     return found == streams_.end() ? nullptr : &*found;
 }
 
-void TapRouter::takeHoldOfStreams(const WantedPaths& wanted)
+void TapRouter::captureStreams(const WantedPaths& wanted)
 {
     if (!park_ || !park_->nodeID())
         return;
@@ -102,7 +102,7 @@ void TapRouter::streamChanged(const GraphNode& stream)
 {
     if (held_.has(stream) && !isTappable(stream))
         held_.release(stream.id);
-    // The doorbell has been answered: from now on it would be heard.
+    // The doorbell has been answered: from now on it would be audible.
     const auto* known = streamWith(stream.id);
     if (known && known->path && !needsDoorbell(stream))
         links_.drop(stream.id, known->path->route.deviceNode);
@@ -110,33 +110,33 @@ void TapRouter::streamChanged(const GraphNode& stream)
 
 void TapRouter::follow(Stream& stream, TapPath* wanted)
 {
-    // A path that changes hands is left when the next one can take over.
+    // A path whose streams are handed over is left once the next one can take over.
     if (wanted && stream.path && wanted != stream.path && !stream.path->route.isStopped && !isReady(*wanted))
         wanted = stream.path;
     if (wanted) {
-        stream.homelessSince.reset();
+        stream.unroutedSince.reset();
         stream.path = wanted;
         keepParked(stream);
         if (!stream.parked.isContested())
             return;
         leftAlone_.insert(stream.parked.serial());
         report_("a stream that another program keeps moving is left alone");
-    } else if (mayStillFindAPath(stream)) {
+    } else if (mayFindPath(stream)) {
         keepParked(stream);
         return;
     }
-    giveBack(stream);
+    release(stream);
 }
 
-bool TapRouter::mayStillFindAPath(Stream& stream)
+bool TapRouter::mayFindPath(Stream& stream)
 {
-    // It has changed to a device for which its application has no tap yet. Until there is one, it stays where it is.
+    // It has moved to a device for which its application has no tap yet. Until there is one, it stays where it is.
     if (!stream.path || stream.path->isReleased || stream.path->route.scope == StreamScope::every)
         return false;
     const auto now = std::chrono::steady_clock::now();
-    if (!stream.homelessSince)
-        stream.homelessSince = now;
-    if (now - *stream.homelessSince >= pathWithin)
+    if (!stream.unroutedSince)
+        stream.unroutedSince = now;
+    if (now - *stream.unroutedSince >= pathWithin)
         return false;
     connection_.callBackIn(pathWithin);
     return true;
@@ -150,7 +150,7 @@ void TapRouter::keepParked(Stream& stream)
         connection_.callBackIn(linksWithin);
         return;
     }
-    if (!stream.parked.keepOn(park_->name()))
+    if (!stream.parked.ensureParkedOn(park_->name()))
         connection_.callBackIn(ParkedStream::rewriteInterval);
 
     if (!isDirect(stream) || stream.isStuckReported)
@@ -159,20 +159,20 @@ void TapRouter::keepParked(Stream& stream)
         connection_.callBackIn(stuckAfter);
     } else if (isRunning(stream)) {
         stream.isStuckReported = true;
-        report_(whyStuck(*connection_.graph().node(stream.parked.id())));
+        report_(reasonNotCaptured(*connection_.graph().node(stream.parked.id())));
     }
 }
 
-void TapRouter::giveBack(Stream& stream)
+void TapRouter::release(Stream& stream)
 {
     stream.isBeingGivenBack = true;
     stream.since = std::chrono::steady_clock::now();
     if (stream.path && stream.path->isReleased && stream.path->filter)
         stream.path->filter->passThrough();
-    stream.parked.giveBack();
+    stream.parked.restoreTarget();
 }
 
-void TapRouter::finishGivingBack()
+void TapRouter::finishReleasing()
 {
     streams_.remove_if([&](const Stream& stream) {
         if (!stream.isBeingGivenBack)

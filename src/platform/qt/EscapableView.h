@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A view of Qt Quick from which Escape leads out.
+// A Qt Quick view that reports Escape.
 #pragma once
 
 #include <QKeyEvent>
@@ -14,7 +14,7 @@ namespace fadeloom {
 /// Thread: main.
 class EscapableView final : public QQuickView {
 public:
-    /// `escaped` is called when Escape is pressed and nothing inside has a use for the key.
+    /// `escaped` is called when Escape is pressed and no item handles the key.
     explicit EscapableView(std::function<void()> escaped, QWindow* parent = nullptr)
         : QQuickView(parent)
         , escaped_(std::move(escaped))

@@ -2,12 +2,11 @@
 #include "platform/qt/LineReader.h"
 
 #include <QSocketNotifier>
+#include <unistd.h>
 
 #include <array>
 #include <cerrno>
 #include <utility>
-
-#include <unistd.h>
 
 namespace fadeloom {
 

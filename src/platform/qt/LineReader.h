@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reads lines from a descriptor (standard input, as a rule) without ever holding the main loop up.
+// Reads lines from a file descriptor (usually standard input) without blocking the main loop.
 #pragma once
 
 #include "platform/qt/LineSplitter.h"
@@ -15,8 +15,8 @@ class LineReader {
 public:
     static constexpr std::size_t longestLine = 4096;  // Bytes.
 
-    /// Reads `descriptor`, which stays the caller's, until its end; then calls `ended` once. The descriptor's mode is
-    /// left alone: others may share it.
+    /// Reads `descriptor`, which remains the caller's, to the end of file; then calls `ended` once. The descriptor's
+    /// flags are not changed: others may share it.
     LineReader(
         int descriptor, std::function<void(const LineSplitter::Line&)> received, std::function<void()> ended);
     ~LineReader();
@@ -26,7 +26,7 @@ public:
 private:
     struct State;
 
-    std::shared_ptr<State> state_;  // Kept through a callback that destroys the reader.
+    std::shared_ptr<State> state_;  // Kept alive during a callback that destroys the reader.
 };
 
 }  // namespace fadeloom

@@ -26,7 +26,7 @@ std::vector<LineSplitter::Line> LineSplitter::finish()
 
 void LineSplitter::keep(std::string_view bytes)
 {
-    // One byte more than the longest line, for the "\r" that may turn out to belong to its end.
+    // One byte more than the longest line, for a "\r" that may be part of the line end.
     isTooLong_ = isTooLong_ || rest_.size() + bytes.size() > longest_ + 1;
     if (isTooLong_)
         rest_.clear();

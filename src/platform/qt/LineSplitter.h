@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Cuts a stream of bytes into lines, with a limit on what it keeps.
+// Splits a stream of bytes into lines, with bounded buffering.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,8 @@ namespace fadeloom {
 
 class LineSplitter {
 public:
-    /// A line without its end ("\n" or "\r\n"). One that is too long has no text: half a line says something else.
+    /// A line without its end ("\n" or "\r\n"). One that is too long has no text: half a line would have another
+    /// meaning.
     struct Line {
         std::string text;
         bool isTooLong = false;
@@ -19,15 +20,15 @@ public:
         friend bool operator==(const Line&, const Line&) = default;
     };
 
-    /// `longest`: bytes of a line, without its end.
+    /// `longest`: bytes per line, without its end.
     explicit LineSplitter(std::size_t longest)
         : longest_(longest)
     {
     }
 
-    /// The lines that these bytes complete.
+    /// The lines completed by these bytes.
     [[nodiscard]] std::vector<Line> feed(std::string_view bytes);
-    /// What is left when the stream ends: one line, or none.
+    /// The remainder at the end of the stream: one line, or nullopt.
     [[nodiscard]] std::vector<Line> finish();
 
 private:

@@ -19,11 +19,11 @@ QNetworkRequest networkRequest(const HttpRequest& request)
     result.setHeader(QNetworkRequest::UserAgentHeader, QString::fromStdString(request.userAgent));
     result.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
     result.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
-    // Caches on the way are asked to stand aside as well.
+    // Also bypasses caches on the network.
     result.setRawHeader("Cache-Control", "no-cache");
     result.setRawHeader("Pragma", "no-cache");
-    result.setRawHeader("Accept-Language", "*");  // Qt would tell the user's.
-    result.setRawHeader("Accept-Encoding", "identity");  // A packed answer may be larger than it looks.
+    result.setRawHeader("Accept-Language", "*");  // Qt would send the user's language.
+    result.setRawHeader("Accept-Encoding", "identity");  // A compressed response may be larger than it seems.
     result.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     result.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     result.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
@@ -31,7 +31,7 @@ QNetworkRequest networkRequest(const HttpRequest& request)
     return result;
 }
 
-/// Whether the server has answered, if only to say that it will not. Qt calls that an error, too.
+/// Whether the server has responded, even with an error status, which Qt also reports as an error.
 bool isAnswer(const QNetworkReply& reply)
 {
     const auto error = reply.error();
@@ -46,7 +46,7 @@ bool isAnswer(const QNetworkReply& reply)
 
 class QtHttpClient::Exchange {
 public:
-    /// `ended` is called once, in the middle of a signal of Qt's: what it is to destroy has to wait.
+    /// `ended` is called once, from within a signal of Qt's: objects must not be destroyed in it immediately.
     Exchange(QNetworkAccessManager& network, const HttpRequest& request, Answered answered,
         std::function<void()> ended)
         : largestBody_(request.largestBody)
@@ -54,7 +54,7 @@ public:
         , ended_(std::move(ended))
         , reply_(network.get(networkRequest(request)))
     {
-        // No more than is wanted is taken from the server; the byte beyond tells that there is more.
+        // Reads no more than allowed; the additional byte detects a longer response.
         reply_->setReadBufferSize(static_cast<qint64>(largestBody_) + 1);
         QObject::connect(reply_.get(), &QNetworkReply::readyRead, reply_.get(), [this] { read(); });
         QObject::connect(reply_.get(), &QNetworkReply::finished, reply_.get(), [this] { finish(); });
@@ -133,7 +133,7 @@ void QtHttpClient::end(std::uint64_t number)
 {
     const auto answer = exchanges_.at(number)->answer();
     exchanges_.erase(number);
-    answer();  // It may destroy us.
+    answer();  // It may destroy this object.
 }
 
 void QtHttpClient::later(std::function<void()> task)

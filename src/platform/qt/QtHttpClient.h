@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Requests to a web server by Qt.
+// HTTP requests through Qt.
 #pragma once
 
 #include "platform/HttpClient.h"
@@ -14,13 +14,13 @@
 
 namespace fadeloom {
 
-/// Speaks HTTP and HTTPS, through the system's proxy where there is one, and is never redirected from HTTPS to HTTP.
-/// Beside its address a request tells nothing but the user agent: no cookies, no language. Needs a running Qt event
-/// loop. Thread: main; callbacks may destroy the client.
+/// Supports HTTP and HTTPS, through the system's proxy if there is one, and never follows redirects from HTTPS to HTTP.
+/// Besides the URL a request sends only the user agent: no cookies, no language. Needs a running Qt event loop. Thread:
+/// main; callbacks may destroy the client.
 class QtHttpClient final : public HttpClient {
 public:
     QtHttpClient();
-    /// Ends what is open, without an answer.
+    /// Aborts pending requests without calling back.
     ~QtHttpClient() override;
     QtHttpClient(const QtHttpClient&) = delete;
     QtHttpClient& operator=(const QtHttpClient&) = delete;
@@ -33,7 +33,7 @@ private:
     void end(std::uint64_t number);
     void later(std::function<void()> task);
 
-    QObject turns_;  // What waits for the next turn of the loop ends with it.
+    QObject turns_;  // Context of deferred calls, which end with it.
     QNetworkAccessManager network_;
     std::map<std::uint64_t, std::unique_ptr<Exchange>> exchanges_;
     std::uint64_t lastNumber_ = 0;

@@ -12,13 +12,13 @@
 
 namespace fadeloom {
 
-/// Receives everything in the main thread. Timers are numbers here and not objects, so a task that ends its own
-/// subscription destroys nothing that is at work.
+/// Receives all events on the main thread. Timers are identified by number rather than objects, so a task that ends its
+/// own subscription destroys nothing that is running.
 class QtMainLoop::Hub final : public QObject, public std::enable_shared_from_this<Hub> {
 public:
     enum class Repeats { once, always };
 
-    /// Of a timer; its number may be used again once it has ended, its ticket never.
+    /// Of a timer; Qt may reuse its number once it has ended, its ticket is unique.
     struct Handle {
         int timer = 0;
         std::uint64_t ticket = 0;
@@ -37,8 +37,8 @@ public:
         if (found == tasks_.end() || found->second.ticket != handle.ticket)
             return;
         killTimer(handle.timer);
-        const auto released =
-            std::move(found->second.task);  // What it holds may come back here when it goes.
+        // Destroying its captures may call back into this object.
+        const auto released = std::move(found->second.task);
         tasks_.erase(found);
     }
 
@@ -59,7 +59,7 @@ protected:
         const auto found = tasks_.find(event->timerId());
         if (found == tasks_.end())
             return;
-        const auto task = found->second.task;  // Keeps it alive should it end itself.
+        const auto task = found->second.task;  // Keeps it alive if it ends itself.
         if (found->second.repeats == Repeats::once)
             endTask({found->first, found->second.ticket});
         (*task)();

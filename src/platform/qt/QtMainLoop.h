@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The main loop, as the event loop of Qt's application object.
+// The main loop, implemented by the event loop of Qt's application object.
 #pragma once
 
 #include "platform/MainLoop.h"
@@ -8,12 +8,12 @@
 
 namespace fadeloom {
 
-/// Needs the application object (`QCoreApplication` or one of its kind) before it and for as long as it lives; the
-/// thread that makes both is the main thread. Subscriptions may outlive it. Tasks must not throw.
+/// Needs the application object (`QCoreApplication` or a subclass) for its whole lifetime; the thread that creates both
+/// is the main thread. Subscriptions may outlive it. Tasks must not throw.
 class QtMainLoop final : public MainLoop {
 public:
     QtMainLoop();
-    /// Drops what is still posted.
+    /// Drops posted tasks.
     ~QtMainLoop() override;
     QtMainLoop(const QtMainLoop&) = delete;
     QtMainLoop& operator=(const QtMainLoop&) = delete;
@@ -25,13 +25,13 @@ public:
 
     /// Runs until `quit`; returns its exit code. Thread: main.
     int run();
-    /// Ends `run`, or the next one when none is running, after what was posted before. Thread: any.
+    /// Ends `run`, or the next call if it is not running, after earlier posted tasks. Thread: any.
     void quit(int exitCode = 0);
 
 private:
     class Hub;
 
-    std::shared_ptr<Hub> hub_;  // Subscriptions look at it weakly.
+    std::shared_ptr<Hub> hub_;  // Subscriptions hold a weak reference.
 };
 
 }  // namespace fadeloom

@@ -17,8 +17,8 @@ QString unicode(std::string_view text)
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// Unicode's full case folding. That of Qt never makes two letters of one; its capitals do ("ß" becomes "SS"), but make
-/// an "i" of the dotless one, which folding leaves alone.
+/// Unicode's full case folding. Qt's folding never expands a letter; its upper case does ("ß" becomes "SS"), but also
+/// maps the dotless "ı" to "I", which folding does not.
 QString folded(const QString& text)
 {
     constexpr QChar dotless = u'ı';
@@ -28,7 +28,7 @@ QString folded(const QString& text)
     return pieces.join(dotless);
 }
 
-/// The same for texts that are the same but for letter case, whether their accents are letters of their own or not.
+/// A key that is equal for texts that differ only in case, whether accents are precomposed or not.
 QString caseless(std::string_view text)
 {
     return folded(unicode(text).normalized(QString::NormalizationForm_D));
@@ -36,7 +36,7 @@ QString caseless(std::string_view text)
 
 }  // namespace
 
-/// The collator of the language that was asked for last: making one takes thousands of times as long as using it.
+/// The collator of the last language: creating one takes thousands of times as long as using it.
 class QtText::Order {
 public:
     std::weak_ordering compare(const QString& one, const QString& other)
@@ -51,7 +51,7 @@ private:
     {
         locale_ = QLocale();
         collator_.emplace();
-        // Who chose no language still has letters with accents.
+        // Without a language, letters with accents must still sort properly.
         if (collator_->locale().language() == QLocale::C)
             collator_.emplace(QLocale{QLocale::English});
         collator_->setCaseSensitivity(Qt::CaseInsensitive);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Letter case and order by the Unicode tables of Qt.
+// Case folding and collation by Qt's Unicode tables.
 #pragma once
 
 #include "platform/Text.h"

@@ -14,13 +14,13 @@ QString fileName(const std::filesystem::path& file)
     return QFile::decodeName(file.c_str());
 }
 
-/// A file that is there and cannot be read may hold what nobody has seen.
+/// An existing file that cannot be read must not be overwritten.
 bool mayWrite(const QSettings& settings)
 {
     return settings.status() != QSettings::AccessError;
 }
 
-/// What was damaged is not to be mixed with what is new.
+/// Damaged contents must not be merged with new values.
 void forgetDamage(QSettings& settings)
 {
     if (settings.status() == QSettings::FormatError)
@@ -36,7 +36,7 @@ std::optional<std::vector<std::string>> QtUserDefaults::stringList(const std::st
     if (settings.status() != QSettings::NoError || !settings.contains(name))
         return std::nullopt;
     const auto value = settings.value(name);
-    // An empty list is written as no value.
+    // An empty list would be written as no value.
     const bool isList =
         !value.isValid() || value.typeId() == QMetaType::QString || value.typeId() == QMetaType::QStringList;
     if (!isList)

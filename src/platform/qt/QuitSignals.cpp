@@ -2,6 +2,8 @@
 #include "platform/qt/QuitSignals.h"
 
 #include <QSocketNotifier>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <array>
 #include <atomic>
@@ -11,16 +13,13 @@
 #include <cstdlib>
 #include <utility>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 namespace fadeloom {
 
 namespace {
 
 constexpr std::array quitSignals{SIGINT, SIGTERM, SIGHUP, QuitSignals::requestSignal};
 
-// A signal handler reaches nothing but what is global.
+// A signal handler can access only globals.
 std::atomic<int> wakeDescriptor = -1;
 static_assert(std::atomic<int>::is_always_lock_free);
 
@@ -29,7 +28,7 @@ extern "C" void wakeMainLoop(int)
     const int savedError = errno;
     const char byte = 0;
     if (write(wakeDescriptor.load(std::memory_order_relaxed), &byte, 1) < 0) {
-        // A full pipe has woken the loop already.
+        // If the pipe is full, the loop has been woken already.
     }
     errno = savedError;
 }
@@ -43,7 +42,7 @@ struct QuitSignals::State {
         Pipe()
         {
             if (::pipe(ends.data()) != 0)
-                std::abort();  // No descriptors at start: nothing else would work.
+                std::abort();  // No descriptors at startup: nothing else would work.
             for (const int end : ends) {
                 fcntl(end, F_SETFD, FD_CLOEXEC);
                 fcntl(end, F_SETFL, O_NONBLOCK);
@@ -70,13 +69,13 @@ QuitSignals::QuitSignals(std::function<void()> asked)
     QObject::connect(
         &state_->notifier, &QSocketNotifier::activated, &state_->notifier, [state = state_.get()] {
             state->notifier.setEnabled(false);
-            const auto ask = state->asked;  // It may destroy us.
+            const auto ask = state->asked;  // It may destroy this object.
             ask();
         });
     wakeDescriptor = state_->pipe.ends[1];
     struct sigaction action = {};
     action.sa_handler = wakeMainLoop;
-    // Reset: the second signal does what it does by default.
+    // Reset: the second signal has its default action.
     sigemptyset(&action.sa_mask);
     for (std::size_t i = 0; i < quitSignals.size(); ++i) {
         const bool isRepeatable = quitSignals[i] == requestSignal;

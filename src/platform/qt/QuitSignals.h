@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Turns the signals that ask a program to end into a call on the main loop.
+// Turns signals that request the program's end into a call on the main loop.
 #pragma once
 
 #include <csignal>
@@ -8,16 +8,17 @@
 
 namespace fadeloom {
 
-/// SIGINT, SIGTERM, SIGHUP, and `requestSignal` of a parent that passes one of them on. At most one of these objects at a time. Thread: main.
+/// SIGINT, SIGTERM, SIGHUP, and `requestSignal` from a parent that forwards one of them. At most one instance at a
+/// time. Thread: main.
 class QuitSignals {
 public:
-    /// Asks as often as it likes: only a second one of the others ends the process at once.
+    /// May be sent repeatedly: only a second one of the others ends the process immediately.
     static constexpr int requestSignal = SIGUSR1;
 
-    /// `asked` is called on the main loop at the first signal; a second one ends the process at once, in case the
-    /// orderly end hangs. Needs a running Qt event loop.
+    /// `asked` is called on the main loop at the first signal; a second one ends the process immediately, in case the
+    /// shutdown hangs. Needs a running Qt event loop.
     explicit QuitSignals(std::function<void()> asked);
-    /// Gives the signals their former meaning back.
+    /// Restores the previous signal actions.
     ~QuitSignals();
     QuitSignals(const QuitSignals&) = delete;
     QuitSignals& operator=(const QuitSignals&) = delete;

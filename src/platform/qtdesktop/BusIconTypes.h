@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pictures and the tool tip of a status icon, as they go over the message bus.
+// Pixmaps and tooltip of a status icon, in D-Bus types.
 #pragma once
 
 #include <QByteArray>
@@ -11,7 +11,7 @@
 
 namespace fadeloom {
 
-/// A picture of 32-bit pixels, alpha first, in the byte order of networks: (iiay).
+/// An image of 32-bit ARGB pixels in network byte order: (iiay).
 struct BusPixmap {
     int width = 0;
     int height = 0;
@@ -26,7 +26,7 @@ struct BusToolTip {
     QString description;
 };
 
-/// The icon in each size that it has.
+/// The icon in each of its sizes.
 [[nodiscard]] QList<BusPixmap> busPixmaps(const QIcon& icon);
 
 QDBusArgument& operator<<(QDBusArgument& to, const BusPixmap& pixmap);
@@ -34,7 +34,7 @@ const QDBusArgument& operator>>(const QDBusArgument& from, BusPixmap& pixmap);
 QDBusArgument& operator<<(QDBusArgument& to, const BusToolTip& toolTip);
 const QDBusArgument& operator>>(const QDBusArgument& from, BusToolTip& toolTip);
 
-/// Before any of them goes over the bus.
+/// Registers the types with Qt. Call before sending them.
 void registerBusIconTypes();
 
 }  // namespace fadeloom

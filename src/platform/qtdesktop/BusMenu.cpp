@@ -16,7 +16,7 @@ QVariantMap propertiesOfEntry(const StatusMenuEntry& entry)
 {
     if (entry.isSeparator())
         return {{QStringLiteral("type"), QStringLiteral("separator")}};
-    // A single underscore would mark the letter behind it.
+    // A single underscore would mark a mnemonic.
     const auto label = QString::fromStdString(entry.title).replace(QLatin1Char('_'), QStringLiteral("__"));
     QVariantMap properties{{QStringLiteral("label"), label}};
     if (entry.isChecked) {
@@ -59,7 +59,7 @@ QString BusMenu::textDirection() const
 
 int BusMenu::idOf(const StatusMenuEntry& entry, int position)
 {
-    // Lines are told apart by what they follow.
+    // Separators are identified by the entry that they follow.
     const auto name =
         entry.isSeparator() ? QStringLiteral("\n%1").arg(position) : QString::fromStdString(entry.title);
     const auto known = ids_.constFind(name);
@@ -108,7 +108,7 @@ QList<BusMenuProperties> BusMenu::GetGroupProperties(const QList<int>& ids, cons
 {
     QList<BusMenuProperties> result;
     const auto add = [&](int id) { result += {id, propertiesOf(id, propertyNames)}; };
-    if (ids.isEmpty()) {  // Which means all of them.
+    if (ids.isEmpty()) {  // Empty means all of them.
         add(root);
         for (const auto& entry : std::as_const(entries_))
             add(entry.id);
@@ -131,7 +131,7 @@ void BusMenu::Event(int id, const QString& event, const QDBusVariant& /*data*/, 
     if (event == QLatin1String("opened") && id == root)
         opens_();
     const auto* const entry = event == QLatin1String("clicked") ? find(id) : nullptr;
-    // In a turn of its own: the bar's question is answered before anything opens, and before the end of the program.
+    // Deferred: replies to the bar before anything opens or the program quits.
     if (entry != nullptr && entry->action)
         QTimer::singleShot(0, this, entry->action);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The status icon's menu as the desktop's bar asks for it over the message bus, and shows it.
+// The status icon's menu, exported on D-Bus for the desktop's bar to display.
 #pragma once
 
 #include "platform/StatusItem.h"
@@ -14,7 +14,8 @@
 namespace fadeloom {
 
 /// Implements com.canonical.dbusmenu. The entries are built whenever a bar is about to show them. An entry keeps its id
-/// for as long as this lives: a click on a menu that a bar has kept meets the entry that was drawn. Thread: main.
+/// for the lifetime of this object: a click in a menu that a bar has cached activates the entry that was displayed.
+/// Thread: main.
 class BusMenu final : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
@@ -26,7 +27,7 @@ class BusMenu final : public QObject {
 public:
     BusMenu();
 
-    /// Builds the entries, and is told before they are shown.
+    /// Sets the factory of the entries, and a callback for when they are about to be shown.
     void setBuilder(std::function<StatusMenu()> build);
     void whenOpens(std::function<void()> opens) { opens_ = std::move(opens); }
 
@@ -37,7 +38,8 @@ public:
 
 public Q_SLOTS:
     uint GetLayout(int parentId, int recursionDepth, const QStringList& propertyNames,
-        fadeloom::BusMenuLayout& layout);  // NOLINT(google-runtime-references): an answer's second value.
+        // NOLINTNEXTLINE(google-runtime-references): the second result of a D-Bus method.
+        fadeloom::BusMenuLayout& layout);
     QList<fadeloom::BusMenuProperties> GetGroupProperties(
         const QList<int>& ids, const QStringList& propertyNames);
     QDBusVariant GetProperty(int id, const QString& name);

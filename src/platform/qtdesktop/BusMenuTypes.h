@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a menu over the message bus is made of, in the words of its protocol.
+// The D-Bus types of a menu, named as in its protocol.
 #pragma once
 
 #include <QDBusArgument>
@@ -11,20 +11,20 @@
 
 namespace fadeloom {
 
-/// An entry, with those below it: (ia{sv}av).
+/// An entry with its children: (ia{sv}av).
 struct BusMenuLayout {
     int id = 0;
     QVariantMap properties;
     QList<BusMenuLayout> children;
 };
 
-/// What an entry shows: (ia{sv}).
+/// The properties of an entry: (ia{sv}).
 struct BusMenuProperties {
     int id = 0;
     QVariantMap properties;
 };
 
-/// What happened to an entry: (isvu).
+/// An event on an entry: (isvu).
 struct BusMenuEvent {
     int id = 0;
     QString event;
@@ -39,7 +39,7 @@ const QDBusArgument& operator>>(const QDBusArgument& from, BusMenuProperties& pr
 QDBusArgument& operator<<(QDBusArgument& to, const BusMenuEvent& event);
 const QDBusArgument& operator>>(const QDBusArgument& from, BusMenuEvent& event);
 
-/// Before any of them goes over the bus.
+/// Registers the types with Qt. Call before sending them.
 void registerBusMenuTypes();
 
 }  // namespace fadeloom

@@ -45,7 +45,7 @@ void ClickCatcher::show(QSize size)
     wl_surface_commit(surface_);
 }
 
-void ClickCatcher::leaveFree(const QRect& part)
+void ClickCatcher::exclude(const QRect& part)
 {
     constexpr int beyondAnyScreen = 100'000;
     auto* const region = wl_compositor_create_region(shell_.compositor_);

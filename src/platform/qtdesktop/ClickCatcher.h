@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A clear sheet over a whole screen, below the panel: a click beside the panel meets it, whatever lies there.
+// A transparent surface that covers a screen below the panel: it receives clicks anywhere outside the panel.
 #pragma once
 
 #include "platform/qtdesktop/LayerSurface.h"
@@ -14,14 +14,14 @@ namespace fadeloom {
 /// Covers bars as well. Thread: main.
 class ClickCatcher {
 public:
-    /// `closed`: called when the screen goes.
+    /// `closed`: called when the screen is removed.
     ClickCatcher(LayerShell& shell, QScreen& screen, std::function<void()> closed);
     ClickCatcher(const ClickCatcher&) = delete;
     ClickCatcher& operator=(const ClickCatcher&) = delete;
     ~ClickCatcher();
 
-    /// Catches nothing in this part of its screen.
-    void leaveFree(const QRect& part);
+    /// Excludes this part of its screen.
+    void exclude(const QRect& part);
     [[nodiscard]] bool isAt(const wl_surface* surface) const { return surface == surface_; }
 
 private:
@@ -30,7 +30,7 @@ private:
     LayerShell& shell_;
     wl_surface* const surface_;
     wp_viewport* const viewport_;
-    std::optional<LayerSurface> role_;  // Ends before its surface.
+    std::optional<LayerSurface> role_;  // Destroyed before its surface.
 };
 
 }  // namespace fadeloom

@@ -2,12 +2,11 @@
 #include "platform/qtdesktop/Compositing.h"
 
 #include <QGuiApplication>
+#include <xcb/xcb.h>
 
 #include <cstdlib>
 #include <memory>
 #include <string_view>
-
-#include <xcb/xcb.h>
 
 namespace fadeloom {
 namespace {
@@ -18,8 +17,8 @@ struct Free {
 template <typename Reply>
 using ReplyPtr = std::unique_ptr<Reply, Free>;
 
-// The compositor of a screen owns the selection that is named after it. Nobody has had a second screen for decades: what
-// looks like one is a part of the first.
+// The compositor of an X screen owns the selection named after it. Multiple X screens are obsolete: monitors are parts
+// of the first.
 bool hasCompositor(xcb_connection_t* connection)
 {
     constexpr std::string_view name = "_NET_WM_CM_S0";
@@ -37,7 +36,7 @@ bool hasCompositor(xcb_connection_t* connection)
 bool isComposited()
 {
     if (QGuiApplication::platformName() != QLatin1String("xcb"))
-        return true;  // Wayland is nothing else.
+        return true;  // Wayland always composites.
     return hasCompositor(qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection());
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Whether the desktop mixes windows, so that parts of one may be transparent.
+// Whether the desktop has a compositor, so that parts of a window may be transparent.
 #pragma once
 
 namespace fadeloom {
 
-/// As it is now: a compositor may come and go on X11. Needs a QGuiApplication. Thread: main.
+/// The current state: a compositor may start and stop on X11. Needs a QGuiApplication. Thread: main.
 [[nodiscard]] bool isComposited();
 
 }  // namespace fadeloom

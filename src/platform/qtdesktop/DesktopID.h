@@ -10,8 +10,8 @@
 
 namespace fadeloom {
 
-/// The desktop id of the entry in `file`, without its ending: the way to it from the one of `folders` that it is in,
-/// with dashes; elsewhere its name. Absent when it is no desktop entry by its name.
+/// The desktop id of the entry in `file`, without its extension: its path relative to the one of `folders` that
+/// contains it, with dashes; elsewhere its file name. nullopt if the name is not that of a desktop entry.
 [[nodiscard]] std::optional<std::string> desktopID(const QString& file, const QStringList& folders);
 
 }  // namespace fadeloom

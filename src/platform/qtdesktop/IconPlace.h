@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is known of the place of the status icon.
+// What is known about the status icon's position.
 #pragma once
 
 #include <QRect>
@@ -9,7 +9,7 @@
 namespace fadeloom {
 
 struct IconPlace {
-    std::optional<QRect> rect;  // On the desktop.
+    std::optional<QRect> rect;  // In desktop coordinates.
     bool isUnderPointer = false;  // It is being clicked right now.
 };
 

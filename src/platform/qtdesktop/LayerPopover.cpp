@@ -42,8 +42,8 @@ LayerPopover::LayerPopover(
     , dismissed_(std::move(dismissed))
 {
     shell_->whenReleased([this](const wl_surface* surface) { released(surface); });
-    connect(&window_, &QWindow::widthChanged, this, [this] { putInPlace(); });
-    connect(&window_, &QWindow::heightChanged, this, [this] { putInPlace(); });
+    connect(&window_, &QWindow::widthChanged, this, [this] { updatePlacement(); });
+    connect(&window_, &QWindow::heightChanged, this, [this] { updatePlacement(); });
     qGuiApp->installEventFilter(this);
 }
 
@@ -58,14 +58,14 @@ void LayerPopover::open(const IconPlace& icon, const std::function<void(int avai
         return;
     dialogs_.clear();
     makeCatchers();
-    shell_->roundtrip();  // Their sizes.
+    shell_->roundtrip();  // Receives their sizes.
     if (icon.isUnderPointer)
         waitForPointer();
     icon_ = findIcon(icon);
     placement_ = placePopover(icon_, window_.size(), currentScreens());
     auto& screen = *QGuiApplication::screens().at(static_cast<qsizetype>(placement_.screen));
     window_.setScreen(&screen);
-    // One that is stretched over the whole screen is told how much of it the bars leave.
+    // A surface stretched over the whole screen is configured with the size that the bars leave.
     free_ = {};
     constexpr LayerSurface::Place stretched{.edges = allEdges, .margins = {}, .size = QSize(0, 0)};
     role_.emplace(
@@ -79,8 +79,8 @@ void LayerPopover::open(const IconPlace& icon, const std::function<void(int avai
     if (!free_.isValid())
         free_ = screen.size();
     fit(free_.height() - 2 * panelGap);
-    putInPlace();
-    shell_->roundtrip();  // No picture may come before the leave for it.
+    updatePlacement();
+    shell_->roundtrip();  // No frame may be drawn before the surface is configured.
     window_.show();
 }
 
@@ -88,7 +88,7 @@ void LayerPopover::close()
 {
     if (!isOpen())
         return;
-    role_.reset();  // Before the surface.
+    role_.reset();  // Destroyed before the surface.
     window_.destroy();
     catchers_.clear();
 }
@@ -105,13 +105,13 @@ void LayerPopover::released(const wl_surface* surface)
         dismissLater();
 }
 
-// The compositor's message may come from the very object that ends now.
+// Deferred, because the event may come from the very object that is destroyed.
 void LayerPopover::dismissLater()
 {
     QTimer::singleShot(0, this, dismissed_);
 }
 
-// The compositor tells it once it has taken note of the catcher below.
+// Sent by the compositor once it has mapped the click catcher below.
 void LayerPopover::waitForPointer()
 {
     const QDeadlineTimer limit(longestPointerWait);
@@ -123,7 +123,7 @@ void LayerPopover::waitForPointer()
     } while (!limit.hasExpired());
 }
 
-// The pointer is exact on every bar; what bars tell is not.
+// The pointer is exact on every bar; positions reported by bars are not.
 std::optional<QRect> LayerPopover::findIcon(const IconPlace& told) const
 {
     const auto known = icon_ ? icon_ : told.rect;
@@ -157,25 +157,25 @@ QRect LayerPopover::screen() const
     return QGuiApplication::screens().at(static_cast<qsizetype>(placement_.screen))->geometry();
 }
 
-void LayerPopover::putInPlace()
+void LayerPopover::updatePlacement()
 {
     if (!role_ || !free_.isValid())
         return;
     auto screens = currentScreens();
     auto& [all, free, ratio] = screens[placement_.screen];
-    free = freePart(all, free_, placement_.edge);
+    free = availablePart(all, free_, placement_.edge);
     placement_ = placePopover(icon_, window_.size(), screens);
     role_->move(place());
-    leaveFree();
+    exclude();
 }
 
-// Which of two surfaces in a layer is above the other is the compositor's choice.
-void LayerPopover::leaveFree()
+// The stacking order of two surfaces in a layer is up to the compositor.
+void LayerPopover::exclude()
 {
     std::size_t number = 0;
     for (auto& catcher : catchers_) {
         if (number++ == placement_.screen)
-            catcher.leaveFree(QRect(placement_.position - screen().topLeft(), window_.size()));
+            catcher.exclude(QRect(placement_.position - screen().topLeft(), window_.size()));
     }
 }
 
@@ -203,7 +203,7 @@ void LayerPopover::noteDialog(QWindow& dialog, bool isOpen)
         makeCatchers();
     else
         catchers_.clear();
-    putInPlace();
+    updatePlacement();
 }
 
 }  // namespace fadeloom

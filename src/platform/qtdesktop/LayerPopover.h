@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The panel on a Wayland desktop that lets programs place a window: beside the icon, above everything, with a click
-// anywhere else caught.
+// The panel on a Wayland desktop with the layer shell: placed beside the icon, above all windows, with outside clicks
+// captured.
 #pragma once
 
 #include "platform/qtdesktop/ClickCatcher.h"
@@ -20,20 +20,20 @@
 
 namespace fadeloom {
 
-/// Drawing, keyboard, pointer, clipboard and accessibility of the window stay Qt's. While a dialog of the program is
-/// open, the panel is behind it and keeps neither clicks nor keys. Thread: main.
+/// Rendering, keyboard, pointer, clipboard and accessibility of the window remain Qt's. While one of the program's
+/// dialogs is open, the panel is behind it and receives neither clicks nor keys. Thread: main.
 class LayerPopover final : public QObject {
 public:
-    /// Before the window is made: leaves its place to us.
+    /// Call before the window is created: lets us assign its shell role.
     static void prepare(QWindow& window);
 
-    /// `dismissed`: the user has clicked elsewhere, or the screen has gone.
+    /// `dismissed`: the user has clicked elsewhere, or the screen was removed.
     LayerPopover(std::unique_ptr<LayerShell> shell, QWindow& window, std::function<void()> dismissed);
     LayerPopover(const LayerPopover&) = delete;
     LayerPopover& operator=(const LayerPopover&) = delete;
     ~LayerPopover() override;
 
-    /// Shows the window. `fit` is told the height that the screen has for it, and gives the window its size.
+    /// Shows the window. `fit` receives the height available on the screen, and sizes the window.
     void open(const IconPlace& icon, const std::function<void(int availableHeight)>& fit);
     void close();
     [[nodiscard]] bool isOpen() const { return role_.has_value(); }
@@ -50,16 +50,16 @@ private:
     [[nodiscard]] std::optional<QRect> findIcon(const IconPlace& told) const;
     [[nodiscard]] LayerSurface::Place place() const;
     [[nodiscard]] QRect screen() const;
-    void putInPlace();
-    void leaveFree();
+    void updatePlacement();
+    void exclude();
     void noteDialog(QWindow& dialog, bool isOpen);
 
     std::unique_ptr<LayerShell> shell_;
     QWindow& window_;
     std::function<void()> dismissed_;
-    std::optional<QRect> icon_;  // Where it was found last.
+    std::optional<QRect> icon_;  // Its last known position.
     PopoverPlacement placement_;
-    QSize free_;  // Of the screen, without what bars take.
+    QSize free_;  // Of the screen, without bars.
     std::list<ClickCatcher> catchers_;
     std::optional<LayerSurface> role_;
     QList<QPointer<QWindow>> dialogs_;

@@ -7,12 +7,11 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <qpa/qplatformnativeinterface.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <string_view>
-
-#include <sys/mman.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {
@@ -65,7 +64,7 @@ struct LayerShell::Listeners {
         return listener;
     }();
 
-    // Pointers are plugged in and out.
+    // Pointers may be added and removed.
     static void capabilities(void* self, wl_seat* seat, std::uint32_t all)
     {
         auto& shell = *static_cast<LayerShell*>(self);
@@ -103,7 +102,7 @@ struct LayerShell::Listeners {
         } else if (is == "wp_viewporter") {
             bind(shell.viewporter_, wp_viewporter_interface, 1);
         } else if (is == "wl_seat" && shell.seat_ == nullptr) {
-            bind(shell.seat_, wl_seat_interface, 1);  // Later versions have events that nobody here needs.
+            bind(shell.seat_, wl_seat_interface, 1);  // Later versions have events that are not needed here.
             wl_seat_add_listener(shell.seat_, &seat, self);
         }
     }
@@ -115,7 +114,7 @@ struct LayerShell::Listeners {
 
 bool LayerShell::isOffered()
 {
-    // Without this folder there is no compositor, and its library would complain to the user.
+    // Without this directory there is no compositor, and the library would print an error.
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
         return false;
     auto* const display = wl_display_connect(nullptr);
@@ -180,14 +179,14 @@ LayerShell::~LayerShell()
 
 void LayerShell::listen()
 {
-    // What is made by way of the wrapper reports to our queue, also if Qt reads the connection.
+    // Objects created through the wrapper report to our queue, even if Qt reads the connection.
     auto* const wrapper = static_cast<wl_display*>(wl_proxy_create_wrapper(display_));
     wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(wrapper), queue_);
     registry_ = wl_display_get_registry(wrapper);
     wl_proxy_wrapper_destroy(wrapper);
     wl_registry_add_listener(registry_, &Listeners::registry, this);
     roundtrip();
-    roundtrip();  // The seat's answer.
+    roundtrip();  // Receives the seat's capabilities.
     turns_ = QObject::connect(
         QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, [this] { dispatch(); });
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a Wayland compositor offers to the parts of a desktop: windows that stand where they want, above all others.
+// The compositor's layer shell: surfaces for desktop components, freely placed and above all windows.
 #pragma once
 
 #include <QMetaObject>
@@ -27,31 +27,31 @@ struct zwlr_layer_surface_v1;
 
 namespace fadeloom {
 
-/// On Qt's own connection to the compositor. Whatever it announces is handled in the main thread's turns. Thread: main.
+/// On Qt's own connection to the compositor. Events are dispatched on the main thread. Thread: main.
 class LayerShell {
 public:
-    /// Whether the compositor of this session has one. May be asked before there is a QApplication.
+    /// Whether this session's compositor supports it. May be called before there is a QApplication.
     [[nodiscard]] static bool isOffered();
-    /// Null where the windows of this QApplication are not Wayland's, or the compositor has none.
+    /// Null if this QApplication's windows are not Wayland's, or the compositor does not support it.
     [[nodiscard]] static std::unique_ptr<LayerShell> create();
     LayerShell(const LayerShell&) = delete;
     LayerShell& operator=(const LayerShell&) = delete;
     ~LayerShell();
 
-    /// Where the pointer is on a surface of ours; null over anything else.
+    /// The pointer position on one of our surfaces; nullopt over anything else.
     struct Pointer {
         wl_surface* surface = nullptr;
         QPointF place;
     };
     [[nodiscard]] const Pointer& pointer() const { return pointer_; }
-    /// Called when a button is let go over a surface.
+    /// Called when a button is released over a surface.
     void whenReleased(std::function<void(wl_surface*)> released) { released_ = std::move(released); }
 
-    /// Lets the compositor see everything so far, and takes its answers.
+    /// Flushes all requests to the compositor, and dispatches its events.
     void roundtrip();
 
     [[nodiscard]] static wl_output* outputOf(QScreen& screen);
-    /// Makes the window's surface where it has none yet.
+    /// Creates the window's surface if it has none yet.
     [[nodiscard]] static wl_surface* surfaceOf(QWindow& window);
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A surface that stands at a place of its own on the desktop.
+// A layer-shell surface with a fixed position on the desktop.
 #pragma once
 
 #include "platform/qtdesktop/LayerShell.h"
@@ -9,31 +9,32 @@
 
 namespace fadeloom {
 
-/// Gives its place to a surface, which must outlive it. Thread: main.
+/// Assigns the role to a surface, which must outlive it. Thread: main.
 class LayerSurface {
 public:
     enum class Layer : std::uint32_t { behindWindows = 1, beforeAll = 3 };
-    /// What bars take for themselves is reserved.
+    /// The part of the screen reserved by bars.
     enum class Area { withoutReserved, all };
     enum class Keyboard { never, always };
     struct Place {
         Layer layer = Layer::beforeAll;
         Area area = Area::withoutReserved;
-        Qt::Edges edges;  // That it is held at, with these margins; at opposite ones it is stretched.
+        // The edges it is anchored to, with these margins; anchored to opposite ones it is stretched.
+        Qt::Edges edges;
         QMargins margins;
         QSize size;  // Zero where it is stretched.
         Keyboard keyboard = Keyboard::never;
     };
 
-    /// `output` may be null for any. `configured`: called with the size that it is to have, before the first picture too;
-    /// `closed` when the compositor takes the place away, as with its screen.
+    /// `output` may be null for any. `configured`: called with the required size, also before the first frame; `closed`
+    /// when the compositor closes the surface, for instance with its screen.
     LayerSurface(LayerShell& shell, wl_surface* surface, wl_output* output, const Place& place,
         std::function<void(QSize)> configured, std::function<void()> closed);
     LayerSurface(const LayerSurface&) = delete;
     LayerSurface& operator=(const LayerSurface&) = delete;
     ~LayerSurface();
 
-    /// Moves it; seen with the surface's next picture, or at once for a surface that has one.
+    /// Moves it; takes effect with the surface's next frame, or immediately for a surface that has one.
     void move(const Place& place);
 
 private:

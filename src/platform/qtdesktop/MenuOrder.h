@@ -6,8 +6,8 @@
 
 namespace fadeloom {
 
-/// The same menu with the group of the entry that does what a click does in front: some bars open the menu on every
-/// click, and the first entry is the one that is met.
+/// The same menu, starting with the group of the entry equivalent to a click: some bars open the menu on every click,
+/// with the pointer on the first entry.
 [[nodiscard]] StatusMenu clickFirst(StatusMenu menu);
 
 }  // namespace fadeloom

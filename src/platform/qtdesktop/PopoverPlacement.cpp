@@ -15,14 +15,14 @@ int fitted(int wanted, int size, int first, int length)
     return std::max(first + panelGap, std::min(wanted, first + length - size - panelGap));
 }
 
-/// What a bar at each edge takes from the screen.
+/// The space that bars take at each edge of the screen.
 std::array<int, 4> bars(const ScreenArea& screen)
 {
     return {screen.free.top() - screen.geometry.top(), screen.geometry.bottom() - screen.free.bottom(),
         screen.free.left() - screen.geometry.left(), screen.geometry.right() - screen.free.right()};
 }
 
-/// How far the place is from each edge.
+/// The distance to each edge.
 std::array<int, 4> distances(QPoint place, const QRect& screen)
 {
     return {place.y() - screen.top(), screen.bottom() - place.y(), place.x() - screen.left(),
@@ -33,13 +33,13 @@ ScreenEdge edgeOf(QPoint icon, const ScreenArea& screen)
 {
     auto far = distances(icon, screen.geometry);
     const auto taken = bars(screen);
-    // In a corner an icon is near two edges: the one with the bar counts.
+    // In a corner an icon is close to two edges: the one with the bar counts.
     for (std::size_t edge = 0; edge < far.size(); ++edge)
         far[edge] = far[edge] < taken[edge] ? far[edge] - thickestBar : far[edge];
     return static_cast<ScreenEdge>(std::ranges::min_element(far) - far.begin());
 }
 
-/// The corner at the end of a bar, where icons are.
+/// The corner at the end of a bar, where the icons are.
 QPoint cornerAt(ScreenEdge edge, const QRect& free)
 {
     switch (edge) {
@@ -105,7 +105,7 @@ bool isAtEdge(QPoint place, const ScreenArea& screen)
     return std::ranges::min(distances(place, screen.geometry)) < thickestBar;
 }
 
-QRect freePart(const QRect& screen, QSize free, ScreenEdge edge)
+QRect availablePart(const QRect& screen, QSize free, ScreenEdge edge)
 {
     auto result = screen;
     const int across = screen.width() - free.width();
@@ -144,7 +144,7 @@ PopoverPlacement placePopover(
 
 QPoint placeWindow(const std::optional<QPoint>& left, QSize window, const std::vector<ScreenArea>& screens)
 {
-    constexpr int grip = 60;  // What has to be seen of a window to take hold of it.
+    constexpr int grip = 60;  // The part of a window that must be visible to grab it.
     const auto isSeen = [&](const ScreenArea& screen) {
         return screen.free.contains(QRect(*left, QSize(std::min(grip, window.width()), grip)));
     };

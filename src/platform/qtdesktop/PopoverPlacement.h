@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where the panel stands.
+// Where to place the panel.
 #pragma once
 
 #include <QPoint>
@@ -12,11 +12,11 @@
 
 namespace fadeloom {
 
-/// What is left free to the bar, and to the edges of the screen, in pixels of the desktop's scale, as everything here.
+/// The distance to the bar, and to the edges of the screen, in logical pixels, like everything here.
 constexpr int panelGap = 6;
 
-/// A screen: all of it, and the part that bars leave to windows, which is all of it where nobody tells. `ratio`: pixels
-/// of the display for one of ours; the upper left corner of `geometry` is in pixels of the display already.
+/// A screen: its geometry, and the part that bars leave to windows, which is all of it if unknown. `ratio`: device
+/// pixels per logical pixel; the upper left corner of `geometry` is in device pixels already.
 struct ScreenArea {
     QRect geometry;
     QRect free;
@@ -27,30 +27,30 @@ enum class ScreenEdge { top, bottom, left, right };
 
 struct PopoverPlacement {
     std::size_t screen = 0;
-    ScreenEdge edge = ScreenEdge::top;  // At which the bar with the icon is.
+    ScreenEdge edge = ScreenEdge::top;  // The edge with the icon's bar.
     QPoint position;  // The upper left corner of the panel.
 
     bool operator==(const PopoverPlacement&) const = default;
 };
 
-/// The place of an icon of which a bar says that it is at `told`, in pixels of the display. Absent when no icon can be
-/// there: some bars count from their own corner, or say nothing but zeros.
+/// The position of an icon reported as `told` by a bar, in device pixels. nullopt if it is implausible: some bars count
+/// from their own corner, or report zeros.
 [[nodiscard]] std::optional<QRect> iconPlace(QPoint told, const std::vector<ScreenArea>& screens);
 
 /// Whether a bar can be there, at an edge of the screen.
 [[nodiscard]] bool isAtEdge(QPoint place, const ScreenArea& screen);
 
-/// The part of `screen` that is left to windows, when all that is known is its size, and the edge of the bar.
-[[nodiscard]] QRect freePart(const QRect& screen, QSize free, ScreenEdge edge);
+/// The part of `screen` available to windows, if only its size and the bar's edge are known.
+[[nodiscard]] QRect availablePart(const QRect& screen, QSize free, ScreenEdge edge);
 
-/// A panel of this size beside its icon: on the icon's screen, beyond the bar, in the middle of the icon along the bar,
-/// and all of it where windows may be. Without an icon: at the end of the first screen's bar; without a bar in the upper
-/// right corner. There is at least one screen.
+/// Places a panel of this size beside its icon: on the icon's screen, clear of the bar, centred on the icon along the
+/// bar, and entirely within the available area. Without an icon: at the end of the first screen's bar; without a bar in
+/// the upper right corner. Requires at least one screen.
 [[nodiscard]] PopoverPlacement placePopover(
     const std::optional<QRect>& icon, QSize panel, const std::vector<ScreenArea>& screens);
 
-/// An ordinary window of this size: where it was left, as long as a screen still has that place, else in the middle of
-/// the first screen.
+/// Places an ordinary window of this size: where it was left, if that is still on a screen, else in the middle of the
+/// first screen.
 [[nodiscard]] QPoint placeWindow(
     const std::optional<QPoint>& left, QSize window, const std::vector<ScreenArea>& screens);
 

@@ -15,7 +15,7 @@ const QString gnome = QStringLiteral("org.gnome.desktop.interface");
 const QString kdeGeneral = QStringLiteral("org.kde.kdeglobals.General");
 const QString kdeMotion = QStringLiteral("org.kde.kdeglobals.KDE");
 
-constexpr double usualPoints = 10;  // Of Plasma's font.
+constexpr double usualPoints = 10;  // Plasma's default font size.
 constexpr double smallestText = 0.8;
 constexpr double largestText = 2;
 
@@ -50,7 +50,7 @@ double textScale(const PortalSettings& settings)
     return std::isfinite(scale) ? std::clamp(scale, smallestText, largestText) : 1;
 }
 
-/// Three parts from 0 to 1; values outside mean that there is none.
+/// Three components from 0 to 1; values outside mean that there is none.
 std::optional<std::uint32_t> accent(const QVariant& value)
 {
     if (!value.canConvert<QDBusArgument>())
@@ -79,7 +79,7 @@ QStringList portalNameSpaces()
     return {appearance, gnome, kdeGeneral, kdeMotion};
 }
 
-DesktopLook lookOf(const PortalSettings& settings, bool isDark)
+DesktopAppearance desktopAppearanceOf(const PortalSettings& settings, bool isDark)
 {
     const auto& asked = settings[appearance];
     return {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The desktop's settings as its portal tells them, and what they mean for the look.
+// The desktop settings from its portal, and the appearance that follows from them.
 #pragma once
 
-#include "platform/DesktopLook.h"
+#include "platform/DesktopAppearance.h"
 
 #include <QMap>
 #include <QStringList>
@@ -10,13 +10,13 @@
 
 namespace fadeloom {
 
-/// The values by name, by name space.
+/// The values by name, by namespace.
 using PortalSettings = QMap<QString, QVariantMap>;
 
-/// Those that the look depends on.
+/// Those that affect the appearance.
 [[nodiscard]] QStringList portalNameSpaces();
 
-/// `isDark`: what holds where the settings say nothing about it.
-[[nodiscard]] DesktopLook lookOf(const PortalSettings& settings, bool isDark);
+/// `isDark`: the default if the settings do not specify it.
+[[nodiscard]] DesktopAppearance desktopAppearanceOf(const PortalSettings& settings, bool isDark);
 
 }  // namespace fadeloom

@@ -27,7 +27,7 @@ QtApplication::~QtApplication()
 void QtApplication::setAppearance(Appearance appearance)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    // The menus and dialogs that Qt draws itself.
+    // For menus and dialogs drawn by Qt.
     auto* const hints = QGuiApplication::styleHints();
     switch (appearance) {
     case Appearance::light:
@@ -54,7 +54,7 @@ void QtApplication::showAboutPanel(const AboutCredits& credits)
         about_->setIconPixmap(QGuiApplication::windowIcon().pixmap(64));
         about_->setText(QStringLiteral("Fadeloom ") + QCoreApplication::applicationVersion());
         about_->setInformativeText(creditsText(credits));
-        // The link by the keyboard as well. Its colours are those of the palette, light or dark.
+        // The link is accessible by keyboard as well. Its colours are those of the palette, light or dark.
         for (auto* const label : about_->findChildren<QLabel*>())
             if (label->text() == about_->informativeText())
                 label->setTextInteractionFlags(Qt::TextBrowserInteraction);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's windows as a whole.
+// Properties of all windows of the program.
 #pragma once
 
 #include "platform/Application.h"
@@ -16,7 +16,7 @@ namespace fadeloom {
 /// Needs a QApplication, which knows the program's version and icon. Thread: main.
 class QtApplication final : public Application {
 public:
-    /// `changed` hears of each choice, so that what Qt does not draw follows it as well.
+    /// `changed` is called for each choice, for everything that Qt does not draw.
     explicit QtApplication(std::function<void(Appearance)> changed)
         : changed_(std::move(changed))
     {
@@ -26,7 +26,7 @@ public:
     ~QtApplication() override;
 
     void setAppearance(Appearance appearance) override;
-    /// Wayland and most window managers let no program come to the front by itself: its windows ask when they open.
+    /// Wayland and most window managers prevent focus stealing: windows request activation when they open.
     void activate() override { }
     void showAboutPanel(const AboutCredits& credits) override;
 

@@ -52,7 +52,7 @@ void QtDialogs::chooseApplication(ApplicationChosen done)
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilter(QStringLiteral("*.desktop"));
     if (!folders.isEmpty())
-        dialog->setDirectory(folders.back());  // The user's own come first, those of the system last.
+        dialog->setDirectory(folders.back());  // The user's own are first, those of the system last.
     QObject::connect(
         dialog, &QDialog::finished, dialog, [dialog, folders, done = std::move(done)](int result) {
             const auto files = dialog->selectedFiles();
@@ -71,10 +71,11 @@ void QtDialogs::showAlert(const Alert& alert, std::function<void(std::size_t)> a
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowFlag(Qt::WindowStaysOnTopHint);
     box->setWindowTitle(QStringLiteral("Fadeloom"));
-    box->setTextFormat(Qt::PlainText);  // It may hold what a server says.
+    box->setTextFormat(Qt::PlainText);  // It may contain text from a server.
     box->setText(QString::fromStdString(alert.title));
     box->setInformativeText(QString::fromStdString(alert.text).toHtmlEscaped());
-    QList<QAbstractButton*> buttons;  // In the order given: the box sorts its own as the desktop does.
+    // In the order given: the message box sorts its buttons as usual on the desktop.
+    QList<QAbstractButton*> buttons;
     for (const auto& text : alert.buttons)
         buttons += box->addButton(QString::fromStdString(text),
             buttons.isEmpty() ? QMessageBox::AcceptRole : QMessageBox::RejectRole);

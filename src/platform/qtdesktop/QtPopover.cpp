@@ -36,12 +36,12 @@ QtPopover::QtPopover(std::function<IconPlace()> place, std::function<bool()> red
     QObject::connect(view_.get(), &QWindow::activeChanged, view_.get(), [this] { activeChanged(); });
     QObject::connect(view_.get(), &QWindow::visibleChanged, view_.get(), [this] { seenChanged(); });
     QObject::connect(view_.get(), &QWindow::windowStateChanged, view_.get(), [this] {
-        if (view_->isVisible())  // It is announced on the way to being shown, too.
+        if (view_->isVisible())  // It is also emitted while the window is being shown.
             seenChanged();
     });
     const auto sizeChanged = [this] {
         if (isOpen_)
-            putInPlace();
+            updatePlacement();
     };
     QObject::connect(view_.get(), &QWindow::heightChanged, view_.get(), sizeChanged);
     QObject::connect(view_.get(), &QWindow::widthChanged, view_.get(), sizeChanged);
@@ -61,7 +61,7 @@ QtPopover::~QtPopover()
 {
     if (isOpen_ && left_)
         leaves_(*left_);
-    view_->disconnect();  // The window's end announces itself to somebody half gone.
+    view_->disconnect();  // The window's destruction would emit signals to a partly destroyed object.
 }
 
 QQuickView& QtPopover::view()
@@ -69,7 +69,7 @@ QQuickView& QtPopover::view()
     return *view_;
 }
 
-void QtPopover::becomeOrdinaryWindow(std::optional<QPoint> left, std::function<void(QPoint)> leaves)
+void QtPopover::turnIntoOrdinaryWindow(std::optional<QPoint> left, std::function<void(QPoint)> leaves)
 {
     left_ = left;
     leaves_ = std::move(leaves);
@@ -77,7 +77,7 @@ void QtPopover::becomeOrdinaryWindow(std::optional<QPoint> left, std::function<v
     layer_.reset();
     isOrdinary_ = true;
     view_->setFlags(Qt::Window);
-    view_->setColor(QGuiApplication::palette().color(QPalette::Window));  // It has corners.
+    view_->setColor(QGuiApplication::palette().color(QPalette::Window));  // Shown behind the rounded corners.
 }
 
 bool QtPopover::hasContent()
@@ -106,10 +106,10 @@ void QtPopover::show()
 void QtPopover::showAsWindow()
 {
     fitContent(availableHeight());
-    putInPlace();
+    updatePlacement();
     view_->setWindowStates(view_->windowStates() & ~Qt::WindowMinimized);
     if (!isOrdinary_)
-        leaveOutOfWindowLists(*view_);
+        hideFromWindowLists(*view_);
     view_->show();
     view_->raise();
 }
@@ -118,14 +118,14 @@ void QtPopover::fadeIn()
 {
     fade_.stop();
     auto* const content = view_->rootObject();
-    // What is half transparent would be half black without a compositor.
+    // Without a compositor, translucent pixels would be blended with black.
     if (!isAnimated_ || isOrdinary_ || reducesMotion_() || !isComposited())
         return content->setOpacity(1);
     content->setOpacity(firstOpacity);
     fade_.start();
 }
 
-// Nobody on Wayland is told where a window is.
+// On Wayland a window's position is unknown.
 void QtPopover::windowMoved()
 {
     if (isOrdinary_ && isOpen_ && QGuiApplication::platformName() != QLatin1String("wayland"))
@@ -148,7 +148,7 @@ bool QtPopover::isShown() const
 void QtPopover::fitContent(int availableHeight)
 {
     auto* const content = view_->rootObject();
-    // Without a compositor what is transparent would be black.
+    // Without a compositor, transparent pixels would be black.
     const bool isMixed = !isOrdinary_ && isComposited();
     content->setProperty("hasRoundCorners", isMixed);
     content->setProperty("isTranslucent", isMixed);
@@ -161,13 +161,13 @@ int QtPopover::availableHeight() const
     return screens[placePopover(place_().rect, view_->size(), screens).screen].free.height() - 2 * panelGap;
 }
 
-void QtPopover::putInPlace()
+void QtPopover::updatePlacement()
 {
     if (layer_)
         return;
     const auto screens = currentScreens();
     if (isOrdinary_) {
-        // Once it is open it is the user's.
+        // Once open, the user may resize it.
         if (!view_->isVisible())
             view_->setFramePosition(placeWindow(left_, view_->size(), screens));
         return;
@@ -181,7 +181,7 @@ void QtPopover::activeChanged()
         wasActive_ = true;
         return;
     }
-    // A window of ours, as a dialog, does not count as another one.
+    // Windows of ours, such as dialogs, do not count.
     if (isOrdinary_ || !isOpen_ || !wasActive_ || QGuiApplication::focusWindow() != nullptr)
         return;
     if (layer_ && layer_->isBehindDialog())
@@ -190,7 +190,7 @@ void QtPopover::activeChanged()
     close();
 }
 
-// A minimised window is not seen, though it counts as visible.
+// A minimised window is not visible to the user, although Qt says so.
 bool QtPopover::isSeen() const
 {
     return view_->isVisible() && !view_->windowStates().testFlag(Qt::WindowMinimized);

@@ -76,7 +76,7 @@ void QtTrayIcon::hostFound(TrayHost::Kind kind)
 
 void QtTrayIcon::joinBus()
 {
-    embedded_.reset();  // The bar that came may know both ways.
+    embedded_.reset();  // The new bar may support both protocols.
     item_ = std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus(), name_, picture_);
     item_->menu().setBuilder([this] { return clickFirst(build_()); });
     item_->menu().whenOpens([this] { menuOpens_(); });
@@ -91,7 +91,7 @@ void QtTrayIcon::joinBus()
             middleClicked_();
     });
     item_->whenMenuWanted([this](const StatusNotifierItem::Click& click) {
-        // On Wayland only a window can have a menu: the panel has to do.
+        // On Wayland only a window can open a menu: open the panel instead.
         if (QGuiApplication::platformName() == QLatin1String("xcb"))
             popUpMenu(pointerPlace().value_or(QRect(click.place, QSize(1, 1))).topLeft());
         else
@@ -102,7 +102,7 @@ void QtTrayIcon::joinBus()
 void QtTrayIcon::clickedInBar(const StatusNotifierItem::Click& click)
 {
     if (!click.activationToken.isEmpty())
-        qputenv("XDG_ACTIVATION_TOKEN", click.activationToken.toUtf8());  // Where Qt looks for it.
+        qputenv("XDG_ACTIVATION_TOKEN", click.activationToken.toUtf8());  // Where Qt expects it.
     const auto told = iconPlace(click.place, currentScreens());
     clickedAt(told ? told : pointerPlace());
 }
@@ -111,7 +111,7 @@ void QtTrayIcon::embed()
 {
     embedded_ = std::make_unique<QSystemTrayIcon>(picture_.icon);
     embedded_->setToolTip(hint());
-    fillMenu();  // One without entries would not open.
+    fillMenu();  // A menu without entries would not open.
     embedded_->setContextMenu(&menu_);
     QObject::connect(embedded_.get(), &QSystemTrayIcon::activated, embedded_.get(),
         [this](QSystemTrayIcon::ActivationReason reason) {
@@ -126,7 +126,7 @@ void QtTrayIcon::embed()
 void QtTrayIcon::clickedAt(std::optional<QRect> place)
 {
     if (QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ControlModifier)) {
-        // In a turn of its own: the panel closes before the menu opens, which would take a menu along.
+        // Deferred: the panel closes before the menu opens, because it would close a menu as well.
         QTimer::singleShot(0, &menu_, [this] { popUpMenu(QCursor::pos()); });
         return;
     }

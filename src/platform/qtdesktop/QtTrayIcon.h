@@ -16,11 +16,11 @@
 
 namespace fadeloom {
 
-/// Appears when the desktop can show it: over the message bus, or as a window in the bar where that is the only way.
-/// Needs a QApplication. Thread: main.
+/// Appears once the desktop can show it: as a StatusNotifierItem, or as an XEmbed window if that is the only way. Needs
+/// a QApplication. Thread: main.
 class QtTrayIcon final : public StatusItem {
 public:
-    /// `withoutHost` is called when there is nobody who would show an icon; one that comes later shows it all the same.
+    /// `withoutHost` is called if nobody would show an icon; a host that appears later still shows it.
     QtTrayIcon(StatusNotifierItem::Picture picture, std::function<void()> withoutHost);
     QtTrayIcon(const QtTrayIcon&) = delete;
     QtTrayIcon& operator=(const QtTrayIcon&) = delete;
@@ -34,14 +34,14 @@ public:
     void setDescription(const std::string& text) override;
     void setPicture(StatusNotifierItem::Picture picture);
 
-    /// What is known of the icon's place on the screen.
+    /// What is known about the icon's position on the screen.
     [[nodiscard]] IconPlace place() const;
 
 private:
     void hostFound(TrayHost::Kind kind);
     void joinBus();
     void embed();
-    /// What is read over the icon where that is one text.
+    /// The tooltip where that is a single text.
     [[nodiscard]] QString hint() const;
     void clickedInBar(const StatusNotifierItem::Click& click);
     void clickedAt(std::optional<QRect> place);

@@ -8,7 +8,7 @@ namespace fadeloom {
 
 std::vector<ScreenArea> currentScreens()
 {
-    // What a Wayland host says of places is in the desktop's own scale, as windows are.
+    // A Wayland host reports positions in logical pixels.
     const bool isInPixels = QGuiApplication::platformName() == QLatin1String("xcb");
     std::vector<ScreenArea> result;
     for (const auto* const screen : QGuiApplication::screens())

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The screens of the desktop as they are now.
+// The current screens of the desktop.
 #pragma once
 
 #include "platform/qtdesktop/PopoverPlacement.h"
@@ -8,11 +8,11 @@
 
 namespace fadeloom {
 
-/// In the order of QGuiApplication::screens, of which the first is the main one. Needs a QGuiApplication. Thread: main.
+/// In the order of QGuiApplication::screens, the primary one first. Needs a QGuiApplication. Thread: main.
 [[nodiscard]] std::vector<ScreenArea> currentScreens();
 
-/// Whether windows are those of an X server that draws the desktop itself, and so knows where the pointer is. On Wayland
-/// an X server only serves the windows of X, and knows the pointer over these alone.
+/// Whether windows belong to an X server that displays the whole desktop, and so knows the pointer position. XWayland
+/// knows it only over X11 windows.
 [[nodiscard]] bool isOnXDesktop();
 
 }  // namespace fadeloom

@@ -16,7 +16,7 @@ namespace {
 const QString itemPath = QStringLiteral("/StatusNotifierItem");
 const QString menuObject = QStringLiteral("/MenuBar");
 
-// A sandbox may allow no name of its own; bars also take the one that every connection has.
+// A sandbox may not allow owning a name; bars also accept a connection's unique name.
 QString ownService(QDBusConnection& bus)
 {
     static int count = 0;
@@ -47,7 +47,7 @@ StatusNotifierItem::StatusNotifierItem(const QDBusConnection& bus, const QString
 
 StatusNotifierItem::~StatusNotifierItem()
 {
-    bus_.unregisterService(service_);  // The bars take it for the end of the icon.
+    bus_.unregisterService(service_);  // Tells the bars that the icon is gone.
     bus_.unregisterObject(itemPath);
     bus_.unregisterObject(menuObject);
 }
@@ -95,8 +95,8 @@ void StatusNotifierItem::SecondaryActivate(int x, int y)
     middleClicked_(clickAt(x, y));
 }
 
-// Plasma counts in eighths of a degree, as wheels do, up being positive; a touchpad sends a notch in many parts. The bars
-// of wlroots send one or two for each notch, down being positive.
+// Plasma sends eighths of a degree, like wheels, positive upwards; a touchpad splits a notch into many events. wlroots
+// bars send one or two per notch, positive downwards.
 void StatusNotifierItem::Scroll(int delta, const QString& orientation)
 {
     constexpr int notch = 120;

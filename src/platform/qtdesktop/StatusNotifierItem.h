@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The status icon over the message bus, which most desktops' bars show.
+// The status icon on D-Bus, which most desktops' bars support.
 #pragma once
 
 #include "platform/qtdesktop/BusIconTypes.h"
@@ -15,7 +15,7 @@
 
 namespace fadeloom {
 
-/// Implements org.kde.StatusNotifierItem, and announces itself to every bar that comes, also to one that comes again.
+/// Implements org.kde.StatusNotifierItem, and registers with every watcher that appears, including one that restarts.
 /// Thread: main.
 class StatusNotifierItem final : public QObject {
     Q_OBJECT
@@ -35,35 +35,35 @@ class StatusNotifierItem final : public QObject {
     Q_PROPERTY(QDBusObjectPath Menu READ menuPath)
 
 public:
-    /// The picture: by its name in the desktop's icon theme where the bar knows one, else the pixels of `icon`.
+    /// The picture: by its name in the icon theme if the bar can resolve it, else the pixels of `icon`.
     struct Picture {
         QString name;
         QIcon icon;
     };
 
-    /// What a bar tells of a click: its place as the bar sees it, which some leave at nonsense, and the leave to come to
-    /// the front, which may be empty.
+    /// What a bar reports for a click: its position, which may be nonsense, and the activation token, which may be
+    /// empty.
     struct Click {
         QPoint place;
         QString activationToken;
     };
 
-    /// `bus` is the session's; `title` is read to those who hover over the icon or cannot see it.
+    /// `bus` is the session bus; `title` is for the tooltip and accessibility.
     StatusNotifierItem(const QDBusConnection& bus, const QString& title, Picture picture);
     StatusNotifierItem(const StatusNotifierItem&) = delete;
     StatusNotifierItem& operator=(const StatusNotifierItem&) = delete;
     ~StatusNotifierItem() override;
 
-    /// The entries of a right click.
+    /// The menu of a right click.
     [[nodiscard]] BusMenu& menu() { return menu_; }
     void whenClicked(std::function<void(const Click&)> clicked) { clicked_ = std::move(clicked); }
     void whenMiddleClicked(std::function<void(const Click&)> clicked) { middleClicked_ = std::move(clicked); }
-    /// Called for the wheel: see `StatusItem::whenScrolled`.
+    /// Called when the wheel is scrolled: see `StatusItem::whenScrolled`.
     void whenScrolled(std::function<void(int notches)> scrolled) { scrolled_ = std::move(scrolled); }
-    /// Called for a right click in a bar that shows no menus itself.
+    /// Called for a right click in a bar without menu support.
     void whenMenuWanted(std::function<void(const Click&)> wanted) { menuWanted_ = std::move(wanted); }
     void setPicture(Picture picture);
-    /// Below the title in the hint over the icon.
+    /// Below the title in the tooltip.
     void setDescription(const QString& text);
 
     [[nodiscard]] QString category() const { return QStringLiteral("ApplicationStatus"); }
@@ -84,7 +84,7 @@ public Q_SLOTS:
     void SecondaryActivate(int x, int y);
     void ContextMenu(int x, int y);
     void Scroll(int delta, const QString& orientation);
-    /// Comes before the click that it belongs to.
+    /// Precedes the click that it belongs to.
     void ProvideXdgActivationToken(const QString& token) { token_ = token; }
 
 Q_SIGNALS:

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// What the list of status icons is called on the message bus.
+// The D-Bus names of the status notifier watcher.
 #pragma once
 
 #include <QString>
 
 namespace fadeloom {
 
-inline const QString watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");  // And of its interface.
+// Also the name of its interface.
+inline const QString watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
 inline const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
 
 }  // namespace fadeloom

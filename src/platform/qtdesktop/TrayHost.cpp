@@ -28,22 +28,22 @@ TrayHost::TrayHost(std::function<void(Kind)> found, int waitMilliseconds, const 
     , bus_(bus)
 {
     timer_.setSingleShot(true);
-    connect(&timer_, &QTimer::timeout, this, [this] { timeIsOver(); });
+    connect(&timer_, &QTimer::timeout, this, [this] { timedOut(); });
     timer_.start(bus_.isConnected() ? waitMilliseconds : 0);
     if (!bus_.isConnected())
         return;
     watcher_.setConnection(bus_);
     watcher_.setWatchMode(QDBusServiceWatcher::WatchForRegistration);
     watcher_.addWatchedService(watcherName);
-    connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, [this] { watcherCame(); });
+    connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, [this] { watcherAppeared(); });
     bus_.connect(watcherName, watcherPath, watcherName, QStringLiteral("StatusNotifierHostRegistered"), this,
         SLOT(StatusNotifierHostRegistered()));
     if (bus_.interface()->isServiceRegistered(watcherName).value())
-        watcherCame();
+        watcherAppeared();
 }
 
-// A watcher keeps the list of icons; whether anybody shows them is another question.
-void TrayHost::watcherCame()
+// A watcher maintains the list of icons, but there may be no host to show them.
+void TrayHost::watcherAppeared()
 {
     auto question = QDBusMessage::createMethodCall(
         watcherName, watcherPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
@@ -52,20 +52,20 @@ void TrayHost::watcherCame()
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         const QDBusPendingReply<QDBusVariant> reply = *answer;
         answer->deleteLater();
-        // One that does not know the question has no other host than itself.
+        // A watcher without this property is its own only host.
         if (reply.isError() || reply.value().variant().toBool())
-            hostCame();
+            hostAppeared();
     });
 }
 
-void TrayHost::hostCame()
+void TrayHost::hostAppeared()
 {
     timer_.stop();
     if (!std::exchange(hasHost_, true))
         found_(Kind::statusNotifier);
 }
 
-void TrayHost::timeIsOver()
+void TrayHost::timedOut()
 {
     found_(canEmbed() ? Kind::embedding : Kind::none);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Waits for somebody who shows status icons.
+// Waits for a host of status icons.
 #pragma once
 
 #include <QDBusConnection>
@@ -11,31 +11,32 @@
 
 namespace fadeloom {
 
-/// Tells how icons are shown. The older way is a promise for good, to a bar that may know the newer one as well and only
-/// starts later, as at every login: it is told of only when no host of the newer way has come in time. Thread: main.
+/// Determines how icons are shown. Choosing XEmbed is final for a bar that supports both protocols but starts
+/// StatusNotifier support later, as at every login: so XEmbed is chosen only if no StatusNotifier host has appeared in
+/// time. Thread: main.
 class TrayHost final : public QObject {
     Q_OBJECT
 
 public:
     enum class Kind {
-        statusNotifier,  // The newer way, over the session bus.
-        embedding,  // The older way, on X11.
+        statusNotifier,  // On the session bus.
+        embedding,  // XEmbed, on X11.
         none,
     };
-    static constexpr int patience = 5000;  // Milliseconds.
+    static constexpr int timeout = 5000;  // Milliseconds.
 
-    /// Calls `found` once it is known how icons can be shown: when a host over the bus is there or comes, and at the end
-    /// of the time with what there is then. After `embedding` and `none` it is called again should such a host come.
-    explicit TrayHost(std::function<void(Kind)> found, int waitMilliseconds = patience,
+    /// Calls `found` once it is known how icons can be shown: when a StatusNotifier host exists or appears, or at the
+    /// timeout with what exists then. After `embedding` and `none` it is called again if such a host appears later.
+    explicit TrayHost(std::function<void(Kind)> found, int waitMilliseconds = timeout,
         const QDBusConnection& bus = QDBusConnection::sessionBus());
 
 private Q_SLOTS:
-    void StatusNotifierHostRegistered() { hostCame(); }
+    void StatusNotifierHostRegistered() { hostAppeared(); }
 
 private:
-    void watcherCame();
-    void hostCame();
-    void timeIsOver();
+    void watcherAppeared();
+    void hostAppeared();
+    void timedOut();
 
     std::function<void(Kind)> found_;
     QDBusConnection bus_;

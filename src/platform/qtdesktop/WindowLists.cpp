@@ -3,13 +3,12 @@
 
 #include <QGuiApplication>
 #include <QWindow>
+#include <xcb/xcb.h>
 
 #include <array>
 #include <cstdlib>
 #include <memory>
 #include <string_view>
-
-#include <xcb/xcb.h>
 
 namespace fadeloom {
 namespace {
@@ -24,14 +23,14 @@ xcb_atom_t atomOf(xcb_connection_t* connection, std::string_view name)
 
 }  // namespace
 
-void leaveOutOfWindowLists(QWindow& window)
+void hideFromWindowLists(QWindow& window)
 {
     if (QGuiApplication::platformName() != QLatin1String("xcb") || window.isVisible())
         return;
     auto* const connection = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
     const std::array states{
         atomOf(connection, "_NET_WM_STATE_SKIP_TASKBAR"), atomOf(connection, "_NET_WM_STATE_SKIP_PAGER")};
-    // Qt adds its own to what is there.
+    // Qt adds its own to the existing ones.
     xcb_change_property(connection, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window.winId()),
         atomOf(connection, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, states.size(), states.data());
 }

@@ -6,8 +6,8 @@ class QWindow;
 
 namespace fadeloom {
 
-/// Keeps the window out of them on X11; elsewhere nothing. Before each time that it is shown, since a window manager
-/// forgets it when the window goes. Thread: main.
-void leaveOutOfWindowLists(QWindow& window);
+/// Removes the window from taskbars and pagers on X11; does nothing elsewhere. Call each time before showing it,
+/// because a window manager forgets it when the window is hidden. Thread: main.
+void hideFromWindowLists(QWindow& window);
 
 }  // namespace fadeloom

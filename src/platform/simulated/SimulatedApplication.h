@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Our own windows in a simulated session: how they look, how often they came to the front, what the About panel
-// says.
+// Our own windows in a simulated session: appearance, activations, the contents of the About panel.
 #pragma once
 
 #include "platform/Application.h"
@@ -17,7 +16,7 @@ public:
 
     [[nodiscard]] Appearance appearance() const { return appearance_; }
     [[nodiscard]] int activationCount() const { return activationCount_; }
-    /// What the About panel says, once it was opened.
+    /// Set once the About panel has been opened.
     [[nodiscard]] const std::optional<AboutCredits>& aboutPanel() const { return aboutPanel_; }
 
 private:

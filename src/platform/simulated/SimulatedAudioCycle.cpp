@@ -24,7 +24,7 @@ void addPlayed(StereoBlock& mix, const SimulatedAudioProcess& process, double sa
     }
 }
 
-/// The memory behind the buffers of one direction.
+/// Owns the buffers of one direction.
 class CycleBuffers {
 public:
     void add(std::uint32_t channels, std::uint32_t frames)
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] AudioBuffers buffers() const { return buffers_; }
 
 private:
-    std::vector<std::vector<float>> samples_;  // Growing moves the inner vectors, not their samples.
+    std::vector<std::vector<float>> samples_;  // Reallocation moves the inner vectors, not their samples.
     std::vector<AudioBuffer> buffers_;
 };
 

@@ -18,7 +18,7 @@ public:
     {
     }
 
-    // In memory there is no disk to wait for: what is handed over is there at once.
+    // In memory, writes complete immediately.
     bool write(std::span<const float> samples) noexcept override
     {
         if (failure_)
@@ -69,7 +69,8 @@ std::expected<AudioFile*, TapError> SimulatedAudioFiles::create(
     if (!(sampleRate > 0))
         return std::unexpected(TapError{"Create recording file", EINVAL});
     auto& content = disk_[location];
-    content = std::make_shared<SimulatedAudioContent>();  // Whoever still writes to an older one keeps it.
+    // An open handle to a previous file keeps its content.
+    content = std::make_shared<SimulatedAudioContent>();
     content->sampleRate = sampleRate;
     return &open_.emplace_back(*this, name, content);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Audio files in memory: what was written to each, what was asked of them, and faults on demand.
+// Audio files in memory: their contents, a journal of calls, and fault injection.
 #pragma once
 
 #include "platform/AudioFiles.h"
@@ -16,11 +16,11 @@
 
 namespace fadeloom {
 
-/// A file as it lies on the simulated disk.
+/// A file on the simulated disk.
 struct SimulatedAudioContent {
-    double sampleRate = 0;  // hertz
-    std::vector<float> samples;  // Interleaved, as they were handed over.
-    bool isComplete = false;  // Closed in good order.
+    double sampleRate = 0;  // Hertz.
+    std::vector<float> samples;  // Interleaved, as written.
+    bool isComplete = false;  // Closed properly.
 
     [[nodiscard]] std::size_t frameCount() const { return samples.size() / 2; }
 };
@@ -39,25 +39,25 @@ public:
     /// "error 28" for 28.
     std::string describe(AudioFileError error) const override;
 
-    /// Every file is refused for this reason; none when it is absent.
+    /// All creations fail with this error; none if nullopt.
     void refuseToCreate(std::optional<TapError> refusal) { refusal_ = std::move(refusal); }
-    /// Every open file fails: it keeps nothing any more.
+    /// All open files fail: they no longer store anything.
     void failWriting(AudioFileError error);
-    /// Every open file's writer is held up: from now on there is no room for samples.
+    /// All open files stall: they no longer accept samples.
     void setStalled(bool isStalled) { isStalled_ = isStalled; }
 
-    /// Upper and lower case of ASCII letters are the same in names, as on many disks.
+    /// Makes file names case-insensitive for ASCII letters, as on many disks.
     void foldCase() { foldsCase_ = true; }
 
-    /// Has `look` called each time a file is about to be closed.
-    void whenDisposed(std::function<void()> look) { whenDisposed_ = std::move(look); }
+    /// Calls `disposed` each time a file is about to be closed.
+    void whenDisposed(std::function<void()> disposed) { whenDisposed_ = std::move(disposed); }
 
-    /// What was asked, in order: "create NAME", "dispose NAME", with the file's name.
+    /// The calls so far: "create NAME", "dispose NAME", with the file's name.
     [[nodiscard]] const std::vector<std::string>& journal() const { return journal_; }
     [[nodiscard]] std::size_t openCount() const { return open_.size(); }
-    /// The file of this name on the simulated disk, or null.
+    /// The file with this name on the simulated disk, or null.
     [[nodiscard]] const SimulatedAudioContent* at(const std::filesystem::path& location) const;
-    /// Every file on the simulated disk, by name.
+    /// All files on the simulated disk, by name.
     [[nodiscard]] std::vector<std::filesystem::path> locations() const;
 
 private:

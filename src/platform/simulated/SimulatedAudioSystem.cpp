@@ -138,7 +138,7 @@ std::expected<std::unique_ptr<ProcessTap>, TapError> SimulatedAudioSystem::creat
             .scope = request.scope,
             .device = device->first,
             .proc = makeIOProc({.sampleRate = traits.sampleRate, .output = traits.stereoPair})});
-    world_.keepCycling();
+    world_.scheduleCycles();
     return std::make_unique<Tap>(*this, id, traits.sampleRate, traits.inputStreams);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's side of a simulated audio system: every call, counted, and refused on demand.
+// The program's view of a simulated audio system: all calls, counted, with fault injection.
 #pragma once
 
 #include "platform/AudioSystem.h"
@@ -10,7 +10,7 @@
 
 namespace fadeloom {
 
-/// Reading, changing, and (never refused) taking down.
+/// Queries, changes, and teardown, which never fails.
 enum class AudioOperation {
     processes,
     outputDevices,
@@ -40,23 +40,23 @@ public:
     std::expected<std::unique_ptr<ProcessTap>, TapError> createTap(
         const TapRequest& request, const AudioIOProcFactory& makeIOProc) override;
 
-    /// Refuses a call, the next one or all of them: what is read is empty, what is changed stays. `status`: of the
-    /// error, where the call has one.
+    /// Makes an operation fail, the next time or always: queries return nothing, changes have no effect. `status`: the
+    /// error's code, if the operation has one.
     void refuse(AudioOperation operation, HowOften howOften, std::int32_t status);
-    /// Ends every refusal of `operation`.
+    /// Ends all faults of `operation`.
     void allow(AudioOperation operation) { refusals_.erase(operation); }
 
-    /// The calls that were to change something, whether they did or not, in order.
+    /// The mutating calls, successful or not, in order.
     [[nodiscard]] const std::vector<AudioOperation>& operations() const { return operations_; }
     void clearOperations() { operations_.clear(); }
-    /// How often a call was made since the counts were cleared.
+    /// The number of calls since the counts were cleared.
     [[nodiscard]] int callCount(AudioOperation operation) const;
     /// All calls.
     [[nodiscard]] int callCount() const;
     void clearCallCounts() { callCounts_.clear(); }
-    /// Whether the last question for processes was for their microphones, too.
+    /// Whether the last query for processes included microphone use.
     [[nodiscard]] bool wasMicRead() const { return wasMicRead_; }
-    /// Everything that was requested of `createTap`, in order.
+    /// All arguments of `createTap`, in order.
     [[nodiscard]] const std::vector<TapRequest>& tapRequests() const { return tapRequests_; }
 
 private:
@@ -66,13 +66,13 @@ private:
         std::int32_t status;
     };
 
-    /// Counts a call; its refusal if there is one, which is used up if it was for once.
+    /// Counts a call; returns its fault if there is one, which is consumed unless permanent.
     std::optional<Refusal> begin(AudioOperation operation) const;
     std::optional<Refusal> beginChange(AudioOperation operation);
     [[nodiscard]] bool areKnown(const std::vector<AudioProcessID>& processes) const;
 
     SimulatedAudioWorld& world_;
-    mutable std::map<AudioOperation, Refusal> refusals_;  // Reading uses up what is refused once.
+    mutable std::map<AudioOperation, Refusal> refusals_;  // Queries consume one-time faults.
     mutable std::map<AudioOperation, int> callCounts_;
     std::vector<AudioOperation> operations_;
     std::vector<TapRequest> tapRequests_;

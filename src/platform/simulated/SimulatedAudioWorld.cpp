@@ -107,7 +107,7 @@ void SimulatedAudioWorld::startPlaying(AudioProcessID process, SimulatedSignal s
     found->second.position = 0;
     if (!std::exchange(found->second.isPlaying, true))
         processesChanged.post();
-    keepCycling();
+    scheduleCycles();
 }
 
 void SimulatedAudioWorld::stopPlaying(AudioProcessID process)
@@ -133,9 +133,10 @@ void SimulatedAudioWorld::setOutOfReach(AudioProcessID process, std::optional<Ou
         processesChanged.post();
 }
 
-void SimulatedAudioWorld::setUsingMic(AudioProcessID process, bool isUsingMic)
+void SimulatedAudioWorld::setUsingMic(AudioProcessID process, UsesMic usesMic)
 {
     const auto found = state_.processes.find(process);
+    const bool isUsingMic = usesMic == UsesMic::yes;
     if (found != state_.processes.end() && std::exchange(found->second.isUsingMic, isUsingMic) != isUsingMic)
         processesChanged.post();
 }
@@ -166,7 +167,7 @@ bool SimulatedAudioWorld::isActive() const
         || std::ranges::any_of(state_.processes, [](const auto& entry) { return entry.second.isPlaying; });
 }
 
-void SimulatedAudioWorld::keepCycling()
+void SimulatedAudioWorld::scheduleCycles()
 {
     if (isCycleScheduled_ || cycleInterval_ <= std::chrono::milliseconds{0} || !isActive())
         return;
@@ -178,7 +179,7 @@ void SimulatedAudioWorld::keepCycling()
         const auto interval = std::chrono::duration<double>{cycleInterval_};
         if (isActive() && interval.count() > 0)
             runCycle(static_cast<std::uint32_t>(rate * interval.count()));
-        keepCycling();
+        scheduleCycles();
     });
 }
 

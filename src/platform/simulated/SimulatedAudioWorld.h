@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The world's side of a simulated audio system: devices come and go, processes play, cycles run.
+// The outside of a simulated audio system: plug devices, play in processes, run cycles.
 //
-// The program's side of the same system, with its calls and their faults, is `SimulatedAudioSystem`.
+// The program's view of the same system, with calls and faults, is `SimulatedAudioSystem`.
 #pragma once
 
 #include "base/Observers.h"
@@ -17,7 +17,7 @@
 
 namespace fadeloom {
 
-/// Observers of one kind of change, called in a later turn of the main loop, once for all changes until then.
+/// Observers of one kind of change, called in a later iteration of the main loop, once for all changes until then.
 class SimulatedAnnouncement {
 public:
     explicit SimulatedAnnouncement(MainLoop& mainLoop)
@@ -25,10 +25,10 @@ public:
     {
     }
 
-    /// `callback` hears of changes after this call.
+    /// `callback` is called for changes after this call.
     [[nodiscard]] Subscription add(Observers::Callback callback);
     void post();
-    /// From now on changes are not announced, as by a system that refuses to tell.
+    /// Changes are no longer announced, like on a system that refuses listeners.
     void silence() { isSilent_ = true; }
 
 private:
@@ -39,9 +39,11 @@ private:
     };
 
     MainLoop& mainLoop_;
-    std::shared_ptr<State> state_ = std::make_shared<State>();  // Shared with what is posted.
+    std::shared_ptr<State> state_ = std::make_shared<State>();  // Shared with posted tasks.
     bool isSilent_ = false;
 };
+
+enum class UsesMic { no, yes };
 
 /// Thread: main.
 class SimulatedAudioWorld {
@@ -50,40 +52,40 @@ public:
 
     /// Connects a device. The first one with outputs becomes the default output.
     OutputDeviceID plug(const SimulatedDeviceTraits& traits);
-    /// Takes a device away by its unique id; the default output falls to the first one left. Taps on it capture
+    /// Removes a device by its unique id; the first remaining one becomes the default output. Taps on it capture
     /// nothing any more.
     void unplug(const std::string& uid);
-    /// `rate` in hertz.
+    /// `rate`: hertz.
     void changeRate(const std::string& uid, double rate);
     /// Empty for no default output at all.
     void setDefaultOutput(const std::string& uid);
 
-    /// A process opens audio: it appears.
+    /// A process opens audio, and appears.
     AudioProcessID openAudio(ProcessID pid, const std::string& bundleID);
     void closeAudio(AudioProcessID process);
     void startPlaying(AudioProcessID process, SimulatedSignal signal);
     void stopPlaying(AudioProcessID process);
-    /// It plays on these devices by its own choice, the same on each; empty for the default output.
+    /// The same audio on each of these devices, which it has chosen itself; empty for the default output.
     void chooseOutputs(AudioProcessID process, std::vector<std::string> uids);
     void setOutOfReach(AudioProcessID process, std::optional<OutOfReach> reason);
-    void setUsingMic(AudioProcessID process, bool isUsingMic);
-    /// The first audio process with this pid; 0 for none.
+    void setUsingMic(AudioProcessID process, UsesMic usesMic);
+    /// The first audio process with this pid; 0 if there is none.
     [[nodiscard]] AudioProcessID audioProcessOf(ProcessID pid) const;
 
     /// Runs one IO cycle of `frames` frames on all devices.
     void runCycle(std::uint32_t frames);
-    /// How long the cycles are that run by themselves while the clock is advanced and something plays or is captured;
-    /// 0 for none. Starts as 10 ms. Days are advanced faster without them.
+    /// The length of the cycles that run automatically while the clock is advanced and something plays or is captured;
+    /// 0 for none, to advance days quickly. Initially 10 ms.
     void setCycleInterval(std::chrono::milliseconds interval) { cycleInterval_ = interval; }
-    /// What a device got in the last cycle; nothing for a device that had none.
+    /// A device's input in the last cycle; empty if it had none.
     [[nodiscard]] HeardAudio heard(const std::string& uid) const;
 
     [[nodiscard]] HostTime hostTime() const { return clock_.now(); }
     [[nodiscard]] const SimulatedAudioState& state() const { return state_; }
     [[nodiscard]] SimulatedAudioState& state() { return state_; }
     void setDefaultOutput(OutputDeviceID device);
-    /// Sees to it that cycles run while there is anything to run.
-    void keepCycling();
+    /// Ensures that cycles run while there is anything to do.
+    void scheduleCycles();
 
     SimulatedAnnouncement processesChanged;
     SimulatedAnnouncement outputDevicesChanged;

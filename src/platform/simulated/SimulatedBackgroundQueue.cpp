@@ -7,7 +7,7 @@
 
 namespace fadeloom {
 
-/// Nothing runs beside the caller in this world, so work that has begun is never waited for.
+/// Nothing is concurrent in the simulation, so a running task never has to be waited for.
 class SimulatedBackgroundQueue::Item final : public Work {
 public:
     Item(std::function<void()> task, std::shared_ptr<std::atomic<std::size_t>> waiting)
@@ -32,7 +32,7 @@ public:
     }
 
 private:
-    /// True for the one who may decide what becomes of the work.
+    /// True for the caller that gets to run or drop the task.
     bool takes()
     {
         if (isTaken_.exchange(true))

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A background queue whose work is done when the simulated clock passes its moment.
+// A background queue whose tasks run when the simulated clock reaches their time.
 #pragma once
 
 #include "platform/BackgroundQueue.h"
@@ -11,21 +11,21 @@
 
 namespace fadeloom {
 
-/// Work done by the clock counts as done off the main thread; `runNow` does it as the caller.
+/// Tasks run by the clock count as off the main thread; `runNow` runs them on the caller's.
 class SimulatedBackgroundQueue final : public BackgroundQueue {
 public:
     explicit SimulatedBackgroundQueue(SimulatedClock& clock);
 
     std::shared_ptr<Work> submit(std::chrono::milliseconds delay, std::function<void()> task) override;
 
-    /// How many pieces of work wait for their moment.
+    /// The number of pending tasks.
     [[nodiscard]] std::size_t waitingCount() const;
 
 private:
     class Item;
 
     SimulatedClock& clock_;
-    // Shared with the pieces of work, which may outlive the queue.
+    // Shared with the handles, which may outlive the queue.
     std::shared_ptr<std::atomic<std::size_t>> waiting_ = std::make_shared<std::atomic<std::size_t>>(0);
 };
 

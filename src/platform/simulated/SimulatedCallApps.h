@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The call apps of the simulated world: two, one of which installs under two identifiers.
+// The call apps of the simulation: two, one of which has two identifiers.
 #pragma once
 
 #include "platform/CallApps.h"
@@ -10,14 +10,14 @@ namespace fadeloom {
 
 class SimulatedCallApps : public CallApps {
 public:
-    [[nodiscard]] const std::vector<CallApp>& wellKnown() const override { return apps_; }
+    [[nodiscard]] const std::vector<CallApp>& knownApps() const override { return apps_; }
     [[nodiscard]] std::vector<std::string> formerDefaults() const override { return former_; }
     [[nodiscard]] std::vector<std::string> identifiersOf(const std::string& bundleID) const override
     {
         return identifiersWith(bundleID, callAppWith(apps_, bundleID));
     }
 
-    /// What the version before this one listed.
+    /// The default list of the previous version.
     void setFormerDefaults(std::vector<std::string> former) { former_ = std::move(former); }
 
 private:

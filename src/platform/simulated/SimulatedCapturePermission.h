@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's consent in a simulated world: what the privacy database says, and a prompt that waits for its answer.
+// The simulated user's permission: the privacy database's status, and prompts that wait for a reply.
 #pragma once
 
 #include "platform/CapturePermission.h"
@@ -20,12 +20,12 @@ public:
     bool canRequest() const override { return canRequest_; }
     void request(std::function<void(bool)> answered) override { prompts_.push_back(std::move(answered)); }
 
-    /// What the next preflight says; absent for a system without the question.
+    /// The status returned by `preflight`; nullopt for a system that requires no permission.
     void set(std::optional<int> preflight) { preflight_ = preflight; }
     void setCanRequest(bool canRequest) { canRequest_ = canRequest; }
-    /// How many prompts wait for the user.
+    /// The number of open prompts.
     [[nodiscard]] std::size_t promptCount() const { return prompts_.size(); }
-    /// The user answers every prompt. Thread: any, one at a time.
+    /// Replies to all prompts. Thread: any, one at a time.
     void answer(bool isGranted)
     {
         preflight_ = isGranted ? granted : denied;

@@ -21,7 +21,7 @@ SimulatedClock::EventID SimulatedClock::schedule(Duration delay, std::function<v
 
 void SimulatedClock::cancel(EventID id)
 {
-    std::function<void()> released;  // Destroyed after the lock is given back.
+    std::function<void()> released;  // Destroyed after the lock is released.
     const std::scoped_lock guard{mutex_};
     const auto found = std::find_if(
         events_.begin(), events_.end(), [id](const auto& entry) { return entry.first.second == id; });

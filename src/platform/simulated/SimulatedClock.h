@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The time of a simulated world: it stands still until someone moves it.
+// The time of a simulation, which advances only explicitly.
 #pragma once
 
 #include <chrono>
@@ -11,21 +11,21 @@
 
 namespace fadeloom {
 
-/// Holds what is to happen at later moments. Thread: any, but only one thread moves it.
+/// The pending events. Thread: any, but only one thread advances it.
 class SimulatedClock {
 public:
     using Duration = std::chrono::nanoseconds;
     using EventID = std::uint64_t;
 
-    /// Time that has passed since the world began.
+    /// The time since the simulation began.
     [[nodiscard]] Duration now() const;
-    /// Has `event` run `delay` from now. Events of the same moment run in the order given.
+    /// Schedules `event` after `delay`. Events at the same time run in the order scheduled.
     EventID schedule(Duration delay, std::function<void()> event);
-    /// Takes an event back that has not begun; an unknown id is ignored.
+    /// Cancels a pending event; an unknown id is ignored.
     void cancel(EventID id);
-    /// Moves to the next event due by `end` and runs it. False when there is none.
+    /// Advances to the next event due by `end` and runs it. False if there is none.
     bool runNextBy(Duration end);
-    /// Moves to `moment` without running anything; never backwards.
+    /// Advances to `moment` without running anything; never backwards.
     void moveTo(Duration moment);
 
 private:

@@ -11,7 +11,7 @@ namespace fadeloom {
 
 class SimulatedDialogs final : public Dialogs {
 public:
-    /// A dialog that is open.
+    /// An open dialog.
     struct FolderQuestion {
         std::filesystem::path start;
         std::string prompt;
@@ -34,7 +34,7 @@ public:
     }
 
     [[nodiscard]] const std::vector<FolderQuestion>& questions() const { return questions_; }
-    /// The user answers every open question for a folder; with nothing, cancels it.
+    /// Answers all open folder prompts; nullopt cancels them.
     void answer(const std::optional<std::filesystem::path>& folder)
     {
         for (const auto& question : std::exchange(questions_, {}))
@@ -42,17 +42,17 @@ public:
     }
 
     [[nodiscard]] std::size_t applicationQuestions() const { return applicationQuestions_.size(); }
-    /// The same for an application.
+    /// The same for application prompts.
     void answerApplication(const std::optional<std::string>& bundleID)
     {
         for (const auto& done : std::exchange(applicationQuestions_, {}))
             done(bundleID);
     }
 
-    /// Every message that was shown, in order, and how many are still open.
+    /// All messages shown, in order, and the number still open.
     [[nodiscard]] const std::vector<Alert>& alerts() const { return alerts_; }
     [[nodiscard]] std::size_t openAlerts() const { return openAlerts_.size(); }
-    /// The user answers every open message by the button at this position.
+    /// Answers all open messages with the button at this index.
     void answerAlert(std::size_t button)
     {
         for (const auto& answered : std::exchange(openAlerts_, {}))

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The user's folders of a simulated world: one real folder, given by whoever builds the world.
+// The standard folders of a simulation: one real folder, passed to the constructor.
 #pragma once
 
 #include "platform/StandardFolders.h"

@@ -13,9 +13,9 @@ void SimulatedHttpClient::get(const HttpRequest& request, Answered answered)
 {
     requests_.push_back(request);
     const auto number = ++lastNumber_;
-    const auto patience = isOnline_ ? request.timeout : std::chrono::milliseconds(0);
+    const auto delay = isOnline_ ? request.timeout : std::chrono::milliseconds(0);
     exchanges_.push_back({number, request.largestBody, std::move(answered),
-        mainLoop_.after(patience, [this, number] { end(number, std::nullopt); })});
+        mainLoop_.after(delay, [this, number] { end(number, std::nullopt); })});
 }
 
 void SimulatedHttpClient::answer(int status, const std::string& body, std::size_t position)

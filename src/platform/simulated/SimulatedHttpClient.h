@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A web whose only server is the test.
+// A network whose only server is the test.
 #pragma once
 
 #include "base/Subscription.h"
@@ -13,7 +13,7 @@ namespace fadeloom {
 
 class MainLoop;
 
-/// Requests stay open until somebody answers or their time is up, on the loop's clock.
+/// Requests stay open until they are answered or time out, on the loop's clock.
 class SimulatedHttpClient final : public HttpClient {
 public:
     /// `mainLoop` must outlive this.
@@ -26,14 +26,14 @@ public:
 
     void get(const HttpRequest& request, Answered answered) override;
 
-    /// Every request so far, in order.
+    /// All requests so far, in order.
     [[nodiscard]] const std::vector<HttpRequest>& requests() const { return requests_; }
     [[nodiscard]] std::size_t openRequests() const { return exchanges_.size(); }
-    /// Answers an open request: the one at `position`, 0 for the oldest. Without an open one it does nothing.
+    /// Answers an open request: the one at `position`, 0 for the oldest. Does nothing without an open one.
     void answer(int status, const std::string& body, std::size_t position = 0);
-    /// The same, by cutting it off.
+    /// Aborts it.
     void cutOff(std::size_t position = 0);
-    /// From now on no request reaches anybody: each is answered with nothing in the next turn of the loop.
+    /// No request succeeds from now on: each fails in the next iteration of the loop.
     void goOffline() { isOnline_ = false; }
 
 private:

@@ -17,12 +17,12 @@ public:
 
     /// The user changes it in the system's settings.
     void set(Status status) { status_ = status; }
-    /// Every change is refused, with this reason, until it is allowed again.
+    /// All changes fail with this reason, until allowed again.
     void refuse(std::string reason) { refusal_ = std::move(reason); }
     void allow() { refusal_.reset(); }
-    /// Registering comes to no more than this: the user has to approve.
+    /// The status after registering: the user must approve.
     void askForApproval() { registered_ = Status::requiresApproval; }
-    /// How often a change was asked for.
+    /// The number of requested changes.
     [[nodiscard]] int changeCount() const { return changeCount_; }
 
 private:
@@ -30,7 +30,7 @@ private:
     {
         changeCount_ += 1;
         if (refusal_)
-            return std::unexpected(SystemWords{*refusal_});
+            return std::unexpected(SystemMessage{*refusal_});
         status_ = wanted == Status::enabled ? registered_ : wanted;
         return {};
     }

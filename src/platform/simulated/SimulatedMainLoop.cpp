@@ -28,7 +28,7 @@ struct SimulatedMainLoop::Timer : std::enable_shared_from_this<Timer> {
     {
         if (!isAlive)
             return;
-        // Before the task: it may end its own subscription, which then finds the next event to cancel.
+        // Before the task: it may end its own subscription, which must then cancel the next event.
         if (interval > std::chrono::milliseconds{0})
             schedule(interval);
         else
@@ -37,7 +37,7 @@ struct SimulatedMainLoop::Timer : std::enable_shared_from_this<Timer> {
         running();
     }
 
-    /// `isClockThere`: no longer once the loop has gone, whose clock need not outlive it by much.
+    /// `isClockThere`: expires with the loop, whose clock need not outlive it by much.
     void end(bool isClockThere)
     {
         isAlive = false;
@@ -46,7 +46,7 @@ struct SimulatedMainLoop::Timer : std::enable_shared_from_this<Timer> {
     }
 
     SimulatedClock& clock;
-    const std::chrono::milliseconds interval;  // 0 for once.
+    const std::chrono::milliseconds interval;  // 0 for one-shot.
     const Task task;
     bool isAlive = true;
     SimulatedClock::EventID event = 0;

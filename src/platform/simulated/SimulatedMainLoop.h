@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The main thread of a simulated world. Nothing runs until `runPosted` or `advance` is called.
+// The main loop of a simulation. Nothing runs until `runPosted` or `advance` is called.
 #pragma once
 
 #include "platform/MainLoop.h"
@@ -13,7 +13,7 @@
 
 namespace fadeloom {
 
-/// The thread that makes it is the main thread.
+/// The thread that creates it is the main thread.
 class SimulatedMainLoop final : public MainLoop {
 public:
     explicit SimulatedMainLoop(SimulatedClock& clock);
@@ -21,20 +21,20 @@ public:
     void post(Task task) override;
     Subscription after(std::chrono::milliseconds delay, Task task) override;
     Subscription every(std::chrono::milliseconds interval, Task task) override;
-    /// False as well on the main thread while it plays the part of another one (`OtherThread`).
+    /// Also false while the main thread plays the part of another one (`OtherThread`).
     bool isCurrent() const override;
 
-    /// Runs turns of the loop until nothing is posted any more.
+    /// Runs iterations of the loop until nothing is posted any more.
     void runPosted();
-    /// Runs one turn: what is posted now. What these tasks post waits for the next turn.
+    /// Runs one iteration: the tasks posted so far. What they post waits for the next one.
     void runTurn();
-    /// Moves the clock, with everything that falls due on the way, each followed by what it posted.
+    /// Advances the clock and runs everything that becomes due, each followed by what it posted.
     void advance(SimulatedClock::Duration duration);
 
-    /// How many timers run.
+    /// The number of active timers.
     [[nodiscard]] long timerCount() const;
 
-    /// While one lives, its thread does the work of another thread (an IO thread, a queue's).
+    /// While an instance exists, its thread plays the part of another thread (an IO thread, a queue's).
     class OtherThread {
     public:
         OtherThread();
@@ -53,8 +53,8 @@ private:
     std::mutex mutex_;
     std::deque<Task> posted_;
     std::vector<std::weak_ptr<Timer>> timers_;
-    std::shared_ptr<int> presence_ =
-        std::make_shared<int>();  // Seen weakly by subscriptions, which may outlive us.
+    // Subscriptions, which may outlive us, hold a weak reference.
+    std::shared_ptr<int> presence_ = std::make_shared<int>();
 };
 
 }  // namespace fadeloom

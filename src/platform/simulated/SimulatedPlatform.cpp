@@ -99,12 +99,12 @@ void SimulatedPlatform::setOutOfReach(ProcessID pid, std::optional<OutOfReach> r
 
 void SimulatedPlatform::startUsingMic(ProcessID pid)
 {
-    audioWorld_.setUsingMic(audioOf(pid), true);
+    audioWorld_.setUsingMic(audioOf(pid), UsesMic::yes);
 }
 
 void SimulatedPlatform::stopUsingMic(ProcessID pid)
 {
-    audioWorld_.setUsingMic(audioWorld_.audioProcessOf(pid), false);
+    audioWorld_.setUsingMic(audioWorld_.audioProcessOf(pid), UsesMic::no);
 }
 
 }  // namespace fadeloom

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// A whole world in memory: applications, audio, time, the user's consent.
+// A complete in-memory platform: applications, audio, time, the user's permission.
 //
-// The program runs on it unchanged, in tests and in its simulation mode. Nothing in it moves by itself:
+// The program runs on it unchanged, in tests and with --simulate. Nothing happens by itself:
 //
 //      SimulatedPlatform world{folder};
 //      world.plug({.uid = "speakers", .name = "Speakers"});
@@ -37,16 +37,15 @@
 
 namespace fadeloom {
 
-/// Thread: the one that makes it, which is its main thread. A new world has no device, no application, and consent.
+/// Initially without devices and applications, with permission. Thread: the one that creates it, as its main thread.
 class SimulatedPlatform {
 public:
-    /// `applicationSupport`: a real folder for the program's files. `text`: a real one in place of `SimulatedText`;
-    /// must outlive this.
+    /// `applicationSupport`: a real folder for the program's files. `text` replaces `SimulatedText`; must outlive this.
     explicit SimulatedPlatform(std::filesystem::path applicationSupport, Text* text = nullptr);
     SimulatedPlatform(const SimulatedPlatform&) = delete;
     SimulatedPlatform& operator=(const SimulatedPlatform&) = delete;
 
-    /// Parts to use in place of the world's own; null for these.
+    /// Parts that replace the simulated ones unless null.
     struct Replacements {
         StandardFolders* folders = nullptr;
         SystemLog* systemLog = nullptr;
@@ -55,29 +54,29 @@ public:
     [[nodiscard]] Platform platform(const Replacements& instead);
     [[nodiscard]] Platform platform() { return platform({}); }
 
-    /// Moves the clock: timers, background work and IO cycles happen in their order.
+    /// Advances the clock: timers, background tasks and IO cycles run in order.
     void advance(SimulatedClock::Duration duration) { mainLoop_.advance(duration); }
-    /// Runs what is posted to the main loop, without moving the clock.
+    /// Runs what is posted to the main loop, without advancing the clock.
     void runPosted() { mainLoop_.runPosted(); }
     [[nodiscard]] std::chrono::system_clock::time_point date() const { return wallClock_.now(); }
     void setDate(std::chrono::system_clock::time_point date) { wallClock_.set(date); }
 
     // Applications.
     ProcessID launchApp(const std::string& name, const SimulatedAppTraits& traits = {});
-    /// Starts a process that is no application itself: a helper of `owner`, or a daemon when that is below 1.
+    /// Starts a process that is not an application itself: a helper of `owner`, or a daemon if that is below 1.
     ProcessID launchHelper(ProcessID owner, const std::string& bundleID);
     /// Ends a process, its helpers and their audio.
     void quitApp(ProcessID pid);
 
-    // Their sound.
-    /// The process opens audio without playing: a further audio process of that pid appears.
+    // Their audio.
+    /// The process opens audio without playing: another audio process with that pid appears.
     AudioProcessID openAudio(ProcessID pid);
-    /// All audio processes of that pid go.
+    /// Removes all audio processes with that pid.
     void closeAudio(ProcessID pid);
-    /// Plays through its first audio process, opening audio if it has none.
+    /// Plays through the pid's first audio process, opening audio if it has none.
     void startPlaying(ProcessID pid, SimulatedSignal signal = SimulatedSignal::constant(0.25F));
     void stopPlaying(ProcessID pid);
-    /// Plays on these devices by its own choice, opening audio if it has none; empty for the default output.
+    /// Plays on devices that the process has chosen itself, opening audio if it has none; empty for the default output.
     void chooseOutputs(ProcessID pid, std::vector<std::string> uids);
     void setOutOfReach(ProcessID pid, std::optional<OutOfReach> reason);
     void startUsingMic(ProcessID pid);
@@ -90,20 +89,20 @@ public:
     void setDefaultOutput(const std::string& uid) { audioWorld_.setDefaultOutput(uid); }
     /// Runs one IO cycle now.
     void runCycle(std::uint32_t frames) { audioWorld_.runCycle(frames); }
-    /// What a device got in the last cycle.
+    /// A device's input in the last cycle.
     [[nodiscard]] HeardAudio heard(const std::string& uid) const { return audioWorld_.heard(uid); }
 
-    // The user's consent: `SimulatedCapturePermission::granted`, `denied`, `undecided`, or absent.
+    // The user's permission: `SimulatedCapturePermission::granted`, `denied`, `undecided`, or nullopt.
     void setPermission(std::optional<int> preflight) { permission_.set(preflight); }
 
-    /// Refuses a call of the audio system, the next one or all of them.
+    /// Makes an operation of the audio system fail, the next time or always.
     void refuse(AudioOperation operation, HowOften howOften, std::int32_t status = -1)
     {
         audio_.refuse(operation, howOften, status);
     }
     void allow(AudioOperation operation) { audio_.allow(operation); }
 
-    // The parts, for what has no word of its own here.
+    // The parts, for everything without a shortcut here.
     SimulatedAudioSystem& audio() { return audio_; }
     SimulatedAudioWorld& audioWorld() { return audioWorld_; }
     SimulatedAudioFiles& audioFiles() { return audioFiles_; }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a simulated process plays: stereo samples without end.
+// The output of a simulated process: an infinite stereo signal.
 #pragma once
 
 #include <cstdint>
@@ -16,19 +16,19 @@ struct StereoFrame {
     friend bool operator==(const StereoFrame&, const StereoFrame&) = default;
 };
 
-/// A value; the same frame number and rate always give the same samples.
+/// A value type; the same frame number and rate always give the same samples.
 class SimulatedSignal {
 public:
     [[nodiscard]] static SimulatedSignal silence() { return constant(0); }
-    /// The same sample on both sides for ever.
+    /// The same sample on both channels forever.
     [[nodiscard]] static SimulatedSignal constant(float sample) { return constant(sample, sample); }
     [[nodiscard]] static SimulatedSignal constant(float left, float right);
-    /// `frequency` in hertz; `amplitude` linear. Starts at 0.
+    /// `frequency`: hertz; `amplitude`: linear. Starts at 0.
     [[nodiscard]] static SimulatedSignal sine(double frequency, float amplitude);
     /// These frames once, then silence.
     [[nodiscard]] static SimulatedSignal samples(std::vector<StereoFrame> frames);
 
-    /// The samples of frame `index`, counted from when the process began to play. `sampleRate` in hertz.
+    /// The samples of frame `index`, counted from when the process started playing. `sampleRate`: hertz.
     [[nodiscard]] StereoFrame at(std::uint64_t index, double sampleRate) const
     {
         return at_(index, sampleRate);

@@ -22,16 +22,16 @@ public:
     [[nodiscard]] const std::string& description() const { return description_; }
     void scroll(int notches) { scrolled_(notches); }
     void middleClick() { middleClicked_(); }
-    /// The name under which it is shown; empty before.
+    /// Its name; empty before it is shown.
     [[nodiscard]] const std::string& name() const { return name_; }
     void click() { clicked_(); }
-    /// What a right click shows.
+    /// The menu of a right click.
     [[nodiscard]] StatusMenu openMenu()
     {
         menuOpens_();
         return build_();
     }
-    /// Opens the menu and chooses the entry with this title; says whether there is one.
+    /// Opens the menu and selects the entry with this title; returns whether there is one.
     bool choose(const std::string& title)
     {
         const auto menu = openMenu();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A system log that keeps its lines for whoever wants to read them.
+// A system log that stores its messages.
 #pragma once
 
 #include "platform/SystemLog.h"
@@ -25,7 +25,7 @@ public:
         lines_.push_back({level, std::string{message}});
     }
 
-    /// Everything written so far. Thread: any.
+    /// All messages so far. Thread: any.
     [[nodiscard]] std::vector<Line> lines() const
     {
         const std::scoped_lock guard{mutex_};

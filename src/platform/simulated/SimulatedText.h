@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Letter case and order without a text library.
+// Case folding and collation without a text library.
 //
-// Only the letters A to Z change; every other byte stays as it is. A world whose applications have names in other
-// scripts is built on a real `Text` instead.
+// Only handles the letters A to Z; every other byte is unchanged. A simulation with names in other scripts needs a real
+// `Text`.
 #pragma once
 
 #include "platform/Text.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Preferences that are kept in memory.
+// Preferences in memory.
 #pragma once
 
 #include "platform/UserDefaults.h"

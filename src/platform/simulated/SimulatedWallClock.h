@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The date of a simulated world: it began on 2 January 2030 at noon, and its clocks show UTC.
+// The date of a simulation, which begins on 2 January 2030 at noon, in UTC.
 #pragma once
 
 #include "platform/WallClock.h"
@@ -23,7 +23,7 @@ public:
         return LocalTime(std::chrono::floor<std::chrono::seconds>(moment).time_since_epoch());
     }
 
-    /// Sets the date and the time of day; the world's own time goes on as it was.
+    /// Sets the date and time of day, independently of the simulated clock.
     void set(std::chrono::system_clock::time_point moment) { beginning_ += moment - now(); }
 
 private:

@@ -35,6 +35,13 @@ std::optional<RunningApplication> SimulatedWorkspace::runningApplication(Process
     return found == processes_.end() ? std::nullopt : found->second.application;
 }
 
+void SimulatedWorkspace::findIcon(
+    const RunningApplication& application, std::function<void(const AppIcon&)> found)
+{
+    ++iconCount_;
+    Workspace::findIcon(application, std::move(found));
+}
+
 bool SimulatedWorkspace::isTerminated(const RunningApplication& application) const
 {
     return runningApplication(application.pid) != application;

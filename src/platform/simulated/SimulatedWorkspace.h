@@ -11,13 +11,13 @@
 
 namespace fadeloom {
 
-/// What an application is to look like; what is left out is made up from its name.
+/// The properties of an application; those left out are derived from its name.
 struct SimulatedAppTraits {
-    std::optional<std::string> bundleID{};  // "com.example." and the name in lower case without blanks.
+    std::optional<std::string> bundleID{};  // "com.example." and the name in lower case without spaces.
     std::optional<std::filesystem::path> bundleLocation{};  // "/Applications/<name>.app".
     ActivationPolicy policy = ActivationPolicy::regular;
-    ProcessID responsible = -1;  // Who launched it.
-    ProcessID pid = -1;  // A free one.
+    ProcessID responsible = -1;  // The process that launched it.
+    ProcessID pid = -1;  // -1: assigned automatically.
     std::optional<AppIcon> icon{};
     bool hasName = true;
 };
@@ -28,6 +28,7 @@ public:
     std::string ownBundleID() const override { return "com.fadeloom.app"; }
     std::vector<RunningApplication> runningApplications() const override;
     std::optional<RunningApplication> runningApplication(ProcessID pid) const override;
+    void findIcon(const RunningApplication& application, std::function<void(const AppIcon&)> found) override;
     bool isTerminated(const RunningApplication& application) const override;
     std::optional<ProcessID> responsiblePid(ProcessID pid) const override;
     /// True for locations that end in ".app".
@@ -37,29 +38,31 @@ public:
     std::optional<std::string> installedName(const std::string& bundleID) const override;
     void openNewInstance(std::function<void()> reported) override;
 
-    /// Starts a process that is an application.
+    /// Starts an application's process.
     ProcessID launchApp(const std::string& name, const SimulatedAppTraits& traits);
-    /// Starts a process that is none; `responsible` below 1 when nobody launched it (a daemon).
+    /// Starts a process that is not an application; `responsible` below 1 if nobody launched it (a daemon).
     ProcessID launchHelper(ProcessID responsible);
-    /// Ends a process and those it is responsible for; returns all their pids.
+    /// Ends a process and those that it is responsible for; returns all their pids.
     std::vector<ProcessID> quit(ProcessID pid);
     [[nodiscard]] bool isRunning(ProcessID pid) const { return processes_.contains(pid); }
 
-    /// Puts an application on the disk; it does not run.
+    /// Installs an application, without starting it.
     void install(const std::string& bundleID, const std::string& name) { installed_[bundleID] = name; }
 
-    /// No further instance of the program can be started.
+    /// Starting another instance of the program fails.
     void failToStart() { canStart_ = false; }
-    /// How many instances of the program were started beside this one.
+    /// The number of additional instances of the program started.
     [[nodiscard]] int newInstances() const { return newInstances_; }
-    /// The system answers every start that it was asked for.
+    /// Completes all requested starts.
     void reportStarts();
 
-    /// How often the list of running applications was asked for.
+    /// The number of queries for running applications.
     [[nodiscard]] int listCount() const { return listCount_; }
-    /// Every file that was shown, in order.
+    /// The number of icons asked for.
+    [[nodiscard]] int iconCount() const { return iconCount_; }
+    /// All files shown, in order.
     [[nodiscard]] const std::vector<std::filesystem::path>& revealed() const { return revealed_; }
-    /// Every address that was opened, in order.
+    /// All URLs opened, in order.
     [[nodiscard]] const std::vector<std::string>& opened() const { return opened_; }
 
 private:
@@ -75,6 +78,7 @@ private:
     std::uint64_t launchCount_ = 0;
     std::map<ProcessID, Process> processes_;
     mutable int listCount_ = 0;
+    int iconCount_ = 0;
     std::vector<std::filesystem::path> revealed_;
     std::vector<std::string> opened_;
     std::map<std::string, std::string> installed_;

@@ -10,7 +10,7 @@
 
 namespace fadeloom {
 
-static_assert(sizeof(off_t) == 8);  // Files have more than 2 GiB.
+static_assert(sizeof(off_t) == 8);  // Files may exceed 2 GiB.
 
 std::expected<std::unique_ptr<DiskFile>, int> DiskFile::create(const std::filesystem::path& location)
 {
@@ -52,7 +52,7 @@ void DiskFile::truncate(std::uint64_t size)
 void DiskFile::close()
 {
     const int descriptor = std::exchange(descriptor_, -1);
-    // Some file systems tell only now that something was not written.
+    // Some file systems report write errors only now.
     if (descriptor >= 0 && ::close(descriptor) != 0)
         note(errno);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A new file and what is written to it.
+// A new file and sequential writes to it.
 #pragma once
 
 #include <cstddef>
@@ -11,11 +11,11 @@
 
 namespace fadeloom {
 
-/// Errors are the system's numbers (errno). Thread: any, one at a time.
+/// Errors are errno values. Thread: any, one at a time.
 class DiskFile {
 public:
-    /// Makes an empty file, in place of any file of that name: who has the old one open keeps it, and a symbolic link
-    /// is replaced, not followed. Like any document it gets the permissions that the user's mask leaves.
+    /// Creates an empty file, replacing any file of that name: an open handle keeps the old one, and a symbolic link is
+    /// replaced, not followed. The permissions are those of any document, according to the umask.
     [[nodiscard]] static std::expected<std::unique_ptr<DiskFile>, int> create(
         const std::filesystem::path& location);
     ~DiskFile() { close(); }
@@ -24,12 +24,12 @@ public:
 
     /// In bytes.
     [[nodiscard]] std::uint64_t size() const { return size_; }
-    /// The first failure of all that was done here, or 0.
+    /// The first error of any operation, or 0.
     [[nodiscard]] int failure() const { return failure_; }
 
-    /// Returns how many bytes got onto the disk: all of them, or fewer after a failure.
+    /// Returns how many bytes were written: all of them, or fewer after an error.
     std::size_t write(std::uint64_t offset, std::span<const std::byte> bytes);
-    /// Cuts the file's end off.
+    /// Truncates the file.
     void truncate(std::uint64_t size);
     void close();
 

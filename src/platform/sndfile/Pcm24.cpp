@@ -14,12 +14,12 @@ constexpr float fullScale = 0x1p23F;
 constexpr std::int32_t highestStep = (1 << 23) - 1;
 constexpr std::int32_t upperBits = 1 << 8;
 
-// No branches and no library calls, so that a compiler makes vector code of the loop below.
+// No branches and no library calls, so that compilers can vectorize the loop below.
 std::int32_t stepOf(float sample)
 {
     const float number = std::isnan(sample) ? 0 : sample;
     const float magnitude = std::min(std::fabs(number) * fullScale, fullScale);
-    // From 2^23 to 2^24 floats are the whole numbers, so the addition rounds, and to even.
+    // From 2^23 to 2^24 floats are whole numbers, so the addition rounds, to even.
     const float rounded = (magnitude + fullScale) - fullScale;
     return std::min(static_cast<std::int32_t>(std::copysign(rounded, number)), highestStep);
 }

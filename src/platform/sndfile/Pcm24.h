@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Turns floating-point samples into the 24-bit ones of a file.
+// Converts floating-point samples to 24-bit ones.
 #pragma once
 
 #include <cstdint>
@@ -7,11 +7,11 @@
 
 namespace fadeloom {
 
-/// Full scale, 1, is 2^23 steps. Each sample goes to the nearest step, one halfway to the even step; what is beyond
-/// -2^23 and 2^23 - 1 is clipped, the infinities included; what is no number is silence, as it is to the renderer.
+/// Full scale, 1, is 2^23 steps. Each sample is rounded to the nearest step, ties to even; values beyond -2^23 and
+/// 2^23 - 1 are clipped, including infinities; NaN becomes silence, as in the renderer.
 ///
-/// The steps stand in the upper 24 bits of each result, where libsndfile takes them from without scaling or rounding of
-/// its own. `result` has as many elements as `samples`. Thread: any, rounding to nearest as threads do from the start.
+/// The steps are in the upper 24 bits of each result, from which libsndfile extracts them without scaling or rounding.
+/// `result` has as many elements as `samples`. Thread: any, with the default rounding mode.
 void convertToPcm24(std::span<const float> samples, std::span<std::int32_t> result) noexcept;
 
 }  // namespace fadeloom

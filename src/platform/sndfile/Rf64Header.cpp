@@ -12,11 +12,11 @@ namespace {
 
 constexpr std::size_t riffSize = 12;
 constexpr std::size_t formatSize = 24;
-constexpr std::size_t chunkHeadSize = 8;  // Name and size, which the size of a chunk leaves out.
+constexpr std::size_t chunkHeadSize = 8;  // Name and size, which are not included in the size of a chunk.
 constexpr std::uint32_t ds64Size = 28;
 constexpr std::uint32_t sizeIsInDs64 = 0xFFFFFFFF;
 
-/// Fills a header from its beginning to its end.
+/// Fills a header sequentially.
 class Filling {
 public:
     explicit Filling(WaveHeader& header)
@@ -51,7 +51,7 @@ private:
 WaveHeader rf64Header(const WaveHeader& riffHeader, std::uint64_t fileSize, std::uint32_t bytesPerFrame)
 {
     const std::uint64_t dataSize = fileSize - riffHeader.size();
-    constexpr std::uint32_t tableLength = 0;  // Of other chunks with 64-bit sizes.
+    constexpr std::uint32_t tableLength = 0;  // No other chunks with 64-bit sizes.
     WaveHeader header;
     Filling filling{header};
     filling.name("RF64").number(sizeIsInDs64).name("WAVE");

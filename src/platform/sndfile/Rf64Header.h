@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The header of a WAVE file that has outgrown the 32-bit sizes of RIFF.
+// The header of a WAVE file that exceeds the 32-bit sizes of RIFF.
 #pragma once
 
 #include <array>
@@ -8,15 +8,15 @@
 
 namespace fadeloom {
 
-/// What stands before the samples of our files, in bytes and in this order:
+/// The layout before the samples of our files, in bytes:
 ///
 ///     RIFF  12   with the size of all that follows its first eight bytes
 ///     fmt   24   plain PCM
-///     JUNK  36   nothing: room for 64-bit sizes
+///     JUNK  36   padding, reserved for 64-bit sizes
 ///     data   8   with the size of the samples
 using WaveHeader = std::array<std::byte, 80>;
 
-/// The same file's header as RF64, in as many bytes, with the format chunk as it is:
+/// The same file's header as RF64, of the same length, with the format chunk unchanged:
 ///
 ///     RF64  12   its size is in ds64
 ///     ds64  36   64-bit sizes of all that follows RF64's first eight bytes and of the samples; the number of frames

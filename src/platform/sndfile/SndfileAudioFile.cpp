@@ -3,6 +3,8 @@
 
 #include "platform/sndfile/Pcm24.h"
 
+#include <pthread.h>
+
 #include <algorithm>
 #include <chrono>
 #include <condition_variable>
@@ -12,13 +14,11 @@
 #include <system_error>
 #include <utility>
 
-#include <pthread.h>
-
 namespace fadeloom {
 
 namespace {
 
-constexpr std::size_t ringSeconds = 4;  // A disk that wakes up, or is busy with others, takes one or two.
+constexpr std::size_t ringSeconds = 4;  // A disk that spins up, or is busy, takes one or two.
 constexpr std::chrono::milliseconds pause{100};
 
 }  // namespace
@@ -73,7 +73,7 @@ void SndfileAudioFile::work(const std::stop_token& stop)
 {
     pthread_setname_np(pthread_self(), "fadeloom-writer");
     std::mutex mutex;
-    std::condition_variable_any stopped;  // A request to stop notifies it; nothing else does.
+    std::condition_variable_any stopped;  // Notified only by a stop request.
     std::unique_lock lock{mutex};
     while (!stop.stop_requested()) {
         drainRing();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One open file: samples go into a ring, and a thread of the file's own writes them to the disk.
+// One open file: samples are pushed into a ring, and a dedicated thread writes them to disk.
 #pragma once
 
 #include "base/SpscRing.h"
@@ -16,13 +16,13 @@
 
 namespace fadeloom {
 
-/// Handing samples over wakes nobody, which would be a system call: the writer looks for them by itself, ten times a
-/// second. What it has written counts in the file's header at once, so a file whose program is killed lacks what was
-/// handed over in the last tenth of a second. After a failed write samples are dropped; the file stays as it is.
+/// Pushing samples does not wake the writer, which would take a system call: it polls ten times a second. The header is
+/// updated with every write, so a file whose program is killed lacks only the last tenth of a second. After a failed
+/// write samples are dropped; the file remains as it is.
 class SndfileAudioFile final : public AudioFile {
 public:
-    /// Opens the empty file `disk` and starts its writer. To be called while signals are held (`SignalsHeld`), which
-    /// the writer inherits. Errors: the system's numbers.
+    /// Opens the empty file `disk` and starts its writer. Call while signals are blocked (`SignalBlock`), which the
+    /// writer inherits. Errors: errno values.
     [[nodiscard]] static std::expected<std::unique_ptr<SndfileAudioFile>, int> open(
         std::unique_ptr<DiskFile> disk, int sampleRate);
     /// Closes the file.
@@ -33,23 +33,23 @@ public:
     bool write(std::span<const float> samples) noexcept override;
     std::optional<AudioFileError> failure() const override;
 
-    /// Waits until all that was handed over is written and the file is closed. Returns the first failure. Thread: main.
+    /// Blocks until everything is written and the file is closed. Returns the first error. Thread: main.
     std::optional<AudioFileError> close();
 
 private:
     SndfileAudioFile(std::unique_ptr<WaveFile> file, int sampleRate);
     [[nodiscard]] bool hasFailed() const { return firstFailure_.load(std::memory_order_relaxed) != 0; }
 
-    /// The writer's life.
+    /// The writer thread's main function.
     void work(const std::stop_token& stop);
     void drainRing();
-    /// Keeps the first failure.
+    /// Records the first error.
     void note(int error);
 
     SpscRing<float> ring_;
-    std::atomic<int> firstFailure_ = 0;  // Relaxed: a word with nothing behind it.
+    std::atomic<int> firstFailure_ = 0;  // Relaxed: it guards no other memory.
 
-    // The writer's.
+    // Used by the writer thread.
     const std::unique_ptr<WaveFile> file_;
     std::array<std::int32_t, 8192> block_{};
     std::jthread writer_;

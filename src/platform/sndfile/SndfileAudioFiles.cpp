@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sndfile/SndfileAudioFiles.h"
 
-#include "platform/sndfile/SignalsHeld.h"
+#include "platform/sndfile/SignalBlock.h"
 #include "platform/sndfile/SndfileAudioFile.h"
+
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -12,13 +14,11 @@
 #include <cstring>
 #include <system_error>
 
-#include <unistd.h>
-
 namespace fadeloom {
 
 namespace {
 
-/// Whole hertz, as a WAVE file has them, and no more than devices have: memory is set aside for four seconds.
+/// Whole hertz, as in a WAVE file, and no more than devices support: the ring is sized for four seconds.
 bool isPossibleRate(double rate)
 {
     constexpr double highest = 768'000;
@@ -32,7 +32,7 @@ SndfileAudioFiles::~SndfileAudioFiles() = default;
 
 bool SndfileAudioFiles::isTaken(const std::filesystem::path& location) const
 {
-    std::error_code unknown;  // Then creating the file fails, too, and says why.
+    std::error_code unknown;  // Creating the file fails then too, with a reason.
     return std::filesystem::exists(std::filesystem::symlink_status(location, unknown));
 }
 
@@ -42,7 +42,7 @@ std::expected<AudioFile*, TapError> SndfileAudioFiles::create(
     const auto refused = [](int error) { return std::unexpected(TapError{"Create recording file", error}); };
     if (!isPossibleRate(sampleRate))
         return refused(EINVAL);
-    const SignalsHeld held;
+    const SignalBlock held;
     auto disk = DiskFile::create(location);
     if (!disk)
         return refused(disk.error());

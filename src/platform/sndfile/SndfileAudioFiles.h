@@ -11,7 +11,7 @@ namespace fadeloom {
 
 class SndfileAudioFile;
 
-/// Codes are the system's error numbers (errno). Whatever is refused leaves no file behind.
+/// Codes are errno values. A failed creation leaves no file behind.
 class SndfileAudioFiles final : public AudioFiles {
 public:
     SndfileAudioFiles();

@@ -11,9 +11,9 @@
 
 namespace fadeloom {
 
-static_assert(std::is_same_v<std::int32_t, int>);  // libsndfile's samples.
+static_assert(std::is_same_v<std::int32_t, int>);  // The sample type of libsndfile.
 
-/// How libsndfile reaches the disk.
+/// libsndfile's virtual IO.
 struct WaveFile::Callbacks {
     static WaveFile& of(void* self) { return *static_cast<WaveFile*>(self); }
 
@@ -60,7 +60,7 @@ bool WaveFile::open(int sampleRate)
     if (!file_ || sf_set_chunk(file_.get(), &junk) != SF_ERR_NO_ERROR)
         return false;
     updateHeader();
-    updateHeader();  // The first one told the file's size before the room was in it.
+    updateHeader();  // The first header was written before the reserved space was added.
     return disk_->size() == sizeof(WaveHeader);
 }
 

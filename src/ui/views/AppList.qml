@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The rows of the mixer, one of them open at most.
+// The rows of the mixer, at most one of them expanded.
 pragma ComponentBehavior: Bound
 
 import QtQuick

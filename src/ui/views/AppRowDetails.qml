@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What can be set for one app beside its volume.
+// An app's settings other than its volume.
 pragma ComponentBehavior: Bound
 
 import QtQuick

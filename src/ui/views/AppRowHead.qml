@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is always seen of an app: its picture, its state, its fader and its meter.
+// The part of a row that is always visible: icon, state, fader and meter.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -72,7 +72,7 @@ Item {
         from: 0
         to: head.row.limitPercent
         boostFrom: 100
-        stepSize: 5 // A smaller one would never leave the snap at 100 %.
+        stepSize: 5 // A smaller step would never leave the snap at 100 %.
         modelValue: head.row.volumePercent
         isMuted: head.row.isMuted
         spokenValue: head.row.spokenVolume

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One app: its state, and what lies below while it is open.
-// Not bound: the Loader of Qt 6.4 refuses components that are.
+// One app: its row, and the details below while it is expanded.
+// Not bound: the Loader of Qt 6.4 rejects bound components.
 // qmllint disable unqualified
 import QtQuick
 import Fadeloom

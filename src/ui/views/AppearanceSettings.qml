@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the panel looks.
+// The panel's appearance.
 pragma ComponentBehavior: Bound
 
 import QtQuick

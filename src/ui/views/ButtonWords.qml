@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a button shows: a symbol, words that end in "…" where there is no room for them, and the sign of a menu.
+// The content of a button: a symbol, text that is elided if necessary, and the menu indicator.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -13,7 +13,7 @@ Row {
     required property color colour
     required property bool hasChevron
     property int size: 12
-    // How wide all of it may become, and how wide it wants to be.
+    // The maximum and the natural width of the whole.
     required property real widest
     readonly property real natural: words.implicitWidth + widthOfSymbols
     readonly property real widthOfSymbols: (symbol !== "" ? 13 + spacing : 0) + (hasChevron ? 9 + spacing : 0)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The apps whose calls lower the others.
+// The apps whose calls duck the others.
 pragma ComponentBehavior: Bound
 
 import QtQuick

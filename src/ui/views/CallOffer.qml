@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An app that may be on a call, offered as a call app: one click, or never again.
+// An app that may be on a call, suggested as a call app: accept or decline.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What happens to other apps during a call.
+// Ducking of other apps during a call.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The card that a row lies on.
+// The background of a row.
 pragma ComponentBehavior: Bound
 
 import QtQuick

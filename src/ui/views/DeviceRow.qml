@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where one app plays.
+// One app's output.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A line between parts.
+// A separator line.
 pragma ComponentBehavior: Bound
 
 import QtQuick

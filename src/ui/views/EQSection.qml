@@ -38,7 +38,7 @@ Item {
         id: bands
         anchors.top: curve.bottom
         anchors.topMargin: 14
-        // Each band lies under its point of the curve.
+        // Each band is below its point of the curve.
         x: 6
         eq: section.eq
     }

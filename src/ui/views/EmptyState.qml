@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the mixer shows while there is nothing to mix.
+// Shown by the mixer while it is empty.
 pragma ComponentBehavior: Bound
 
 import QtQuick

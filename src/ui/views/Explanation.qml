@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a setting does, in small words under it.
+// Small text below a setting that explains it.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A horizontal slider. It shows `modelValue` and nothing else: what the hand does is asked for with `edited`, and the
-// model's answer is what is seen, also when the model snaps or refuses.
+// A horizontal slider. It displays only `modelValue`: user input emits `edited`, and the model's response is displayed,
+// even if the model snaps or refuses.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,14 +11,14 @@ T.Slider {
     id: fader
 
     property real modelValue: 0
-    // Where the fill begins.
+    // The origin of the fill.
     property real origin: from
     property real thumb: 14
     property bool isMuted: false
-    // Above this the fill is a boost; a tick stands there when there is room beyond.
+    // Above this the fill is a boost; a tick marks it if the range extends beyond.
     property real boostFrom: to
     property string spokenValue
-    // What the accessibility of Qt reads.
+    // Read by Qt's accessibility.
     readonly property real minimumValue: from
     readonly property real maximumValue: to
     readonly property real low: Math.min(modelValue, origin)
@@ -44,7 +44,7 @@ T.Slider {
     }
     onModelValueChanged: sync()
     onPressedChanged: sync()
-    // Also for the keyboard and for assistive programs, which move the value without a word.
+    // Also for keyboard and assistive technology, which change the value without a move signal.
     onValueChanged: {
         if (!isReady || Math.abs(value - Math.max(from, Math.min(to, modelValue))) < 1e-6)
             return;

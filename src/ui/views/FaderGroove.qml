@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a fader's thumb runs along: the part that is filled, a boost in its own colour, and a tick where that begins.
+// A fader's groove: the filled part, a boost in a different colour, and a tick where that begins.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -15,7 +15,7 @@ Item {
     required property real fillEnd
     required property real boostStart
     required property real boostEnd
-    // Whether there is room for a boost.
+    // Whether the range includes a boost.
     required property bool hasTick
     readonly property real opacityOfFill: isMuted ? 0.45 : 1
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Shows where the keyboard is; fills the control that it lies in.
+// Marks the focused control; fills the control that contains it.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The start at login, the language, and the way back to the defaults.
+// Start at login, language, and reset.
 pragma ComponentBehavior: Bound
 
 import QtQuick

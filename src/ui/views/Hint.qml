@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A help text that comes when the pointer rests on what it lies in.
-// Not bound: the Loader of Qt 6.4 refuses components that are.
+// A tooltip that appears when the pointer rests on its parent.
+// Not bound: the Loader of Qt 6.4 rejects bound components.
 // qmllint disable unqualified
 import QtQuick
 import QtQuick.Templates as T

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Text of the panel. One line stands in the middle of its height; a wrapped one has a height for each line.
+// Text of the panel. A single line is centred in its height; wrapped text has a fixed line height.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The file that was recorded last, and the way to it.
+// The most recent recording, with a link to it.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How loud it is right now, drawn as it comes.
+// The current level, drawn without animation.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -16,7 +16,7 @@ Rectangle {
     Accessible.ignored: true
 
     Rectangle {
-        visible: width >= 1  // A level that falls takes seconds to end, long after it can be seen.
+        visible: width >= 1 // A decaying level takes seconds to reach zero, long after it is visible.
         width: bar.width * bar.level
         height: bar.height
         radius: Math.min(width, height) / 2

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Words that can be pressed.
+// Text that can be pressed.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The entries of an open menu, and the one under the hand or the keyboard.
+// The entries of an open menu, with the current one highlighted.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,7 +11,7 @@ FocusScope {
     required property var entries
     // These stay below the others, which scroll.
     required property var pinned
-    // Whether the menu is open and so has the keyboard.
+    // Whether the menu is open and therefore has the focus.
     required property bool hasKeyboard
     property int current: -1
     readonly property var all: [...entries, ...pinned]
@@ -53,7 +53,7 @@ FocusScope {
         current = next;
         showCurrent();
     }
-    // The entry has the keyboard, so that a screen reader speaks of it.
+    // The entry gets the focus, so that a screen reader announces it.
     function focusCurrent() {
         const line = current < entries.length ? lines.lineAt(current) : pinnedLines.lineAt(current);
         if (hasKeyboard && line)

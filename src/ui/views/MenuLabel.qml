@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The words that open a menu and say what is chosen in it. They end on the right edge; their ground hangs out.
+// Text that opens a menu and shows its selection. It is aligned to the right edge; its background extends beyond it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,7 +11,7 @@ Pressable {
     readonly property PopUpMenu menu: popup
     property alias entries: popup.entries
     property alias pinned: popup.pinned
-    // Menus are read while they are open only.
+    // Menus are read only while they are open.
     readonly property alias isOpen: popup.isWanted
     property int size: 12
     required property string spokenName
@@ -49,7 +49,7 @@ Pressable {
             Accessible.ignored: true
         }
         Symbol {
-            // The glyph, not its box, ends on the edge.
+            // The glyph, not its box, is aligned to the edge.
             x: parent.width - width + 1
             anchors.verticalCenter: parent.verticalCenter
             name: "chevron.down"

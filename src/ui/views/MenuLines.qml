@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Some entries of an open menu below each other.
+// Several entries of an open menu in a column.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +9,7 @@ Column {
     id: column
 
     required property var entries
-    // The position of the entry under the hand, and of our first one, in the whole menu.
+    // The index of the current entry, and of our first one, in the whole menu.
     required property int current
     property int first: 0
 

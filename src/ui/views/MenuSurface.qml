@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The ground of an open menu, with its shadow.
+// The background of an open menu, with its shadow.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -12,7 +12,7 @@ Item {
         model: [[16, 10, 0.08], [11, 7, 0.18], [7, 4, 0.35], [4, 2, 0.6], [2, 1, 1]]
 
         Rectangle {
-            // How far it reaches beyond the menu, how far it falls below it, and how dark it is.
+            // Spread, vertical offset and opacity.
             required property var modelData
 
             x: -modelData[0]

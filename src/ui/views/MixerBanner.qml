@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The place of a message across the mixer, which opens and closes.
+// The area for a message across the mixer, which expands and collapses.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +9,7 @@ Item {
     id: space
 
     required property PanelModel panel
-    // What is shown stays while the banner closes.
+    // The content is kept while the banner collapses.
     property int kind
     readonly property int wanted: panel.banner
     readonly property bool isOpen: wanted !== PanelModel.Banner.None

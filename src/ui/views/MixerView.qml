@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The system's output, what is to be said, and one row for each app.
+// The system's output, messages, and one row per app.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,9 +9,9 @@ Column {
     id: mixer
 
     required property PanelModel panel
-    // The app whose row is open; at most one is.
+    // The app whose row is expanded; at most one is.
     property string expandedApp
-    // The height that there is.
+    // The available height.
     property real limit: 100000
 
     OutputPicker {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A line of text to type.
+// A single-line text field.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The system's own output.
+// The system's default output.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A page that comes fades in and slides a little; without animations it is simply there.
+// The transition to a page: it fades in and slides a little; without animations it appears immediately.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,7 +11,7 @@ ParallelAnimation {
     required property Item page
     required property Translate slide
     required property bool isAnimated
-    // From where it slides to its place.
+    // The initial offset.
     required property real offset
 
     NumberAnimation {

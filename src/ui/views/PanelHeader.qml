@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The program's name, a newer version of it, and the ways to the settings and out.
+// The program's name, an available update, and the buttons for settings and quitting.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -49,7 +49,7 @@ Item {
     }
     SymbolButton {
         id: quitButton
-        // The glyph, not the frame, ends on the right content edge.
+        // The glyph, not the frame, is aligned to the right content edge.
         x: parent.width - Theme.margin - width + 6
         y: 11
         symbol: "power"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The panel in its own size: a header, and below it the settings, the question for permission, or the mixer.
-// Not bound: the Loader of Qt 6.4 refuses components that are.
+// The panel at its natural size: a header, and below it the settings, the permission request, or the mixer.
+// Not bound: the Loader of Qt 6.4 rejects bound components.
 // qmllint disable unqualified
 import QtQuick
 import Fadeloom
@@ -9,15 +9,15 @@ Rectangle {
     id: root
 
     required property PanelModel panel
-    // Lives as long as the view: a panel that is built again starts with all rows closed.
+    // Lives as long as the view: a recreated panel starts with all rows collapsed.
     property string expandedApp
-    // The height that the screen leaves to the panel.
+    // The height available on the screen.
     property real availableHeight: 100000
     // Whether the window can be transparent outside of rounded corners.
     property bool hasRoundCorners: true
-    // Off when the settings are to be seen at a stretch.
+    // Off for pictures of the complete settings.
     property bool limitsSettings: true
-    // The first page does not arrive.
+    // No transition for the first page.
     property bool isReady: false
     readonly property real bodyLimit: availableHeight - body.y
     readonly property real opacityOfGround: Theme.isTranslucent ? 0.94 : 1

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Asks for the permission to capture, or says how to give it.
+// Requests the permission to capture, or explains how to grant it.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The texts that name a facility of the system. The keys are the words of macOS; the translations, the English
-// one too, have the words of a Linux desktop, and two tables of macOS stand over them there.
+// Texts that name a facility of the system. The keys are the macOS wording; the translations, including the English
+// one, have the wording for a Linux desktop, and two tables override them on macOS.
 pragma Singleton
 
 import QtQuick

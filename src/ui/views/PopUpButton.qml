@@ -14,7 +14,7 @@ PushButton {
     signal chosen(string key)
 
     hasChevron: true
-    // Menus are read while they are open only.
+    // Menus are read only while they are open.
     isOpen: popup.isWanted
     Accessible.role: Accessible.ComboBox
     Accessible.name: spokenName === "" ? text : spokenName + ", " + text

@@ -11,17 +11,17 @@ T.Popup {
 
     property var entries: []
     property var pinned: []
-    // From just before the menu opens until it has closed: whoever fills it does so meanwhile.
+    // From just before the menu opens until it has closed; the owner fills it during that time.
     property bool isWanted: false
     // The width of the widest entry.
     property real natural: 0
-    // The right edge and the top in the window, and the height that there is.
+    // The right edge and the top in the window, and the available height.
     property real right: 364
     property real top: 0
     readonly property real space: parent ? parent.height / Theme.zoom : 0
-    // Where it begins, as everything here in the panel's own size.
+    // The origin, in the panel's coordinates.
     readonly property real upper: Math.max(6, Math.min(top, space - 6 - least))
-    // It rather shrinks below what opened it than covers that; in a low panel it moves up, and shrinks at last.
+    // It shrinks rather than cover its opener; in a low panel it moves up first.
     readonly property real wanted: content.wantedHeight + 2 * padding
     readonly property real least: Math.min(wanted, 220)
     readonly property MenuContent content: MenuContent {

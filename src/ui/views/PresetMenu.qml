@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which curve is chosen, and what else can be done with curves.
+// The selected preset, and actions for presets.
 pragma ComponentBehavior: Bound
 
 import QtQuick

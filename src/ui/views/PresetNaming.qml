@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Asks for the name of a new preset. Closed, it has no height.
+// Prompts for the name of a new preset. Collapsed, it has no height.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What all our buttons have in common: a press by mouse, key or an assistive program is one `clicked`.
+// Base of all our buttons: a press by mouse, key or assistive technology emits `clicked` once.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A button with a ground of its own.
+// A button with a background.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Records one app's sound.
+// Records one app.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where recordings go.
+// The recordings folder.
 pragma ComponentBehavior: Bound
 
 import QtQuick

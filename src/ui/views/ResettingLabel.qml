@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A value in words that a double click sets back.
+// A value as text that a double click resets.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The panel's content, and its look. Where the desktop's text is larger the whole panel is: no word has less room.
+// The panel's content and appearance. With a larger text size on the desktop the whole panel is scaled, so no text is
+// cramped.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -10,12 +11,12 @@ Item {
 
     required property PanelModel panel
     property alias expandedApp: sheet.expandedApp
-    // The height that the screen leaves to the panel.
+    // The height available on the screen.
     property real availableHeight: 100000
-    // Whether the window can be transparent outside of rounded corners, and a little everywhere.
+    // Whether the window can be transparent outside of rounded corners, and slightly everywhere.
     property alias hasRoundCorners: sheet.hasRoundCorners
     property bool isTranslucent: false
-    // Off when the settings are to be seen at a stretch.
+    // Off for pictures of the complete settings.
     property alias limitsSettings: sheet.limitsSettings
 
     width: implicitWidth

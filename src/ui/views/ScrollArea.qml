@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Shows a part of what is too high for its place, and follows the keyboard.
+// Scrolls content that does not fit, and follows the focus.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -7,10 +7,10 @@ import QtQuick
 Flickable {
     id: area
 
-    // What stays free around the control with the keyboard.
+    // The margin around the focused control.
     readonly property real margin: 12
     readonly property Item focused: Window.activeFocusItem
-    // Until the user scrolls, what has the keyboard stays in sight: it may need room that is yet to come.
+    // Until the user scrolls, the focused control stays visible, even if its size is still changing.
     property bool isFollowing: false
 
     clip: true

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One of the choices of a segmented picker.
+// One option of a segmented picker.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One of a few, all of them seen.
+// Selects one of a few options, all of them visible.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A setting: its words on the left, its control on the right edge, its explanation below.
+// A setting: its text on the left, its control on the right edge, its explanation below.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Every global option.
+// All global settings.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What an app is doing, and what can be done about a failure.
+// An app's status, with actions for a failure.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +9,7 @@ Row {
     id: statusRow
 
     required property AppRowModel row
-    // How wide the words may become.
+    // The maximum width of the text.
     required property real widest
 
     spacing: 4

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One of our symbols in one colour. Its box is square; it is drawn for the screen's own pixels.
+// One of our symbols in one colour. Its box is square; it is rendered at device resolution.
 pragma ComponentBehavior: Bound
 
 import QtQuick

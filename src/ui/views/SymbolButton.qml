@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A symbol that can be pressed; its words are heard and hinted, not seen.
+// A symbol that can be pressed; its text is for screen readers and the tooltip.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Colours, type and times. RootView sets the look; every other view reads it.
+// Colours, fonts and durations. RootView sets the appearance; all other views read it.
 pragma Singleton
 
 import QtQuick
@@ -10,13 +10,13 @@ QtObject {
     property bool glass: true
     property bool animations: true
     property bool hasHighContrast: false
-    // Of the whole panel.
+    // For the whole panel.
     property real zoom: 1
-    // The desktop's favourite colour, for text and below it; transparent where it has none.
+    // The desktop's accent colour, for text and backgrounds; transparent without one.
     property color accentInk: "transparent"
     property color accentFill: "transparent"
     readonly property bool hasAccent: accentFill.a > 0
-    // Whether the window lets what is behind it shine through.
+    // Whether the window is translucent.
     property bool isTranslucent: false
 
     readonly property color panelTop: isDark ? "#23212b" : "#f8f7fb"
@@ -50,11 +50,11 @@ QtObject {
     readonly property color violet: Qt.rgba(0.65, 0.30, 0.94, 1)
     readonly property color pink: Qt.rgba(0.96, 0.36, 0.62, 1)
 
-    // What lies on a filled ground, and the knobs of controls.
+    // For content on a filled background, and the knobs of controls.
     readonly property color inkOnFill: "#ffffff"
 
     readonly property int panelWidth: 380
-    // Of the content, on both sides.
+    // Horizontal content margins.
     readonly property int margin: 22
     readonly property string family: "Fadeloom Inter"
 
@@ -67,7 +67,7 @@ QtObject {
     readonly property int menuIn: time(90)
     readonly property int menuOut: time(60)
 
-    // The ink at an opacity, for neutral layers.
+    // The foreground colour at an opacity, for neutral layers.
     function layer(opacity) {
         return Qt.rgba(ink.r, ink.g, ink.b, opacity);
     }

@@ -18,7 +18,7 @@ Item {
         model: [Qt.point(1.5, 0.07), Qt.point(1, 0.10), Qt.point(0.5, 0.14)]
 
         Rectangle {
-            // How far it reaches beyond the thumb, and how dark it is.
+            // Spread and opacity.
             required property point modelData
 
             anchors.centerIn: parent

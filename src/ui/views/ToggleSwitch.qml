@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// On or off. It shows `isOn` and asks for the other with `asked`.
+// A switch. It displays `isOn` and emits `asked` to request the opposite.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -20,7 +20,7 @@ T.CheckBox {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     checked: isOn
-    // A click asks; the state changes when the model does.
+    // A click only requests a change; the state follows the model.
     nextCheckState: () => isOn ? Qt.Checked : Qt.Unchecked
     Accessible.name: text
     Accessible.onPressAction: flip()

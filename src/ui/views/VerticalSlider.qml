@@ -15,7 +15,7 @@ Item {
     property string spokenValue
     property string help
     property bool visualFocus: false
-    // What assistive programs read and write; see onValueChanged.
+    // Read and written by assistive technology; see onValueChanged.
     property real value: modelValue
     property real stepSize: 1
 
@@ -61,7 +61,7 @@ Item {
         step(event.key === Qt.Key_Up ? 1 : -1);
         event.accepted = true;
     }
-    // Focus that came by the keyboard shows; focus that came by the mouse does not.
+    // Only focus by keyboard is visible, focus by mouse is not.
     Keys.onReleased: event => {
         if (event.key === Qt.Key_Tab || event.key === Qt.Key_Backtab)
             visualFocus = true;
@@ -100,7 +100,7 @@ Item {
         isFocused: slider.activeFocus && slider.visualFocus
     }
     MouseArea {
-        // A hand that shakes during a double click must not undo it.
+        // Movement during a double click must not undo the reset.
         property bool wasReset: false
 
         anchors.fill: parent

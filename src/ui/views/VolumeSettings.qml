@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How loud apps may become.
+// The volume limit of apps.
 pragma ComponentBehavior: Bound
 
 import QtQuick

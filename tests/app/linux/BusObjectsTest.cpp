@@ -11,7 +11,7 @@
 namespace fadeloom {
 namespace {
 
-TEST(BusObjects, havePathsOfWhatAPathMayHold)
+TEST(BusObjects, havePathsOfValidCharacters)
 {
     EXPECT_EQ(busElement("firefox"), QStringLiteral("firefox"));
     EXPECT_EQ(busElement("com.example.a_b"), QStringLiteral("com_2eexample_2ea_5fb"));
@@ -20,7 +20,7 @@ TEST(BusObjects, havePathsOfWhatAPathMayHold)
     EXPECT_EQ(busPathOfOutput(std::nullopt).path(), QStringLiteral("/"));
 }
 
-TEST(BusObjects, takeNumbersOfEveryKindForADouble)
+TEST(BusObjects, acceptAnyNumberForADouble)
 {
     const auto d = QStringLiteral("d");
     EXPECT_EQ(busValue(1, d), QVariant(1.0));
@@ -31,7 +31,7 @@ TEST(BusObjects, takeNumbersOfEveryKindForADouble)
     EXPECT_FALSE(busValue(true, d).isValid());
 }
 
-TEST(BusObjects, takeOtherValuesAsTheyAreDeclared)
+TEST(BusObjects, takeOtherValuesVerbatim)
 {
     EXPECT_EQ(busValue(true, QStringLiteral("b")), QVariant(true));
     EXPECT_FALSE(busValue(1, QStringLiteral("b")).isValid());

@@ -8,7 +8,7 @@ namespace {
 
 using Start = SingleInstance::Start;
 
-TEST(SecondStart, theFirstIsNone)
+TEST(SecondStart, theFirstMayRun)
 {
     EXPECT_FALSE(secondStart(Start::first, InstanceRequest::open));
     EXPECT_FALSE(secondStart(Start::first, InstanceRequest::ping));
@@ -19,7 +19,7 @@ TEST(SecondStart, isASuccessWhenThePanelIsOpen)
     EXPECT_EQ(secondStart(Start::answered, InstanceRequest::open)->exitStatus, 0);
 }
 
-TEST(SecondStart, hasAStatusOfItsOwnWhenNothingWasDone)
+TEST(SecondStart, hasADistinctStatusWhenNothingWasDone)
 {
     EXPECT_EQ(secondStart(Start::answered, InstanceRequest::ping)->exitStatus, 3);
     EXPECT_EQ(secondStart(Start::withoutPanel, InstanceRequest::open)->exitStatus, 3);

@@ -15,7 +15,7 @@
 namespace fadeloom {
 namespace {
 
-/// The part of the picture that is clearly told from a bar of this colour.
+/// The fraction of the picture that contrasts with a bar of this colour.
 double visiblePart(const QIcon& icon, int size, const QColor& bar)
 {
     QImage image(size, size, QImage::Format_RGB32);
@@ -37,7 +37,7 @@ protected:
     OffscreenApplication application;
 };
 
-TEST_F(TrayPictureTest, isSeenOnEveryBarWhateverTheDesktopsLook)
+TEST_F(TrayPictureTest, isVisibleOnEveryBarWhateverTheColourScheme)
 {
     for (const bool isDark : {true, false}) {
         const auto icon = trayDrawing(isDark);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is delicate about the fast form, held against the plain one.
+// Corner cases of the fast implementation, compared with the plain one.
 #include "engine/kernels/FastRender.h"
 
 #include "tests/engine/kernels/KernelTest.h"
@@ -36,7 +36,7 @@ protected:
     {
         return {std::vector(frames, left), std::vector(frames, right)};
     }
-    /// With so many bands that are not flat.
+    /// With this many bands that are not flat.
     static EQCoefficients bands(std::size_t count)
     {
         std::vector<float> gains(10);
@@ -92,7 +92,7 @@ TEST_P(FastRenderOf, aBlockWithoutFramesChangesNothing)
     EXPECT_EQ(forms->fastState(), before);
 }
 
-TEST_P(FastRenderOf, bandsThatAreSwitchedOffFadeFromTheFirstFrameOn)
+TEST_P(FastRenderOf, bandsThatAreSwitchedOffDecayFromTheFirstFrameOn)
 {
     for (const std::size_t frames : {1U, 2U, 3U, 64U}) {
         ASSERT_EQ(render(equalized(tenBands), sound(256)), same);
@@ -103,7 +103,7 @@ TEST_P(FastRenderOf, bandsThatAreSwitchedOffFadeFromTheFirstFrameOn)
     }
 }
 
-TEST_P(FastRenderOf, newSectionsCountAlsoWhenTheyComeInSilence)
+TEST_P(FastRenderOf, newSectionsTakeEffectDuringSilence)
 {
     ASSERT_EQ(render(equalized(flat), sound(64)), same);
     ASSERT_EQ(render(equalized(tenBands), constant(512, 0, -0.0F)), same);
@@ -112,7 +112,7 @@ TEST_P(FastRenderOf, newSectionsCountAlsoWhenTheyComeInSilence)
     ASSERT_EQ(render(equalized(fiveBands), sound(512)), same);
 }
 
-TEST_P(FastRenderOf, newSectionsCountAlsoWhenTheyComeInAShortBlock)
+TEST_P(FastRenderOf, newSectionsTakeEffectInAShortBlock)
 {
     for (const auto& sections : {tenBands, fiveBands, flat, tenBands}) {
         ASSERT_EQ(render(equalized(sections), sound(3)), same);
@@ -120,20 +120,20 @@ TEST_P(FastRenderOf, newSectionsCountAlsoWhenTheyComeInAShortBlock)
     }
 }
 
-TEST_P(FastRenderOf, theEqualizerGoesOnWhereItWasSwitchedOff)
+TEST_P(FastRenderOf, theEqualizerResumesWhereItWasSwitchedOff)
 {
     ASSERT_EQ(render(equalized(tenBands), sound(512)), same);
     ASSERT_EQ(render({.sections = tenBands}, sound(512)), same);
     ASSERT_EQ(render(equalized(tenBands), constant(512, 0, 0)), same);
 }
 
-TEST_P(FastRenderOf, silenceBecomesSilenceAndStaysOne)
+TEST_P(FastRenderOf, silenceRemainsSilence)
 {
     ASSERT_EQ(render(equalized(tenBands), sound(48000)), same);
     for (int second = 0; second < 8; ++second)
         ASSERT_EQ(render(equalized(tenBands), constant(48000, 0, 0)), same);
 
-    // The plain form ends in numbers that processors are slow with.
+    // The plain implementation ends in denormals.
     EXPECT_EQ(forms->fastState().left, EQChannelState{});
     EXPECT_EQ(forms->fastState().right, EQChannelState{});
     EXPECT_EQ(render(equalized(tenBands), constant(512, -0.0F, 0)), same);
@@ -141,7 +141,7 @@ TEST_P(FastRenderOf, silenceBecomesSilenceAndStaysOne)
     EXPECT_EQ(render(equalized(tenBands), sound(512)), same);
 }
 
-TEST_P(FastRenderOf, outputIsFlushedAtTheSameNumber)
+TEST_P(FastRenderOf, outputIsFlushedAtTheSameThreshold)
 {
     const auto threshold = static_cast<float>(eqOutputFlush);
     std::vector<float> samples;
@@ -182,9 +182,9 @@ TEST_P(FastRenderOf, sectionsThatOverflowStaySilent)
     EXPECT_EQ(render(equalized(flat), sound(512)), same);
 }
 
-TEST_P(FastRenderOf, aGlideThatStopsShortOfItsTargetIsExact)
+TEST_P(FastRenderOf, aRampThatStopsShortOfItsTargetIsExact)
 {
-    // In single precision these steps come to nothing a little below the target.
+    // In single precision these steps vanish slightly below the target.
     const float slow = onePoleCoefficient(192000, 0.05);
     startFrom({.gain = {.current = 0.5F, .coefficient = slow}, .limiter = {.release = 0.001F}});
     for (int call = 0; call < 40; ++call)
@@ -207,7 +207,7 @@ TEST_P(FastRenderOf, aReleaseThatStopsShortOf1IsExact)
     EXPECT_EQ(render(equalized(tenBands), sound(512, 4)), same);
 }
 
-TEST_P(FastRenderOf, aBoostThatBeginsWithinABlockIsLimitedFromThereOn)
+TEST_P(FastRenderOf, aBoostThatStartsWithinABlockIsLimitedFromThereOn)
 {
     startFrom({
         .gain = {.current = 0.9F, .coefficient = 0.01F},
@@ -217,7 +217,7 @@ TEST_P(FastRenderOf, aBoostThatBeginsWithinABlockIsLimitedFromThereOn)
     EXPECT_EQ(render({.gainTarget = 1.2F, .sections = flat}, sound(256, 1)), same);
 }
 
-TEST_P(FastRenderOf, targetsThatAreNoNumbersAreTheSameSilence)
+TEST_P(FastRenderOf, nanTargetsAreTheSameSilence)
 {
     for (const float target :
         {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity()}) {

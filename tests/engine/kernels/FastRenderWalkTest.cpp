@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Long random walks, on which the fast form has to give every bit of the plain one.
+// Long random walks, on which the fast implementation must give every bit of the plain one.
 #include "engine/kernels/FastRender.h"
 
 #include "tests/engine/kernels/KernelTest.h"
@@ -17,7 +17,7 @@ constexpr std::uint64_t framesOfAWalk = 100'000;
 
 class FastRenderWalk : public KernelTest { };
 
-TEST_P(FastRenderWalk, givesTheBitsOfThePlainForm)
+TEST_P(FastRenderWalk, isBitExact)
 {
     for (std::uint64_t seed = 1; seed <= 30; ++seed)
         ASSERT_EQ(RenderWalk(kernels(), seed).walk(framesOfAWalk), std::nullopt) << "seed " << seed;
@@ -25,7 +25,7 @@ TEST_P(FastRenderWalk, givesTheBitsOfThePlainForm)
 
 class FastRenderLongForm : public KernelTest { };
 
-TEST_P(FastRenderLongForm, givesTheBitsOfThePlainFormForFiftyMillionFrames)
+TEST_P(FastRenderLongForm, isBitExactForFiftyMillionFrames)
 {
     for (std::uint64_t seed = 1001; seed <= 1500; ++seed)
         ASSERT_EQ(RenderWalk(kernels(), seed).walk(framesOfAWalk), std::nullopt) << "seed " << seed;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The same sound on every processor: what comes out of a fixed piece has one digest, wherever it is rendered.
+// The same output on every processor: a fixed piece has one digest, wherever it is rendered.
 //
-// Everything that goes in is written down here. The design of coefficients is left out, for it uses sines and powers
-// that libraries round differently.
-#include "engine/kernels/FastRender.h"
+// All inputs are literals. The design of coefficients is not included, because it uses sines and powers that libraries
+// round differently.
 #include "engine/PlainRender.h"
+#include "engine/kernels/FastRender.h"
 #include "tests/engine/kernels/KernelTest.h"
 
 #include <gtest/gtest.h>
@@ -71,7 +71,7 @@ private:
 
 class DigestedNoise {
 public:
-    /// From -1 to 1, in steps that single precision can tell apart.
+    /// From -1 to 1, in steps that single precision can distinguish.
     float next()
     {
         state_ = state_ * 6364136223846793005 + 1442695040888963407;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The plain and the fast form of the render path on the same sound, held against each other bit for bit.
+// The plain and the fast implementation of the render path on the same input, compared bit for bit.
 #pragma once
 
-#include "engine/kernels/FastRender.h"
 #include "engine/PlainRender.h"
+#include "engine/kernels/FastRender.h"
 
 #include <bit>
 #include <cstddef>
@@ -15,7 +15,7 @@
 
 namespace fadeloom {
 
-/// One block of both sides.
+/// One block of both channels.
 struct StereoBlock {
     std::vector<float> left;
     std::vector<float> right;
@@ -31,7 +31,7 @@ public:
     {
     }
 
-    /// Renders the block with both. Tells where they differ, if they do.
+    /// Renders the block with both. Reports differences, if any.
     [[nodiscard]] std::optional<std::string> render(const RenderSettings& settings, const StereoBlock& block)
     {
         plain_ = block;
@@ -52,7 +52,7 @@ public:
         return differenceOf("reduction", plainState_.limiter.reduction, fastState_.limiter.reduction);
     }
 
-    /// What came out last, of either form.
+    /// The last output of either implementation.
     [[nodiscard]] const StereoBlock& output() const { return fromFast_; }
     [[nodiscard]] const RenderState& plainState() const { return plainState_; }
     [[nodiscard]] const RenderState& fastState() const { return fastState_; }

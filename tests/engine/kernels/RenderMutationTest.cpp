@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The walk tells apart what differs in nothing but the order of two additions: whoever rewrites a section sees it fail.
+// The walk detects a mere change in the order of two additions, as an accidental rewrite of a section would make.
 #include "engine/kernels/VectorKernels.h"
 
 #include "tests/engine/kernels/RenderWalk.h"
@@ -33,7 +33,7 @@ TEST(RenderMutation, kernelsMadeHereAgreeWithThePlainForm)
     EXPECT_EQ(RenderWalk(asItIs, 1).walk(frames), std::nullopt);
 }
 
-TEST(RenderMutation, anotherOrderOfTheSameAdditionsIsToldApart)
+TEST(RenderMutation, anotherOrderOfTheSameAdditionsIsDetected)
 {
     EXPECT_NE(RenderWalk(reassociated, 1).walk(frames), std::nullopt);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// A random walk through what an app's sound and settings may be, for both forms of the render path.
+// A random walk through possible inputs and settings, for both implementations of the render path.
 //
-// It is one walk, not many calls: what one call leaves behind is where the next one begins.
+// It is one walk, not many calls: each call starts from the state that the previous one left.
 #pragma once
 
 #include "engine/EqualizerDesign.h"
@@ -27,7 +27,7 @@ public:
     {
     }
 
-    /// Walks on for this many frames or a few more. Tells where the forms differ, if they do.
+    /// Continues for about this many frames. Reports where the implementations differ, if they do.
     [[nodiscard]] std::optional<std::string> walk(std::uint64_t frames)
     {
         for (const std::uint64_t end = frames_ + frames; frames_ < end; ++calls_) {
@@ -59,7 +59,7 @@ private:
         return low + (high - low) * static_cast<float>(next() >> 40) * 0x1p-24F;
     }
 
-    // The time constants of the renderer, and faster ones, so that gains and limiter come to rest now and then.
+    // The time constants of the renderer, and faster ones, so that gains and limiter settle now and then.
     RenderState start()
     {
         const double speed = std::array{1.0, 10.0, 100.0}[upTo(3) - 1];
@@ -81,7 +81,7 @@ private:
         };
     }
 
-    // What is known to be delicate comes as a whole, the rest at random.
+    // Known corner cases are chosen as a whole, the rest is random.
     void chooseStep()
     {
         if (oneIn(callsBetweenChanges_))
@@ -160,7 +160,7 @@ private:
             return between(-0.01F, 0.01F);
         case Sound::inaudible:
             return between(-1e-24F, 1e-24F);
-        case Sound::anyExponent:  // 1e-45 to 16: any sign and fraction, exponents from subnormal to 2^3.
+        case Sound::anyExponent:  // 1e-45 to 16: any sign and fraction, exponents from denormal to 2^3.
             return std::ldexp(between(-2, 2), 3 - static_cast<int>(upTo(153)));
         case Sound::notFinite:
             return !oneIn(10) ? between(-1, 1)

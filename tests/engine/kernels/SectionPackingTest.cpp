@@ -75,7 +75,7 @@ TEST(SectionPacking, wideVectorsTakeAllInOnePassAndFewInOneHalf)
     EXPECT_THAT(shapes(10, 2), ElementsAre(Shape{10, 2, 5}));
 }
 
-TEST(SectionPacking, secondHalfGoesOnWhereTheFirstEnds)
+TEST(SectionPacking, secondHalfContinuesWhereTheFirstEnds)
 {
     const auto packing = packed(numbered(), firstBands(6), 2);
     const auto& pass = packing.passes[0];

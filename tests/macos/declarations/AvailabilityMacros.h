@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The versions of the platform that libraries ask for, declared by us.
+// The platform versions queried by libraries, declared by us.
 #pragma once
 
 #include <Availability.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Copying and releasing of blocks, as compilers call it.
+// Copying and releasing blocks, as called by compilers.
 #pragma once
 
 #ifdef __cplusplus

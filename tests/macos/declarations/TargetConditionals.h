@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a Mac is among the platform's kin, declared by us.
+// The platform conditionals of a Mac, declared by us.
 #pragma once
 
 #define TARGET_OS_MAC 1

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The platform's functions for a locale of one's own that the C library which we compile against does not have.
+// The platform's functions for explicit locales that the C library used for compiling lacks.
 #pragma once
 
 #include <locale.h>

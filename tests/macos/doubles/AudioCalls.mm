@@ -49,7 +49,7 @@ std::string textAt(id dictionary, NSString* key)
     return value == nil ? "" : static_cast<NSString*>(value).UTF8String;
 }
 
-/// The procedure that a call is about; null for none.
+/// The procedure concerned by a call; null if there is none.
 Proc* procOf(AudioObjectID device, AudioDeviceIOProcID proc)
 {
     const auto aggregate = world().aggregates.find(device);
@@ -59,7 +59,7 @@ Proc* procOf(AudioObjectID device, AudioDeviceIOProcID proc)
     return found == aggregate->second.procs.end() ? nullptr : &found->second;
 }
 
-/// The record of one procedure tells its own flags: the procedure is named in the bytes that come in.
+/// The record of one procedure contains its own flags: the procedure is given in the input bytes.
 void fillInUsage(AudioObjectID device, const void* given, std::vector<std::byte>& bytes)
 {
     AudioDeviceIOProcID proc = nullptr;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A double of extended audio files: it converts floats and writes WAVE files, at once where the real one waits.
+// A double of extended audio files: it converts floats and writes WAVE files, synchronously where the real one is not.
 #include "tests/macos/doubles/AudioFileDouble.h"
 
 #include "tests/macos/doubles/Journal.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What tests see of extended audio files, and how they have them fail.
+// The tests' view of extended audio files, with fault injection.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the objects of the audio world say of themselves.
+// The properties of the audio world's objects.
 #include "tests/macos/doubles/AudioWorld.h"
 
 #include <cstring>
@@ -34,7 +34,7 @@ Property worded(std::optional<std::string> text)
     return property;
 }
 
-/// Ids of streams, which nobody asks anything.
+/// Ids of streams, which have no properties.
 Property streams(std::size_t count)
 {
     return listed(std::vector<AudioObjectID>(count, 99));
@@ -63,7 +63,7 @@ Found ofSystem(AudioWorld& world, AudioObjectPropertySelector selector)
     }
     case kAudioHardwarePropertyProcessObjectList:
         return idsOf(world.processes);
-    case kAudioHardwarePropertyServiceRestarted:  // Which says nothing but that it has.
+    case kAudioHardwarePropertyServiceRestarted:  // A notification without a value.
         return Property{};
     case kAudioHardwarePropertyDefaultOutputDevice: {
         Property property = valued(world.defaultOutput);

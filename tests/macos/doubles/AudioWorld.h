@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // A double of the audio hardware layer: devices, processes, taps, aggregate devices and their IO in memory.
 //
-// It keeps to what is documented of the real one: texts are handed out with a reference that the reader releases, a
-// property that is set changes a moment later, listeners are called on their queue and are known by their block, IO
-// buffers of streams that are switched off have a size but no data, and a taken tap shows as the last input stream.
+// It follows the documented behaviour of the real one: strings are returned with a reference that the reader releases,
+// a property that is set changes a moment later, listeners are called on their queue and identified by their block, IO
+// buffers of disabled streams have a size but no data, and a tap appears as the last input stream.
 #pragma once
 
 #include "tests/macos/doubles/Journal.h"
@@ -44,7 +44,7 @@ struct Process {
     float amplitude = 0;
 };
 
-/// As the audio system keeps it: a copy of what its description said.
+/// The audio system's copy of a description.
 struct Tap {
     std::string uuid;
     std::string name;
@@ -69,7 +69,7 @@ struct Aggregate {
     std::uint64_t framesRun = 0;
 };
 
-/// A value, or the status of asking for it.
+/// A value, or the status of reading it.
 struct Property {
     std::vector<std::byte> bytes{};
     bool isText = false;
@@ -77,11 +77,11 @@ struct Property {
     std::function<OSStatus(const void* data)> write{};
 };
 
-/// Answers for properties in place of the world's own.
+/// Overrides the world's properties.
 class PropertyAnswers {
 public:
     virtual ~PropertyAnswers() = default;
-    /// Before a value is read into these bytes; anything but 0 fails the reading.
+    /// Called before a value is read into these bytes; anything but 0 fails the read.
     virtual OSStatus willRead(AudioObjectID object, const AudioObjectPropertyAddress& address,
         std::span<const std::byte> value) = 0;
     virtual std::expected<Property, OSStatus> property(
@@ -92,37 +92,37 @@ class AudioWorld {
 public:
     static constexpr std::uint32_t framesInCycle = 512;
 
-    /// The one that the functions of the audio hardware layer act on.
+    /// The one that the functions of the audio hardware layer operate on.
     static AudioWorld& current();
-    /// Starts over. Ids go on, so that none comes twice.
+    /// Starts over. Ids continue, so that none is reused.
     void reset();
 
     AudioObjectID plug(Device device);
     void unplug(const std::string& uid);
-    /// It is still listed, and plays no more.
+    /// It is still listed, but plays no more.
     void die(const std::string& uid);
     void setDefaultOutput(const std::string& uid);
-    /// The audio service ends and begins anew: whatever it was given is gone, also those who listened.
+    /// The audio service restarts: all its objects are gone, including listeners.
     void restartService();
     AudioObjectID addProcess(Process process);
     /// Changes a process and tells its listeners.
     void change(std::int32_t pid, const std::function<void(Process&)>& how);
     void endProcess(std::int32_t pid);
 
-    /// The next call that would be noted like this fails.
+    /// The next call with this journal entry fails.
     void failNext(const std::string& call, OSStatus status) { failures[call] = status; }
-    /// What was set takes effect now; listeners are called when their queues run.
+    /// Applies pending changes; listeners are called when their queues run.
     void settleProperties();
-    /// One IO cycle of each procedure that runs, and the time that it takes.
+    /// Runs one IO cycle of each running procedure, and advances the time accordingly.
     void runCycle();
     /// Time passes without a cycle.
     void pause(std::chrono::nanoseconds time) { hostTime += time; }
 
-    // What the functions need.
+    // Used by the functions.
     [[nodiscard]] std::expected<Property, OSStatus> property(
         AudioObjectID object, const AudioObjectPropertyAddress& address);
     void changed(AudioObjectID object, AudioObjectPropertySelector selector);
-    /// Notes a call and its object, and tells whether it fails; 0 when not.
+    /// Records a call and its object, and returns its fault; 0 if there is none.
     [[nodiscard]] OSStatus begin(const std::string& call, AudioObjectID object);
     [[nodiscard]] AudioObjectID deviceOf(const std::string& uid) const;
     [[nodiscard]] const Tap* tapOf(const std::string& uid) const;
@@ -147,8 +147,8 @@ public:
     std::map<std::string, OSStatus> failures;
     AudioStreamBasicDescription tapFormat{};
     AudioObjectID lastID = 100;
-    std::optional<std::uint32_t>
-        inputsOfAggregates{};  // In place of those that their devices and taps give them.
+    // Overrides those of their devices and taps.
+    std::optional<std::uint32_t> inputsOfAggregates{};
     std::chrono::nanoseconds hostTime = std::chrono::hours(1);
     PropertyAnswers* answers = nullptr;
 

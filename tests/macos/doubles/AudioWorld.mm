@@ -171,7 +171,7 @@ void AudioWorld::runCycle()
 
 namespace {
 
-/// A buffer list of any length, and its samples.
+/// A buffer list of any length, with its samples.
 class Buffers {
 public:
     void add(std::uint32_t channels, bool hasData)

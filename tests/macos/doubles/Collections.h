@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Lists and dictionaries as tests make and read them.
+// Creates and reads lists and dictionaries in tests.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -20,7 +20,7 @@
 
 namespace doubles {
 
-/// A value as text: strings as they are, truths as yes and no, lists in [], dictionaries in {} in the order given.
+/// A value as text: strings verbatim, booleans as yes and no, lists in [], dictionaries in {} in insertion order.
 std::string described(id value);
 
 }  // namespace doubles

@@ -40,7 +40,7 @@ using doubles::crash;
 }
 - (id)copy
 {
-    // A list that may grow hands out one that stays as it is.
+    // A mutable list returns an immutable copy.
     return [NSArray arrayWithObjects:reinterpret_cast<const id __unsafe_unretained*>(elements_.data())
                                count:elements_.size()];
 }
@@ -137,7 +137,7 @@ std::string described(id value)
 
 extern "C" {
 
-// What the compiler makes of @[] and @{}.
+// The functions that the compiler calls for @[] and @{}.
 NSArray* __NSArray0__ = [[NSArray alloc] init];
 NSDictionary* __NSDictionary0__ = [[NSDictionary alloc] init];
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A double of the desktop: applications, defaults, the login item, the menu bar and its popover, dialogs.
 //
-// Tests set what the world is like and read what it was asked to show.
+// Tests set the state of the world and read what it was asked to show.
 #pragma once
 
 #import <AppKit/AppKit.h>
@@ -45,16 +45,16 @@
 @end
 
 @interface NSImage ()
-/// What it is a picture of.
+/// The file it was loaded for.
 @property (readonly) NSString* drawnName;
 @end
 
 @interface NSStatusBarButton ()
 @property NSEventMask mask;
 @property (unsafe_unretained) NSStatusItem* owner;
-/// As a user clicks: what is listened for reaches the target.
+/// Clicks like a user: events that are listened for reach the target.
 - (void)click:(NSEventType)type modifiers:(NSEventModifierFlags)modifiers;
-/// As a user clicks where the bar is driven by gestures: the event of the moment is none of the mouse.
+/// Clicks like a user of gestures: the current event is not a mouse event.
 - (void)clickByGesture:(NSEventModifierFlags)heldModifiers;
 @end
 
@@ -63,7 +63,7 @@
 @property NSRectEdge edge;
 @property NSRect place;
 @property (unsafe_unretained) NSView* anchor;
-/// As a user presses the mouse outside of it.
+/// Presses the mouse outside of it, like a user.
 - (void)pressElsewhere;
 @end
 
@@ -98,7 +98,7 @@ struct Desktop {
     long secondsFromGMT = 3600;
     std::string folders = "/Users/someone";  // The user's home; empty: without the folders in it.
 
-    // What the user does just now.
+    // The user's current input.
     NSEventModifierFlags heldModifiers = 0;
     NSPoint mouse{-1, -1};
     NSTimeInterval uptime = 1000;
@@ -111,24 +111,24 @@ struct Desktop {
     };
     std::vector<NotificationObserver> observers{};
 
-    // What is shown.
+    // What is currently shown.
     std::function<void(NSOpenPanel*, std::function<void(NSModalResponse)>)> whenPanelOpens =
         [](NSOpenPanel*, const auto&) { };
     NSModalResponse alertAnswer = NSAlertFirstButtonReturn;
-    /// Called while a menu is open; what it chooses is done after the menu has closed.
+    /// Called while a menu is open; what it chooses runs after the menu has closed.
     std::function<void(NSMenu*)> whenMenuOpens = [](NSMenu*) { };
 };
 
-/// Of the running test, between these two. The application object is there as long.
+/// The desktop of the running test, between these two. The application object exists as long.
 Desktop& desktop();
 Desktop& beginDesktop();
 void endDesktop();
 NSRunningApplication* launch(const std::string& name, pid_t pid, const std::string& bundle);
-/// What is posted reaches the observers of this center: "default", or "workspace".
+/// Posts to the observers of this center: "default", or "workspace".
 void post(const std::string& center, NSNotificationName name);
-/// The popover that was made last.
+/// The most recently created popover.
 NSPopover* lastPopover();
-/// Does what a menu's entry does.
+/// Activates a menu item.
 void choose(NSMenuItem* item);
 std::vector<std::string> titles(NSMenu* menu);
 

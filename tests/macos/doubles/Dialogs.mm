@@ -37,7 +37,7 @@ UTType* const UTTypeApplicationBundle = [[UTType alloc] init];
 - (void)beginWithCompletionHandler:(void (^)(NSModalResponse))answered
 {
     note("panel opens");
-    // It stays until it is answered, whoever else lets go of it.
+    // It is kept until it is answered, even if everybody else releases it.
     void (^kept)(NSModalResponse) = answered;
     desktop().whenPanelOpens(self, [kept](NSModalResponse response) { kept(response); });
 }

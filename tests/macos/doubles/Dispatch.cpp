@@ -15,11 +15,11 @@
 
 extern "C" const doubles::ClassData immortalClass __asm__("OBJC_CLASS_$_ImmortalObject");
 
-/// To Objective-C a queue is an object; to whoever made it in C++, a reference to be released once.
+/// To Objective-C a queue is an object; to its creator in C++, a reference to be released once.
 struct dispatch_queue_s {
     const void* type = &immortalClass;
     int references = 1;
-    unsigned int quality = 0;  // Of an attribute, too.
+    unsigned int quality = 0;  // Also of an attribute.
 };
 
 namespace doubles {
@@ -35,7 +35,7 @@ struct Queues {
     std::recursive_mutex mutex;
     unsigned int lastQuality = 0;
     std::uint64_t now = 1;
-    std::list<Waiting> waiting;  // By due time, then in the order given.
+    std::list<Waiting> waiting;  // By due time, then in the order submitted.
 };
 
 Queues& queues()
@@ -46,7 +46,7 @@ Queues& queues()
 
 thread_local dispatch_queue_t current = nullptr;
 
-/// While a block of a queue runs.
+/// While a block of a queue is running.
 class Turn {
 public:
     explicit Turn(dispatch_queue_t queue)
@@ -179,7 +179,7 @@ void dispatch_sync(dispatch_queue_t queue, dispatch_block_t block)
 {
     if (queue == &_dispatch_main_q)
         crash("waited for the main queue");
-    while (runOne(queues().now, queue)) { }  // What was given before comes first.
+    while (runOne(queues().now, queue)) { }  // Earlier blocks come first.
     const Turn turn(queue);
     block();
 }

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
-// Dispatch queues whose work runs when a test lets it, in a time that moves only when a test moves it.
+// Dispatch queues that a test runs, with a clock that only the test advances.
 #pragma once
 
 #include <chrono>
 
 namespace doubles {
 
-/// Runs what is due on all queues, the main queue's included, and what that brings.
+/// Runs what is due on all queues, including the main queue, and what that submits.
 void runQueues();
-/// Lets time pass and runs what becomes due, in its order.
+/// Advances the time and runs what becomes due, in order.
 void advanceQueues(std::chrono::nanoseconds duration);
-/// Whether what runs now was given to the main queue, or to none.
+/// Whether the running block was submitted to the main queue, or to none.
 bool isOnMainQueue();
-/// The quality of service of the queue that was made last.
+/// The quality of service of the most recently created queue.
 unsigned int lastQuality();
-/// Drops what waits.
+/// Drops pending blocks.
 void clearQueues();
 
 }  // namespace doubles

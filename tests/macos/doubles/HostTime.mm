@@ -3,7 +3,7 @@
 
 #include <CoreAudio/HostTime.h>
 
-// The ticks of the host are those of Apple silicon: 24 MHz.
+// The host's ticks are those of Apple silicon: 24 MHz.
 UInt64 AudioGetCurrentHostTime(void)
 {
     return static_cast<UInt64>(doubles::AudioWorld::current().hostTime.count()) * 3 / 125;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is never freed: texts in the sources, and queues.
+// Objects that are never freed: string literals, and queues.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -7,6 +7,6 @@
 @interface ImmortalObject : NSObject
 @end
 
-/// A text in the sources, laid out by the compiler.
+/// A string literal, as laid out by the compiler.
 @interface ImmortalText : NSString
 @end

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the doubles were asked to do, in the order in which they were asked.
+// The calls to the doubles, in order.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 
 namespace doubles {
 
-/// Of the whole test program; each test begins with an empty one.
+/// Of the whole test program; cleared before each test.
 inline std::vector<std::string>& journal()
 {
     static std::vector<std::string> lines;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Views, menus, and the items of the menu bar.
+// Views, menus, and menu bar items.
 #include "tests/macos/doubles/Desktop.h"
 #include "tests/macos/doubles/Journal.h"
 #include "tests/macos/doubles/Runtime.h"
@@ -145,7 +145,7 @@ BOOL NSPointInRect(NSPoint point, NSRect rectangle)
 }
 - (void)performClick:(id)sender
 {
-    // With a menu, a click opens that and reaches no target.
+    // With a menu, a click opens that and does not reach the target.
     if (NSMenu* menu = self.owner.menu; menu != nil) {
         note("menu opens");
         desktop().whenMenuOpens(menu);
@@ -165,7 +165,7 @@ BOOL NSPointInRect(NSPoint point, NSRect rectangle)
 
 namespace {
 
-/// The bar keeps what it shows, as whoever asked for it may not.
+/// The bar retains its items, because their creators may not.
 __unsafe_unretained NSStatusItem* shownItem = nil;
 
 }  // namespace

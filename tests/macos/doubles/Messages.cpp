@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Sends a message: finds the method, and jumps there with the registers as they came. What is sent to nothing is zero.
+// Message dispatch: finds the method, and jumps there with the registers unchanged. A message to nil returns zero.
 #define FADELOOM_SEND(NAME, OBJECT, SELECTOR, FIND, LAST, WHEN_NOTHING)                                      \
     __asm__(                                                                                                 \
         ".text\n.globl " NAME "\n.type " NAME ", @function\n" NAME ":\n" WHEN_NOTHING                        \

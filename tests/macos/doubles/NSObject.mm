@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The root class. Compiled without reference counting: it is what is counted.
+// The root class. Compiled without ARC, because it implements reference counting.
 #include "tests/macos/doubles/RuntimeClasses.h"
 
 #import <Foundation/NSObject.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Notification centers, and the time since the system has started.
+// Notification centers, and the system uptime.
 #include "tests/macos/doubles/Desktop.h"
 #include "tests/macos/doubles/Journal.h"
 #include "tests/macos/doubles/Runtime.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the compiler asks of classes and of properties.
+// The runtime functions that the compiler calls for classes and properties.
 #include "tests/macos/doubles/Runtime.h"
 #include "tests/macos/doubles/RuntimeClasses.h"
 

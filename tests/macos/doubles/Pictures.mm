@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pictures, which are no more than their names.
+// Images, which consist only of their names.
 #include "tests/macos/doubles/Desktop.h"
 #include "tests/macos/doubles/Dispatch.h"
 #include "tests/macos/doubles/Journal.h"
@@ -23,7 +23,7 @@ using namespace doubles;
 
 @end
 
-/// What a picture is drawn into; no more than its name.
+/// A bitmap to draw into, which consists only of its name.
 struct CGImage {
     std::string drawn;
 };

@@ -43,7 +43,7 @@ __unsafe_unretained NSPopover* madePopover = nil;
     self.anchor = view;
     self.edge = edge;
     self.shown = YES;
-    // Once it has appeared, in a later turn.
+    // Once it has appeared, in a later iteration.
     dispatch_async(dispatch_get_main_queue(), ^{
         if (self.shown && [self.delegate respondsToSelector:@selector(popoverDidShow:)])
             [self.delegate popoverDidShow:[[NSNotification alloc] init]];

@@ -21,10 +21,10 @@ void _Block_release(const void* block);
 namespace doubles {
 namespace {
 
-/// Stands before each object on the heap.
+/// Precedes each object on the heap.
 struct Head {
     long count = 1;
-    long unused = 0;  // Objects start at a multiple of 16.
+    long unused = 0;  // Aligns objects to 16.
 };
 
 struct World {
@@ -35,7 +35,7 @@ struct World {
 
 World& world()
 {
-    static auto& made = *new World;  // Never ends: objects may go after everything else has.
+    static auto& made = *new World;  // Never destroyed: objects may outlive everything else.
     return made;
 }
 
@@ -50,7 +50,7 @@ Head& headOf(const ObjectData* object)
     return *(reinterpret_cast<Head*>(const_cast<ObjectData*>(object)) - 1);
 }
 
-/// Classes, constant texts, queues: what is never freed.
+/// Classes, constant strings, queues: never freed.
 bool isImmortal(const ObjectData* object)
 {
     return (object->type->ro().flags & ClassRo::isMeta) != 0
@@ -112,7 +112,7 @@ AutoreleasePool::~AutoreleasePool()
 
 ObjectData* makeObject(const ClassData* type)
 {
-    // The platform moves fields then; here a class with fields is compiled in one source with those above it.
+    // The platform adjusts field offsets then; here a class is compiled in the same source as its superclasses.
     const ClassRo& own = type->ro();
     const std::size_t above = type->superclass == nullptr ? 0 : type->superclass->ro().instanceSize;
     if (own.instanceSize > own.instanceStart && own.instanceStart < above)

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// An Objective-C runtime for tests: enough of the platform's to run what a compiler makes of our sources.
+// An Objective-C runtime for tests: enough of the platform's to run the compiler's output for our sources.
 //
-// Classes are the compiler's own data, found by their methods' names. Every object on the heap is counted and known, so
-// that a leak, a second release and a message to something that is no object are seen.
+// Classes are the compiler's own data, with methods found by name. Every object on the heap is counted and tracked, so
+// that a leak, an over-release and a message to a non-object are detected.
 #pragma once
 
 #include <cstddef>
@@ -10,14 +10,14 @@
 
 namespace doubles {
 
-/// How many objects live on the heap now.
+/// The number of live objects on the heap.
 std::size_t liveObjects();
-/// Their classes, one to a line, for a test that failed.
+/// Their classes, one per line, for a failed test.
 std::string describeLiveObjects();
-/// How often an object is retained; 0 for one that is gone.
+/// An object's retain count; 0 for a freed one.
 int retainCount(const void* object);
 
-/// While one lives, what is autoreleased waits for its end.
+/// While an instance exists, autoreleased objects are collected until its end.
 class AutoreleasePool {
 public:
     AutoreleasePool();
@@ -29,7 +29,7 @@ private:
     void* const pool_;
 };
 
-/// Ends the program with a message: what the platform would crash on.
+/// Aborts with a message: for what the platform would crash on.
 [[noreturn]] void crash(const std::string& why);
 
 }  // namespace doubles

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How a compiler lays out Objective-C classes, for the runtime alone.
+// The compiler's layout of Objective-C classes; used only by the runtime.
 #pragma once
 
 #include <cstddef>
@@ -18,7 +18,7 @@ struct MethodList {
 
     std::uint32_t entrySize;
     std::uint32_t count;
-    Method methods[1];  // As many as there are.
+    Method methods[1];  // Variable length.
 };
 
 struct ClassRo {
@@ -69,7 +69,7 @@ struct Super {
 
 ObjectData* makeObject(const ClassData* type);
 void disposeOf(ObjectData* object);
-/// Blocks are objects to the language, and have a class of their own that knows no messages here.
+/// To the language blocks are objects, with a class that has no methods here.
 bool isBlock(const ObjectData* object);
 
 }  // namespace doubles

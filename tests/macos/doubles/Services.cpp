@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The unfair lock, the unified log, and the system's word on who answers for a process.
+// The unfair lock, the unified log, and the responsible process.
 #include "tests/macos/doubles/Services.h"
-
 #include "tests/macos/doubles/Journal.h"
 #include "tests/macos/doubles/Runtime.h"
 
 #include <os/lock.h>
 #include <os/log.h>
+#include <sys/types.h>
 
 #include <atomic>
 #include <cstdarg>
 #include <cstring>
 #include <mutex>
-#include <sys/types.h>
 #include <thread>
 
 struct os_log_s {
@@ -29,7 +28,7 @@ std::map<std::int32_t, std::int32_t>& responsiblePids()
 
 namespace {
 
-/// The owner of a lock, as the lock itself holds it: a number for each thread, 0 for none.
+/// The owner of a lock, as stored in the lock itself: a number for each thread, 0 for none.
 std::uint32_t ownNumber()
 {
     static std::atomic<std::uint32_t> last = 0;
@@ -87,7 +86,7 @@ void fadeloomLogWithType(os_log_t log, os_log_type_t type, const char* format, .
     va_end(arguments);
 }
 
-/// Found by its name, as on the platform.
+/// Looked up by name, as on the platform.
 __attribute__((visibility("default"))) pid_t responsibility_get_pid_responsible_for_pid(pid_t pid)
 {
     const auto found = responsiblePids().find(pid);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What tests say of processes.
+// Process properties set by tests.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace doubles {
 
-/// Who answers for a process, by its pid; without an entry the system cannot tell.
+/// The responsible process, by pid; without an entry the system does not know.
 std::map<std::int32_t, std::int32_t>& responsiblePids();
 
 }  // namespace doubles

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Texts with attributes.
+// Attributed strings.
 #include "tests/macos/doubles/Desktop.h"
 #include "tests/macos/doubles/Journal.h"
 #include "tests/macos/doubles/Runtime.h"

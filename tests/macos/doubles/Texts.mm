@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Texts, numbers, and the functions of CoreFoundation for them.
+// Strings, numbers, and the CoreFoundation functions for them.
 #include "tests/macos/doubles/Immortal.h"
 #include "tests/macos/doubles/Runtime.h"
 
@@ -20,7 +20,7 @@ struct CompiledText {
     long length;
 };
 
-/// A text in the sources that is more than ASCII is compiled as UTF-16.
+/// A string literal that is not ASCII is compiled as UTF-16.
 const std::string& converted(const CompiledText& text)
 {
     static std::map<const char*, std::string> known;

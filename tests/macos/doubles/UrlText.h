@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where an address of CoreFoundation points, for doubles in C++.
+// The path of a CoreFoundation URL, for doubles in C++.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Errors as tests make them.
+// Errors created by tests.
 #pragma once
 
 #import <Foundation/Foundation.h>

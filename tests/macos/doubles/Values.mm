@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Addresses, identifiers and moments.
-#import <Foundation/Foundation.h>
-
-#include "tests/macos/doubles/UrlText.h"
+// URLs, identifiers and dates.
 #include "tests/macos/doubles/Values.h"
+#include "tests/macos/doubles/UrlText.h"
+
+#import <Foundation/Foundation.h>
 
 #include <algorithm>
 #include <cctype>
@@ -34,7 +34,7 @@ const NSRect NSZeroRect{};
 }
 - (NSString*)path
 {
-    // Without the slash that the address of a folder ends with.
+    // Without the trailing slash of a folder's URL.
     const bool hasSlash = text_.size() > 1 && text_.back() == '/';
     return isFile_ ? [NSString stringWithUTF8String:text_.substr(0, text_.size() - hasSlash).c_str()] : nil;
 }

@@ -68,7 +68,7 @@ using namespace doubles;
     note(std::string("launch ") + location.path.UTF8String
         + (configuration.createsNewApplicationInstance ? " once more" : "")
         + (configuration.environment == nil ? "" : " with " + described(configuration.environment)));
-    // The answer comes on a queue of the system's.
+    // The reply arrives on a system queue.
     static dispatch_queue_t queue = dispatch_queue_create("answers", nil);
     dispatch_async(
         queue, ^{ answered(nil, desktop().isNewInstanceRefused ? errorSaying(@"It did not start.") : nil); });

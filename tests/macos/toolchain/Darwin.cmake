@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# Has CMake take this machine for a Mac, so that what it does there is configured once before. Nothing is compiled with
-# it: what CMake would try out is answered here, and the libraries are those of this machine.
+# Makes CMake treat this machine as a Mac, to test the configuration. Nothing is compiled with it: CMake's checks are
+# answered here, and the libraries are those of this machine.
 set(CMAKE_SYSTEM_NAME Darwin)
 set(CMAKE_SYSTEM_PROCESSOR arm64)
 foreach(language IN ITEMS CXX OBJCXX)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# On a Mac it is a part of the system.
+# Part of the system on a Mac.
 set(Threads_FOUND ON)
 if(NOT TARGET Threads::Threads)
     add_library(Threads::Threads INTERFACE IMPORTED)

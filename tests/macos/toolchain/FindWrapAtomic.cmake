@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# On a Mac it is a part of the system.
+# Part of the system on a Mac.
 set(WrapAtomic_FOUND ON)
 if(NOT TARGET WrapAtomic::WrapAtomic)
     add_library(WrapAtomic::WrapAtomic INTERFACE IMPORTED)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# On a Mac it is a part of the system.
+# Part of the system on a Mac.
 set(WrapOpenGL_FOUND ON)
 if(NOT TARGET WrapOpenGL::WrapOpenGL)
     add_library(WrapOpenGL::WrapOpenGL INTERFACE IMPORTED)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Processes and desktop entries, and what is found out of them.
+// A fixture with processes and desktop entries.
 #pragma once
 
 #include "platform/linux/ApplicationFinder.h"

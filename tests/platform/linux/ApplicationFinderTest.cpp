@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The traces by which a process is known, and which of them wins.
+// The evidence that identifies a process's application, and its precedence.
 #include "tests/platform/linux/ApplicationFinderStage.h"
 
 #include <gmock/gmock.h>
@@ -37,7 +37,7 @@ TEST_F(ApplicationFinderTest, theUnitWinsOverTheProgram)
     EXPECT_EQ(found(11), "org.example.Web 10");
 }
 
-TEST_F(ApplicationFinderTest, aUnitWithoutAnEntryTellsNothing)
+TEST_F(ApplicationFinderTest, aUnitWithoutAnEntryIsIgnored)
 {
     tree.entry("org.example.Music", "Exec=music\n");
     tree.start(
@@ -46,7 +46,7 @@ TEST_F(ApplicationFinderTest, aUnitWithoutAnEntryTellsNothing)
     EXPECT_EQ(found(10), "org.example.Music 10");
 }
 
-TEST_F(ApplicationFinderTest, aProgramIsKnownByItsFileThroughLinksOrByItsName)
+TEST_F(ApplicationFinderTest, aProgramIsRecognizedByItsFileThroughLinksOrByItsName)
 {
     tree.entry("org.example.Music", "Exec=music\n");
     const auto real = tree.program("music-4.2");
@@ -75,7 +75,7 @@ TEST_F(ApplicationFinderTest, ofManyEntriesForOneProgramItsArgumentsDecide)
     EXPECT_EQ(found(11), "office-calc 11");
 }
 
-TEST_F(ApplicationFinderTest, anEntryWithArgumentsOfItsOwnStillKnowsItsProgram)
+TEST_F(ApplicationFinderTest, anEntryWithItsOwnArgumentsStillMatchesItsProgram)
 {
     tree.entry("vlc", "Exec=vlc --started-from-file %U\n");
     tree.start({.pid = 10, .executable = tree.program("vlc"), .arguments = {"vlc", "song.ogg"}});
@@ -123,7 +123,7 @@ TEST_F(ApplicationFinderTest, shellsAndHiddenEntriesAreStepsNotOwners)
     EXPECT_EQ(found(21), "pw-play 21");
 }
 
-TEST_F(ApplicationFinderTest, whatATerminalStartsStandsForItself)
+TEST_F(ApplicationFinderTest, whatATerminalStartsIsItsOwnApplication)
 {
     tree.entry("org.example.Files", "Exec=files\n");
     tree.entry("org.example.Term", "Exec=term\nCategories=System;TerminalEmulator;\n");
@@ -153,7 +153,7 @@ TEST_F(ApplicationFinderTest, aHiddenServicesUnitIsItsFirstProcessAlone)
     EXPECT_EQ(found(11), "pw-play 11");
 }
 
-TEST_F(ApplicationFinderTest, aCircleOfParentsComesToAnEnd)
+TEST_F(ApplicationFinderTest, aCycleOfParentsTerminates)
 {
     tree.start({.pid = 10, .parent = 11, .executable = tree.program("a")});
     tree.start({.pid = 11, .parent = 10, .executable = tree.program("b")});

@@ -38,7 +38,7 @@ protected:
         content << std::ifstream{entry, std::ios::binary}.rdbuf();
         return content.str();
     }
-    /// An entry that someone else wrote.
+    /// An entry written by another program.
     void putEntry(const std::string& keys) const
     {
         put(entry, "[Desktop Entry]\nType=Application\nExec=" + program.string() + "\n" + keys);
@@ -96,7 +96,7 @@ TEST_F(AutostartLoginItemTest, isBelowHomeWithoutAFolderForSettings)
     EXPECT_EQ(plain.status(), Status::enabled);
 }
 
-TEST_F(AutostartLoginItemTest, changesThatAreMadeAlreadyAreNoErrors)
+TEST_F(AutostartLoginItemTest, redundantChangesAreNotErrors)
 {
     EXPECT_TRUE(item.unregisterItem());
     ASSERT_TRUE(item.registerItem());
@@ -107,7 +107,7 @@ TEST_F(AutostartLoginItemTest, changesThatAreMadeAlreadyAreNoErrors)
     EXPECT_EQ(item.status(), Status::notRegistered);
 }
 
-TEST_F(AutostartLoginItemTest, whatAnotherToolSwitchedOffIsOffUntilItIsRegisteredAgain)
+TEST_F(AutostartLoginItemTest, anEntryDisabledByAnotherToolIsOffUntilItIsRegisteredAgain)
 {
     for (const auto* const key : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n"}) {
         EXPECT_EQ(statusWith(key), Status::notRegistered) << key;
@@ -150,7 +150,7 @@ TEST_F(AutostartLoginItemTest, programIsFoundAsTheDesktopFindsIt)
     EXPECT_EQ(statusStarting("Exec=fadeloom\nTryExec=faded\n"), Status::notFound);
 }
 
-TEST_F(AutostartLoginItemTest, whatIsNoEntryIsOff)
+TEST_F(AutostartLoginItemTest, aFileThatIsNotAnEntryIsOff)
 {
     for (const std::string content :
         {"", "\n", "Exec=fadeloom\n", "[Other]\nType=Application\nExec=fadeloom\n",
@@ -163,7 +163,7 @@ TEST_F(AutostartLoginItemTest, whatIsNoEntryIsOff)
     EXPECT_EQ(item.status(), Status::notRegistered);
 }
 
-TEST_F(AutostartLoginItemTest, linkToTheNullDeviceIsOffAndGivesWay)
+TEST_F(AutostartLoginItemTest, linkToTheNullDeviceIsOffAndGetsReplaced)
 {
     fs::create_directories(entry.parent_path());
     fs::create_symlink("/dev/null", entry);
@@ -197,7 +197,7 @@ std::string wordsOf(const std::expected<void, LoginItemError>& outcome)
     return error == nullptr ? "" : error->description();
 }
 
-TEST_F(AutostartLoginItemTest, refusalsTellTheSystemsReason)
+TEST_F(AutostartLoginItemTest, refusalsReportTheSystemsReason)
 {
     put(folder.path() / "config", "a file where a folder should be");
     EXPECT_EQ(wordsOf(item.registerItem()),

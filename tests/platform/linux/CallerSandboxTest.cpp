@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/CallerSandbox.h"
-
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <fstream>
-
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {
 
 class CallerSandboxTest : public ::testing::Test {
 protected:
-    /// A process as the system would show it.
+    /// A process directory as in the process file system.
     std::filesystem::path process(const std::string& groups)
     {
         const auto shown = folder.path() / "77";
@@ -49,7 +47,7 @@ TEST_F(CallerSandboxTest, aSnapIs)
     EXPECT_TRUE(isInSandbox());
 }
 
-TEST_F(CallerSandboxTest, whatCannotBeLookedAtIs)
+TEST_F(CallerSandboxTest, aProcessThatCannotBeInspectedIs)
 {
     EXPECT_TRUE(isInSandbox()) << "no such process";
     EXPECT_TRUE(isSandboxed(0));

@@ -16,7 +16,7 @@ rlim_t current()
     return limit.rlim_cur;
 }
 
-TEST(DescriptorLimit, isRaisedToTheHighestAndLoweredForProgramsThatAreStarted)
+TEST(DescriptorLimit, isRaisedToTheHardLimitAndRestoredForChildren)
 {
     rlimit former{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &former), 0);

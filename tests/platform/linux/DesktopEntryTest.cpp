@@ -17,7 +17,7 @@ DesktopEntry parsed(std::string_view text, const std::vector<std::string>& langu
     return parseDesktopEntry(text, languages).value_or(DesktopEntry{});
 }
 
-TEST(DesktopEntry, readsItsGroupAndNoOther)
+TEST(DesktopEntry, readsOnlyItsGroup)
 {
     const auto entry =
         parsed("# A comment\n\n"
@@ -91,7 +91,7 @@ TEST(LanguageKeys, areBestFirst)
     EXPECT_THAT(languageKeys(""), IsEmpty());
 }
 
-TEST(ParseExec, leavesFieldCodesOut)
+TEST(ParseExec, omitsFieldCodes)
 {
     EXPECT_THAT(parseExec("music --started-from %U --uri=%u 100%%  last"),
         ElementsAre("music", "--started-from", "100%", "last"));
@@ -99,7 +99,7 @@ TEST(ParseExec, leavesFieldCodesOut)
         ElementsAre("/usr/bin/flatpak", "run", "--command=vlc", "--file-forwarding", "org.videolan.VLC"));
 }
 
-TEST(ParseExec, takesQuotesOff)
+TEST(ParseExec, removesQuotes)
 {
     EXPECT_THAT(parseExec(R"("/opt/My Player/player" "--say=\"hi\" \$HOME \\" pl"ain"ed)"),
         ElementsAre("/opt/My Player/player", R"(--say="hi" $HOME \)", "plained"));
@@ -107,7 +107,7 @@ TEST(ParseExec, takesQuotesOff)
     EXPECT_THAT(parseExec(R"("trailing\)"), ElementsAre(R"(trailing\)"));
 }
 
-TEST(ParseExec, passesOverTheEnvironment)
+TEST(ParseExec, skipsTheEnvironment)
 {
     EXPECT_THAT(
         parseExec("env HINT=/x/y.desktop LANG=C /snap/bin/spotify %U"), ElementsAre("/snap/bin/spotify"));
@@ -118,7 +118,7 @@ TEST(ParseExec, passesOverTheEnvironment)
 TEST(ExecValue, isQuotedAndThenEscaped)
 {
     EXPECT_EQ(execValue("/usr/bin/player"), R"("/usr/bin/player")");
-    // As the format says: four backslashes for one, and two before what the quotes would give a meaning to.
+    // As specified: four backslashes for one, and two before a character that is special in quotes.
     EXPECT_EQ(execValue(R"(/a b/"$`\%U)"), R"("/a b/\\"\\$\\`\\\\%%U")");
     EXPECT_EQ(execValue("a\nb\tc\rd"), R"("a\nb\tc\rd")");
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Files are shown over a real message bus, by a file manager of the test's own.
+// Showing files over a real message bus, with the test's own file manager.
 #include "platform/linux/FileManager.h"
 
 #include "platform/linux/FileUri.h"
@@ -21,8 +21,7 @@
 #include <fstream>
 #include <sstream>
 
-// Qt and what it stands on are built without the thread sanitizer, which therefore does not see that what they hand
-// from thread to thread is handed over.
+// Qt and its dependencies are built without the thread sanitizer, which therefore does not see their synchronization.
 extern "C" const char* __tsan_default_suppressions();
 extern "C" const char* __tsan_default_options();
 extern "C" const char* __tsan_default_suppressions()
@@ -49,7 +48,7 @@ using ::testing::IsEmpty;
 
 class FileManagerTest : public ::testing::Test {
 protected:
-    /// Installs an "xdg-open" that writes down what it was given.
+    /// Installs an "xdg-open" that records its arguments.
     void installOpener() const
     {
         const auto program = programs() / "xdg-open";
@@ -61,7 +60,7 @@ protected:
     }
     fs::path programs() const { return folder.path() / "bin"; }
     fs::path opened() const { return folder.path() / "opened"; }
-    /// Its arguments as it got them, with their count; empty until it has run.
+    /// Its arguments, with their count; empty until it has run.
     std::string openerArguments() const
     {
         std::ostringstream content;
@@ -138,7 +137,7 @@ TEST_F(FileManagerTest, opensAnAddress)
     EXPECT_EQ(openerArguments(), "1\nhttps://fadeloom.example/download.php?a=1&b=%20\n");
 }
 
-TEST_F(FileManagerTest, opensNothingThatIsNoAddress)
+TEST_F(FileManagerTest, opensOnlyAddresses)
 {
     installOpener();
 
@@ -150,7 +149,7 @@ TEST_F(FileManagerTest, opensNothingThatIsNoAddress)
     EXPECT_EQ(openerArguments(), "1\nhttps://fadeloom.example\n");
 }
 
-TEST_F(FileManagerTest, saysWhenNobodyOpensAddresses)
+TEST_F(FileManagerTest, reportsWhenNoProgramOpensAddresses)
 {
     files.open("https://fadeloom.example");
 
@@ -182,7 +181,7 @@ TEST_F(FileManagerTest, withoutABusTheFolderIsOpened)
 
 TEST_F(FileManagerTest, withoutASessionTheFolderIsOpened)
 {
-    // In a process of its own: where the bus is, is looked up once.
+    // In a separate process: the address of the bus is looked up once.
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const auto revealWithoutSession = [this] {
         for (const auto* const variable : {"DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "DISPLAY"})
@@ -198,7 +197,7 @@ TEST_F(FileManagerTest, withoutASessionTheFolderIsOpened)
     EXPECT_EXIT(revealWithoutSession(), ::testing::ExitedWithCode(0), "");
 }
 
-TEST_F(FileManagerTest, busThatCameAgainIsUsed)
+TEST_F(FileManagerTest, aRestartedBusIsUsed)
 {
     for (int life = 0; life < 2; ++life) {
         const PrivateBus bus{busFolder};
@@ -210,7 +209,7 @@ TEST_F(FileManagerTest, busThatCameAgainIsUsed)
     }
 }
 
-TEST_F(FileManagerTest, whatCanBeShownInNoWayIsLogged)
+TEST_F(FileManagerTest, whatCannotBeShownIsLogged)
 {
     files.reveal("/music/recording.wav");
 
@@ -219,7 +218,7 @@ TEST_F(FileManagerTest, whatCanBeShownInNoWayIsLogged)
         ElementsAre(AllOf(HasSubstr("Cannot show /music/recording.wav: "), HasSubstr("xdg-open"))));
 }
 
-TEST_F(FileManagerTest, missingAnswerHoldsNobodyUp)
+TEST_F(FileManagerTest, aMissingReplyDoesNotBlock)
 {
     const auto begin = std::chrono::steady_clock::now();
     const PrivateBus bus{busFolder};
@@ -235,7 +234,7 @@ TEST_F(FileManagerTest, missingAnswerHoldsNobodyUp)
     EXPECT_LT(std::chrono::steady_clock::now() - begin, 10s) << "an answer is waited for 25 seconds";
 }
 
-TEST_F(FileManagerTest, stuckBusHoldsNobodyUp)
+TEST_F(FileManagerTest, aStuckBusDoesNotBlock)
 {
     installOpener();
     auto bus = std::make_unique<StuckBus>(sessionBusFolder());
@@ -250,7 +249,7 @@ TEST_F(FileManagerTest, stuckBusHoldsNobodyUp)
     EXPECT_TRUE(waitUntil([&] { return !openerArguments().empty(); }));
 }
 
-TEST_F(FileManagerTest, withoutAFileThereIsNoThread)
+TEST_F(FileManagerTest, noThreadRunsWithoutARequest)
 {
     const auto threads = [] {
         return std::distance(fs::directory_iterator{"/proc/self/task"}, fs::directory_iterator{});

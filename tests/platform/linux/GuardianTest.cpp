@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// A guarded program, as whoever started it sees it, and as it is treated.
+// A guarded program, from the viewpoint of its parent, and its treatment.
 #include "platform/linux/Guardian.h"
-
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <array>
 #include <chrono>
@@ -14,18 +16,14 @@
 #include <string>
 #include <thread>
 
-#include <poll.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 namespace fadeloom {
 namespace {
 
 using namespace std::chrono_literals;
 
 constexpr std::uint64_t heldThing = 0x1234'5678'9ABC'DEF0;
-std::string
-    releaseFile;  // What the guardian released, in text. The release reaches nothing but what is global.
+// What the guardian released, as text. The release function can access only globals.
+std::string releaseFile;
 
 void noteRelease(std::uint64_t held, pid_t program)
 {
@@ -42,14 +40,15 @@ protected:
         ::close(life[0]);
     }
 
-    /// Runs `program` guarded, and waits until it has begun. What it returns is its exit status.
+    /// Runs `program` guarded, and waits until it has started. Its result is its exit status.
     void run(const std::function<int(Guardian&)>& program)
     {
         ASSERT_EQ(::pipe(life.data()), 0);
         parent = ::fork();
         if (parent == 0) {
             ::setpgid(
-                0, 0);  // Of its own, as a shell starts a job: a group without a shell cannot be stopped.
+                // A separate process group, like a shell's job: a group without a shell cannot be stopped.
+                0, 0);
             Guardian guardian(&noteRelease, SIGUSR1);
             const pid_t self = ::getpid();
             ::close(life[0]);
@@ -70,7 +69,7 @@ protected:
         });
         std::this_thread::sleep_for(50ms);
     }
-    /// The end of the program that was started, as its starter sees it.
+    /// The end of the started program, as seen by its parent.
     int status(int options = 0)
     {
         int status = 0;
@@ -79,11 +78,11 @@ protected:
             parent = -1;
         return status;
     }
-    /// Whether the program is gone, for it keeps a pipe open as long as it lives.
-    bool isProgramGone(std::chrono::milliseconds patience)
+    /// Whether the program has ended: it keeps a pipe open while it lives.
+    bool isProgramGone(std::chrono::milliseconds timeout)
     {
         pollfd waited{.fd = life[0], .events = POLLIN, .revents = 0};
-        return ::poll(&waited, 1, static_cast<int>(patience.count())) == 1;
+        return ::poll(&waited, 1, static_cast<int>(timeout.count())) == 1;
     }
     static std::string released()
     {
@@ -135,7 +134,7 @@ TEST_F(GuardianTest, aSignalThatEndsTheProgramEndsItToo)
     EXPECT_EQ(WTERMSIG(ended), SIGSEGV);
 }
 
-TEST_F(GuardianTest, whatAStoppedProgramHoldsIsReleased)
+TEST_F(GuardianTest, aStoppedProgramsClientIsReleased)
 {
     runForEver();
     const auto begin = std::chrono::steady_clock::now();
@@ -148,7 +147,7 @@ TEST_F(GuardianTest, whatAStoppedProgramHoldsIsReleased)
     EXPECT_EQ(stateOf(parent), 'S') << "it guards on";
 }
 
-TEST_F(GuardianTest, nothingIsReleasedForAProgramThatHoldsNothing)
+TEST_F(GuardianTest, nothingIsReleasedForAProgramWithoutAnyClient)
 {
     runForEver(0);
 
@@ -159,7 +158,7 @@ TEST_F(GuardianTest, nothingIsReleasedForAProgramThatHoldsNothing)
     EXPECT_EQ(released(), "");
 }
 
-TEST_F(GuardianTest, theTerminalsStopStopsBothAfterTheRelease)
+TEST_F(GuardianTest, aTerminalStopStopsBothAfterTheRelease)
 {
     runForEver();
 
@@ -173,14 +172,14 @@ TEST_F(GuardianTest, theTerminalsStopStopsBothAfterTheRelease)
     EXPECT_TRUE(becomes([&] { return stateOf(parent) == 'S'; }));
 }
 
-TEST_F(GuardianTest, aRequestToEndIsPassedOnOnceHoweverManyCopiesOfItCome)
+TEST_F(GuardianTest, aRequestToQuitIsForwardedOnceForAllItsCopies)
 {
     run([](Guardian&) {
         static volatile std::sig_atomic_t asked = 0;
         std::signal(SIGUSR1, [](int) { asked = asked + 1; });
         for (int i = 0; i < 200 && asked == 0; ++i)
             ::usleep(10'000);
-        ::usleep(200'000);  // An orderly end takes its time.
+        ::usleep(200'000);  // A clean shutdown takes time.
         return asked > 0 ? 5 : 1;
     });
     std::this_thread::sleep_for(100ms);
@@ -192,7 +191,7 @@ TEST_F(GuardianTest, aRequestToEndIsPassedOnOnceHoweverManyCopiesOfItCome)
     EXPECT_EQ(WEXITSTATUS(status()), 5);
 }
 
-TEST_F(GuardianTest, aProgramThatCannotHandleTheRequestYetEndsByTheSignalItself)
+TEST_F(GuardianTest, aProgramThatCannotHandleTheRequestYetIsEndedByTheSignal)
 {
     runForEver();
 
@@ -203,7 +202,7 @@ TEST_F(GuardianTest, aProgramThatCannotHandleTheRequestYetEndsByTheSignalItself)
     EXPECT_EQ(WTERMSIG(ended), SIGTERM);
 }
 
-TEST_F(GuardianTest, aSecondRequestEndsTheProgramAtOnce)
+TEST_F(GuardianTest, aSecondRequestEndsTheProgramImmediately)
 {
     run([](Guardian&) {
         std::signal(SIGUSR1, SIG_IGN);
@@ -230,7 +229,7 @@ TEST_F(GuardianTest, theProgramDoesNotOutliveIt)
     EXPECT_TRUE(isProgramGone(10s));
 }
 
-TEST_F(GuardianTest, holdsNoFileOfTheProgramOpen)
+TEST_F(GuardianTest, hasNoneOfTheProgramsFilesOpen)
 {
     run([this](Guardian&) {
         ::close(life[1]);

@@ -1,21 +1,19 @@
 // SPDX-License-Identifier: MIT
-// Commands that other programs give through the socket.
-#include "tests/platform/linux/InstanceStage.h"
-
+// Commands from other programs through the socket.
 #include "base/Subscription.h"
 #include "platform/linux/InstanceSocket.h"
+#include "tests/platform/linux/InstanceStage.h"
 
 #include <QLocalSocket>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {
@@ -50,7 +48,7 @@ protected:
         EXPECT_TRUE(made->waitForConnected(2000));
         return made;
     }
-    /// What comes back for the bytes within a moment.
+    /// The replies to the bytes within a moment.
     static std::string answer(QLocalSocket& socket, const QByteArray& bytes)
     {
         socket.write(bytes);
@@ -96,7 +94,7 @@ TEST_F(InstanceCommandTest, thatAreTooLongEndTheConnection)
     EXPECT_THAT(lines, IsEmpty());
 }
 
-TEST_F(InstanceCommandTest, thatNeverEndAreGivenUpAfterAWhile)
+TEST_F(InstanceCommandTest, thatNeverEndTimeOut)
 {
     const auto socket = connection();
     socket->write("Run vol");
@@ -107,7 +105,7 @@ TEST_F(InstanceCommandTest, thatNeverEndAreGivenUpAfterAWhile)
     EXPECT_EQ(socket->state(), QLocalSocket::UnconnectedState);
 }
 
-TEST_F(InstanceCommandTest, ofAThousandConnectionsAreAnsweredOrTurnedAway)
+TEST_F(InstanceCommandTest, ofAThousandConnectionsAreAnsweredOrRejected)
 {
     std::vector<std::unique_ptr<QLocalSocket>> sockets;
     for (int i = 0; i < 200; ++i) {
@@ -160,9 +158,10 @@ TEST_F(InstanceCommandTest, toWatchThatAreRefusedEndTheConnection)
     EXPECT_THAT(watches, IsEmpty());
 }
 
-TEST_F(InstanceCommandTest, aWatcherThatDoesNotReadIsDroppedAndNobodyWaits)
+TEST_F(InstanceCommandTest, aWatcherThatDoesNotReadIsDroppedWithoutBlocking)
 {
-    const int silent = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);  // Qt's would read by itself.
+    // Qt's socket would read on its own.
+    const int silent = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     std::ranges::copy((folder.path() / "fadeloom.socket").native(), address.sun_path);
@@ -182,7 +181,7 @@ TEST_F(InstanceCommandTest, aWatcherThatDoesNotReadIsDroppedAndNobodyWaits)
     close(silent);
 }
 
-TEST_F(InstanceCommandTest, fiftyMayWatchAndLeaveRoomForCommands)
+TEST_F(InstanceCommandTest, fiftyWatchersLeaveCapacityForCommands)
 {
     std::vector<std::unique_ptr<QLocalSocket>> sockets;
     for (int i = 0; i < 70; ++i) {
@@ -222,7 +221,7 @@ TEST_F(InstanceCommandTest, areRefusedAtTheEnd)
     EXPECT_EQ(answer(*connection(), "Run volume player\n"), "busy error it is ending\n");
 }
 
-TEST_F(InstanceCommandTest, areToBeTriedAgainDuringTheStart)
+TEST_F(InstanceCommandTest, areToBeRetriedDuringStartup)
 {
     instance.serve({});
 

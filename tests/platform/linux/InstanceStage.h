@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Instances of the program that meet in one session: one of them in this thread, the others in threads of their own.
+// Instances of the program in one session: one of them on this thread, the others on separate threads.
 #pragma once
 
 #include "platform/linux/SingleInstance.h"
@@ -23,14 +23,14 @@ class InstanceStage : public ::testing::Test {
 protected:
     using Start = SingleInstance::Start;
 
-    /// What the panel's instance is asked for ends up in `asked`.
+    /// The requests to the panel's instance are recorded in `asked`.
     void serve(SingleInstance& instance)
     {
         instance.serve({.open = [this] { asked.emplace_back("open"); },
             .toggle = [this] { asked.emplace_back("toggle"); },
             .quit = [this] { asked.emplace_back("quit"); }});
     }
-    /// Another instance starts, and ends again.
+    /// Another instance starts, and exits.
     std::future<Start> startAnother(InstanceRequest request, const std::filesystem::path& runtimeFolder)
     {
         return std::async(std::launch::async,
@@ -40,7 +40,7 @@ protected:
     {
         return startAnother(request, folder.path());
     }
-    /// Runs our event loop until the other instance knows.
+    /// Runs our event loop until the other instance has its result.
     static Start outcomeOf(std::future<Start> start)
     {
         const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);

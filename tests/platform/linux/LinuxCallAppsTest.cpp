@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The well-known call apps of Linux, all of them, and the web apps that count as one of them.
+// All known call apps of Linux, and the web apps that count as one of them.
 #include "platform/linux/LinuxCallApps.h"
 
 #include "platform/linux/CallAppCatalogue.h"
@@ -16,10 +16,10 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// The catalogue as it is told to the user, who has some of it installed.
+/// The documented catalogue, some of which is installed.
 class LinuxCallAppsTest : public ::testing::Test {
 protected:
-    /// Which app a desktop entry belongs to; empty for none.
+    /// The app that a desktop entry belongs to; empty if there is none.
     std::string appOf(const std::string& id, const std::string& keys)
     {
         auto entry = parseDesktopEntry("[Desktop Entry]\nType=Application\n" + keys, {});
@@ -28,7 +28,7 @@ protected:
         const auto identifiers = callApps.identifiersOf(id);
         EXPECT_EQ(identifiers.front(), id);
         const auto* const app =
-            identifiers.size() < 2 ? nullptr : callAppWith(callApps.wellKnown(), identifiers[1]);
+            identifiers.size() < 2 ? nullptr : callAppWith(callApps.knownApps(), identifiers[1]);
         return app == nullptr ? "" : app->name;
     }
 
@@ -39,7 +39,7 @@ protected:
     }};
 };
 
-TEST_F(LinuxCallAppsTest, areTheseUnderTheseIdentifiers)
+TEST_F(LinuxCallAppsTest, areTheDocumentedOnes)
 {
     const std::vector<CallApp> all = {
         {"Zoom", {"us.zoom.Zoom", "Zoom", "zoom-client_zoom-client"}},
@@ -69,14 +69,14 @@ TEST_F(LinuxCallAppsTest, areTheseUnderTheseIdentifiers)
         {"Skype", {"com.skype.Client", "skypeforlinux", "skype_skypeforlinux"}},
     };
 
-    EXPECT_EQ(callApps.wellKnown(), all);
-    EXPECT_EQ(&callApps.wellKnown(), &callApps.wellKnown()) << "made once";
+    EXPECT_EQ(callApps.knownApps(), all);
+    EXPECT_EQ(&callApps.knownApps(), &callApps.knownApps()) << "made once";
 }
 
 TEST_F(LinuxCallAppsTest, eachIdentifierIsOfOneApp)
 {
     std::set<std::string> seen;
-    for (const auto& app : callApps.wellKnown()) {
+    for (const auto& app : callApps.knownApps()) {
         for (const auto& id : app.bundleIDs) {
             EXPECT_TRUE(seen.insert(id).second) << id;
             EXPECT_EQ(callApps.identifiersOf(id).size(), app.bundleIDs.size());
@@ -91,7 +91,7 @@ TEST_F(LinuxCallAppsTest, anInstalledAppIsTheSameAsItsFlatpak)
     EXPECT_THAT(callApps.identifiersOf("org.example.Player"), ElementsAre("org.example.Player"));
 }
 
-TEST_F(LinuxCallAppsTest, theFormerListHadNothingThatInstallsHere)
+TEST_F(LinuxCallAppsTest, theFormerDefaultsMatchNothingInstalled)
 {
     EXPECT_THAT(callApps.formerDefaults(),
         ElementsAre("us.zoom.xos", "com.microsoft.teams2", "com.microsoft.teams", "com.apple.FaceTime",
@@ -99,10 +99,10 @@ TEST_F(LinuxCallAppsTest, theFormerListHadNothingThatInstallsHere)
             "net.whatsapp.WhatsApp", "org.whispersystems.signal-desktop",
             "com.google.Chrome.app.kjgfgldnnfoeklkmfkjfagphfepbbdan"));
     for (const auto& id : callApps.formerDefaults())
-        EXPECT_EQ(callAppWith(callApps.wellKnown(), id), nullptr) << id;
+        EXPECT_EQ(callAppWith(callApps.knownApps(), id), nullptr) << id;
 }
 
-TEST_F(LinuxCallAppsTest, aWebAppOfChromiumIsKnownByItsIdentifierInTheBrowser)
+TEST_F(LinuxCallAppsTest, aChromiumWebAppIsRecognizedByItsIdentifierInTheBrowser)
 {
     EXPECT_EQ(appOf("brave-cifhbcnohmdccbgoicgdjpfamggdegmo-Default",
                   "Exec=/opt/brave.com/brave/brave-browser --profile-directory=Default "
@@ -120,7 +120,7 @@ TEST_F(LinuxCallAppsTest, aWebAppOfChromiumIsKnownByItsIdentifierInTheBrowser)
     EXPECT_EQ(appOf("chrome-abc-Default", "Exec=chrome --app-id=abc\n"), "");
 }
 
-TEST_F(LinuxCallAppsTest, aWebAppIsKnownByItsSite)
+TEST_F(LinuxCallAppsTest, aWebAppIsRecognizedByItsSite)
 {
     EXPECT_EQ(appOf("a", "Exec=chromium --app=https://meet.google.com/landing\n"), "Google Meet");
     EXPECT_EQ(
@@ -133,7 +133,7 @@ TEST_F(LinuxCallAppsTest, aWebAppIsKnownByItsSite)
     EXPECT_EQ(appOf("g", "Exec=browser %u\n"), "");
 }
 
-TEST_F(LinuxCallAppsTest, aWebAppOfFirefoxIsKnownByItsActionsOrItsName)
+TEST_F(LinuxCallAppsTest, aFirefoxWebAppIsRecognizedByItsActionsOrItsName)
 {
     const std::string launch = "Exec=/usr/bin/firefoxpwa site launch 01H --protocol %u\n";
 

@@ -1,25 +1,25 @@
 // SPDX-License-Identifier: MIT
-// A small Linux of its own in a temporary folder: processes, desktop entries, programs.
+// A small fake Linux in a temporary folder: processes, desktop entries, programs.
 #pragma once
 
 #include "platform/linux/LinuxEnvironment.h"
 #include "platform/linux/LinuxWorkspace.h"
+
+#include <stdlib.h>
 
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
 
-#include <stdlib.h>
-
 namespace fadeloom {
 
-/// What a process of the tree is like.
+/// The properties of a process in the tree.
 struct TreeProcess {
     ProcessID pid = 0;
     ProcessID parent = 1;
-    std::string executable{};  // A path below the tree, or any text; empty for none that can be read.
-    std::vector<std::string> arguments{};  // The executable when empty.
+    std::string executable{};  // A path below the tree, or any text; empty for one that cannot be read.
+    std::vector<std::string> arguments{};  // The executable if empty.
     std::string unit{};
     std::string flatpakID{};
     std::string shortName = "name";

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Applications as the workspace tells them, over a tree of its own.
+// Applications as reported by the workspace, over a fake tree.
 #include "platform/linux/LinuxWorkspace.h"
 
 #include "platform/linux/FileManager.h"
@@ -62,7 +62,7 @@ TEST_F(LinuxWorkspaceTest, anExecutableWithoutAnEntryIsAnApplication)
     EXPECT_TRUE(workspace.isApplicationBundle(program));
 }
 
-TEST_F(LinuxWorkspaceTest, anExecutableThatWasReplacedIsReachedThroughItsProcess)
+TEST_F(LinuxWorkspaceTest, aReplacedExecutableIsAccessedThroughItsProcess)
 {
     tree.start({.pid = 10, .executable = "/usr/bin/tiny-player-of-yesterday (deleted)"});
 
@@ -91,7 +91,7 @@ TEST_F(LinuxWorkspaceTest, anEntryThatIsNotShownIsBackgroundWork)
     EXPECT_EQ(workspace.runningApplication(10)->activationPolicy, ActivationPolicy::prohibited);
 }
 
-TEST_F(LinuxWorkspaceTest, aHelperIsNoApplicationAndItsAncestorAnswersForIt)
+TEST_F(LinuxWorkspaceTest, aHelperIsNotAnApplicationAndItsAncestorIsResponsibleForIt)
 {
     tree.entry("org.example.Browser", "Exec=browser\n");
     tree.start({.pid = 10, .executable = tree.program("browser")});
@@ -145,7 +145,7 @@ TEST_F(LinuxWorkspaceTest, processesOfOthersAndThoseThatEndedAreAbsent)
     EXPECT_THAT(workspace.runningApplications(), IsEmpty());
 }
 
-TEST_F(LinuxWorkspaceTest, anApplicationWhosePidCameAgainHasEnded)
+TEST_F(LinuxWorkspaceTest, anApplicationWhosePidWasReusedHasEnded)
 {
     const auto player = tree.program("player");
     tree.start({.pid = 10, .executable = player, .startTime = 100});
@@ -159,7 +159,7 @@ TEST_F(LinuxWorkspaceTest, anApplicationWhosePidCameAgainHasEnded)
     EXPECT_TRUE(workspace.isTerminated(app));
 }
 
-TEST_F(LinuxWorkspaceTest, newEntriesCountFromThenOn)
+TEST_F(LinuxWorkspaceTest, newEntriesAreFound)
 {
     tree.start({.pid = 10, .executable = tree.program("music")});
     EXPECT_EQ(bundleID(10), "music");
@@ -172,12 +172,12 @@ TEST_F(LinuxWorkspaceTest, newEntriesCountFromThenOn)
     EXPECT_EQ(bundleID(10), "org.example.Music");
 }
 
-TEST_F(LinuxWorkspaceTest, whatTheServerKnowsOfASandboxCounts)
+TEST_F(LinuxWorkspaceTest, theServersApplicationIdOfASandboxHasPrecedence)
 {
     EXPECT_EQ(workspace.bundleIdentifier(3, "org.example.Boxed"), "org.example.Boxed");
 }
 
-TEST_F(LinuxWorkspaceTest, namesOfAnyKindBecomeText)
+TEST_F(LinuxWorkspaceTest, namesOfAnyBytesBecomeText)
 {
     tree.entry("wild", "Exec=wild\nName=" + std::string(10'000, '\xff') + "\n");
     tree.start({.pid = 10, .executable = tree.program("wild")});
@@ -188,7 +188,7 @@ TEST_F(LinuxWorkspaceTest, namesOfAnyKindBecomeText)
     EXPECT_THAT(workspace.runningApplications(), ::testing::SizeIs(2));
 }
 
-TEST_F(LinuxWorkspaceTest, aPipeInPlaceOfAFileHoldsNothingUp)
+TEST_F(LinuxWorkspaceTest, aPipeInPlaceOfAFileBlocksNothing)
 {
     tree.start({.pid = 10, .executable = tree.program("music")});
     std::filesystem::create_directories(tree.root / "proc/10/root");
@@ -208,7 +208,7 @@ TEST_F(LinuxWorkspaceTest, onlyEntriesAndExecutablesAreApplicationBundles)
     EXPECT_FALSE(workspace.isApplicationBundle(""));
 }
 
-TEST_F(LinuxWorkspaceTest, anInstalledApplicationHasANameAlsoWhenItDoesNotRun)
+TEST_F(LinuxWorkspaceTest, anInstalledApplicationHasANameEvenIfItIsNotRunning)
 {
     tree.entry("org.example.Music", "Name=Music\nExec=music\n");
     const Workspace& asked = workspace;

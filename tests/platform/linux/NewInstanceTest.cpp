@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A further instance of the program, started by the workspace.
+// Another instance of the program, started by the workspace.
 #include "platform/linux/FileManager.h"
 #include "platform/linux/LinuxWorkspace.h"
 #include "tests/platform/linux/LinuxTree.h"
@@ -16,7 +16,7 @@
 namespace fadeloom {
 namespace {
 
-/// A program of ours that writes down how it was started.
+/// A program that records how it was started.
 class NewInstanceTest : public ::testing::Test {
 protected:
     std::filesystem::path installProgram() const

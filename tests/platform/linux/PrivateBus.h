@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
-// A message bus of a test's own, which starts no services.
+// A private message bus for a test, which starts no services.
 #pragma once
 
 #include "tests/support/TemporaryFolder.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <array>
 #include <cstdlib>
@@ -12,16 +17,10 @@
 #include <fstream>
 #include <string>
 
-#include <fcntl.h>
-#include <signal.h>
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 namespace fadeloom {
 
-/// The folder of the bus that this process takes for the session's, if a test starts one there: the address is looked
-/// up once in a process.
+/// The folder of the bus that this process uses as session bus, if a test starts one there: the address is looked up
+/// once per process.
 inline const std::filesystem::path& sessionBusFolder()
 {
     static const TemporaryFolder folder;
@@ -31,10 +30,10 @@ inline const std::filesystem::path& sessionBusFolder()
     return folder.path();
 }
 
-/// Ends with the test program, however that ends.
+/// Ends with the test program, for any reason.
 class PrivateBus {
 public:
-    /// Returns once it can be connected to. Its socket is "bus" in `folder`.
+    /// Returns once it accepts connections. Its socket is "bus" in `folder`.
     explicit PrivateBus(const std::filesystem::path& folder)
         : address("unix:path=" + (folder / "bus").string())
     {

@@ -59,7 +59,7 @@ TEST(StartedFile, isTheExecutableUnlessTheImageIsOurs)
     EXPECT_EQ(startedFile(variables({})), ownExecutable());
 }
 
-TEST(OwnCommand, isHowThisTestWasStarted)
+TEST(OwnCommand, isThisTestsCommandLine)
 {
     const auto command = ownCommand();
     std::string said;

@@ -1,23 +1,21 @@
 // SPDX-License-Identifier: MIT
 // The workspace over the real process file system, with real children.
-#include "platform/linux/LinuxWorkspace.h"
-
 #include "platform/linux/FileManager.h"
+#include "platform/linux/LinuxWorkspace.h"
 #include "platform/linux/ProcessTable.h"
 #include "tests/platform/linux/RememberedLog.h"
 #include "tests/platform/linux/TestVariables.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <algorithm>
-#include <chrono>
-#include <thread>
-
 #include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
 
 namespace fadeloom {
 namespace {
@@ -61,7 +59,7 @@ class RealProcessesTest : public ::testing::Test {
 protected:
     LinuxEnvironment environment = [] {
         LinuxEnvironment real = linuxEnvironment(processVariables());
-        real.applicationFolders.clear();  // Whatever is installed here must not matter.
+        real.applicationFolders.clear();  // Must not depend on what is installed here.
         return real;
     }();
     RememberedLog log;
@@ -122,7 +120,7 @@ TEST_F(RealProcessesTest, aShellScriptIsKnownByItsName)
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);
     const int input = dup(0);
-    dup2(ends[0], 0);  // So that the script waits for a line that never comes.
+    dup2(ends[0], 0);  // So that the script waits for a line that never arrives.
 
     const Sleeper sleeper{{script.string()}};
     dup2(input, 0);
@@ -133,7 +131,7 @@ TEST_F(RealProcessesTest, aShellScriptIsKnownByItsName)
     std::filesystem::remove(script);
 }
 
-TEST_F(RealProcessesTest, processesThatComeAndGoMeanwhileDoNoHarm)
+TEST_F(RealProcessesTest, processesThatComeAndGoMeanwhileAreHarmless)
 {
     for (int i = 0; i < 40; ++i) {
         const Sleeper brief{{"true"}};

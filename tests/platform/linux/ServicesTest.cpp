@@ -8,11 +8,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <fstream>
-
 #include <pwd.h>
 #include <unistd.h>
+
+#include <fstream>
 
 namespace fadeloom {
 namespace {
@@ -27,13 +26,13 @@ TEST(XdgFolders, settingsFolderIsTheOneTheVariableNames)
 TEST(XdgFolders, settingsFolderIsBelowHomeOtherwise)
 {
     EXPECT_EQ(XdgFolders{variables({{"HOME", "/home/anna"}})}.applicationSupport(), "/home/anna/.config");
-    // A relative path means nothing, by the rules of these variables.
+    // A relative path is ignored, according to the specification.
     EXPECT_EQ(
         XdgFolders{variables({{"HOME", "/home/anna"}, {"XDG_CONFIG_HOME", "settings"}})}.applicationSupport(),
         "/home/anna/.config");
 }
 
-TEST(XdgFolders, withoutHomeTheAccountTellsIt)
+TEST(XdgFolders, withoutHomeItComesFromTheUserDatabase)
 {
     const std::filesystem::path accountHome = getpwuid(getuid())->pw_dir;
 
@@ -55,9 +54,9 @@ TEST(XdgFolders, musicFolderIsTheOneTheUserChose)
     EXPECT_EQ(folders.music(), "/home/anna/Music");
 }
 
-TEST(XdgFolders, musicFolderOfAVariableIsNone)
+TEST(XdgFolders, musicFolderIsNotTakenFromAVariable)
 {
-    // The file alone decides: what a session inherits of it may be older.
+    // Only the file counts: inherited variables may be out of date.
     const XdgFolders folders{
         variables({{"HOME", "/home/anna"}, {"XDG_CONFIG_HOME", "/none"}, {"XDG_MUSIC_DIR", "/music"}})};
 
@@ -89,7 +88,7 @@ TEST(SyslogSystemLog, messagesCarryTheProgramAndAreNeverFormats)
     EXPECT_THAT(written, ::testing::HasSubstr("cut off\n"));
 }
 
-TEST(AlwaysGrantedPermission, answersAtOnceWithoutAsking)
+TEST(AlwaysGrantedPermission, repliesImmediatelyWithoutAPrompt)
 {
     AlwaysGrantedPermission permission;
     int granted = 0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A file manager of a test's own.
+// A test's own file manager.
 #pragma once
 
 #include <QDBusConnection>
@@ -13,7 +13,7 @@
 
 namespace fadeloom {
 
-/// The service that a desktop's file manager offers.
+/// The D-Bus service of a desktop's file manager.
 class ShownFiles final : public QDBusVirtualObject {
 public:
     enum class Answers { always, never };

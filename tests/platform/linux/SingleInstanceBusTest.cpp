@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Instances that meet on a real message bus.
+// Instances that communicate over a real message bus.
 #include "tests/platform/linux/InstanceStage.h"
 
 #include <QDBusConnection>
@@ -19,7 +19,7 @@ class SingleInstanceBusTest : public InstanceStage {
 protected:
     SingleInstanceBusTest() { EXPECT_EQ(instance->claim(InstanceRequest::open), Start::first); }
 
-    /// Anybody else on the bus calls a method of ours.
+    /// Another bus client calls one of our methods.
     static QDBusMessage call(
         const std::string& method, const QString& interface = QStringLiteral("com.fadeloom.app"))
     {
@@ -44,7 +44,7 @@ protected:
         QDBusConnection::disconnectFromBus(QStringLiteral("looker"));
         return isTaken;
     }
-    /// Takes the other way to our instance away.
+    /// Removes the other way to reach our instance.
     void removeSocket() const { std::filesystem::remove(folder.path() / "fadeloom.socket"); }
 
     PrivateBus bus{busFolder};
@@ -72,7 +72,7 @@ TEST_F(SingleInstanceBusTest, itsMethodsAreForEverybody)
     EXPECT_THAT(asked, ElementsAre("open", "toggle", "quit"));
 }
 
-TEST_F(SingleInstanceBusTest, itsMethodsCanBeLookedUp)
+TEST_F(SingleInstanceBusTest, itsMethodsCanBeIntrospected)
 {
     const auto text = call("Introspect", QStringLiteral("org.freedesktop.DBus.Introspectable"));
 
@@ -98,7 +98,7 @@ TEST_F(SingleInstanceBusTest, anInstanceWithoutAPanelSaysSo)
     EXPECT_EQ(call("Toggle").errorName().toStdString(), "com.fadeloom.app.Error.NoPanel");
 }
 
-TEST_F(SingleInstanceBusTest, oneThatIsEndingIsWaitedForAndFollowed)
+TEST_F(SingleInstanceBusTest, oneThatIsExitingIsWaitedForAndSucceeded)
 {
     serve(*instance);
     instance->beginEnding();
@@ -112,16 +112,16 @@ TEST_F(SingleInstanceBusTest, oneThatIsEndingIsWaitedForAndFollowed)
     EXPECT_EQ(outcomeOf(std::move(second)), Start::first);
 }
 
-TEST_F(SingleInstanceBusTest, oneThatSaysNothingIsGivenUpAfterTwoSeconds)
+TEST_F(SingleInstanceBusTest, oneThatDoesNotReplyTimesOutAfterTwoSeconds)
 {
     const auto begin = std::chrono::steady_clock::now();
 
-    EXPECT_EQ(startAnother().get(), Start::unanswered);  // While our event loop stands still.
+    EXPECT_EQ(startAnother().get(), Start::unanswered);  // While our event loop is blocked.
 
     EXPECT_GE(std::chrono::steady_clock::now() - begin, 1900ms);
 }
 
-TEST_F(SingleInstanceBusTest, theNameGoesWithTheInstance)
+TEST_F(SingleInstanceBusTest, theNameIsReleasedWithTheInstance)
 {
     EXPECT_TRUE(isNameTaken());
 
@@ -130,7 +130,7 @@ TEST_F(SingleInstanceBusTest, theNameGoesWithTheInstance)
     EXPECT_FALSE(isNameTaken());
 }
 
-TEST_F(SingleInstanceBusTest, theNameIsOneAlsoWithAnotherRuntimeFolder)
+TEST_F(SingleInstanceBusTest, theNameIsUniqueAcrossRuntimeFolders)
 {
     serve(*instance);
 
@@ -140,7 +140,7 @@ TEST_F(SingleInstanceBusTest, theNameIsOneAlsoWithAnotherRuntimeFolder)
     EXPECT_FALSE(std::filesystem::exists(elsewhere.path() / "fadeloom.lock"));
 }
 
-/// A program that has nothing to do with us has our name on the bus.
+/// An unrelated program owns our name on the bus.
 class StrangerOnTheBusTest : public InstanceStage {
 protected:
     StrangerOnTheBusTest()

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Instances that meet without a session bus.
+// Instances that communicate without a session bus.
 #include "tests/platform/linux/InstanceStage.h"
 
 #include <QLocalSocket>
 #include <QSysInfo>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <functional>
 #include <initializer_list>
-
-#include <sys/stat.h>
 
 namespace fadeloom {
 namespace {
@@ -31,7 +30,7 @@ protected:
     std::optional<SingleInstance> instance;
 };
 
-TEST_F(SingleInstanceTest, theFirstIsAskedForNothing)
+TEST_F(SingleInstanceTest, theFirstReceivesNoRequest)
 {
     serve(first());
     runFor(20ms);
@@ -48,7 +47,7 @@ TEST_F(SingleInstanceTest, aSecondStartOpensThePanelOfTheFirst)
     EXPECT_THAT(asked, ElementsAre("open"));
 }
 
-TEST_F(SingleInstanceTest, itMayAskForEverythingElse)
+TEST_F(SingleInstanceTest, everyOtherRequestWorks)
 {
     serve(first());
 
@@ -79,7 +78,7 @@ TEST_F(SingleInstanceTest, anInstanceWithoutAPanelSaysSo)
     EXPECT_EQ(outcomeOf(startAnother(InstanceRequest::ping)), Start::answered);
 }
 
-TEST_F(SingleInstanceTest, onceItHasEndedTheNextIsTheFirst)
+TEST_F(SingleInstanceTest, onceItHasExitedTheNextIsTheFirst)
 {
     serve(first());
     instance.reset();
@@ -87,7 +86,7 @@ TEST_F(SingleInstanceTest, onceItHasEndedTheNextIsTheFirst)
     EXPECT_EQ(outcomeOf(startAnother()), Start::first);
 }
 
-TEST_F(SingleInstanceTest, oneThatIsEndingIsWaitedForAndFollowed)
+TEST_F(SingleInstanceTest, oneThatIsExitingIsWaitedForAndSucceeded)
 {
     serve(first());
     instance->beginEnding();
@@ -101,21 +100,21 @@ TEST_F(SingleInstanceTest, oneThatIsEndingIsWaitedForAndFollowed)
     EXPECT_THAT(asked, IsEmpty());
 }
 
-TEST_F(SingleInstanceTest, oneThatSaysNothingIsGivenUpAfterTwoSeconds)
+TEST_F(SingleInstanceTest, oneThatDoesNotReplyTimesOutAfterTwoSeconds)
 {
     serve(first());
     const auto begin = std::chrono::steady_clock::now();
 
-    EXPECT_EQ(startAnother().get(), Start::unanswered);  // While our event loop stands still.
+    EXPECT_EQ(startAnother().get(), Start::unanswered);  // While our event loop is blocked.
 
     const auto waited = std::chrono::steady_clock::now() - begin;
     EXPECT_GE(waited, 1900ms);
     EXPECT_LE(waited, 5s);
 }
 
-TEST_F(SingleInstanceTest, whatACrashLeftBehindIsNobody)
+TEST_F(SingleInstanceTest, whatACrashLeftBehindIsIgnored)
 {
-    // The process of this number has long ended, and nobody listens.
+    // The process with this pid has long exited, and nobody listens.
     std::ofstream{folder.path() / "fadeloom.lock"} << "999999999\nfadeloom\n"
                                                    << QSysInfo::machineHostName().toStdString() << "\n";
     std::ofstream{folder.path() / "fadeloom.socket"} << "";
@@ -125,7 +124,7 @@ TEST_F(SingleInstanceTest, whatACrashLeftBehindIsNobody)
     EXPECT_EQ(outcomeOf(startAnother()), Start::answered);
 }
 
-TEST_F(SingleInstanceTest, whateverHasTheLocksNameKeepsNobodyFromStarting)
+TEST_F(SingleInstanceTest, anyFileInTheLocksPlaceDoesNotPreventStartup)
 {
     const auto lock = folder.path() / "fadeloom.lock";
     const auto makePipe = [&] { ASSERT_EQ(::mkfifo(lock.c_str(), 0600), 0); };
@@ -144,7 +143,7 @@ TEST_F(SingleInstanceTest, whateverHasTheLocksNameKeepsNobodyFromStarting)
     }
 }
 
-TEST_F(SingleInstanceTest, whateverHasTheSocketsNameKeepsNobodyFromStarting)
+TEST_F(SingleInstanceTest, anyFileInTheSocketsPlaceDoesNotPreventStartup)
 {
     const auto socket = folder.path() / "fadeloom.socket";
     ASSERT_EQ(::mkfifo(socket.c_str(), 0600), 0);
@@ -164,7 +163,7 @@ TEST_F(SingleInstanceTest, nothingIsLeftInTheFolder)
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
 }
 
-TEST_F(SingleInstanceTest, strangersAtTheSocketDoNoHarm)
+TEST_F(SingleInstanceTest, strangersAtTheSocketAreHarmless)
 {
     serve(first());
     QLocalSocket silent;
@@ -193,7 +192,7 @@ TEST_F(SingleInstanceTest, onlyTheUserReachesTheSocket)
         std::filesystem::perms::none);
 }
 
-TEST_F(SingleInstanceTest, whereNothingCanBeLockedItRunsAllTheSame)
+TEST_F(SingleInstanceTest, itRunsEvenIfLockingIsImpossible)
 {
     SingleInstance nowhere{folder.path() / "none"};
 

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
-// A message bus that takes connections and says nothing.
+// A message bus that accepts connections and never replies.
 #pragma once
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
-
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
+
+#include <filesystem>
 
 namespace fadeloom {
 

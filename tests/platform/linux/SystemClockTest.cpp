@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 using std::chrono::local_days;
 using std::chrono::sys_days;
 
-/// While one lives, the process is in this time zone.
+/// While an instance exists, the process is in this time zone.
 class Zone {
 public:
     explicit Zone(const char* name)
@@ -61,7 +61,7 @@ TEST(SystemClock, aZoneHasSummerAndWinter)
         systemClock.localTime(sys_days{2025y / 7 / 15} + 22h + 30min), local_days{2025y / 7 / 16} + 30min);
 }
 
-TEST(SystemClock, anHourIsLeftOutInSpringAndComesTwiceInAutumn)
+TEST(SystemClock, anHourIsSkippedInSpringAndRepeatedInAutumn)
 {
     const Zone zone{"Europe/Warsaw"};
 
@@ -103,7 +103,7 @@ TEST(SystemClock, aChangedZoneCountsAtOnceOnEveryThread)
 
 TEST(SystemClock, partsOfASecondAreRoundedDownAlsoBefore1970)
 {
-    const Zone zone{"America/St_Johns"};  // Half past three hours behind, and in 1930 some seconds more.
+    const Zone zone{"America/St_Johns"};  // UTC−3:30, and in 1930 some seconds more.
 
     EXPECT_EQ(
         systemClock.localTime(sys_days{2025y / 1 / 1} + 999ms), local_days{2024y / 12 / 31} + 20h + 30min);
@@ -113,7 +113,7 @@ TEST(SystemClock, partsOfASecondAreRoundedDownAlsoBefore1970)
         systemClock.localTime(sys_days{1930y / 1 / 1} + 1ms), local_days{1929y / 12 / 31} + 20h + 29min + 8s);
 }
 
-TEST(SystemClock, manyThreadsMayAsk)
+TEST(SystemClock, isThreadSafe)
 {
     const Zone zone{"Europe/Warsaw"};
     std::array<int, 4> wrong{};

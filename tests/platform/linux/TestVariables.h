@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Environment variables of a test's own.
+// Environment variables for a test.
 #pragma once
 
 #include "platform/linux/Variables.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Safe texts, and what names of systemd units tell.
+// Sanitized texts, and parsing the names of systemd units.
 #include "platform/linux/SafeText.h"
 #include "platform/linux/UnitNames.h"
 
@@ -19,14 +19,14 @@ TEST(SafeText, leavesTextAlone)
     EXPECT_EQ(safeText(""), "");
 }
 
-TEST(SafeText, replacesControlsAndWhatIsNotText)
+TEST(SafeText, replacesControlsAndInvalidText)
 {
     EXPECT_EQ(safeText("a\nb\x1b[0m\x7f"), "a b [0m ");
     EXPECT_EQ(safeText("\xc2\x85"), " ");
     EXPECT_EQ(safeText("a\xff\xc3"), "a??");
-    EXPECT_EQ(safeText("\xc0\xaf"), "??");  // A slash in two bytes.
-    EXPECT_EQ(safeText("\xed\xa0\x80"), "???");  // Half of a pair.
-    EXPECT_EQ(safeText("\xf4\x90\x80\x80"), "????");  // Beyond the last character.
+    EXPECT_EQ(safeText("\xc0\xaf"), "??");  // An overlong slash.
+    EXPECT_EQ(safeText("\xed\xa0\x80"), "???");  // Half of a surrogate pair.
+    EXPECT_EQ(safeText("\xf4\x90\x80\x80"), "????");  // Beyond the last code point.
     EXPECT_EQ(safeText("\xe0\x80\xaf\xf0\x80\x80\xaf"), "???????");
 }
 
@@ -37,7 +37,7 @@ TEST(SafeText, cutsBetweenCharacters)
     EXPECT_EQ(safeText(std::string(10'000, 'x')).size(), 255U);
 }
 
-TEST(ApplicationUnit, isTheInnermostOneThatSaysSo)
+TEST(ApplicationUnit, isTheInnermostMatch)
 {
     EXPECT_EQ(applicationUnit("0::/user.slice/user-1000.slice/user@1000.service/app.slice/"
                               "app-gnome-firefox-2345.scope\n"),
@@ -52,7 +52,7 @@ TEST(ApplicationUnit, isTheInnermostOneThatSaysSo)
     EXPECT_EQ(applicationUnit(""), "");
 }
 
-TEST(DesktopIDsOfUnit, knowTheFormsOfLaunchers)
+TEST(DesktopIDsOfUnit, supportTheFormatsOfLaunchers)
 {
     EXPECT_THAT(desktopIDsOfUnit("app-firefox-2345.scope"), ElementsAre("firefox"));
     EXPECT_THAT(desktopIDsOfUnit("app-gnome-org.example.Player-2345.scope"),
@@ -69,13 +69,13 @@ TEST(DesktopIDsOfUnit, undoEscapedDashes)
     EXPECT_THAT(desktopIDsOfUnit(R"(app-a\xzz-1.scope)"), ElementsAre(R"(a\xzz)"));
 }
 
-TEST(DesktopIDsOfUnit, knowSnaps)
+TEST(DesktopIDsOfUnit, supportSnaps)
 {
     EXPECT_THAT(desktopIDsOfUnit("snap.spotify.spotify-0b1c-2d.scope"), Contains("spotify_spotify"));
     EXPECT_THAT(desktopIDsOfUnit("snap.firefox.firefox.0b1c.scope"), Contains("firefox_firefox"));
 }
 
-TEST(DesktopIDsOfUnit, areNoneForOtherUnits)
+TEST(DesktopIDsOfUnit, areEmptyForOtherUnits)
 {
     EXPECT_THAT(desktopIDsOfUnit("session-2.scope"), IsEmpty());
     EXPECT_THAT(desktopIDsOfUnit(""), IsEmpty());

@@ -51,7 +51,7 @@ TEST(UserFolder, undoesEscapes)
     EXPECT_EQ(music("XDG_MUSIC_DIR=\"/m\xFFsic\""), "/m\xFFsic");
 }
 
-TEST(UserFolder, otherFormsAreNone)
+TEST(UserFolder, otherFormsAreIgnored)
 {
     for (const auto* const line : {R"(XDG_MUSIC_DIR="Music")", R"(XDG_MUSIC_DIR="$HOMES/Music")",
              R"(XDG_MUSIC_DIR="${HOME}/Music")", R"(XDG_MUSIC_DIR="~/Music")",

@@ -46,7 +46,7 @@ TEST(UtilityQueue, runNowWaitsForWorkThatIsRunning)
     EXPECT_TRUE(isDone);
 }
 
-TEST(UtilityQueue, twoPiecesNeverRunAtTheSameTime)
+TEST(UtilityQueue, tasksNeverRunConcurrently)
 {
     UtilityQueue queue;
     std::atomic<int> running = 0;
@@ -105,7 +105,7 @@ TEST(UtilityQueue, workMayRunOtherWorkAndItself)
     EXPECT_EQ(runs, 2);
 }
 
-TEST(UtilityQueue, destructionDoesWhatIsDueAndDropsTheRest)
+TEST(UtilityQueue, destructionRunsWhatIsDueAndDropsTheRest)
 {
     std::vector<int> done;
     std::shared_ptr<BackgroundQueue::Work> later;
@@ -121,7 +121,7 @@ TEST(UtilityQueue, destructionDoesWhatIsDueAndDropsTheRest)
     EXPECT_EQ(done.back(), -1);
 }
 
-TEST(UtilityQueue, aDelayBeyondAllClocksIsLong)
+TEST(UtilityQueue, anOverflowingDelayIsClamped)
 {
     UtilityQueue queue;
     std::atomic<int> runs = 0;

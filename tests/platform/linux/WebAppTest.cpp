@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Web apps: which page they show, and how their processes are told from those of their browser.
+// Web apps: the page they show, and how their processes are distinguished from those of their browser.
 #include "platform/linux/WebPage.h"
 
 #include "tests/platform/linux/ApplicationFinderStage.h"
@@ -92,7 +92,7 @@ TEST_F(WebAppTest, isKnownAlsoWhereTheBrowserWroteItsArgumentsAsOneText)
     EXPECT_EQ(found(10), "webapp-Meet1 10");
 }
 
-TEST_F(WebAppTest, aProgramInAUnitOfItsOwnIsNoHelper)
+TEST_F(WebAppTest, aProgramInItsOwnUnitIsNotAHelper)
 {
     tree.entry("browser", "Exec=browser\n");
     tree.entry("web", "Exec=browser --app-id=abc\n");

@@ -29,7 +29,7 @@ protected:
             .watch = [this](std::int32_t) { return canWatch; }}};
 };
 
-TEST_F(AudioWorldBuilding, aClientWithoutAStreamIsNoProcess)
+TEST_F(AudioWorldBuilding, aClientWithoutAStreamIsNotAProcess)
 {
     world.nativeClient(100);
 
@@ -51,7 +51,7 @@ TEST_F(AudioWorldBuilding, clientsOfOnePidAreOneProcess)
     EXPECT_EQ(picture.processOfClient(second + 1000), picture.processes.data());
 }
 
-TEST_F(AudioWorldBuilding, aProcessStaysWithoutClientsUntilItEnds)
+TEST_F(AudioWorldBuilding, aProcessIsKeptWithoutClientsUntilItExits)
 {
     const auto client = world.nativeClient(100);
     const auto stream = world.stream(client);
@@ -81,7 +81,7 @@ TEST_F(AudioWorldBuilding, aProcessThatCannotBeWatchedEndsWithItsLastClient)
     EXPECT_TRUE(build().processes.empty());
 }
 
-TEST_F(AudioWorldBuilding, aClaimedPidIsBelievedOnlyWhenItsProgramFits)
+TEST_F(AudioWorldBuilding, aClaimedPidIsAcceptedOnlyIfItsProgramMatches)
 {
     const auto pulse = [&](const char* binary) {
         world.stream(world.client({{"client.api", "pipewire-pulse"}, {"application.process.id", "7"},
@@ -112,7 +112,7 @@ TEST_F(AudioWorldBuilding, aNewProcessWithAnOldPidHasANewId)
     EXPECT_NE(build().processes.at(0).id, id);
 }
 
-TEST_F(AudioWorldBuilding, aDeviceIsListedOnceAllItsPortsAreThere)
+TEST_F(AudioWorldBuilding, aDeviceIsListedOnceAllItsPortsExist)
 {
     const auto sink = world.sink("speakers", {"FL"});
     world.graph.nodes[sink].inputPortCount = 2;
@@ -137,7 +137,7 @@ TEST_F(AudioWorldBuilding, aDeviceWhoseChannelsChangeIsAnotherDevice)
     EXPECT_NE(after.id, before.id);
 }
 
-TEST_F(AudioWorldBuilding, namesOfAnyBytesAreKeptAsTheyAre)
+TEST_F(AudioWorldBuilding, namesOfAnyBytesAreKeptVerbatim)
 {
     const std::string longName(10000, 'n');
     world.sink("quo\"ted\n\xff", {"FL", "FR"});
@@ -150,7 +150,7 @@ TEST_F(AudioWorldBuilding, namesOfAnyBytesAreKeptAsTheyAre)
     EXPECT_NE(picture.deviceWithUID(longName), nullptr);
 }
 
-TEST_F(AudioWorldBuilding, whatDiffersIsAnnounced)
+TEST_F(AudioWorldBuilding, differencesAreAnnounced)
 {
     const auto client = world.nativeClient(100);
     const auto stream = world.stream(client, GraphNode::State::idle);
@@ -215,7 +215,7 @@ TEST_F(AudioWorldBuilding, aStreamThatWaitsForUsCountsAsPlaying)
     EXPECT_TRUE(build().processes.at(0).isPlaying);
 }
 
-TEST_F(AudioWorldBuilding, whatCarriesSoundOnForOthersIsNoProcess)
+TEST_F(AudioWorldBuilding, whatForwardsAudioForOthersIsNotAProcess)
 {
     const auto client = world.nativeClient(100);
     world.node({{"media.class", "Stream/Input/Audio"}, {"client.id", std::to_string(client)},

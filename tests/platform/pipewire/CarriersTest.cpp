@@ -27,7 +27,7 @@ protected:
     GraphID other = world.nativeClient(100);
 };
 
-TEST_F(CarriersTest, anAppIsNone)
+TEST_F(CarriersTest, anAppIsNotACarrier)
 {
     const auto player = nodeOf(one, "Stream/Output/Audio");
     nodeOf(other, "Audio/Sink");
@@ -35,7 +35,7 @@ TEST_F(CarriersTest, anAppIsNone)
     EXPECT_FALSE(isCarrier(player));
 }
 
-TEST_F(CarriersTest, anAppThatPlaysAndCapturesIsNone)
+TEST_F(CarriersTest, anAppThatPlaysAndCapturesIsNotACarrier)
 {
     const auto voice = nodeOf(one, "Stream/Output/Audio");
     const auto microphone = nodeOf(one, "Stream/Input/Audio");
@@ -77,19 +77,19 @@ TEST_F(CarriersTest, theOutputOfAnEffectThatOwnsASinkIsOne)
     nodeOf(one, "Audio/Sink");
 
     EXPECT_TRUE(isCarrier(output));
-    EXPECT_FALSE(isCarrier(others));  // Of the same process, as all virtual sinks of pipewire-pulse are.
+    EXPECT_FALSE(isCarrier(others));  // Of the same process, like all virtual sinks of pipewire-pulse.
 }
 
-TEST_F(CarriersTest, aHalfWhoseOtherHalfIsStillToComeIsOne)
+TEST_F(CarriersTest, aHalfWhoseOtherHalfHasNotAppearedIsOne)
 {
     const auto playback = nodeOf(one, "Stream/Output/Audio", "loopback-1-1");
     EXPECT_TRUE(isCarrier(playback));
 
     nodeOf(one, "Stream/Output/Audio", "loopback-1-1");
-    EXPECT_FALSE(isCarrier(playback));  // Two that play are no way through.
+    EXPECT_FALSE(isCarrier(playback));  // Two output streams forward nothing.
 }
 
-TEST_F(CarriersTest, devicesAreNone)
+TEST_F(CarriersTest, devicesAreNotCarriers)
 {
     EXPECT_FALSE(isCarrier(nodeOf(one, "Audio/Sink", "filter-chain-1-1")));
 }

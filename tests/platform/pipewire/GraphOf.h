@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Small graphs for tests, in the words of the graph.
+// Builds small graphs for tests.
 #pragma once
 
 #include "platform/pipewire/Graph.h"
@@ -9,7 +9,7 @@
 
 namespace fadeloom {
 
-/// A graph that grows by what a test tells. Ids and serials are given in turn.
+/// A graph that a test adds objects to. Ids and serials are assigned sequentially.
 class GraphOf {
 public:
     GraphID client(GraphProperties properties)

@@ -27,7 +27,7 @@ DeviceLayout layoutWith(const std::vector<std::string>& channels)
     return layoutOf(world.graph.inputPorts(world.sink("device", channels)));
 }
 
-TEST(GraphRules, aNativeClientIsWhoTheKernelSays)
+TEST(GraphRules, aNativeClientIsIdentifiedByTheKernel)
 {
     const auto identity = identityWith({{"pipewire.sec.pid", "100"}, {"application.process.id", "7"}});
 
@@ -35,7 +35,7 @@ TEST(GraphRules, aNativeClientIsWhoTheKernelSays)
     EXPECT_EQ(identity.trust, Trust::verified);
 }
 
-TEST(GraphRules, aPulseClientIsWhoItClaimsToBe)
+TEST(GraphRules, aPulseClientIsIdentifiedByItsClaim)
 {
     const auto identity = identityWith({{"client.api", "pipewire-pulse"}, {"pipewire.sec.pid", "50"},
         {"application.process.id", "7"}, {"application.process.binary", "pacat"}});
@@ -45,7 +45,7 @@ TEST(GraphRules, aPulseClientIsWhoItClaimsToBe)
     EXPECT_EQ(identity.binary, "pacat");
 }
 
-TEST(GraphRules, aPidFromASandboxOrAnotherMachineIsNotTaken)
+TEST(GraphRules, aPidFromASandboxOrAnotherMachineIsIgnored)
 {
     const auto sandboxed = identityWith({{"client.api", "pipewire-pulse"}, {"application.process.id", "2"},
         {"pipewire.access.portal.app_id", "org.example.Player"}});
@@ -58,13 +58,13 @@ TEST(GraphRules, aPidFromASandboxOrAnotherMachineIsNotTaken)
     EXPECT_EQ(remote.trust, Trust::unknown);
 }
 
-TEST(GraphRules, pidsThatAreNoneAreNotTaken)
+TEST(GraphRules, invalidPidsAreIgnored)
 {
     for (const char* pid : {"0", "-5", "99999999999", "abc", ""})
         EXPECT_EQ(identityWith({{"pipewire.sec.pid", pid}}).pid, -1) << pid;
 }
 
-TEST(GraphRules, streamsThatInsistAreNotTapped)
+TEST(GraphRules, pinnedStreamsAreNotTapped)
 {
     EXPECT_TRUE(isTappable(streamWith({})));
     for (const char* key :
@@ -75,14 +75,14 @@ TEST(GraphRules, streamsThatInsistAreNotTapped)
     EXPECT_FALSE(isTappable(streamWith({{"iec958.codec", "AC3"}})));
 }
 
-TEST(GraphRules, eventSoundsAreNobodysSound)
+TEST(GraphRules, eventSoundsBelongToNoApp)
 {
     EXPECT_TRUE(isAppSound(streamWith({{"media.role", "Music"}})));
     EXPECT_FALSE(isAppSound(streamWith({{"media.role", "Notification"}})));
     EXPECT_FALSE(isAppSound(streamWith({{"media.role", "event"}})));
 }
 
-TEST(GraphRules, aCorkedStreamDoesNotPlay)
+TEST(GraphRules, aCorkedStreamIsNotPlaying)
 {
     EXPECT_TRUE(isPlaying(streamWith({{"pulse.corked", "false"}})));
     EXPECT_FALSE(isPlaying(streamWith({{"pulse.corked", "true"}})));
@@ -109,7 +109,7 @@ TEST(GraphRules, onlyACaptureOfASourceUsesTheMicrophone)
     EXPECT_FALSE(isUsingMicrophone(world.graph, capture({{"stream.monitor", "true"}}, source)));
 }
 
-TEST(GraphRules, onlyAPulseStreamThatHasNoAnswerYetNeedsTheDoorbell)
+TEST(GraphRules, onlyAPulseStreamWithoutAReplyNeedsTheDoorbell)
 {
     EXPECT_TRUE(needsDoorbell(streamWith({{"client.api", "pipewire-pulse"}})));
     EXPECT_FALSE(
@@ -117,7 +117,7 @@ TEST(GraphRules, onlyAPulseStreamThatHasNoAnswerYetNeedsTheDoorbell)
     EXPECT_FALSE(needsDoorbell(streamWith({})));
 }
 
-TEST(GraphRules, everyChannelHasItsSide)
+TEST(GraphRules, everyChannelMapsToASide)
 {
     for (const char* channel : {"FL", "SL", "RL"})
         EXPECT_EQ(sideOf(channel), TapSide::left) << channel;

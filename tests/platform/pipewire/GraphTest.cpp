@@ -8,7 +8,7 @@
 namespace fadeloom {
 namespace {
 
-TEST(Graph, propertiesThatAreNoWholeNumbersAreAbsent)
+TEST(Graph, nonIntegerPropertiesAreAbsent)
 {
     const GraphProperties properties{
         {"good", "42"}, {"empty", ""}, {"tail", "42x"}, {"huge", "99999999999999999999"}};
@@ -20,7 +20,7 @@ TEST(Graph, propertiesThatAreNoWholeNumbersAreAbsent)
     EXPECT_EQ(numberOf(properties, "missing"), std::nullopt);
 }
 
-TEST(Graph, aReusedIdIsAnotherNode)
+TEST(Graph, aReusedIdIsADifferentNode)
 {
     GraphOf world;
     const auto id = world.sink("speakers", {"FL", "FR"});
@@ -39,7 +39,7 @@ TEST(Graph, portsComeInTheirOrderWithoutMonitorsAndOtherMedia)
     world.port(sink, "FL", true, true);
     const auto midi = world.port(sink, "MIDI");
     world.graph.ports[midi].isAudio = false;
-    world.graph.ports.begin()->second.index = 99;  // FL, the first to appear, has the highest number.
+    world.graph.ports.begin()->second.index = 99;  // FL, the first to appear, has the highest index.
 
     const auto ports = world.graph.inputPorts(sink);
 
@@ -67,7 +67,7 @@ TEST(Graph, theDefaultSinkIsReadFromJson)
     EXPECT_EQ(Graph{}.defaultSinkName(), "");
 }
 
-TEST(Graph, aForcedRateComesBeforeTheUsualOne)
+TEST(Graph, aForcedRateOverridesTheDefault)
 {
     Graph graph;
     EXPECT_EQ(graph.graphRate(), 48000.0);

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pipewire/Heartbeat.h"
 
+#include <gtest/gtest.h>
 #include <pipewire/data-loop.h>
 #include <pipewire/loop.h>
 #include <pipewire/pipewire.h>
-
-#include <gtest/gtest.h>
+#include <sched.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <chrono>
@@ -13,15 +14,12 @@
 #include <thread>
 #include <vector>
 
-#include <sched.h>
-#include <unistd.h>
-
 namespace fadeloom {
 namespace {
 
 using namespace std::chrono_literals;
 
-/// The calling thread runs on the first processor alone.
+/// Pins the calling thread to the first processor.
 void useOneProcessor()
 {
     cpu_set_t first;
@@ -53,7 +51,7 @@ protected:
         pw_loop_destroy(loop);
     }
 
-    /// Until then, what the data loop is asked to do is done at once by whoever asks.
+    /// Until then, calls to the data loop run immediately on the caller.
     void waitForItsThread() const
     {
         std::atomic<pid_t> thread = gettid();
@@ -72,7 +70,7 @@ protected:
         while (std::chrono::steady_clock::now() < end)
             pw_loop_iterate(loop, 10);
     }
-    /// The data loop's thread does nothing until `isFrozen` is false.
+    /// Blocks the data loop's thread until `isFrozen` is false.
     void freeze()
     {
         isFrozen = true;
@@ -92,7 +90,7 @@ protected:
     std::unique_ptr<Heartbeat> heartbeat;
 };
 
-TEST_F(HeartbeatTest, isSilentWhileTheThreadAnswers)
+TEST_F(HeartbeatTest, isSilentWhileTheThreadReplies)
 {
     heartbeat->setActive(true);
     runFor(1s);
@@ -101,7 +99,7 @@ TEST_F(HeartbeatTest, isSilentWhileTheThreadAnswers)
     EXPECT_FALSE(heartbeat->isStalled());
 }
 
-TEST_F(HeartbeatTest, tellsOfAThreadThatStandsStillAndOfItsRecovery)
+TEST_F(HeartbeatTest, reportsAStalledThreadAndItsRecovery)
 {
     heartbeat->setActive(true);
     runFor(200ms);
@@ -126,7 +124,7 @@ TEST_F(HeartbeatTest, tellsOfAThreadThatStandsStillAndOfItsRecovery)
     EXPECT_FALSE(heartbeat->isStalled());
 }
 
-TEST_F(HeartbeatTest, tellsOfAThreadThatWorksWithoutEnd)
+TEST_F(HeartbeatTest, reportsABusyThread)
 {
     heartbeat->setActive(true);
     runFor(200ms);
@@ -141,7 +139,7 @@ TEST_F(HeartbeatTest, tellsOfAThreadThatWorksWithoutEnd)
     EXPECT_EQ(stalls, 1);
 }
 
-TEST_F(HeartbeatTest, waitsLongerForAThreadThatIsGivenNoProcessor)
+TEST_F(HeartbeatTest, toleratesAStarvedThreadForLonger)
 {
     heartbeat->setActive(true);
     runFor(200ms);
@@ -169,7 +167,7 @@ TEST_F(HeartbeatTest, waitsLongerForAThreadThatIsGivenNoProcessor)
             > (Heartbeat::missesAllowedWhenStarved - 1) * Heartbeat::interval);
 }
 
-TEST_F(HeartbeatTest, asksNothingWhileItIsNotNeeded)
+TEST_F(HeartbeatTest, doesNotPingWhileInactive)
 {
     freeze();
 
@@ -182,7 +180,7 @@ TEST_F(HeartbeatTest, asksNothingWhileItIsNotNeeded)
     EXPECT_EQ(stalls, 0);
 }
 
-TEST_F(HeartbeatTest, followsAStallToItsEndAlsoWhenItIsNotNeededAnyMore)
+TEST_F(HeartbeatTest, tracksAStallToItsEndEvenWhenDeactivated)
 {
     heartbeat->setActive(true);
     freeze();

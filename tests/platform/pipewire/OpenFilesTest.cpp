@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/pipewire/OpenFiles.h"
 
-#include <gtest/gtest.h>
-
-#include <vector>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <unistd.h>
+
+#include <vector>
 
 namespace fadeloom {
 namespace {
@@ -16,7 +15,7 @@ TEST(OpenFiles, roomForATapIsLeftWhileTheReserveIsNotTouched)
 {
     rlimit former{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &former), 0);
-    FilesOfTaps files;
+    DescriptorBudget files;
     EXPECT_EQ(files.limitWithoutRoom(1), std::nullopt);
 
     const rlimit low{100, former.rlim_max};
@@ -26,7 +25,7 @@ TEST(OpenFiles, roomForATapIsLeftWhileTheReserveIsNotTouched)
         opened.push_back(open("/dev/null", O_RDONLY | O_CLOEXEC));
     const auto atTheEdge = files.limitWithoutRoom(1);
     const int next = opened.empty() ? 0 : opened.back();
-    for (int file = 0; file >= 0;)  // All that there are.
+    for (int file = 0; file >= 0;)  // Until none are left.
         opened.push_back(file = open("/dev/null", O_RDONLY | O_CLOEXEC));
     const auto withNoneLeft = files.limitWithoutRoom(1);
     for (const int file : opened)
@@ -45,7 +44,7 @@ TEST(OpenFiles, tapsWhoseFilesAreStillToComeCount)
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &former), 0);
     const rlimit low{128, former.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &low), 0);
-    FilesOfTaps files;
+    DescriptorBudget files;
     const auto first = files.limitWithoutRoom(0);
     const auto ninth = files.limitWithoutRoom(8);
     ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &former), 0);

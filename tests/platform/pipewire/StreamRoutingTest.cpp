@@ -21,7 +21,7 @@ protected:
                 .isHeld = [](const GraphNode&) { return false; },
                 .isLeftAlone = [](const GraphNode&) { return false; }});
     }
-    // A process of its own with one stream.
+    // A separate process with one stream.
     GraphID player(const std::string& target = {}, int pid = 0)
     {
         const auto client = world.nativeClient(pid ? pid : nextPid++);
@@ -30,7 +30,7 @@ protected:
             properties.insert({"target.object", target});
         return world.stream(client, GraphNode::State::running, std::move(properties));
     }
-    // One more stream of the process, which captures what a device plays.
+    // Another stream of the process, which captures a device's output.
     void capture(GraphID player, GraphID device)
     {
         const auto client = *world.graph.node(player)->clientID();
@@ -126,7 +126,7 @@ TEST_F(StreamRoutingTest, aRunningTapTakesOverFromAStoppedOne)
     EXPECT_EQ(deviceOf(stream), "headphones");
 }
 
-TEST_F(StreamRoutingTest, whatCapturesADeviceIsNotLedBackIntoIt)
+TEST_F(StreamRoutingTest, aStreamThatCapturesADeviceIsNotRoutedBackToIt)
 {
     const auto stream = player("headphones");
     capture(stream, speakers);
@@ -134,12 +134,12 @@ TEST_F(StreamRoutingTest, whatCapturesADeviceIsNotLedBackIntoIt)
     tap(stream, speakers);
 
     EXPECT_EQ(deviceOf(stream), "its own");
-    EXPECT_EQ(route().circles, std::set{stream});
+    EXPECT_EQ(route().feedbackLoops, std::set{stream});
 }
 
-TEST_F(StreamRoutingTest, whatPlaysToTheDeviceThatItCapturesAnywayKeepsItsTap)
+TEST_F(StreamRoutingTest, aStreamAlreadyPlayingToTheDeviceItCapturesKeepsItsTap)
 {
-    // A call that shares the sound of its own device.
+    // A call that shares the audio of its own device.
     const auto stream = player();
     capture(stream, speakers);
 
@@ -148,7 +148,7 @@ TEST_F(StreamRoutingTest, whatPlaysToTheDeviceThatItCapturesAnywayKeepsItsTap)
     EXPECT_EQ(deviceOf(stream), "speakers");
 }
 
-TEST_F(StreamRoutingTest, twoAppsAreNotLedInACircleThroughEachOther)
+TEST_F(StreamRoutingTest, twoAppsAreNotRoutedInALoopThroughEachOther)
 {
     const auto desk = world.sink("desk", {"FL", "FR"});
     const auto first = player("desk");
@@ -164,7 +164,7 @@ TEST_F(StreamRoutingTest, twoAppsAreNotLedInACircleThroughEachOther)
     EXPECT_NE(desk, 0U);
 }
 
-TEST_F(StreamRoutingTest, aCarrierIsNeverTaken)
+TEST_F(StreamRoutingTest, aCarrierIsNeverTapped)
 {
     const auto client = world.nativeClient(70);
     world.node({{"media.class", "Stream/Input/Audio"}, {"client.id", std::to_string(client)},

@@ -60,7 +60,7 @@ TEST_F(StreamTargetTest, theMetadataOverridesTheProperties)
     EXPECT_EQ(ownDeviceOf(stream), "speakers");
 }
 
-TEST_F(StreamTargetTest, minusOneIsTheDefaultWhateverThePropertiesSay)
+TEST_F(StreamTargetTest, minusOneIsTheDefaultRegardlessOfTheProperties)
 {
     const auto stream = streamWith({{"target.object", "desk"}});
 
@@ -71,12 +71,12 @@ TEST_F(StreamTargetTest, minusOneIsTheDefaultWhateverThePropertiesSay)
     EXPECT_EQ(ownDeviceOf(streamWith({{"target.object", "-1"}})), "speakers");
 }
 
-TEST_F(StreamTargetTest, aDeviceThatIsNotThereGivesTheDefault)
+TEST_F(StreamTargetTest, aMissingDeviceGivesTheDefault)
 {
     EXPECT_EQ(ownDeviceOf(streamWith({{"target.object", "elsewhere"}, {"node.target", "desk"}})), "speakers");
 }
 
-TEST_F(StreamTargetTest, aTargetThatIsNoDeviceGivesNone)
+TEST_F(StreamTargetTest, aTargetThatIsNotADeviceGivesNone)
 {
     const auto recorder = world.node(
         {{"media.class", "Stream/Input/Audio"}, {"node.name", "recorder"}}, GraphNode::State::running);
@@ -85,7 +85,7 @@ TEST_F(StreamTargetTest, aTargetThatIsNoDeviceGivesNone)
     EXPECT_EQ(ownDeviceOf(streamWith({{"target.object", serialOf(recorder)}})), "none");
 }
 
-TEST_F(StreamTargetTest, aTargetOfOursIsNobodysChoice)
+TEST_F(StreamTargetTest, ourOwnTargetIsNotAChoice)
 {
     const auto stream = streamWith({{"target.object", "desk"}});
 

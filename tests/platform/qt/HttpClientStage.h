@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A client and a server whose pages answer in every way there is.
+// A client, and a server whose pages respond in every possible way.
 #pragma once
 
 #include "platform/qt/QtHttpClient.h"
@@ -41,15 +41,15 @@ protected:
             });
     }
     template <typename Condition>
-    static bool waitUntil(Condition condition, std::chrono::milliseconds patience = 20s)
+    static bool waitUntil(Condition condition, std::chrono::milliseconds timeout = 20s)
     {
         QElapsedTimer time;
         time.start();
-        while (!condition() && !time.hasExpired(patience.count()))
+        while (!condition() && !time.hasExpired(timeout.count()))
             QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
         return condition();
     }
-    /// The status of the answer to one request; `nothing` for none.
+    /// The status of the response to one request; `nothing` if there was none.
     int statusOf(
         const std::string& url, std::chrono::milliseconds timeout = 10s, std::size_t largestBody = 64 * 1024)
     {
@@ -106,7 +106,7 @@ protected:
     qint64 flooded = 0;
 
 private:
-    /// A letter every now and then, without an end.
+    /// Sends a letter now and then, endlessly.
     static void drip(QTcpSocket& connection)
     {
         connection.write("HTTP/1.1 200 OK\r\n\r\n");
@@ -114,7 +114,7 @@ private:
         QObject::connect(timer, &QTimer::timeout, &connection, [&connection] { connection.write("."); });
         timer->start(20ms);
     }
-    /// As much as is taken, without an end.
+    /// Sends as much as is accepted, endlessly.
     void flood(QTcpSocket& connection)
     {
         connection.write("HTTP/1.1 200 OK\r\n\r\n");

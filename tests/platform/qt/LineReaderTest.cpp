@@ -3,16 +3,14 @@
 #include "platform/qt/QtMainLoop.h"
 
 #include <QCoreApplication>
-
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <array>
 #include <string>
 #include <vector>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {
@@ -112,7 +110,7 @@ TEST_F(LineReaderTest, anEmptyFileEndsAtOnce)
     close(nothing);
 }
 
-TEST_F(LineReaderTest, leavesTheModeOfTheDescriptorAlone)
+TEST_F(LineReaderTest, doesNotChangeTheFlagsOfTheDescriptor)
 {
     const int before = fcntl(ends[0], F_GETFL);
 

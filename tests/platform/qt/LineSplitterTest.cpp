@@ -11,7 +11,7 @@ using Line = LineSplitter::Line;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-TEST(LineSplitter, cutsLinesWhereverThePiecesEnd)
+TEST(LineSplitter, splitsLinesAcrossChunks)
 {
     LineSplitter splitter{100};
 
@@ -20,7 +20,7 @@ TEST(LineSplitter, cutsLinesWhereverThePiecesEnd)
     EXPECT_THAT(splitter.feed("ree\n\n"), ElementsAre(Line{"three"}, Line{""}));
 }
 
-TEST(LineSplitter, takesBothKindsOfLineEnds)
+TEST(LineSplitter, acceptsBothKindsOfLineEnds)
 {
     LineSplitter splitter{100};
 
@@ -28,7 +28,7 @@ TEST(LineSplitter, takesBothKindsOfLineEnds)
     EXPECT_THAT(splitter.feed("\ntwo\r\n"), ElementsAre(Line{"one"}, Line{"two"}));
 }
 
-TEST(LineSplitter, theLastLineNeedsNoEnd)
+TEST(LineSplitter, theLastLineNeedsNoLineEnd)
 {
     LineSplitter splitter{100};
 
@@ -38,7 +38,7 @@ TEST(LineSplitter, theLastLineNeedsNoEnd)
     EXPECT_THAT(splitter.finish(), IsEmpty());
 }
 
-TEST(LineSplitter, aLineOfTheLongestLengthIsWhole)
+TEST(LineSplitter, aLineOfMaximumLengthIsComplete)
 {
     LineSplitter splitter{4};
 
@@ -46,7 +46,7 @@ TEST(LineSplitter, aLineOfTheLongestLengthIsWhole)
         splitter.feed("abcd\nabcd\r\nabcde\n"), ElementsAre(Line{"abcd"}, Line{"abcd"}, (Line{"", true})));
 }
 
-TEST(LineSplitter, aLongLineIsSaidToBeTooLongAndTheNextOneIsWhole)
+TEST(LineSplitter, aLineThatIsTooLongIsReportedAndTheNextOneIsComplete)
 {
     LineSplitter splitter{8};
 
@@ -56,7 +56,7 @@ TEST(LineSplitter, aLongLineIsSaidToBeTooLongAndTheNextOneIsWhole)
     EXPECT_THAT(splitter.feed("\nnext\n"), ElementsAre((Line{"", true}), Line{"next"}));
 }
 
-TEST(LineSplitter, aLongLineAtTheEndIsSaidToBeTooLong)
+TEST(LineSplitter, aLineThatIsTooLongIsReportedAtTheEnd)
 {
     LineSplitter splitter{2};
 
@@ -65,7 +65,7 @@ TEST(LineSplitter, aLongLineAtTheEndIsSaidToBeTooLong)
     EXPECT_THAT(splitter.finish(), ElementsAre((Line{"", true})));
 }
 
-TEST(LineSplitter, bytesOfAnyKindPass)
+TEST(LineSplitter, acceptsArbitraryBytes)
 {
     LineSplitter splitter{8};
 

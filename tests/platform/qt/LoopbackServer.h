@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A web server on this machine that answers as a test tells it to, byte for byte.
+// A local web server whose responses are specified by a test, byte for byte.
 #pragma once
 
 #include <QHostAddress>
@@ -16,10 +16,10 @@
 
 namespace fadeloom {
 
-/// Needs a running Qt event loop, in the thread that made it.
+/// Needs a running Qt event loop on the thread that created it.
 class LoopbackServer {
 public:
-    /// Gets each connection once its request has come in whole.
+    /// Gets each connection once its request has arrived completely.
     using Answer = std::function<void(QTcpSocket& connection, const std::string& request)>;
 
     explicit LoopbackServer(Answer answer)
@@ -35,12 +35,11 @@ public:
     {
         return "http://127.0.0.1:" + std::to_string(server_.serverPort()) + path;
     }
-    /// Every request in the order in which they came; the names of its headers in lower case, which differs between
-    /// versions of Qt.
+    /// All requests in order of arrival; header names in lower case, which differs between versions of Qt.
     [[nodiscard]] const std::vector<std::string>& requests() const { return requests_; }
     [[nodiscard]] int disconnections() const { return disconnections_; }
 
-    /// A whole answer, after which the connection ends.
+    /// A complete response, after which the connection is closed.
     static void answer(QTcpSocket& connection, const std::string& status, const std::string& body,
         const std::string& headers = {})
     {
@@ -52,7 +51,7 @@ public:
 private:
     static std::string withLowerNames(std::string request)
     {
-        bool isName = false;  // The first line is no header.
+        bool isName = false;  // The first line is not a header.
         for (char& letter : request) {
             if (isName && letter >= 'A' && letter <= 'Z')
                 letter = static_cast<char>(letter - 'A' + 'a');

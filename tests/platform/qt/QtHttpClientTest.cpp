@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Requests to a real server, over the loopback device.
+// Requests to a real server over the loopback interface.
 #include "tests/platform/qt/HttpClientStage.h"
 
 #include <QLocale>
@@ -15,7 +15,7 @@ using ::testing::StartsWith;
 
 class QtHttpClientTest : public HttpClientStage { };
 
-TEST(HttpRequest, waitsFifteenSecondsForAnAnswerOfSixtyFourKibibytes)
+TEST(HttpRequest, defaultsToFifteenSecondsAndSixtyFourKibibytes)
 {
     EXPECT_EQ(HttpRequest{}.timeout, 15s);
     EXPECT_EQ(HttpRequest{}.largestBody, 65536U);
@@ -27,7 +27,7 @@ TEST_F(QtHttpClientTest, getsAPage)
     EXPECT_EQ(body, "the page");
 }
 
-TEST_F(QtHttpClientTest, tellsWhoItIsAndNothingElseOfTheUser)
+TEST_F(QtHttpClientTest, sendsOnlyItsUserAgent)
 {
     QLocale::setDefault(QLocale(QLocale::Polish));
 
@@ -38,7 +38,7 @@ TEST_F(QtHttpClientTest, tellsWhoItIsAndNothingElseOfTheUser)
             Not(HasSubstr("pl")), Not(HasSubstr("\ncookie"))));
 }
 
-TEST_F(QtHttpClientTest, asksPastEveryCache)
+TEST_F(QtHttpClientTest, bypassesEveryCache)
 {
     statusOf(server.url("/cookie"));
     ask(server.url("/cookie"));
@@ -57,7 +57,7 @@ TEST_F(QtHttpClientTest, followsARedirect)
     EXPECT_THAT(server.requests().at(1), HasSubstr("\r\nuser-agent: Fadeloom/42\r\n"));
 }
 
-TEST_F(QtHttpClientTest, runsInNoCircle)
+TEST_F(QtHttpClientTest, stopsAtARedirectLoop)
 {
     EXPECT_EQ(statusOf(server.url("/circle")), nothing);
 }
@@ -67,19 +67,19 @@ TEST_F(QtHttpClientTest, isNotRedirectedToAFile)
     EXPECT_EQ(statusOf(server.url("/file")), nothing);
 }
 
-TEST_F(QtHttpClientTest, aRefusalIsAnAnswer)
+TEST_F(QtHttpClientTest, anErrorStatusIsAResponse)
 {
     EXPECT_EQ(statusOf(server.url("/nowhere")), 404);
     EXPECT_EQ(body, "not here");
 }
 
-TEST_F(QtHttpClientTest, aFailureOfTheServerIsAnAnswer)
+TEST_F(QtHttpClientTest, aServerErrorIsAResponse)
 {
     EXPECT_EQ(statusOf(server.url("/broken")), 500);
     EXPECT_EQ(body, "oh");
 }
 
-TEST_F(QtHttpClientTest, onlyTheWebIsAsked)
+TEST_F(QtHttpClientTest, onlyHttpIsRequested)
 {
     for (const auto* const url :
         {"", "no address", "file:///etc/hostname", "data:,text", "http://", "ftp://127.0.0.1/"}) {
@@ -114,7 +114,7 @@ TEST_F(QtHttpClientTest, noRequestOutlivesIt)
     EXPECT_THAT(statuses, IsEmpty());
 }
 
-TEST_F(QtHttpClientTest, anAnswerMayEndIt)
+TEST_F(QtHttpClientTest, aCallbackMayDestroyIt)
 {
     int count = 0;
     const auto endIt = [&](const auto&) {

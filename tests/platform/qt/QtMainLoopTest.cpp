@@ -55,7 +55,7 @@ TEST_F(QtMainLoopTest, quitFromAnotherThreadEndsRun)
     other.join();
 }
 
-TEST_F(QtMainLoopTest, aTaskThatPostsItselfLeavesRoomForTimers)
+TEST_F(QtMainLoopTest, aTaskThatPostsItselfDoesNotStarveTimers)
 {
     std::function<void()> again = [&] { loop.post(again); };
     loop.post(again);

@@ -15,7 +15,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// While one lives, the user speaks this language.
+/// While an instance exists, this is the user's language.
 class Language {
 public:
     explicit Language(const char* locale) { QLocale::setDefault(QLocale{QString{locale}}); }
@@ -36,7 +36,7 @@ std::vector<std::string> sorted(const Text& text, std::vector<std::string> words
     return words;
 }
 
-TEST(QtText, lowersEveryScript)
+TEST(QtText, lowercasesEveryScript)
 {
     const QtText text;
 
@@ -50,7 +50,7 @@ TEST(QtText, doesNotFollowTheLanguageOfTheInterface)
 {
     const QtText text;
 
-    EXPECT_EQ(text.lowercased("TITLE"), "title");  // A Turkish interface would make another letter of the I.
+    EXPECT_EQ(text.lowercased("TITLE"), "title");  // A Turkish interface would convert the I differently.
     EXPECT_EQ(text.lowercased("İ").substr(0, 1), "i");
 }
 
@@ -96,7 +96,7 @@ TEST(QtText, comparesWithoutRegardToLetterCase)
     EXPECT_FALSE(text.equalIgnoringCase(std::string_view{"a\0b", 3}, std::string_view{"a\0c", 3}));
 }
 
-TEST(QtText, lettersThatFoldToManyAreEqualToThese)
+TEST(QtText, lettersThatFoldToSeveralEqualThem)
 {
     const QtText text;
 
@@ -109,7 +109,7 @@ TEST(QtText, lettersThatFoldToManyAreEqualToThese)
     EXPECT_TRUE(text.equalIgnoringCase("և", "ԵՒ"));
 }
 
-TEST(QtText, lettersThatAreWrittenInPartsAreEqualToWholeOnes)
+TEST(QtText, decomposedLettersEqualPrecomposedOnes)
 {
     const QtText text;
 
@@ -133,7 +133,7 @@ TEST(QtText, caseIsTheSameInEveryLanguage)
     }
 }
 
-TEST(QtText, whatIsNotTextIsEqualToReplacementCharacters)
+TEST(QtText, invalidTextEqualsReplacementCharacters)
 {
     const QtText text;
 
@@ -192,7 +192,7 @@ TEST(QtText, orderFollowsAChangeOfLanguage)
     }
 }
 
-TEST(QtText, orderIsOneInEveryLanguage)
+TEST(QtText, orderIsConsistentInEveryLanguage)
 {
     const QtText text;
     const std::string large(100'000, 'x');

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/QtUserDefaults.h"
-
 #include "tests/platform/UserDefaultsContract.h"
 #include "tests/support/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"
 
+#include <sys/stat.h>
+
 #include <fstream>
 #include <sstream>
-
-#include <sys/stat.h>
 
 namespace fadeloom {
 namespace {
@@ -46,7 +45,7 @@ protected:
     QtUserDefaults defaults{file};
 };
 
-TEST_F(QtUserDefaultsTest, theFileIsMadeWhenThereIsSomethingToKeep)
+TEST_F(QtUserDefaultsTest, theFileIsCreatedWithTheFirstValue)
 {
     EXPECT_EQ(defaults.stringList("Colours"), std::nullopt);
     EXPECT_FALSE(std::filesystem::exists(file));
@@ -65,7 +64,7 @@ TEST_F(QtUserDefaultsTest, nothingElseIsLeftInTheFolder)
         EXPECT_EQ(entry.path(), file);
 }
 
-TEST_F(QtUserDefaultsTest, itIsThereAtTheNextStart)
+TEST_F(QtUserDefaultsTest, itIsLoadedAtTheNextStart)
 {
     defaults.setStringList("Colours", {"red"});
 
@@ -94,7 +93,7 @@ TEST_F(QtUserDefaultsTest, aFileThatCannotBeReadIsNotReplaced)
     EXPECT_EQ(content(), "[General]\nColours=green\n");
 }
 
-TEST_F(QtUserDefaultsTest, whatIsNoTextIsAbsent)
+TEST_F(QtUserDefaultsTest, invalidTextIsAbsent)
 {
     write("[General]\nPlace=@Point(1 2)\nBytes=@ByteArray(abc)\n");
 
@@ -102,7 +101,7 @@ TEST_F(QtUserDefaultsTest, whatIsNoTextIsAbsent)
     EXPECT_EQ(defaults.stringList("Bytes"), std::nullopt);
 }
 
-TEST_F(QtUserDefaultsTest, aDamagedFileIsEmpty)
+TEST_F(QtUserDefaultsTest, aDamagedFileCountsAsEmpty)
 {
     write("[General]\nColours=red\nneither this nor that\n[[[");
 
@@ -119,14 +118,14 @@ TEST_F(QtUserDefaultsTest, aDamagedFileIsReplacedByTheNextChange)
     EXPECT_EQ(defaults.stringList("Colours"), std::nullopt);
 }
 
-TEST_F(QtUserDefaultsTest, anyBytesAreReadWithoutHarm)
+TEST_F(QtUserDefaultsTest, anyBytesAreReadSafely)
 {
     write(std::string("\0\xFF\xFE[\n=\n@Variant(\0\0", 17) + std::string(100'000, '\xC3'));
 
     EXPECT_EQ(defaults.stringList("Colours"), std::nullopt);
 }
 
-TEST_F(QtUserDefaultsTest, aFolderInItsPlaceIsNothing)
+TEST_F(QtUserDefaultsTest, aFolderInItsPlaceIsIgnored)
 {
     std::filesystem::create_directory(file);
 
@@ -136,7 +135,7 @@ TEST_F(QtUserDefaultsTest, aFolderInItsPlaceIsNothing)
     EXPECT_TRUE(std::filesystem::is_directory(file));
 }
 
-TEST_F(QtUserDefaultsTest, whereNothingCanBeWrittenNothingIsKept)
+TEST_F(QtUserDefaultsTest, withoutWritePermissionNothingIsStored)
 {
     std::ofstream{folder.path() / "taken"} << "no folder";
     QtUserDefaults nowhere{folder.path() / "taken" / "preferences.ini"};

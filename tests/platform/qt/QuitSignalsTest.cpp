@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/QuitSignals.h"
-
 #include "platform/qt/QtMainLoop.h"
 
 #include <QCoreApplication>
-
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <csignal>
-
-#include <unistd.h>
 
 namespace fadeloom {
 namespace {
@@ -52,7 +49,7 @@ TEST_P(QuitSignalsTest, aSecondSignalEndsTheProcess)
     EXPECT_EXIT(signalTwice(), ::testing::KilledBySignal(GetParam()), "");
 }
 
-TEST_P(QuitSignalsTest, theFormerMeaningComesBack)
+TEST_P(QuitSignalsTest, thePreviousActionIsRestored)
 {
     std::signal(GetParam(), SIG_IGN);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A desktop's bar as it looks from the message bus: it keeps the list of icons and shows them.
+// A fake desktop bar on D-Bus: it maintains the list of icons and shows them.
 #pragma once
 
 #include <QDBusConnection>
@@ -10,7 +10,7 @@
 
 namespace fadeloom {
 
-/// Comes when it is made and goes with the object.
+/// Appears and disappears with the object.
 class BarOnBus : public QDBusVirtualObject {
 public:
     enum class Host { present, absent };
@@ -32,7 +32,7 @@ public:
 
     [[nodiscard]] const QStringList& icons() const { return icons_; }
 
-    /// From now on icons are shown, too.
+    /// Registers as a host as well.
     void bringHost()
     {
         host_ = Host::present;

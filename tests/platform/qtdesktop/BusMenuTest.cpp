@@ -71,14 +71,14 @@ TEST_F(BusMenuTest, hasTheEntriesInOrder)
     EXPECT_EQ(layout().properties.value(QStringLiteral("children-display")), QStringLiteral("submenu"));
 }
 
-TEST_F(BusMenuTest, isReadOnlyAsDeepAndAsMuchAsItIsAskedFor)
+TEST_F(BusMenuTest, returnsOnlyTheRequestedDepthAndProperties)
 {
     EXPECT_TRUE(layout(0, 0).children.isEmpty());
     EXPECT_TRUE(layout(0, -1, {QStringLiteral("type")}).children[0].properties.isEmpty());
     EXPECT_TRUE(layout(idOf("Open")).children.isEmpty());
 }
 
-TEST_F(BusMenuTest, marksWhatIsChecked)
+TEST_F(BusMenuTest, marksCheckedEntries)
 {
     content[0].isChecked = true;
 
@@ -89,14 +89,14 @@ TEST_F(BusMenuTest, marksWhatIsChecked)
     EXPECT_FALSE(children[2].properties.contains(QStringLiteral("toggle-type")));
 }
 
-TEST_F(BusMenuTest, anUnderscoreMarksNoLetter)
+TEST_F(BusMenuTest, anUnderscoreIsNotAMnemonic)
 {
     content[0].title = "a_b";
 
     EXPECT_THAT(labels(), ElementsAre("a__b", "", "Quit"));
 }
 
-TEST_F(BusMenuTest, doesWhatIsClickedOnceTheBarHasItsAnswer)
+TEST_F(BusMenuTest, runsAClickedEntryAfterReplyingToTheBar)
 {
     menu.Event(idOf("Quit"), QStringLiteral("clicked"), QDBusVariant(QString()), 0);
     EXPECT_TRUE(done.empty());
@@ -106,7 +106,7 @@ TEST_F(BusMenuTest, doesWhatIsClickedOnceTheBarHasItsAnswer)
     EXPECT_THAT(done, ElementsAre("Quit"));
 }
 
-TEST_F(BusMenuTest, onlyClicksAndOpeningDoAnything)
+TEST_F(BusMenuTest, otherEventsAreIgnored)
 {
     menu.Event(idOf("Quit"), QStringLiteral("hovered"), QDBusVariant(QString()), 0);
     click(4711);
@@ -130,7 +130,7 @@ TEST_F(BusMenuTest, anEntryKeepsItsIdWhileOthersComeAndGo)
     EXPECT_THAT(done, ElementsAre("Quit"));
 }
 
-TEST_F(BusMenuTest, tellsABarToAskAgainOnlyWhenThereIsSomethingNew)
+TEST_F(BusMenuTest, requestsALayoutUpdateOnlyIfSomethingChanged)
 {
     layout();
     const auto before = revision;
@@ -144,7 +144,7 @@ TEST_F(BusMenuTest, tellsABarToAskAgainOnlyWhenThereIsSomethingNew)
     EXPECT_EQ(opened, 2);
 }
 
-TEST_F(BusMenuTest, answersForManyAtOnce)
+TEST_F(BusMenuTest, repliesForSeveralEntries)
 {
     const int quit = idOf("Quit");
     QList<int> errors;
@@ -161,7 +161,7 @@ TEST_F(BusMenuTest, answersForManyAtOnce)
 }
 
 // Bars are strict about the types.
-TEST_F(BusMenuTest, speaksTheProtocolOnTheBus)
+TEST_F(BusMenuTest, implementsTheProtocolOnTheBus)
 {
     PrivateBus bus;
     auto ours = bus.connect();

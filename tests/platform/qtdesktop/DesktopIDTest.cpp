@@ -25,7 +25,7 @@ TEST(DesktopID, isTheNameAloneElsewhere)
     EXPECT_EQ(desktopID("/usr/share/applications2/call.desktop", folders), "call");
 }
 
-TEST(DesktopID, isMissingForWhatIsNoEntry)
+TEST(DesktopID, isMissingForFilesThatAreNotEntries)
 {
     EXPECT_EQ(desktopID("/usr/bin/call", folders), std::nullopt);
     EXPECT_EQ(desktopID("/usr/share/applications/.desktop", folders), std::nullopt);

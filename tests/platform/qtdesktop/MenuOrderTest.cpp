@@ -17,7 +17,7 @@ std::vector<std::string> titles(const StatusMenu& menu)
     return result;
 }
 
-TEST(MenuOrder, putsTheGroupOfTheClickInFront)
+TEST(MenuOrder, movesTheClicksGroupToTheFront)
 {
     const StatusMenu menu{{.title = "About"}, {}, {.title = "Open", .isClick = true}, {.title = "Settings"},
         {}, {.title = "Quit"}};
@@ -25,7 +25,7 @@ TEST(MenuOrder, putsTheGroupOfTheClickInFront)
     EXPECT_THAT(titles(clickFirst(menu)), ElementsAre("Open", "Settings", "", "About", "", "Quit"));
 }
 
-TEST(MenuOrder, leavesItThereWhenItIsInFrontAlready)
+TEST(MenuOrder, isUnchangedIfItIsAlreadyInFront)
 {
     const StatusMenu menu{{.title = "Open", .isClick = true}, {}, {.title = "Quit"}};
 
@@ -39,7 +39,7 @@ TEST(MenuOrder, ofTheLastGroupEndsWithTheOthers)
     EXPECT_THAT(titles(clickFirst(menu)), ElementsAre("Open", "", "About"));
 }
 
-TEST(MenuOrder, withoutAClickStaysAsItIs)
+TEST(MenuOrder, withoutAClickIsUnchanged)
 {
     const StatusMenu menu{{.title = "About"}, {}, {.title = "Quit"}};
 

@@ -7,7 +7,7 @@
 
 namespace fadeloom {
 
-/// One at a time in a process.
+/// One per process.
 class OffscreenApplication {
 public:
     OffscreenApplication() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }

@@ -18,7 +18,7 @@ const ScreenArea barAtBottom{whole, {0, 0, 1280, 776}};
 const ScreenArea barAtLeft{whole, {24, 0, 1256, 800}};
 const ScreenArea barAtRight{whole, {0, 0, 1256, 800}};
 const ScreenArea barsUnknown{whole, whole};
-// To its right: at scale 1.5, with a bar of its own at the bottom.
+// To its right: at scale 1.5, with a separate bar at the bottom.
 const ScreenArea second{{1280, 0, 1280, 720}, {1280, 0, 1280, 690}, 1.5};
 
 struct Case {
@@ -78,13 +78,13 @@ INSTANTIATE_TEST_SUITE_P(TwoScreens, PopoverPlacementTable,
         Case{"anIconBetweenThemIsOnTheFirst", QRect(-500, 3, 20, 20), {barAtTop, second},
             {0, left, {6, 30}}}));
 
-TEST(IconPlace, isWhatTheBarSaysNearAnEdge)
+TEST(IconPlace, isTheReportedOneNearAnEdge)
 {
     EXPECT_EQ(iconPlace({1200, 12}, {barAtTop}), QRect(1200, 12, 1, 1));
     EXPECT_EQ(iconPlace({12, 700}, {barAtLeft}), QRect(12, 700, 1, 1));
 }
 
-TEST(IconPlace, isUnknownWhereNoBarCanBe)
+TEST(IconPlace, isUnknownIfImplausible)
 {
     EXPECT_FALSE(iconPlace({600, 400}, {barAtTop})) << "the middle of the screen";
     EXPECT_FALSE(iconPlace({9, 12}, {barAtTop})) << "counted from the icon's own corner";
@@ -92,7 +92,7 @@ TEST(IconPlace, isUnknownWhereNoBarCanBe)
     EXPECT_FALSE(iconPlace({5000, 12}, {barAtTop})) << "on no screen";
 }
 
-TEST(IconPlace, isToldInPixelsOfTheDisplay)
+TEST(IconPlace, isReportedInDevicePixels)
 {
     const ScreenArea scaled{{0, 0, 1280, 800}, {0, 0, 1280, 760}, 1.5};
 
@@ -100,26 +100,26 @@ TEST(IconPlace, isToldInPixelsOfTheDisplay)
     EXPECT_EQ(iconPlace({1280 + 1500, 1050}, {barAtTop, second}), QRect(1280 + 1000, 700, 1, 1));
 }
 
-TEST(WindowPlace, isTheMiddleUntilItIsMoved)
+TEST(WindowPlace, isCentredUntilItIsMoved)
 {
     EXPECT_EQ(placeWindow({}, panel, {barAtTop, second}), QPoint(450, 179));
     EXPECT_EQ(placeWindow(QPoint(700, 300), panel, {barAtTop, second}), QPoint(700, 300));
     EXPECT_EQ(placeWindow(QPoint(1500, 100), panel, {barAtTop, second}), QPoint(1500, 100));
 }
 
-TEST(WindowPlace, isTheMiddleAgainWhenItsScreenHasGone)
+TEST(WindowPlace, isCentredAgainIfItsScreenIsGone)
 {
     EXPECT_EQ(placeWindow(QPoint(1500, 100), panel, {barAtTop}), QPoint(450, 179));
     EXPECT_EQ(placeWindow(QPoint(1270, 790), panel, {barAtTop}), QPoint(450, 179));
 }
 
-TEST(FreePart, isBesideTheBar)
+TEST(AvailablePart, isBesideTheBar)
 {
-    EXPECT_EQ(freePart(whole, {1280, 776}, top), barAtTop.free);
-    EXPECT_EQ(freePart(whole, {1280, 776}, bottom), barAtBottom.free);
-    EXPECT_EQ(freePart(whole, {1256, 800}, left), barAtLeft.free);
-    EXPECT_EQ(freePart(whole, {1256, 800}, right), barAtRight.free);
-    EXPECT_EQ(freePart(whole, {1220, 776}, top), barAtTop.free) << "whatever stands at the sides";
+    EXPECT_EQ(availablePart(whole, {1280, 776}, top), barAtTop.free);
+    EXPECT_EQ(availablePart(whole, {1280, 776}, bottom), barAtBottom.free);
+    EXPECT_EQ(availablePart(whole, {1256, 800}, left), barAtLeft.free);
+    EXPECT_EQ(availablePart(whole, {1256, 800}, right), barAtRight.free);
+    EXPECT_EQ(availablePart(whole, {1220, 776}, top), barAtTop.free) << "whatever stands at the sides";
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A message bus of the test's own.
+// A private message bus for a test.
 #pragma once
 
 #include <QCoreApplication>
@@ -13,7 +13,7 @@
 
 namespace fadeloom {
 
-/// Lets events happen until the condition holds; says whether it did in time.
+/// Processes events until the condition holds; false on timeout.
 inline bool happensSoon(const std::function<bool()>& condition, int milliseconds = 5000)
 {
     QElapsedTimer time;
@@ -26,7 +26,7 @@ inline bool happensSoon(const std::function<bool()>& condition, int milliseconds
     return true;
 }
 
-/// Ends with this object, and everybody is off it. Needs a QCoreApplication.
+/// Ends with this object, after disconnecting everybody. Needs a QCoreApplication.
 class PrivateBus {
 public:
     PrivateBus()
@@ -49,7 +49,7 @@ public:
         daemon_.waitForFinished();
     }
 
-    /// Somebody else on the bus.
+    /// Another client on the bus.
     QDBusConnection connect()
     {
         static int count = 0;

@@ -39,7 +39,7 @@ protected:
     std::optional<QtApplication> application{std::in_place, [](auto) { }};
 };
 
-TEST_F(AboutPanelWindowTest, tellsNameVersionAndCredits)
+TEST_F(AboutPanelWindowTest, showsNameVersionAndCredits)
 {
     application->showAboutPanel(
         {.text = "Loud & <clear>.", .linkText = "host.example", .linkURL = "https://host.example/?a=\"b\""});
@@ -76,7 +76,7 @@ TEST_F(AboutPanelWindowTest, isReadableOnADarkDesktop)
     EXPECT_FALSE(creditsLabel()->text().contains("color"));
 }
 
-TEST_F(AboutPanelWindowTest, isThereOnce)
+TEST_F(AboutPanelWindowTest, opensOnlyOnce)
 {
     application->showAboutPanel(credits);
     application->showAboutPanel(credits);
@@ -85,7 +85,7 @@ TEST_F(AboutPanelWindowTest, isThereOnce)
     EXPECT_FALSE(panels().front()->isModal());
 }
 
-TEST_F(AboutPanelWindowTest, comesBackAfterItWasClosed)
+TEST_F(AboutPanelWindowTest, reopensAfterItWasClosed)
 {
     application->showAboutPanel(credits);
     panels().front()->close();
@@ -97,7 +97,7 @@ TEST_F(AboutPanelWindowTest, comesBackAfterItWasClosed)
     EXPECT_EQ(panels().size(), 1);
 }
 
-TEST_F(AboutPanelWindowTest, goesWithTheProgram)
+TEST_F(AboutPanelWindowTest, closesWithTheProgram)
 {
     application->showAboutPanel(credits);
 

@@ -28,7 +28,7 @@ class QtDialogsTest : public ::testing::Test {
 protected:
     QtDialogsTest() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
-    /// The window of this kind that is open; null for none.
+    /// The open window of this kind; null if there is none.
     template <typename Window>
     static Window* open()
     {
@@ -72,7 +72,7 @@ protected:
         .title = "<b>2.0</b> is there", .text = "Get it & go.", .buttons = {"Download", "Later"}};
 };
 
-TEST_F(QtDialogsTest, aMessageSaysWhatItWasGivenAndWaits)
+TEST_F(QtDialogsTest, aMessageShowsItsTextsAndWaits)
 {
     ask(update);
 
@@ -145,7 +145,7 @@ TEST_F(QtDialogsTest, anApplicationIsKnownByItsDesktopEntry)
     EXPECT_THAT(chosen, ElementsAre(std::optional<std::string>("org.example.Call")));
 }
 
-TEST_F(QtDialogsTest, whatIsNoApplicationIsNothing)
+TEST_F(QtDialogsTest, aFileThatIsNotAnApplicationGivesNothing)
 {
     askForApplication();
 
@@ -154,7 +154,7 @@ TEST_F(QtDialogsTest, whatIsNoApplicationIsNothing)
     EXPECT_THAT(chosen, ElementsAre(std::nullopt));
 }
 
-TEST_F(QtDialogsTest, aCancelIsNothing)
+TEST_F(QtDialogsTest, cancellingGivesNothing)
 {
     askForApplication();
 
@@ -173,7 +173,7 @@ TEST_F(QtDialogsTest, aSecondQuestionAnswersTheFirstWithNothing)
     EXPECT_THAT(chosen, ElementsAre(std::nullopt, std::optional<std::string>("call")));
 }
 
-TEST_F(QtDialogsTest, theirEndIsNoAnswer)
+TEST_F(QtDialogsTest, theirDestructionIsNotAnAnswer)
 {
     ask(update);
     askForApplication();

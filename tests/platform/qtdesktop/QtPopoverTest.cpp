@@ -50,7 +50,7 @@ TEST_F(QtPopoverTest, opensBesideTheIconInTheSizeOfItsContent)
     EXPECT_EQ(closed, 0);
 }
 
-TEST_F(QtPopoverTest, tellsItsContentWhatTheScreenAllows)
+TEST_F(QtPopoverTest, passesTheScreensCapabilitiesToItsContent)
 {
     popover.show();
     const auto& content = *popover.view().rootObject();
@@ -60,7 +60,7 @@ TEST_F(QtPopoverTest, tellsItsContentWhatTheScreenAllows)
     EXPECT_TRUE(content.property("hasRoundCorners").toBool());
     EXPECT_TRUE(content.property("isTranslucent").toBool());
 
-    popover.becomeOrdinaryWindow();
+    popover.turnIntoOrdinaryWindow();
     popover.show();
 
     EXPECT_FALSE(content.property("hasRoundCorners").toBool());
@@ -122,7 +122,7 @@ TEST_F(QtPopoverTest, opensAgain)
 
 TEST_F(QtPopoverTest, aMinimisedWindowIsNotShown)
 {
-    popover.becomeOrdinaryWindow();
+    popover.turnIntoOrdinaryWindow();
     popover.show();
 
     popover.view().setWindowState(Qt::WindowMinimized);
@@ -139,9 +139,9 @@ TEST_F(QtPopoverTest, aMinimisedWindowIsNotShown)
     EXPECT_EQ(closed, 2);
 }
 
-TEST_F(QtPopoverTest, aMinimisedWindowThatComesBackIsShown)
+TEST_F(QtPopoverTest, aRestoredWindowIsShown)
 {
-    popover.becomeOrdinaryWindow();
+    popover.turnIntoOrdinaryWindow();
     popover.show();
 
     popover.view().setWindowState(Qt::WindowMinimized);
@@ -164,7 +164,7 @@ TEST_F(QtPopoverTest, fadesInWhenItIsAnimated)
     EXPECT_TRUE(happensSoon([&] { return content.opacity() == 1; }));
 }
 
-TEST_F(QtPopoverTest, isThereAtOnceWhenNothingIsToMove)
+TEST_F(QtPopoverTest, opensImmediatelyWithReducedMotion)
 {
     popover.setAnimated(false);
     popover.show();
@@ -181,7 +181,7 @@ TEST_F(QtPopoverTest, anOrdinaryWindowHasAFrame)
 {
     EXPECT_TRUE(popover.view().flags().testFlag(Qt::FramelessWindowHint));
 
-    popover.becomeOrdinaryWindow();
+    popover.turnIntoOrdinaryWindow();
 
     EXPECT_FALSE(popover.view().flags().testFlag(Qt::FramelessWindowHint));
 }

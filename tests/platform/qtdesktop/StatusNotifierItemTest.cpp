@@ -29,7 +29,7 @@ QIcon picture(const QColor& color, const QList<int>& sizes)
     return icon;
 }
 
-/// Hears the signals of an icon.
+/// Receives the signals of an icon.
 class Ear : public QObject {
     Q_OBJECT
 
@@ -86,7 +86,7 @@ protected:
     std::optional<StatusNotifierItem> item;
 };
 
-TEST_F(StatusNotifierItemTest, tellsWhatItIs)
+TEST_F(StatusNotifierItemTest, describesItself)
 {
     makeIcon(QStringLiteral("com.fadeloom.app-symbolic"));
 
@@ -113,7 +113,7 @@ TEST_F(StatusNotifierItemTest, givesItsPixelsInEverySizeInNetworkOrder)
     EXPECT_EQ(pixmaps[0].pixels.first(4), QByteArray("\xFF\x01\x02\x03", 4));
 }
 
-TEST_F(StatusNotifierItemTest, tellsThatThePictureIsAnother)
+TEST_F(StatusNotifierItemTest, signalsANewPicture)
 {
     makeIcon();
     Ear ear;
@@ -126,7 +126,7 @@ TEST_F(StatusNotifierItemTest, tellsThatThePictureIsAnother)
     EXPECT_EQ(qdbus_cast<QList<BusPixmap>>(property(QStringLiteral("IconPixmap"))).size(), 1);
 }
 
-TEST_F(StatusNotifierItemTest, handsOnThePlaceOfAClick)
+TEST_F(StatusNotifierItemTest, forwardsThePositionOfAClick)
 {
     makeIcon();
 
@@ -143,7 +143,7 @@ TEST_F(StatusNotifierItemTest, handsOnThePlaceOfAClick)
     EXPECT_EQ(middleClicks[0].place, QPoint(5, 6));
 }
 
-TEST_F(StatusNotifierItemTest, countsTheNotchesOfTheWheelHoweverTheBarDoes)
+TEST_F(StatusNotifierItemTest, normalizesTheScrollUnitsOfBars)
 {
     makeIcon();
     std::vector<int> scrolled;
@@ -190,7 +190,7 @@ TEST_F(StatusNotifierItemTest, anActivationTokenBelongsToTheNextClickAlone)
     EXPECT_TRUE(clicks[1].activationToken.isEmpty());
 }
 
-TEST_F(StatusNotifierItemTest, aBarWithoutMenusAsksForOursAndScrollsInVain)
+TEST_F(StatusNotifierItemTest, aBarWithoutMenusRequestsOursAndScrollingHasNoEffect)
 {
     makeIcon();
     std::vector<QPoint> wanted;
@@ -203,7 +203,7 @@ TEST_F(StatusNotifierItemTest, aBarWithoutMenusAsksForOursAndScrollsInVain)
     EXPECT_TRUE(clicks.empty());
 }
 
-TEST_F(StatusNotifierItemTest, announcesItselfToABarThatComesLaterOrAgain)
+TEST_F(StatusNotifierItemTest, registersWithABarThatStartsLaterOrRestarts)
 {
     bar.reset();
     makeIcon();
@@ -218,7 +218,7 @@ TEST_F(StatusNotifierItemTest, announcesItselfToABarThatComesLaterOrAgain)
     EXPECT_EQ(bar->icons().size(), 1);
 }
 
-TEST_F(StatusNotifierItemTest, leavesTheBusAtItsEnd)
+TEST_F(StatusNotifierItemTest, leavesTheBusWhenDestroyed)
 {
     makeIcon();
     const auto name = service();

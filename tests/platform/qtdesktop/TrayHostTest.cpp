@@ -41,14 +41,14 @@ TEST_F(TrayHostTest, isThereAlready)
 {
     const BarOnBus bar(theirs);
 
-    const TrayHost host(listener(), TrayHost::patience, ours);
+    const TrayHost host(listener(), TrayHost::timeout, ours);
 
     EXPECT_EQ(waitForAnswer(), Kind::statusNotifier);
 }
 
 TEST_F(TrayHostTest, comesWithinTheTime)
 {
-    const TrayHost host(listener(), TrayHost::patience, ours);
+    const TrayHost host(listener(), TrayHost::timeout, ours);
     QCoreApplication::processEvents();
     ASSERT_TRUE(found.empty());
 
@@ -78,7 +78,7 @@ TEST_F(TrayHostTest, isNotTheWatcherAlone)
     EXPECT_EQ(waitForAnswer(2), Kind::statusNotifier);
 }
 
-TEST_F(TrayHostTest, isToldOfOnce)
+TEST_F(TrayHostTest, isReportedOnce)
 {
     const TrayHost host(listener(), shortWait, ours);
     {
@@ -92,9 +92,9 @@ TEST_F(TrayHostTest, isToldOfOnce)
     EXPECT_THAT(found, ElementsAre(Kind::statusNotifier));
 }
 
-TEST_F(TrayHostTest, saysWhenThereIsNotEvenABus)
+TEST_F(TrayHostTest, reportsAMissingBus)
 {
-    const TrayHost host(listener(), TrayHost::patience, QDBusConnection(QStringLiteral("nobody")));
+    const TrayHost host(listener(), TrayHost::timeout, QDBusConnection(QStringLiteral("nobody")));
 
     EXPECT_EQ(waitForAnswer(), Kind::none);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Audio files in memory keep the contract of audio files, and fail when they are told to.
+// The contract of audio files for those in memory, and fault injection.
 #include "platform/simulated/SimulatedAudioFiles.h"
 
 #include "tests/platform/AudioFilesContract.h"
@@ -10,7 +10,7 @@
 namespace fadeloom {
 namespace {
 
-// What 24 bits leave of a sample.
+// A sample rounded to 24 bits.
 std::int32_t stepOf(float sample)
 {
     if (std::isnan(sample))
@@ -51,7 +51,7 @@ protected:
     SimulatedAudioFiles files;
 };
 
-TEST_F(SimulatedAudioFilesTest, refusesWhatItIsToldTo)
+TEST_F(SimulatedAudioFilesTest, failsOnDemand)
 {
     const TapError refusal{"Create recording file", 28};
     files.refuseToCreate(refusal);
@@ -62,7 +62,7 @@ TEST_F(SimulatedAudioFilesTest, refusesWhatItIsToldTo)
     EXPECT_TRUE(files.create(location, 48000));
 }
 
-TEST_F(SimulatedAudioFilesTest, aFailedFileKeepsNothingMore)
+TEST_F(SimulatedAudioFilesTest, aFailedFileStoresNothingMore)
 {
     auto& file = open();
     EXPECT_TRUE(file.write(frame));
@@ -75,7 +75,7 @@ TEST_F(SimulatedAudioFilesTest, aFailedFileKeepsNothingMore)
     EXPECT_EQ(files.dispose(file), AudioFileError{28});
 }
 
-TEST_F(SimulatedAudioFilesTest, aStalledFileHasNoRoom)
+TEST_F(SimulatedAudioFilesTest, aStalledFileAcceptsNoSamples)
 {
     auto& file = open();
     files.setStalled(true);

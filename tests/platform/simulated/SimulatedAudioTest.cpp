@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Details of the simulated audio system that the common contract does not reach.
+// Details of the simulated audio system beyond the common contract.
 #include "platform/simulated/SimulatedPlatform.h"
 #include "tests/platform/AudioReading.h"
 #include "tests/platform/ContractTap.h"
@@ -41,7 +41,7 @@ TEST_F(SimulatedAudioTest, callsAreCountedByWhatTheyAsk)
     EXPECT_EQ(world.audio().callCount(), 2);
 }
 
-TEST_F(SimulatedAudioTest, aMicrophoneIsNoOutputDevice)
+TEST_F(SimulatedAudioTest, aMicrophoneIsNotAnOutputDevice)
 {
     world.plug({.uid = "microphone", .name = "Microphone", .outputStreams = {}, .inputStreams = 1});
 

@@ -47,7 +47,7 @@ TEST_F(SimulatedBackgroundQueueTest, workOfTheQueueIsNotOnTheMainThread)
     EXPECT_TRUE(loop.isCurrent());
 }
 
-TEST_F(SimulatedBackgroundQueueTest, saysHowMuchWaits)
+TEST_F(SimulatedBackgroundQueueTest, countsPendingWork)
 {
     const auto cancelled = queue.submit(5ms, [] { });
     queue.submit(10ms, [] { });

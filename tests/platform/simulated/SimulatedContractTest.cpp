@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The world in memory keeps the contract of the platform interfaces.
+// The platform contract for the simulation.
 #include "platform/simulated/SimulatedPlatform.h"
 #include "tests/platform/PlatformContract.h"
 
@@ -64,7 +64,7 @@ public:
     void settle() override { platform_.advance(200ms); }
 
 private:
-    /// As in a real world, nothing happens at once.
+    /// As on a real system, nothing happens immediately.
     void later(std::function<void()> event)
     {
         events_.push_back(platform_.mainLoop().after(20ms, std::move(event)));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The simulated user's desktop: messages, questions, what is opened, further instances of the program.
+// The simulated user's desktop: messages, prompts, opened files and URLs, other instances of the program.
 #include "platform/simulated/SimulatedPlatform.h"
 #include "tests/platform/UserDefaultsContract.h"
 

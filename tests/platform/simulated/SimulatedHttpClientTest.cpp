@@ -59,7 +59,7 @@ TEST_F(SimulatedHttpClientTest, requestsAreAnsweredInAnyOrder)
     EXPECT_THAT(answers, ElementsAre("two 200", "one nothing"));
 }
 
-TEST_F(SimulatedHttpClientTest, whoeverWaitsTooLongGetsNothing)
+TEST_F(SimulatedHttpClientTest, timesOut)
 {
     ask("one");
 
@@ -70,7 +70,7 @@ TEST_F(SimulatedHttpClientTest, whoeverWaitsTooLongGetsNothing)
     EXPECT_THAT(answers, ElementsAre("one nothing"));
 }
 
-TEST_F(SimulatedHttpClientTest, anAnswerThatIsTooLargeIsNone)
+TEST_F(SimulatedHttpClientTest, aResponseThatIsTooLargeIsDiscarded)
 {
     ask("one");
     ask("two");
@@ -81,7 +81,7 @@ TEST_F(SimulatedHttpClientTest, anAnswerThatIsTooLargeIsNone)
     EXPECT_THAT(answers, ElementsAre("one 200", "two nothing"));
 }
 
-TEST_F(SimulatedHttpClientTest, offlineNobodyAnswersAndNobodyWaits)
+TEST_F(SimulatedHttpClientTest, offlineEveryRequestFailsWithoutDelay)
 {
     http->goOffline();
 
@@ -92,7 +92,7 @@ TEST_F(SimulatedHttpClientTest, offlineNobodyAnswersAndNobodyWaits)
     EXPECT_THAT(answers, ElementsAre("one nothing"));
 }
 
-TEST_F(SimulatedHttpClientTest, itsEndIsTheEndOfItsRequests)
+TEST_F(SimulatedHttpClientTest, itsRequestsEndWithIt)
 {
     ask("one");
 

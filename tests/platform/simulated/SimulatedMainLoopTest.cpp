@@ -31,7 +31,7 @@ protected:
     std::vector<int> order;
 };
 
-TEST_F(SimulatedMainLoopTest, timeStandsStillUntilItIsMoved)
+TEST_F(SimulatedMainLoopTest, timeIsFrozenUntilItIsAdvanced)
 {
     const auto timer = loop.after(1ms, [this] { order.push_back(1); });
 
@@ -42,7 +42,7 @@ TEST_F(SimulatedMainLoopTest, timeStandsStillUntilItIsMoved)
     EXPECT_EQ(clock.now(), 0ns);
 }
 
-TEST_F(SimulatedMainLoopTest, eachTimerSeesItsOwnMoment)
+TEST_F(SimulatedMainLoopTest, eachTimerSeesItsOwnTime)
 {
     std::vector<SimulatedClock::Duration> moments;
     const auto timer = loop.every(5s, [&] { moments.push_back(clock.now()); });

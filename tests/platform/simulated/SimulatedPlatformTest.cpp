@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The world in memory, told as short stories.
+// The simulated platform in short stories.
 #include "platform/simulated/SimulatedPlatform.h"
 
 #include <gmock/gmock.h>
@@ -28,7 +28,7 @@ public:
 
 class SimulatedPlatformTest : public ::testing::Test {
 protected:
-    /// Captures a process that plays, on its way to an output.
+    /// Captures a playing process, routed to an output.
     void tap(ProcessID pid, const std::string& output)
     {
         const auto& state = world.audioWorld().state();
@@ -69,7 +69,7 @@ TEST_F(SimulatedPlatformTest, tappedAppIsHeardThroughTheProcedureAlone)
     EXPECT_EQ(world.heard("speakers").at(10, 1), 0.25F + 0.125F);
 }
 
-TEST_F(SimulatedPlatformTest, endedTapGivesTheAppItsOwnSoundBack)
+TEST_F(SimulatedPlatformTest, endingATapRestoresTheAppsOwnOutput)
 {
     world.plug({.uid = "speakers", .name = "Speakers"});
     const auto music = world.launchApp("Music");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Applications, consent and the smaller parts of the simulated world.
+// Applications, permission and the smaller parts of the simulation.
 #include "platform/simulated/SimulatedPlatform.h"
 #include "tests/platform/AudioReading.h"
 
@@ -21,7 +21,7 @@ protected:
     Workspace& workspace = world.workspace();
 };
 
-TEST_F(SimulatedSessionTest, aLaunchedAppRunsUnderWhatItsNameSuggests)
+TEST_F(SimulatedSessionTest, aLaunchedAppHasPropertiesDerivedFromItsName)
 {
     const ProcessID pid = world.launchApp("Music Box");
 
@@ -34,7 +34,7 @@ TEST_F(SimulatedSessionTest, aLaunchedAppRunsUnderWhatItsNameSuggests)
     EXPECT_THAT(workspace.runningApplications(), ElementsAre(*app));
 }
 
-TEST_F(SimulatedSessionTest, aHelperIsNoAppAndItsOwnerAnswersForIt)
+TEST_F(SimulatedSessionTest, aHelperIsNotAnAppAndItsOwnerIsResponsibleForIt)
 {
     const ProcessID browser = world.launchApp("Browser");
     const ProcessID helper = world.launchHelper(browser, "com.example.browser.helper");
@@ -86,7 +86,7 @@ TEST_F(SimulatedSessionTest, theMicrophoneIsAPropertyOfTheProcess)
     EXPECT_FALSE(isUsing());
 }
 
-TEST_F(SimulatedSessionTest, consentIsGivenAtFirstAndFollowsTheAnswer)
+TEST_F(SimulatedSessionTest, permissionIsInitiallyGrantedAndFollowsTheAnswer)
 {
     CapturePermission& permission = world.capturePermission();
     std::vector<bool> answers;

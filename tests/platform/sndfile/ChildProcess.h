@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Runs a piece of a test in a process of its own: one that may be killed, or that gets limits of its own.
+// Runs part of a test in a child process: one that may be killed, or that has its own limits.
 #pragma once
 
 #include <gtest/gtest.h>
-
+#include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -16,8 +16,6 @@
 #include <functional>
 #include <string>
 
-#include <sched.h>
-
 namespace fadeloom {
 
 /// How a child process ended: its exit status, or minus the signal that killed it.
@@ -25,8 +23,8 @@ using ChildEnd = int;
 
 constexpr ChildEnd childFailed = 255;
 
-/// Runs `act` in a child process, which ends with the status that it returns, or `childFailed` after an expectation
-/// that did not hold.
+/// Runs `act` in a child process, which exits with the status that it returns, or `childFailed` after a failed
+/// expectation.
 inline ChildEnd endOfChild(const std::function<int()>& act)
 {
     std::fflush(nullptr);
@@ -42,15 +40,15 @@ inline ChildEnd endOfChild(const std::function<int()>& act)
     return WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status);
 }
 
-/// No file of this process grows beyond `bytes` any more.
+/// Limits the size of this process's files to `bytes`.
 inline void limitFileSizes(rlim_t bytes)
 {
     const rlimit limit{bytes, bytes};
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
 }
 
-/// Puts a disk of `bytes` in the place of `folder`, which only this process, of a single thread, sees. Works for root
-/// and, where the system lets everyone have namespaces, for everyone. Returns 0, or why it is not possible.
+/// Mounts a disk of `bytes` on `folder`, visible only to this single-threaded process. Works for root and, if the
+/// system allows user namespaces, for everyone. Returns 0, or why it is impossible.
 inline int mountSmallDisk(const std::filesystem::path& folder, std::size_t bytes)
 {
     const auto user = std::to_string(::geteuid());

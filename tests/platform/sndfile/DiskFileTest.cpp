@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/sndfile/DiskFile.h"
-
 #include "tests/platform/sndfile/ChildProcess.h"
 #include "tests/platform/sndfile/WaveReading.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <csignal>
-
-#include <sys/stat.h>
 
 namespace fadeloom {
 namespace {
@@ -25,7 +23,7 @@ protected:
     const fs::path location = folder.path() / "file";
 };
 
-TEST_F(DiskFileTest, holdsWhatWasWrittenWhereItWasWritten)
+TEST_F(DiskFileTest, storesWritesAtTheirPositions)
 {
     const auto file = *DiskFile::create(location);
 
@@ -39,7 +37,7 @@ TEST_F(DiskFileTest, holdsWhatWasWrittenWhereItWasWritten)
     EXPECT_EQ(bytesOf(location), "hello Wo");
 }
 
-TEST_F(DiskFileTest, whoHasTheReplacedOneOpenKeepsIt)
+TEST_F(DiskFileTest, anOpenHandleKeepsTheReplacedFile)
 {
     put(location, "old");
     std::ifstream reader{location};
@@ -79,7 +77,7 @@ TEST_F(DiskFileTest, permissionsAreTheUsersChoice)
     }
 }
 
-TEST_F(DiskFileTest, sayWhyThereIsNone)
+TEST_F(DiskFileTest, reportsWhyAFileCannotBeCreated)
 {
     put(folder.path() / "document", "");
     fs::create_directory(folder.path() / "folder");
@@ -100,7 +98,7 @@ TEST_F(DiskFileTest, keepsWhatFitsAndTheFirstFailure)
         EXPECT_EQ(file->write(0, bytes("hello world")), 5U);
         EXPECT_EQ(file->failure(), EFBIG);
         EXPECT_EQ(file->size(), 5U);
-        file->truncate(~std::uint64_t{0});  // Refused for another reason.
+        file->truncate(~std::uint64_t{0});  // Fails for another reason.
 
         EXPECT_EQ(file->failure(), EFBIG);
         return 0;

@@ -17,7 +17,7 @@ namespace {
 constexpr std::int32_t highestStep = 0x7FFFFF;
 constexpr std::int32_t lowestStep = -0x800000;
 
-/// A number of steps as a sample; any that a float can hold.
+/// A number of steps as a sample; any that is representable as a float.
 float steps(double count)
 {
     return static_cast<float>(std::ldexp(count, -23));
@@ -64,7 +64,7 @@ TEST(Pcm24, whatIsBeyondFullScaleIsClipped)
     EXPECT_THAT(converted({-1, -1.0001F, -2, -largest, -infinity}), ::testing::Each(lowestStep));
 }
 
-TEST(Pcm24, whatIsNoNumberIsSilence)
+TEST(Pcm24, nanIsSilence)
 {
     const float quiet = std::numeric_limits<float>::quiet_NaN();
     const auto signalling = std::bit_cast<float>(0x7F800001U);
@@ -72,7 +72,7 @@ TEST(Pcm24, whatIsNoNumberIsSilence)
     EXPECT_THAT(converted({quiet, -quiet, signalling}), ::testing::Each(0));
 }
 
-TEST(Pcm24, everyStepComesBackAsItself)
+TEST(Pcm24, everyStepRoundTrips)
 {
     std::vector<float> samples;
     std::vector<std::int32_t> expected;
@@ -84,13 +84,13 @@ TEST(Pcm24, everyStepComesBackAsItself)
     EXPECT_TRUE(converted(samples) == expected);
 }
 
-TEST(Pcm24, anyBitsAreConvertedAsTheRulesSay)
+TEST(Pcm24, anyBitsAreConvertedByTheRules)
 {
     std::mt19937 random{1};
-    std::vector<float> samples(1'000'003);  // No multiple of what a vector holds.
+    std::vector<float> samples(1'000'003);  // Not a multiple of a vector's size.
     std::ranges::generate(
         samples, [&] { return std::bit_cast<float>(static_cast<std::uint32_t>(random())); });
-    // Most of the bits above are tiny or huge; these are what sound is made of.
+    // Most of the bit patterns above are tiny or huge; these are typical of audio.
     for (std::size_t i = 0; i < samples.size(); i += 2)
         samples[i] = std::uniform_real_distribution<float>{-1.1F, 1.1F}(random);
 

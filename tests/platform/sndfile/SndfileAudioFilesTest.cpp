@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Making files and closing them.
+// Creating and closing files.
 #include "tests/platform/sndfile/SndfileStage.h"
 
 #include <cerrno>
@@ -47,7 +47,7 @@ TEST_F(SndfileAudioFilesTest, aNameMayBeAnyBytes)
     EXPECT_EQ(readWave(strange), WrittenSound(rate, steps(0, 100)));
 }
 
-TEST_F(SndfileAudioFilesTest, aRefusalHasTheSystemsNumberAndWords)
+TEST_F(SndfileAudioFilesTest, aRefusalHasTheSystemsCodeAndMessage)
 {
     std::ofstream{folder.path() / "document"};
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The files of libsndfile keep the contract of audio files.
+// The contract of audio files for those of libsndfile.
 #include "platform/sndfile/SndfileAudioFiles.h"
 #include "tests/platform/AudioFilesContract.h"
 #include "tests/platform/sndfile/WaveReading.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is left when the program is killed, or the disk refuses.
+// What is left if the program is killed, or the disk fails.
 #include "tests/platform/sndfile/ChildProcess.h"
 #include "tests/platform/sndfile/SndfileStage.h"
 
@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 class SndfileFailureTest : public SndfileTest {
 protected:
-    /// Hands sound over until the file takes no more, which is for the reason `expected`.
+    /// Writes audio until the file fails, which must be with the error `expected`.
     void writeUntil(int expected)
     {
         AudioFile& file = *open(location);
@@ -28,7 +28,7 @@ protected:
         expectWholeFrames();  // Also while the file is still open.
         EXPECT_EQ(files.dispose(file), AudioFileError{expected});
     }
-    /// All agree on the file's length, and its sound is what was handed over.
+    /// All readers agree on the file's length, and its audio is what was written.
     void expectWholeFrames()
     {
         const std::uint64_t frames = (fs::file_size(location) - 80) / 6;
@@ -85,7 +85,7 @@ TEST_F(SndfileFailureTest, atTheLimitOfFileSizesTheFileKeepsWhatFits)
     EXPECT_EQ(fs::file_size(location), 80 + 6 * ((100'000U - 80) / 6));
 }
 
-TEST_F(SndfileFailureTest, noFileIsMadeThatMayHoldNothing)
+TEST_F(SndfileFailureTest, noFileIsCreatedIfNothingMayBeWritten)
 {
     const auto end = endOfChild([&] {
         limitFileSizes(0);
@@ -107,7 +107,7 @@ TEST_F(SndfileFailureTest, onAFullDiskTheFileKeepsWhatFits)
         writeUntil(ENOSPC);
 
         expectWholeFrames();
-        EXPECT_GT(fs::file_size(location), diskSize - 10'000);  // The disk's own needs.
+        EXPECT_GT(fs::file_size(location), diskSize - 10'000);  // Minus the file system's overhead.
         EXPECT_EQ(files.create(folder.path() / "other.wav", rate),
             std::unexpected(TapError{"Create recording file", ENOSPC}));
         EXPECT_FALSE(fs::exists(folder.path() / "other.wav"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Files beyond the 4 GiB of RIFF: minutes of writing and gigabytes of disk, so in the long form only.
+// Files beyond the 4 GiB of RIFF: minutes of writing and gigabytes of disk, so only with --long.
 #include "tests/platform/sndfile/SndfileStage.h"
 
 namespace fadeloom {

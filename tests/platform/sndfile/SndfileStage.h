@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What tests of the files of libsndfile stand on.
+// The fixture of tests of libsndfile's files.
 #pragma once
 
 #include "platform/sndfile/SndfileAudioFiles.h"
@@ -32,7 +32,7 @@ protected:
         return *file;
     }
 
-    /// `frames` frames, from frame `first` on, of a sound that does not repeat itself for long.
+    /// `frames` frames, starting at frame `first`, of a signal with a long period.
     static Steps steps(std::uint64_t first, std::size_t frames)
     {
         Steps result(2 * frames);
@@ -46,7 +46,7 @@ protected:
         return samplesOf(steps(first, frames));
     }
 
-    /// Waits until `isDone` says so, for once; false when that takes too long.
+    /// Waits until `isDone` returns true; false if that takes too long.
     [[nodiscard]] static bool waitUntil(const std::function<bool()>& isDone)
     {
         const auto end = std::chrono::steady_clock::now() + std::chrono::seconds{20};

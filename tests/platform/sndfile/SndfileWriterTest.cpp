@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Handing samples over, and the thread that writes them.
+// Writing samples, and the thread that writes them to disk.
 #include "base/RealTime.h"
 #include "tests/platform/sndfile/SndfileStage.h"
 #include "tests/support/RealTimeGuard.h"
 
-#include <set>
-
 #include <sched.h>
+
+#include <set>
 
 namespace fadeloom {
 namespace {
@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 using SndfileWriterTest = SndfileTest;
 
-/// Ids of this program's threads that write files.
+/// Ids of this program's writer threads.
 std::set<pid_t> writers()
 {
     std::set<pid_t> found;
@@ -40,7 +40,7 @@ TEST_F(SndfileWriterTest, eachFileHasAThreadOfTheProgramsOwnPriority)
     EXPECT_EQ(writers().size(), 0U);
 }
 
-TEST_F(SndfileWriterTest, handingOverNeitherAllocatesNorWaitsNorCallsTheSystem)
+TEST_F(SndfileWriterTest, pushingSamplesIsRealTimeSafe)
 {
     AudioFile& file = *open(location);
     const auto cycle = samples(0, 8192);
@@ -58,7 +58,7 @@ TEST_F(SndfileWriterTest, handingOverNeitherAllocatesNorWaitsNorCallsTheSystem)
     files.dispose(file);
 }
 
-TEST_F(SndfileWriterTest, fourSecondsWaitForABusyDisk)
+TEST_F(SndfileWriterTest, fourSecondsAreBufferedForABusyDisk)
 {
     AudioFile& file = *open(location);
 
@@ -68,7 +68,7 @@ TEST_F(SndfileWriterTest, fourSecondsWaitForABusyDisk)
     EXPECT_TRUE(readWave(location) == WrittenSound(rate, steps(0, 4 * rate)));
 }
 
-TEST_F(SndfileWriterTest, aWriteBeyondAllRoomIsRefusedWhole)
+TEST_F(SndfileWriterTest, aWriteBeyondTheCapacityIsRefusedEntirely)
 {
     AudioFile& file = *open(location);
     EXPECT_TRUE(file.write(samples(0, 100)));
@@ -83,7 +83,7 @@ TEST_F(SndfileWriterTest, aWriteBeyondAllRoomIsRefusedWhole)
     EXPECT_EQ(readWave(location), WrittenSound(rate, expected));
 }
 
-TEST_F(SndfileWriterTest, writesThatComeTooFastAreRefusedWhole)
+TEST_F(SndfileWriterTest, writesThatAreTooFastAreRefusedEntirely)
 {
     AudioFile& file = *open(location);
     std::vector<std::vector<float>> cycles;
@@ -122,7 +122,7 @@ TEST_F(SndfileWriterTest, threadsWriteTheirFilesAtTheSameTime)
                 for (std::uint64_t cycle = 0; cycle < cycles; ++cycle) {
                     EXPECT_TRUE(opened[i]->write(samples(1'000'000 * i + 480 * cycle, 480)));
                     std::this_thread::sleep_for(
-                        std::chrono::milliseconds{2});  // Through several rounds of writing.
+                        std::chrono::milliseconds{2});  // Across several wakeups of the writer.
                 }
             });
     }

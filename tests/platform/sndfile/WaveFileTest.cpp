@@ -19,7 +19,7 @@ protected:
     {
         return *WaveFile::create(*DiskFile::create(location), 48000, largestRiff);
     }
-    /// 0, 1, 2 ... steps, in the form that a file takes.
+    /// 0, 1, 2 ... steps, in the file's format.
     static std::vector<std::int32_t> counting(std::size_t frames)
     {
         std::vector<std::int32_t> samples(2 * frames);
@@ -27,7 +27,7 @@ protected:
             samples[i] = static_cast<std::int32_t>(i) << 8;
         return samples;
     }
-    /// All agree that this is a file of `frames` frames, and libsndfile reads the samples of `counting`.
+    /// All readers agree that this is a file of `frames` frames, and libsndfile reads the samples of `counting`.
     void expectReadable(std::size_t frames) const
     {
         Steps expected(2 * frames);
@@ -39,11 +39,11 @@ protected:
 
     TemporaryFolder folder;
     const std::filesystem::path location = folder.path() / "sound.wav";
-    // 48000 Hz, 288000 bytes a second, 6 bytes a frame, 24 bits.
+    // 48000 Hz, 288000 bytes per second, 6 bytes per frame, 24 bits.
     const std::string format = "fmt \x10\0\0\0\x01\0\x02\0\x80\xBB\0\0\0\x65\x04\0\x06\0\x18\0"s;
 };
 
-TEST_F(WaveFileTest, isPlainPCMWithRoomForLargeSizes)
+TEST_F(WaveFileTest, isPlainPCMWithSpaceReservedForLargeSizes)
 {
     const auto room = "JUNK\x1C\0\0\0"s + std::string(28, '\0');
     const auto file = create();

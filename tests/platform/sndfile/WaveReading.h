@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reads WAVE files as others do: with libsndfile, sndfile-info and sox.
+// Reads WAVE files with other programs: libsndfile, sndfile-info and sox.
 #pragma once
 
 #include "tests/platform/WrittenSound.h"
@@ -20,8 +20,8 @@
 
 namespace fadeloom {
 
-/// A stereo WAVE file with 24 bits, as libsndfile reads it, from its `first` frame on and at most `count` frames;
-/// absent when there is no such file.
+/// A 24-bit stereo WAVE file, as read by libsndfile, from frame `first` on and at most `count` frames; nullopt if there
+/// is no such file.
 inline std::optional<WrittenSound> readWave(
     const std::filesystem::path& location, sf_count_t first = 0, sf_count_t count = 100'000'000)
 {
@@ -42,7 +42,7 @@ inline std::optional<WrittenSound> readWave(
     return sound;
 }
 
-/// What a shell command prints, its complaints included; absent when it fails.
+/// The output of a shell command, including errors; nullopt if it fails.
 inline std::optional<std::string> outputOf(const std::string& command)
 {
     std::FILE* pipe = ::popen((command + " 2>&1").c_str(), "re");
@@ -55,7 +55,7 @@ inline std::optional<std::string> outputOf(const std::string& command)
     return ::pclose(pipe) == 0 ? std::optional{output} : std::nullopt;
 }
 
-/// The file's length as sndfile-info tells it; absent when it cannot open the file.
+/// The file's length according to sndfile-info; nullopt if it cannot open the file.
 inline std::optional<long long> framesBySndfileInfo(const std::filesystem::path& location)
 {
     const auto output = outputOf("sndfile-info '" + location.string() + "'");
@@ -65,7 +65,7 @@ inline std::optional<long long> framesBySndfileInfo(const std::filesystem::path&
                                       : std::optional{std::stoll(output->substr(found + label.size()))};
 }
 
-/// The file's length as sox tells it; absent when it cannot open the file, or has anything to say against it.
+/// The file's length according to sox; nullopt if it cannot open the file, or prints any warning.
 inline std::optional<long long> framesBySox(const std::filesystem::path& location)
 {
     const auto output = outputOf("sox --i -s '" + location.string() + "'");

@@ -15,7 +15,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-// Texts with attributes.
+// Attributed strings.
 
 typedef NSString* NSAttributedStringKey;
 APPKIT_EXTERN NSAttributedStringKey const NSFontAttributeName;
@@ -44,7 +44,7 @@ APPKIT_EXTERN NSAttributedStringKey const NSParagraphStyleAttributeName;
 @property (class, readonly, strong) NSColor* labelColor;
 @end
 
-// On Apple's processors as on its phones.
+// Only on Apple silicon.
 typedef NS_ENUM(NSInteger, NSTextAlignment) {
     NSTextAlignmentLeft = 0,
 #if defined(__arm64__)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How AppKit declares what it exports, declared by us.
+// AppKit's export macros, declared by us.
 #pragma once
 
 #ifdef __cplusplus

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What we use of pictures, declared by us.
+// What we use of images, declared by us.
 #pragma once
 
 #include <Foundation/Foundation.h>

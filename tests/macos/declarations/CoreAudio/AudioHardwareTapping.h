@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Making and removing process taps, declared by us.
+// Creating and destroying process taps, declared by us.
 #pragma once
 
 #include <CoreAudio/CoreAudio.h>

@@ -77,7 +77,7 @@ CF_ASSUME_NONNULL_BEGIN
 struct AudioHardwareIOProcStreamUsage {
     void* mIOProc;
     UInt32 mNumberStreams;
-    UInt32 mStreamIsOn[1];  // As many as there are.
+    UInt32 mStreamIsOn[1];  // Variable length.
 };
 typedef struct AudioHardwareIOProcStreamUsage AudioHardwareIOProcStreamUsage;
 

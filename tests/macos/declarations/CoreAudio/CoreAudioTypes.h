@@ -16,7 +16,7 @@ typedef struct AudioBuffer AudioBuffer;
 
 struct AudioBufferList {
     UInt32 mNumberBuffers;
-    AudioBuffer mBuffers[1];  // As many as there are.
+    AudioBuffer mBuffers[1];  // Variable length.
 };
 typedef struct AudioBufferList AudioBufferList;
 

@@ -10,7 +10,7 @@
 #define API_AVAILABLE_(platform) __attribute__((availability(API_##platform)))
 #define API_macos(version) macos, introduced = version
 
-// The platform's codes are enumerators of their property's type, and what may be null is said.
+// The platform's codes are enumerators of their property's type, and nullability is annotated.
 #define CF_ENUM(type) enum : type
 #define CF_ASSUME_NONNULL_BEGIN _Pragma("clang assume_nonnull begin")
 #define CF_ASSUME_NONNULL_END _Pragma("clang assume_nonnull end")
@@ -43,7 +43,7 @@ typedef const struct FADELOOM_BRIDGED(NSURL) __CFURL* CFURLRef;
 typedef const struct FADELOOM_BRIDGED(NSNumber) __CFBoolean* CFBooleanRef;
 typedef const struct __CFAllocator* CFAllocatorRef;
 
-/// Only the addresses of these matter to us: they have the elements retained.
+/// Only the addresses of these matter to us: they select retaining of the elements.
 typedef struct {
     const void* retainsElements;
 } CFArrayCallBacks;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What we use of kinds of files, declared by us.
+// What we use of file types, declared by us.
 #pragma once
 
 #include <Foundation/Foundation.h>

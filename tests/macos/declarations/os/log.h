@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What we use of the unified log, declared by us. The platform's macros take formats apart while compiling; ours hand
-// them to one function, which the doubles define.
+// What we use of the unified log, declared by us. The platform's macros parse formats at compile time; ours pass them
+// to one function, which the doubles define.
 #pragma once
 
 typedef struct os_log_s* os_log_t;

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "platform/sndfile/SignalsHeld.h"
+#include "platform/sndfile/SignalBlock.h"
 
 #include <ctime>
 
 namespace fadeloom {
 
-SignalsHeld::SignalsHeld()
+SignalBlock::SignalBlock()
 {
     sigset_t all;
     sigfillset(&all);
     pthread_sigmask(SIG_SETMASK, &all, &former_);
 }
 
-SignalsHeld::~SignalsHeld()
+SignalBlock::~SignalBlock()
 {
-    // One that waits would come as soon as it may.
+    // A pending one would be delivered on unblocking.
     sigset_t fileTooLarge;
     sigemptyset(&fileTooLarge);
     sigaddset(&fileTooLarge, SIGXFSZ);

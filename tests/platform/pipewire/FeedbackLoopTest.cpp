@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Random graphs with players, loopbacks, virtual sinks and programs that capture: whatever taps there are, no circle.
+// Random graphs with players, loopbacks, virtual sinks and programs that capture: no set of taps creates a feedback
+// loop.
 #include "platform/pipewire/StreamRouting.h"
 
 #include "tests/platform/pipewire/GraphOf.h"
@@ -16,8 +17,8 @@
 namespace fadeloom {
 namespace {
 
-/// A session as the test knows it: who takes sound in where, and gives it out where. Circles are looked for here, not in
-/// what the code under test makes of the graph.
+/// A session from the test's viewpoint: where each node receives and sends audio. Loops are searched for here, not in
+/// the code under test.
 class RandomSession {
 public:
     explicit RandomSession(unsigned seed)
@@ -27,7 +28,7 @@ public:
             devices_.push_back(world_.sink("device" + std::to_string(i), {"FL", "FR"}));
     }
 
-    /// One change; one that makes a circle without us is taken back, as it is nobody's but the user's.
+    /// One change; one that creates a loop without us is undone, because it would be the user's own.
     void step()
     {
         auto before = *this;
@@ -38,7 +39,7 @@ public:
         }
     }
 
-    /// What is wrong with the decisions that are made for this session, or nothing.
+    /// The fault in the decisions made for this session, or nullopt.
     std::string fault()
     {
         std::vector<const TapRoute*> taps;
@@ -65,7 +66,7 @@ public:
 private:
     struct Source {
         GraphID stream = 0;
-        std::vector<GraphID> captured{};  // Devices whose sound comes out of the stream.
+        std::vector<GraphID> captured{};  // Devices whose audio comes out of the stream.
         bool isCarrier = false;
     };
 
@@ -109,7 +110,7 @@ private:
             for (const auto device : source.captured)
                 ways[device].insert(deviceOf(source));
         }
-        // What leads nowhere is on no circle.
+        // A dead end is on no loop.
         const auto leadsNowhere = [&](const auto& way) {
             return std::ranges::none_of(way.second, [&](GraphID next) { return ways.contains(next); });
         };
@@ -154,7 +155,7 @@ private:
     }
     void addLoopback()
     {
-        const auto client = world_.nativeClient(7);  // As pipewire-pulse has them all.
+        const auto client = world_.nativeClient(7);  // Like pipewire-pulse, which owns all of them.
         const auto group = "loopback-" + std::to_string(random_());
         addCapture(addSource(client, group), client, group);
     }
@@ -180,7 +181,7 @@ private:
             .isCarrier = !group.empty()});
         source.captured.push_back(device);
     }
-    // What one process captures may come out of any stream that it plays.
+    // What a process captures may come out of any stream that it plays.
     void joinProcesses()
     {
         for (auto& source : sources_) {
@@ -199,7 +200,7 @@ private:
             return;
         const auto place = sources_.begin() + static_cast<std::ptrdiff_t>(random_() % sources_.size());
         if (place->isCarrier)
-            return;  // Its sink would go, and be what others want.
+            return;  // Its sink would be removed, although others use it.
         std::erase_if(captures_, [&](const Capture& capture) {
             return capture.stream == place->stream && world_.graph.nodes.erase(capture.node) > 0;
         });
@@ -235,7 +236,7 @@ private:
     struct Capture {
         GraphID node = 0;
         GraphID device = 0;
-        GraphID stream = 0;  // Came with this one.
+        GraphID stream = 0;  // Added with this one.
         bool isCarrier = false;
     };
 
@@ -247,9 +248,9 @@ private:
     std::list<TapRoute> taps_;
 };
 
-TEST(StreamCircles, thereAreNoneInAnyGraph)
+TEST(FeedbackLoop, noGraphContainsAFeedbackLoop)
 {
-    const auto* given = std::getenv("FADELOOM_SEED");  // Repeats one.
+    const auto* given = std::getenv("FADELOOM_SEED");  // Repeats a run.
     const unsigned first = given ? static_cast<unsigned>(std::stoul(given)) : 1;
     for (unsigned seed = first; seed < first + (given ? 1 : 60); ++seed) {
         RandomSession session{seed};

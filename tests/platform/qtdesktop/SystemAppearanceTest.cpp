@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/qtdesktop/SystemLook.h"
+#include "platform/qtdesktop/SystemAppearance.h"
 
 #include "tests/platform/qtdesktop/OffscreenApplication.h"
 #include "tests/platform/qtdesktop/PrivateBus.h"
@@ -43,7 +43,7 @@ const QDBusArgument& operator>>(const QDBusArgument& from, Color& color)
     return from;
 }
 
-/// The settings of a desktop, as its portal has them.
+/// A desktop's settings, as provided by its portal.
 class Portal : public QDBusVirtualObject {
 public:
     explicit Portal(const QDBusConnection& bus)
@@ -82,20 +82,20 @@ private:
     PortalSettings settings_;
 };
 
-class SystemLookTest : public testing::Test {
+class SystemAppearanceTest : public testing::Test {
 protected:
-    SystemLookTest()
+    SystemAppearanceTest()
     {
         qDBusRegisterMetaType<Color>();
         qDBusRegisterMetaType<PortalSettings>();
     }
-    void look()
+    void startSystemAppearance()
     {
-        system.emplace([this](const DesktopLook& now) { changes.push_back(now); }, ours);
+        system.emplace([this](const DesktopAppearance& now) { changes.push_back(now); }, ours);
     }
-    bool becomes(const std::function<bool(const DesktopLook&)>& condition)
+    bool becomes(const std::function<bool(const DesktopAppearance&)>& condition)
     {
-        return happensSoon([&] { return condition(system->look()); });
+        return happensSoon([&] { return condition(system->appearance()); });
     }
 
     OffscreenApplication application;
@@ -103,11 +103,11 @@ protected:
     QDBusConnection ours = bus.connect();
     QDBusConnection theirs = bus.connect();
     Portal portal{theirs};
-    std::vector<DesktopLook> changes;
-    std::optional<SystemLook> system;
+    std::vector<DesktopAppearance> changes;
+    std::optional<SystemAppearance> system;
 };
 
-TEST_F(SystemLookTest, isWhatThePortalSays)
+TEST_F(SystemAppearanceTest, isWhatThePortalSays)
 {
     portal.set(appearance, QStringLiteral("color-scheme"), 1U);
     portal.set(appearance, QStringLiteral("contrast"), 1U);
@@ -115,32 +115,32 @@ TEST_F(SystemLookTest, isWhatThePortalSays)
     portal.set(gnome, QStringLiteral("text-scaling-factor"), 1.5);
     portal.set(gnome, QStringLiteral("enable-animations"), false);
 
-    look();
+    startSystemAppearance();
 
-    const DesktopLook expected{
+    const DesktopAppearance expected{
         .isDark = true, .reducesMotion = true, .hasHighContrast = true, .textScale = 1.5, .accent = 0xFF8000};
-    EXPECT_TRUE(becomes([&](const DesktopLook& now) { return now == expected; }));
+    EXPECT_TRUE(becomes([&](const DesktopAppearance& now) { return now == expected; }));
 }
 
-TEST_F(SystemLookTest, followsEachChangeAndTellsIt)
+TEST_F(SystemAppearanceTest, followsAndReportsEachChange)
 {
-    look();
+    startSystemAppearance();
     happensSoon([] { return false; }, 100);
     ASSERT_TRUE(changes.empty());
 
     portal.set(appearance, QStringLiteral("color-scheme"), 1U);
-    EXPECT_TRUE(becomes([](const DesktopLook& now) { return now.isDark; }));
+    EXPECT_TRUE(becomes([](const DesktopAppearance& now) { return now.isDark; }));
     portal.set(appearance, QStringLiteral("color-scheme"), 2U);
-    EXPECT_TRUE(becomes([](const DesktopLook& now) { return !now.isDark; }));
+    EXPECT_TRUE(becomes([](const DesktopAppearance& now) { return !now.isDark; }));
     portal.set(appearance, QStringLiteral("accent-color"), QVariant::fromValue(Color{0, 0, 1}));
-    EXPECT_TRUE(becomes([](const DesktopLook& now) { return now.accent == 0x0000FFU; }));
+    EXPECT_TRUE(becomes([](const DesktopAppearance& now) { return now.accent == 0x0000FFU; }));
 
     EXPECT_EQ(changes.size(), 3U);
 }
 
-TEST_F(SystemLookTest, isNotChangedByWhatIsNoLook)
+TEST_F(SystemAppearanceTest, isNotChangedByUnrelatedSettings)
 {
-    look();
+    startSystemAppearance();
     portal.set(QStringLiteral("org.example"), QStringLiteral("color-scheme"), 1U);
     portal.set(appearance, QStringLiteral("something"), 1U);
 
@@ -149,34 +149,39 @@ TEST_F(SystemLookTest, isNotChangedByWhatIsNoLook)
     EXPECT_TRUE(changes.empty());
 }
 
-TEST(PortalSettings, sayNothingByThemselves)
+TEST(PortalSettings, areTheDefaultsWhenEmpty)
 {
-    EXPECT_EQ(lookOf({}, true), DesktopLook{.isDark = true});
-    EXPECT_EQ(lookOf({}, false), DesktopLook{});
+    EXPECT_EQ(desktopAppearanceOf({}, true), DesktopAppearance{.isDark = true});
+    EXPECT_EQ(desktopAppearanceOf({}, false), DesktopAppearance{});
 }
 
 TEST(PortalSettings, reduceMotionInThreeWays)
 {
-    EXPECT_TRUE(lookOf({{appearance, {{QStringLiteral("reduced-motion"), 1U}}}}, false).reducesMotion);
-    EXPECT_TRUE(lookOf({{gnome, {{QStringLiteral("enable-animations"), false}}}}, false).reducesMotion);
+    EXPECT_TRUE(
+        desktopAppearanceOf({{appearance, {{QStringLiteral("reduced-motion"), 1U}}}}, false).reducesMotion);
+    EXPECT_TRUE(
+        desktopAppearanceOf({{gnome, {{QStringLiteral("enable-animations"), false}}}}, false).reducesMotion);
     const auto kde = QStringLiteral("org.kde.kdeglobals.KDE");
-    EXPECT_TRUE(lookOf({{kde, {{QStringLiteral("AnimationDurationFactor"), QStringLiteral("0")}}}}, false)
+    EXPECT_TRUE(desktopAppearanceOf(
+        {{kde, {{QStringLiteral("AnimationDurationFactor"), QStringLiteral("0")}}}}, false)
             .reducesMotion);
-    EXPECT_FALSE(lookOf({{kde, {{QStringLiteral("AnimationDurationFactor"), QStringLiteral("0.5")}}}}, false)
+    EXPECT_FALSE(desktopAppearanceOf(
+        {{kde, {{QStringLiteral("AnimationDurationFactor"), QStringLiteral("0.5")}}}}, false)
             .reducesMotion);
 }
 
-TEST(PortalSettings, scaleTextByFactorOrFontWithinReason)
+TEST(PortalSettings, scaleTextByFactorOrFontWithinLimits)
 {
     const auto factor = [](double value) {
-        return lookOf({{gnome, {{QStringLiteral("text-scaling-factor"), value}}}}, false).textScale;
+        return desktopAppearanceOf({{gnome, {{QStringLiteral("text-scaling-factor"), value}}}}, false)
+            .textScale;
     };
     EXPECT_EQ(factor(1.25), 1.25);
     EXPECT_EQ(factor(50), 2);
     EXPECT_EQ(factor(0), 0.8);
     const auto kde = QStringLiteral("org.kde.kdeglobals.General");
     const auto font = [&](const QString& value) {
-        return lookOf({{kde, {{QStringLiteral("font"), value}}}}, false).textScale;
+        return desktopAppearanceOf({{kde, {{QStringLiteral("font"), value}}}}, false).textScale;
     };
     EXPECT_DOUBLE_EQ(font(QStringLiteral("Noto Sans,15,-1,5,50,0,0,0,0,0")), 1.5);
     EXPECT_EQ(font(QStringLiteral("Noto Sans")), 1);

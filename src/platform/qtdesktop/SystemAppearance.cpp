@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/qtdesktop/SystemLook.h"
+#include "platform/qtdesktop/SystemAppearance.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -23,8 +23,8 @@ bool isPaletteDark()
     return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 }
 
-/// What Qt makes of the desktop; what the portal says where Qt knows nothing.
-bool isDark(const DesktopLook& told)
+/// Qt's colour scheme; the portal's if Qt does not know.
+bool isDark(const DesktopAppearance& told)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
     const auto scheme = QGuiApplication::styleHints()->colorScheme();
@@ -34,22 +34,23 @@ bool isDark(const DesktopLook& told)
     return told.isDark;
 }
 
-DesktopLook lookNow(const PortalSettings& settings)
+DesktopAppearance readAppearance(const PortalSettings& settings)
 {
-    auto look = lookOf(settings, isPaletteDark());
-    look.isDark = isDark(look);
-    // There it is in the display's resolution already, by which Qt enlarges everything.
+    auto appearance = desktopAppearanceOf(settings, isPaletteDark());
+    appearance.isDark = isDark(appearance);
+    // On X11 it is included in the display's resolution, with which Qt scales everything.
     if (QGuiApplication::platformName() == QLatin1String("xcb"))
-        look.textScale = 1;
-    return look;
+        appearance.textScale = 1;
+    return appearance;
 }
 
 }  // namespace
 
-SystemLook::SystemLook(std::function<void(const DesktopLook&)> changed, const QDBusConnection& bus)
+SystemAppearance::SystemAppearance(
+    std::function<void(const DesktopAppearance&)> changed, const QDBusConnection& bus)
     : changed_(std::move(changed))
     , bus_(bus)
-    , look_(lookNow({}))
+    , appearance_(readAppearance({}))
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
     connect(QGuiApplication::styleHints(), &QStyleHints::colorSchemeChanged, this, [this] { refresh(); });
@@ -57,11 +58,11 @@ SystemLook::SystemLook(std::function<void(const DesktopLook&)> changed, const QD
     askPortal();
 }
 
-void SystemLook::askPortal()
+void SystemAppearance::askPortal()
 {
     if (!bus_.isConnected())
         return;
-    // Without them neither the signal nor the answer is ever delivered.
+    // Unless the types are registered, neither the signal nor the reply is delivered.
     qRegisterMetaType<QDBusVariant>();
     qDBusRegisterMetaType<PortalSettings>();
     bus_.connect(portalService, portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
@@ -80,7 +81,7 @@ void SystemLook::askPortal()
     });
 }
 
-void SystemLook::settingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value)
+void SystemAppearance::settingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value)
 {
     if (!portalNameSpaces().contains(nameSpace))
         return;
@@ -88,10 +89,10 @@ void SystemLook::settingChanged(const QString& nameSpace, const QString& key, co
     refresh();
 }
 
-void SystemLook::refresh()
+void SystemAppearance::refresh()
 {
-    const auto now = lookNow(settings_);
-    if (std::exchange(look_, now) != now)
+    const auto now = readAppearance(settings_);
+    if (std::exchange(appearance_, now) != now)
         changed_(now);
 }
 

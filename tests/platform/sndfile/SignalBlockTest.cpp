@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/sndfile/SignalsHeld.h"
+#include "platform/sndfile/SignalBlock.h"
 
 #include "platform/sndfile/DiskFile.h"
 #include "tests/platform/sndfile/ChildProcess.h"
@@ -19,21 +19,21 @@ bool isHeldHere(int signal)
     return sigismember(&held, signal) == 1;
 }
 
-TEST(SignalsHeld, holdsThemForAWhile)
+TEST(SignalBlock, blocksThemTemporarily)
 {
     {
-        const SignalsHeld held;
+        const SignalBlock held;
         EXPECT_TRUE(isHeldHere(SIGTERM));
     }
     EXPECT_FALSE(isHeldHere(SIGTERM));
 }
 
-TEST(SignalsHeld, aThreadThatIsStartedMeanwhileIsSparedForGood)
+TEST(SignalBlock, aThreadStartedMeanwhileInheritsTheBlock)
 {
     bool isSpared = false;
     std::jthread thread;
     {
-        const SignalsHeld held;
+        const SignalBlock held;
         thread = std::jthread{[&](const std::stop_token& stop) {
             while (!stop.stop_requested())
                 std::this_thread::yield();
@@ -46,11 +46,11 @@ TEST(SignalsHeld, aThreadThatIsStartedMeanwhileIsSparedForGood)
     EXPECT_TRUE(isSpared);
 }
 
-TEST(SignalsHeld, aSignalThatCameMeanwhileComesAfterwards)
+TEST(SignalBlock, aPendingSignalIsDeliveredAfterwards)
 {
     const auto end = endOfChild([] {
         {
-            const SignalsHeld held;
+            const SignalBlock held;
             std::raise(SIGTERM);
         }
         return 0;
@@ -59,13 +59,13 @@ TEST(SignalsHeld, aSignalThatCameMeanwhileComesAfterwards)
     EXPECT_EQ(end, -SIGTERM);
 }
 
-TEST(SignalsHeld, aFileThatBecomesTooLargeDoesNotEndTheProgram)
+TEST(SignalBlock, aFileThatBecomesTooLargeDoesNotEndTheProgram)
 {
     const TemporaryFolder folder;
     const auto end = endOfChild([&] {
         limitFileSizes(5);
         {
-            const SignalsHeld held;
+            const SignalBlock held;
             const auto file = *DiskFile::create(folder.path() / "file");
             EXPECT_EQ(file->write(0, std::array<std::byte, 6>{}), 5U);
             EXPECT_EQ(file->failure(), EFBIG);
