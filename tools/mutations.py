@@ -34,6 +34,7 @@ NO_EXPRESSION = {"return", "using", "typedef", "delete", "throw", "new", "case",
                  "break", "continue", "requires", "auto", "static_cast"} | UNTOUCHED
 ASSIGNMENTS = {"=", "+=", "-=", "*=", "/=", "|=", "&=", "^=", "<<=", ">>="}
 OPENING = {"(": ")", "[": "]", "{": "}"}
+COMMENT = re.compile(r"\s*//[^\n\"]*$", re.MULTILINE)  # At the end of a line that is to be read.
 FLOATING = re.compile(r"(?P<digits>(?:\d[\d']*\.[\d']*|\.\d[\d']*|\d[\d']*(?=[eE]))(?:[eE][+-]?\d+)?)(?P<suffix>\w*)")
 INTEGER = re.compile(r"(?P<digits>\d[\d']*)(?P<suffix>[A-Za-z_]\w*|)")
 
@@ -136,9 +137,10 @@ class Source:
         first = self.lines[line - 1]
         last = self.text.find("\n", end)
         last = len(self.text) if last < 0 else last
-        return Mutation(self.path, line, start, end, replacement, " ".join(self.text[first:last].split()),
-                        " ".join((self.text[first:start] + replacement + self.text[end:last]).split()),
-                        " ".join(self.text[:first].rstrip().rpartition("\n")[2].split()))
+        before, after, below = (" ".join(COMMENT.sub("", part).split()) for part in (
+            self.text[first:last], self.text[first:start] + replacement + self.text[end:last],
+            self.text[:first].rstrip().rpartition("\n")[2]))
+        return Mutation(self.path, line, start, end, replacement, before, after, below)
 
     def isStatementStart(self, index):
         before = self.at(index - 1)

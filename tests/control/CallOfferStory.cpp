@@ -122,6 +122,9 @@ TEST_F(CallOfferStory, anAppThatDoesNotRunIsOneUnderEachOfItsIdentifiers)
 
     controller->addCallApp("com.example.meet.sandboxed");
     EXPECT_THAT(settings().focus.callApps, ElementsAre("com.example.talk", "com.example.meet.sandboxed"));
+
+    controller->resetCallApps();
+    EXPECT_THAT(settings().focus.callApps, ElementsAre("com.example.meet", "com.example.talk"));
 }
 
 }  // namespace
