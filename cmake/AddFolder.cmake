@@ -78,7 +78,7 @@ function(addFolder)
         target_link_libraries(${tests} PRIVATE ${target} GTest::gtest GTest::gmock GTest::gtest_main ${folder_LIBRARIES})
         target_compile_options(${tests} PRIVATE ${folder_OPTIONS})
         # A test usually runs only once per compilation, so optimizing it rarely pays.
-        if(folder_LONG_TESTS AND NOT FADELOOM_SANITIZE)
+        if(folder_LONG_TESTS)
             target_compile_options(${tests} PRIVATE -O1)
         else()
             target_compile_options(${tests} PRIVATE -O0)

@@ -23,8 +23,7 @@ OF_LINUX = ("src/platform/linux", "src/platform/pipewire", "src/platform/qtdeskt
             "src/app/linux", "src/ctl")
 # The programs used by the suites with real players.
 PLAYED = ("fadeloom", "fadeloomctl", "pipewireContractTests", "pipewireRealTimeTests")
-SHORT_SANITIZERS = {"asan": ("engine", "settings", "control", "shell", "platform/sndfile"),
-                    "tsan": ("engine", "platform/sndfile")}
+SHORT_SANITIZERS = {"asan": ("engine", "settings", "shell", "platform/sndfile"), "tsan": ("engine", "platform/sndfile")}
 SANITIZER_OPTIONS = {
     "ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
     "UBSAN_OPTIONS": "halt_on_error=1:print_stacktrace=1",
@@ -257,7 +256,7 @@ def runFuzz(tally, isLong):
         corpora["graph"] = "graphs"  # Takes a minute to build; its corpus is replayed by the unit tests.
     seconds = 600 if isLong else 30 // len(corpora)
     folder = ROOT / "build" / "fuzz"
-    # What runs for seconds is built for speed of the build, what runs for an hour for its own.
+    # A fuzzer that runs for seconds should build fast; one that runs for minutes should run fast.
     flags, isUnity = ("-O1 -g1", "OFF") if isLong else ("-O0 -g1", "ON")
     isBuilt = run("cmake", "-G", "Ninja", "-B", folder, "-DCMAKE_CXX_COMPILER=clang++-19", "-DFADELOOM_FUZZ=ON",
                   "-DFADELOOM_SANITIZE=fuzzer-no-link,address,undefined", "-DCMAKE_BUILD_TYPE=RelWithDebInfo",
