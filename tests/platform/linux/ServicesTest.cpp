@@ -26,7 +26,7 @@ TEST(XdgFolders, settingsFolderIsTheOneTheVariableNames)
 TEST(XdgFolders, settingsFolderIsBelowHomeOtherwise)
 {
     EXPECT_EQ(XdgFolders{variables({{"HOME", "/home/anna"}})}.applicationSupport(), "/home/anna/.config");
-    // A relative path is ignored, according to the specification.
+    // A relative path is ignored: it would depend on the folder in which the program was started.
     EXPECT_EQ(
         XdgFolders{variables({{"HOME", "/home/anna"}, {"XDG_CONFIG_HOME", "settings"}})}.applicationSupport(),
         "/home/anna/.config");
